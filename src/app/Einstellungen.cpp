@@ -1,0 +1,77 @@
+#include "app/Einstellungen.h"
+
+#include "document/Zahlen.h"
+
+#include <array>
+#include <filesystem>
+
+#include <unistd.h>
+
+namespace kw {
+
+namespace {
+
+constexpr std::string_view Abschnitt = "DEFAULT";
+
+std::string OderSonst(std::string wert, std::string_view sonst) { return wert.empty() ? std::string(sonst) : wert; }
+
+std::string LetzterPfadSchlüssel(int platz) { return "lastpath_" + std::to_string(platz); }
+
+bool IstSystemordner(const std::string &ordner) {
+    constexpr std::array<std::string_view, 8> System{"/usr", "/bin", "/sbin", "/lib", "/opt", "/snap", "/app", "/nix"};
+    for (const auto system : System)
+        if (ordner == system || ordner.starts_with(std::string(system) + "/")) return true;
+    return false;
+}
+
+} // namespace
+
+Einstellungen EinstellungenLesen(const Profil &profil) {
+    const auto text = [&](std::string_view schlüssel) { return profil.Lesen(Abschnitt, schlüssel); };
+    const auto zahl = [&](std::string_view schlüssel) { return Ganzzahl16(ZahlLesen(text(schlüssel))); };
+    Einstellungen e;
+    e.Orientation = zahl("orientation");
+    const std::string papier = text("papersize");
+    e.Papiercode = papier == "11" ? 11 : papier == "1" ? 1 : 9;
+    e.LetzterPfad = text("lastpath");
+    e.stdfontname = OderSonst(text("stdfontname"), e.stdfontname);
+    e.stdfont_s = OderSonst(text("stdfont_s"), e.stdfont_s);
+    e.stdfont_m = OderSonst(text("stdfont_m"), e.stdfont_m);
+    e.stdfont_l = OderSonst(text("stdfont_l"), e.stdfont_l);
+    e.Farbschema = zahl("clscheme");
+    e.Altersanzeige = zahl("agedisplay");
+    e.Raster = text("gridsize") == "1" ? 1 : 0;
+    e.Werkzeugleiste = text("toolbar") == "1";
+    e.Sprache = text("language") == "de" ? "de" : "en";
+    for (int platz = 1; platz <= Chronik::Plätze; ++platz) e.Zuletzt.Setzen(platz, text(LetzterPfadSchlüssel(platz)));
+    return e;
+}
+
+void EinstellungenEintragen(const Einstellungen &e, Profil &profil) {
+    const auto schreiben = [&](std::string_view schlüssel, const std::string &wert) {
+        profil.Schreiben(Abschnitt, schlüssel, wert);
+    };
+    schreiben("orientation", std::to_string(e.Orientation));
+    schreiben("lastpath", e.LetzterPfad);
+    schreiben("psize", std::to_string(e.Zoom));
+    schreiben("stdfontname", e.stdfontname);
+    schreiben("stdfont_s", e.stdfont_s);
+    schreiben("stdfont_m", e.stdfont_m);
+    schreiben("stdfont_l", e.stdfont_l);
+    schreiben("clscheme", std::to_string(e.Farbschema));
+    schreiben("papersize", std::to_string(e.Papiercode));
+    schreiben("gridsize", std::to_string(e.Raster));
+    schreiben("toolbar", e.Werkzeugleiste ? "1" : "0");
+    for (int platz = 1; platz <= Chronik::Plätze; ++platz) schreiben(LetzterPfadSchlüssel(platz), e.Zuletzt[platz]);
+}
+
+std::string EinstellungsDatei(const std::string &programmordner, const std::string &konfigordner) {
+    const std::string daneben = programmordner + "/prog.ini";
+    if (DateiVorhanden(daneben)) return daneben;
+    if (!IstSystemordner(programmordner) && ::access(programmordner.c_str(), W_OK) == 0) return daneben;
+    std::error_code fehler; // a folder that can't be made loses the settings, as one without permission does
+    std::filesystem::create_directories(konfigordner, fehler);
+    return konfigordner + "/prog.ini";
+}
+
+} // namespace kw

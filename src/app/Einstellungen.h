@@ -1,0 +1,38 @@
+#pragma once
+
+#include "document/Chronik.h"
+#include "document/Profil.h"
+
+#include <string>
+
+namespace kw {
+
+/// The user's settings as the file `prog.ini` holds them in its section DEFAULT.
+struct Einstellungen {
+    int Orientation = 2;
+    int Papiercode = 9;
+    std::string LetzterPfad; ///< folder of the last project, with its closing "/"
+    std::string stdfontname = "Arial";
+    std::string stdfont_s = "8"; ///< points
+    std::string stdfont_m = "11";
+    std::string stdfont_l = "14";
+    int Farbschema = 0;
+    int Altersanzeige = 0;
+    int Raster = 0; ///< list position of `cboRaster`; a third entry comes back as the first. Meant.
+    bool Werkzeugleiste = false;
+    int Zoom = 2; ///< list position, written only
+    std::string Sprache = "en";
+    Chronik Zuletzt;
+};
+
+/// Missing keys give the defaults, damaged values what can be read of them; nothing fails.
+Einstellungen EinstellungenLesen(const Profil &profil);
+
+/// Writes all keys but `agedisplay` and `language`, which are written when their dialogs are confirmed.
+void EinstellungenEintragen(const Einstellungen &e, Profil &profil);
+
+/// Where the settings file lives: in the program's folder when it is there already or that folder is
+/// writable and no system folder, else in `konfigordner` (which is made). Both without a closing "/".
+std::string EinstellungsDatei(const std::string &programmordner, const std::string &konfigordner);
+
+} // namespace kw

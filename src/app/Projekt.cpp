@@ -1,0 +1,148 @@
+#include "app/Projekt.h"
+
+#include "app/frmMain.h"
+#include "document/Felder.h"
+#include "document/ProjektDatei.h"
+
+namespace kw {
+
+namespace {
+
+constexpr std::string_view KeinProjekt = "not a Kinwright project";
+
+} // namespace
+
+void Projekt::ProjektLaden() {
+    frmMain &h = haupt_;
+    h.bedienung["btnLegende"].Checked = false;
+    h.dokument.LegendeSichtbar = false;
+    h.legende.lstLegende.Leeren();
+    h.LegendenknopfBeschriften();
+    h.einstellungen.Zuletzt.Aktualisieren(Projektdatei);
+    h.ChronikAnzeigen();
+    h.IniDatei = Projektdatei;
+    Titel = "Kinwright  " + Projektdatei;
+    InhaltLesen();
+    h.Vorschau();
+    h.Sichern();
+    Geändert = false;
+    h.plattform.benutzer.AnzeigeAuffrischen();
+}
+
+/// One error target for the whole reading: what fails leaves what was read so far. The lists of free
+/// numbers are rebuilt at the end only, so a failed load leaves them as they were.
+void Projekt::InhaltLesen() {
+    frmMain &h = haupt_;
+    std::string inhalt;
+    const Dateibefund befund = DateiLesen(Projektdatei, inhalt);
+    const Profil profil(std::move(inhalt));
+    ladebefund_ = befund.Meldung;
+    gelesen_ = befund.Gelungen();
+
+    SeiteLesen(profil, h.dokument);
+    h.SeiteAnzeigen();
+    h.bereich.Bildgrößenveränderung();
+    try {
+        SpeicherLesen(profil, h.dokument);
+        LegendeLesen(profil, h.dokument);
+        h.bedienung["btnLegende"].Checked = h.dokument.LegendeSichtbar;
+        h.bedienung["btnSpeichern"].Enabled = true;
+        h.LegendenknopfBeschriften();
+        LegendeAufbauen(h.dokument, h.legende);
+        h.dokument.FreieNummernAufbauen();
+    } catch (const FeldFehlt &) { // a damaged project, or an old one without a legend
+    }
+    if (!gelesen_) return;
+    ladebefund_ = Ladeprüfung(profil, h.dokument);
+    gelesen_ = ladebefund_ != KeinProjekt;
+}
+
+void Projekt::Öffnen(const std::string &datei) {
+    haupt_.AuswahlUndRingLeeren();
+    Projektdatei = datei;
+    ProjektLaden();
+}
+
+void Projekt::ProjektSchreiben() {
+    haupt_.IniDatei = Projektdatei;
+    std::string inhalt;
+    const bool neu = !DateiVorhanden(Projektdatei);
+    // A file that is there but can't be read would lose its foreign keys: it isn't written either.
+    if (neu || DateiLesen(Projektdatei, inhalt).Gelungen()) {
+        Profil profil(std::move(inhalt));
+        ProjektEintragen(haupt_.dokument, profil);
+        DateiSchreiben(Projektdatei, profil.Inhalt());
+    }
+    Geändert = false;
+    if (!haupt_.einstellungen.Zuletzt.Enthält(Projektdatei)) {
+        haupt_.einstellungen.Zuletzt.Eintragen(Projektdatei);
+        haupt_.ChronikAnzeigen();
+    }
+    haupt_.plattform.benutzer.AnzeigeAuffrischen();
+}
+
+void Projekt::Speichern() {
+    if (Projektdatei.empty()) SpeichernUnter();
+    else ProjektSchreiben();
+}
+
+void Projekt::SpeichernUnter() {
+    const bool deutsch = haupt_.IstDeutsch();
+    const Dateiwahl wahl{deutsch ? "Genogramm speichern unter ..." : "Save genogram as ...",
+                         deutsch ? "Genogrammprojekt 1" : "Genogram Project 1",
+                         deutsch ? "Kinwright Datei (*.kwp)|*.kwp" : "kinwright file (*.kwp)|*.kwp",
+                         haupt_.plattform.benutzer.Desktopordner()};
+    while (true) {
+        const auto datei = haupt_.plattform.benutzer.DateiSpeichern(wahl);
+        if (!datei) {
+            SpeichernAbgebrochen = true;
+            return;
+        }
+        if (!ErsetzenErlaubt(*datei)) continue;
+        Projektdatei = *datei;
+        ProjektSchreiben();
+        Titel = Projektdatei;
+        haupt_.plattform.benutzer.AnzeigeAuffrischen();
+        return;
+    }
+}
+
+bool Projekt::ErsetzenErlaubt(const std::string &datei) {
+    if (!DateiVorhanden(datei)) return true;
+    const std::string text = haupt_.IstDeutsch()
+                                 ? "Die Datei " + datei + " besteht bereits. \nMöchten Sie sie ersetzen ?"
+                                 : "The file " + datei + " already exists. \nDo you want to replace?";
+    return haupt_.plattform.benutzer.Fragen({"Kinwright", text, Knöpfe::JaNein, Zeichen::Warnung}) == Antwort::Ja;
+}
+
+bool Projekt::NachÄnderungenFragen() {
+    if (!Geändert) return true;
+    const auto *text = haupt_.ansicht.Sprache == "en" ? "Do you want to save the changes in the current project?"
+                                                      : "Möchten Sie die Änderungen im aktuellen Projekt speichern?";
+    switch (haupt_.plattform.benutzer.Fragen({"Kinwright", text, Knöpfe::JaNeinAbbrechen, Zeichen::Frage})) {
+    case Antwort::Ja: Speichern(); return !SpeichernAbgebrochen;
+    case Antwort::Nein: return true;
+    default: return false;
+    }
+}
+
+void Projekt::mnuÖffnen() {
+    SpeichernAbgebrochen = false;
+    if (!NachÄnderungenFragen()) return;
+    haupt_.IniDatei = haupt_.start.IniDatei;
+    std::string ordner = ProfilLesen(haupt_.IniDatei, "DEFAULT", "lastpath");
+    if (ordner.empty()) ordner = haupt_.plattform.benutzer.Desktopordner();
+    const bool deutsch = haupt_.IstDeutsch();
+    const auto datei = haupt_.plattform.benutzer.DateiÖffnen(
+        {deutsch ? "Genogrammprojekt öffnen" : "Open genogram project", "",
+         deutsch ? "Kinwright Datei (*.kwp)|*.kwp" : "kinwright  file (*.kwp)|*.kwp", ordner});
+    if (!datei) return;
+    Projektdatei = *datei;
+    if (!DateiVorhanden(Projektdatei)) return;
+    Öffnen(Projektdatei);
+    if (haupt_.einstellungen.Zuletzt.Enthält(Projektdatei)) return;
+    haupt_.einstellungen.Zuletzt.Eintragen(Projektdatei);
+    haupt_.ChronikAnzeigen();
+}
+
+} // namespace kw

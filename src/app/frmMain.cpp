@@ -1,0 +1,237 @@
+#include "app/frmMain.h"
+
+#include "document/Dateien.h"
+#include "document/Zahlen.h"
+#include "rendering/Seite.h"
+
+namespace kw {
+
+namespace {
+
+constexpr int OeffnenVerzögerung = 200; ///< ms; lets the window finish painting first
+constexpr int ZoomBeimStart = 2;        ///< "100 %", whatever the settings say
+
+struct Schema {
+    const char *Menü;
+    const char *Knopf;
+};
+constexpr Schema Schemata[] = {
+    {"mnuSchwarzWeiß", "keySchwarzweiß"}, {"mnuGraustufen", "keyGraustufen"}, {"mnuFarbig", "keyFarbig"}};
+
+struct Papiereintrag {
+    int Code;
+    const char *Schlüssel;
+    const char *Name;
+    int ListIndex; ///< in `cboPaperSize`
+};
+constexpr Papiereintrag Papiere[] = {
+    {9, "keyDINA4", "DIN A4", 1}, {11, "keyDINA5", "DIN A5", 2}, {1, "keyUSLetter", "US Letter", 0}};
+
+} // namespace
+
+std::string Entpackt(std::string_view kommandozeile) {
+    std::string_view text = Getrimmt(kommandozeile);
+    if (text.size() > 1 && text.front() == '"' && text.back() == '"') text = text.substr(1, text.size() - 2);
+    return std::string(text);
+}
+
+frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben start_)
+    : plattform(plattform_), start(std::move(start_)), picVorschau(canvas),
+      bereich(canvas, ansicht, start.BildschirmBreite, start.BildschirmHöhe,
+              {[this] { Vorschau(); }, [this] { ZoomAnzeigen(); }}),
+      projekt(*this),
+      Kommandozeile(Entpackt(start.Kommandozeile)) {}
+
+void frmMain::Laden() {
+    ansicht.Sprache = "en";
+    plattform.benutzer.NachErstemBild([this] { DruckerErmitteln(); });
+    ansicht.StrichFaktor = 1;
+    SeiteBestimmen(dokument, ansicht);
+    ListenFüllen();
+    ZweiteStufe();
+    LinienfarbenSetzen();
+    FarbschemaAnzeigen();
+    // Every start begins in landscape and in colour. The ticks and the colours of the lines can still
+    // follow the scheme of the last run: that mismatch is meant.
+    dokument.Seitenlage = 2;
+    ansicht.Farbschema = SchemaFarbig;
+    SeiteAnzeigen();
+    bereich.GrößeÄndern(start.BildschirmBreite, start.BildschirmHöhe);
+    if (!einstellungen.Werkzeugleiste) bereich.WerkzeugleisteVerbergen();
+    Sichern();
+    bereich.Bildgrößenveränderung();
+    SchriftlisteFüllen();
+    if (!Getrimmt(Kommandozeile).empty()) plattform.benutzer.ZeitgeberStarten("Timer2", OeffnenVerzögerung);
+    projekt.Geändert = false;
+    plattform.benutzer.AnzeigeAuffrischen();
+}
+
+void frmMain::ListenFüllen() {
+    cboRaster.Einträge = {"3", "6", "9"};
+    RasterWählen(0);
+    Combo2.Einträge = {"8", "9", "10", "11", "12", "14", "16", "18", "20", "22", "24", "26", "28", "36"};
+    Combo3.Einträge = {"Standard", "Fett", "Kursiv", "Fett-Kursiv"};
+    cboPaperSize = {{"US Letter", "DIN A4", "DIN A5"}, 1};
+    bereich.ZoomListeFuellen();
+}
+
+/// The settings, with their defaults; a damaged file gives defaults and no message.
+void frmMain::ZweiteStufe() {
+    IniDatei = start.IniDatei;
+    std::string inhalt;
+    const bool ersterStart = !DateiVorhanden(IniDatei);
+    if (!ersterStart) DateiLesen(IniDatei, inhalt);
+    einstellungen = EinstellungenLesen(Profil(std::move(inhalt)));
+    einstellungen.Werkzeugleiste = einstellungen.Werkzeugleiste || ersterStart;
+
+    Textvorlage = "-5_-5_" + einstellungen.stdfontname + "_" + einstellungen.stdfont_m + "_0_0_0_0_0__0_0";
+    ansicht.Farbschema = einstellungen.Farbschema;
+    ansicht.Altersanzeige = einstellungen.Altersanzeige;
+    ansicht.Sprache = einstellungen.Sprache;
+    bedienung.Beschriften(ansicht.Sprache);
+    RasterWählen(einstellungen.Raster);
+    bereich.cboBildGröße.ListIndex = ZoomBeimStart;
+    ChronikAnzeigen();
+    dokument.Papiercode = einstellungen.Papiercode;
+}
+
+void frmMain::SchriftlisteFüllen() {
+    Combo1.Einträge.Leeren();
+    for (auto &name : plattform.benutzer.Schriftarten()) Combo1.Einträge.Anhängen(std::move(name));
+    Combo1.ListIndex = Combo1.Einträge.Leer() ? -1 : 0;
+    Combo2.ListIndex = 2;
+    Combo3.ListIndex = 0;
+}
+
+/// Asking the print system can take longer than all the rest of the start, so this waits for the first
+/// picture.
+void frmMain::DruckerErmitteln() {
+    DruckerVorhanden = plattform.drucker.DeviceName().has_value();
+    if (!DruckerVorhanden) return;
+    const Druckränder ränder = plattform.drucker.Ränder();
+    ansicht.DruckrandLinks = ränder.Links;
+    ansicht.DruckrandRechts = ränder.Rechts;
+    ansicht.DruckrandOben = ränder.Oben;
+    ansicht.DruckrandUnten = ränder.Unten;
+}
+
+bool frmMain::Schließen() {
+    projekt.SpeichernAbgebrochen = false;
+    const bool gefragt = projekt.Geändert;
+    if (!projekt.NachÄnderungenFragen()) return false;
+    if (gefragt) UndoKnöpfeSperren();
+    EinstellungenSichern();
+    return true;
+}
+
+void frmMain::EinstellungenSichern() {
+    IniDatei = start.IniDatei; // it may still name a project
+    einstellungen.Orientation = DruckerVorhanden ? plattform.drucker.Orientation() : dokument.Seitenlage;
+    einstellungen.LetzterPfad = Pfad(projekt.Projektdatei);
+    einstellungen.Zoom = bereich.cboBildGröße.ListIndex;
+    einstellungen.Farbschema = ansicht.Farbschema;
+    einstellungen.Papiercode = dokument.Papiercode;
+    einstellungen.Raster = cboRaster.ListIndex;
+    einstellungen.Werkzeugleiste = bereich.WerkzeugleisteSichtbar();
+    std::string inhalt;
+    if (DateiVorhanden(IniDatei) && !DateiLesen(IniDatei, inhalt).Gelungen()) return;
+    Profil profil(std::move(inhalt));
+    EinstellungenEintragen(einstellungen, profil);
+    DateiSchreiben(IniDatei, profil.Inhalt()); // a folder without permission loses the settings silently
+}
+
+void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
+    if (name == "Timer2") projekt.Öffnen(Kommandozeile);
+}
+
+void frmMain::Vorschau() {
+    Zeichnung bild = DasBild();
+    VorschauZeichnen(picVorschau, bild);
+    plattform.benutzer.AnzeigeAuffrischen();
+}
+
+void frmMain::Sichern() {
+    ring.Sichern(dokument);
+    UndoKnöpfeSetzen();
+    projekt.Geändert = true;
+}
+
+void frmMain::UndoKnöpfeSetzen() {
+    bedienung["btnUndo"].Enabled = bedienung["mnuRückgängig"].Enabled = ring.UndoSchritte() >= 1;
+    bedienung["btnRedo"].Enabled = bedienung["mnuWiederholen"].Enabled = ring.RedoSchritte() >= 1;
+}
+
+void frmMain::UndoKnöpfeSperren() { bedienung["btnUndo"].Enabled = bedienung["btnRedo"].Enabled = false; }
+
+void frmMain::AuswahlUndRingLeeren() {
+    ring.Leeren();
+    UndoKnöpfeSetzen();
+    auswahl = {};
+    geste = {};
+}
+
+void frmMain::Legende() {
+    dokument.LegendeSichtbar = bedienung["btnLegende"].Checked;
+    LegendenknopfBeschriften();
+    if (dokument.LegendeSichtbar) LegendeAufbauen(dokument, legende);
+    Vorschau();
+}
+
+void frmMain::LegendenknopfBeschriften() {
+    const bool sichtbar = dokument.LegendeSichtbar;
+    bedienung["btnLegende"].Caption = IstDeutsch() ? sichtbar ? "Legende ausblenden" : "Legende anzeigen"
+                                                   : sichtbar ? "Hide Legend" : "Show Legend";
+}
+
+void frmMain::FarbschemaWählen(int schema) {
+    ansicht.Farbschema = schema;
+    FarbschemaAnzeigen();
+    LinienfarbenSetzen();
+    Vorschau();
+}
+
+void frmMain::LinienfarbenSetzen() { ansicht.Linienfarben = LinienfarbenFür(ansicht.Farbschema); }
+
+void frmMain::FarbschemaAnzeigen() {
+    for (int i = 0; i < 3; ++i)
+        bedienung[Schemata[i].Menü].Checked = bedienung[Schemata[i].Knopf].Checked = i == ansicht.Farbschema;
+}
+
+void frmMain::SeiteAnzeigen() {
+    for (const auto &papier : Papiere) {
+        bedienung[papier.Schlüssel].Checked = papier.Code == dokument.Papiercode;
+        if (papier.Code != dokument.Papiercode) continue;
+        bedienung["btnPapier"].Caption = papier.Name;
+        cboPaperSize.ListIndex = papier.ListIndex;
+    }
+    bedienung["btnHochformat"].Checked = dokument.Seitenlage == 1;
+    bedienung["btnQuerformat"].Checked = dokument.Seitenlage != 1;
+}
+
+void frmMain::ZoomAnzeigen() {
+    const std::string zoom = std::to_string(80 + 10 * bereich.cboBildGröße.ListIndex) + "%";
+    bedienung["btnZoom"].Caption = zoom;
+    bedienung.NurAnkreuzen("keyZoom", "keyZoom" + zoom.substr(0, zoom.size() - 1));
+    bedienung["btnBildGrößer"].Enabled = bereich.KannVergrößern();
+    bedienung["btnBildKleiner"].Enabled = bereich.KannVerkleinern();
+}
+
+void frmMain::RasterWählen(int listIndex) {
+    cboRaster.ListIndex = listIndex;
+    ansicht.Rasterweite = ZahlLesen(cboRaster.Text()) / 10;
+}
+
+void frmMain::ChronikAnzeigen() {
+    bool einer = false;
+    for (int i = 1; i <= Chronik::Plätze; ++i) {
+        const std::string &pfad = einstellungen.Zuletzt[i];
+        Bedienelement &eintrag = bedienung["mnuRecent(" + std::to_string(i) + ")"];
+        eintrag.Caption = "  " + std::to_string(i) + " " + DateiName(pfad);
+        eintrag.Visible = !pfad.empty();
+        einer = einer || eintrag.Visible;
+    }
+    bedienung["mnuZuletztGeöffnet"].Visible = bedienung["mnuStr3"].Visible = einer;
+    bedienung["mnuZuletztGeöffnet"].Enabled = einer;
+}
+
+} // namespace kw

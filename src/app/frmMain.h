@@ -1,0 +1,122 @@
+#pragma once
+
+#include "app/Einstellungen.h"
+#include "app/Projekt.h"
+#include "commands/Bedienelemente.h"
+#include "document/Auswahlliste.h"
+#include "document/Dokument.h"
+#include "document/UndoRing.h"
+#include "output/basDruckVorschau.h"
+#include "platform/Benutzer.h"
+#include "platform/Drucker.h"
+#include "platform/Uhr.h"
+#include "rendering/Zeichnung.h"
+
+#include <string>
+#include <string_view>
+
+namespace kw {
+
+/// The platform as the main window sees it.
+struct Plattform {
+    Benutzer &benutzer;
+    Drucker &drucker;
+    const Uhr &uhr;
+};
+
+/// What the process was started with.
+struct Startangaben {
+    std::string Kommandozeile; ///< raw, quotes and all
+    std::string IniDatei;      ///< path of the settings file
+    int BildschirmBreite = 0;  ///< twips
+    int BildschirmHöhe = 0;
+};
+
+/// The main window as a model: owns every part of the program and wires them. It keeps only what is truly
+/// its own: the order of starting, redrawing, closing. Routines stand with the state that they change.
+class frmMain {
+  public:
+    /// `picVorschau` is the canvas. Nothing happens before `Laden`.
+    frmMain(Plattform plattform, Zeichenfläche &picVorschau, Startangaben start);
+
+    /// The whole start, in its fixed order.
+    void Laden();
+
+    /// The close request. False when the user or a cancelled save keeps the program open; true when the
+    /// settings are written and the window may go.
+    bool Schließen();
+
+    /// A timer that was started under this name has run out. Unknown names do nothing.
+    void ZeitgeberAbgelaufen(std::string_view name);
+
+    /// Redraws the whole canvas from the stores.
+    void Vorschau();
+    /// Takes an undo snapshot and marks the document as changed.
+    void Sichern();
+    /// Enables undo and redo as the ring has steps.
+    void UndoKnöpfeSetzen();
+    /// Both off, whatever the ring holds: the document is about to go.
+    void UndoKnöpfeSperren();
+    /// Empties the undo ring, the selection and the gesture in progress, before another project comes.
+    void AuswahlUndRingLeeren();
+    /// Shows or hides the legend as its button stands.
+    void Legende();
+    /// Caption of the legend button, as the legend is shown or not.
+    void LegendenknopfBeschriften();
+    void FarbschemaWählen(int schema);
+    /// Sets the colours of the lines from the scheme in force.
+    void LinienfarbenSetzen();
+    /// Shows the document's paper and orientation on the toolbar.
+    void SeiteAnzeigen();
+    /// Shows the zoom in force on the toolbar.
+    void ZoomAnzeigen();
+    void RasterWählen(int listIndex);
+    /// Captions of the recent files.
+    void ChronikAnzeigen();
+
+    bool IstDeutsch() const { return ansicht.Sprache == "de"; }
+    /// What a draw routine looks at.
+    Zeichnung DasBild() { return {dokument, ansicht, auswahl, geste, legende, plattform.uhr}; }
+
+    static constexpr std::string_view Programmversion = "1.3.015";
+    static constexpr double GrößeNormal = 1.2; ///< cm
+    static constexpr double GrößeKlein = 0.6;
+    static constexpr double BalkenAbstand = 1.8;
+
+    Plattform plattform;
+    Startangaben start;
+    Zeichenfläche &picVorschau;
+    Dokument dokument;
+    Ansicht ansicht;
+    Auswahl auswahl;
+    Gestenlage geste;
+    Legendenblatt legende;
+    UndoRing ring;
+    Arbeitsbereich bereich;
+    Bedienelemente bedienung;
+    Einstellungen einstellungen;
+    Projekt projekt;
+
+    std::string Kommandozeile; ///< trimmed and unquoted
+    std::string IniDatei;      ///< the file that the profile routines of the moment work on
+    std::string Textvorlage;   ///< what a new text box starts from
+    bool DruckerVorhanden = false;
+    Auswahlliste cboRaster; ///< millimetres
+    Auswahlliste cboPaperSize;
+    Auswahlliste Combo1; ///< fonts
+    Auswahlliste Combo2; ///< font sizes
+    Auswahlliste Combo3; ///< font styles
+
+  private:
+    void ZweiteStufe();
+    void ListenFüllen();
+    void SchriftlisteFüllen();
+    void DruckerErmitteln();
+    void EinstellungenSichern();
+    void FarbschemaAnzeigen();
+};
+
+/// The command line as the program takes it: trimmed, one pair of enclosing quotation marks removed.
+std::string Entpackt(std::string_view kommandozeile);
+
+} // namespace kw

@@ -1,0 +1,72 @@
+#include "document/Dokument.h"
+
+#include "document/Zahlen.h"
+
+#include <cmath>
+#include <unordered_set>
+
+namespace kw {
+
+const std::array<SpeicherZeile, 7> SpeicherTabelle{{
+    {"cboPersonen", "OBJECTS", &Dokument::cboPersonen, PersonFeld::Anzahl},
+    {"cboTextboxen", "TEXT", &Dokument::cboTextboxen, TextFeld::AnzahlUngemessen},
+    {"cboBeziehungsLinien", "LINEA", &Dokument::cboBeziehungsLinien, BezFeld::Anzahl},
+    {"cboPartnerschaftsLinien", "LINEB", &Dokument::cboPartnerschaftsLinien, PLinieFeld::Anzahl},
+    {"cboKindlinien", "LINEC", &Dokument::cboKindlinien, KindFeld::Anzahl},
+    {"cboFreehandlines", "LINED", &Dokument::cboFreehandlines, 1},
+    {"cboPfeile", "LINEE", &Dokument::cboPfeile, PfeilFeld::Anzahl},
+}};
+
+namespace {
+
+constexpr size_t Nummernbreite = 3;
+
+double NummerAmAnfang(const std::string &satz) { return ZahlLesen(std::string_view(satz).substr(0, Nummernbreite)); }
+
+std::string NeueNummer(Satzliste &freie, const Satzliste &speicher) {
+    if (freie.Leer()) return Dreistellig(speicher.Anzahl() + 1);
+    auto nummer = freie.Satz(0);
+    freie.Entfernen(0);
+    return nummer;
+}
+
+void FreieAufbauen(const Satzliste &speicher, Satzliste &freie) {
+    freie.Leeren();
+    if (speicher.Leer()) return;
+    std::unordered_set<double> vergeben;
+    for (const auto &satz : speicher) vergeben.insert(NummerAmAnfang(satz));
+    // The last record's number bounds the scan, not the highest one in the store: see the header.
+    const int letzte = static_cast<int>(std::floor(NummerAmAnfang(speicher.Letzter())));
+    for (int nummer = 1; nummer <= letzte; ++nummer) {
+        if (!vergeben.contains(nummer)) freie.Anhängen(Dreistellig(nummer));
+    }
+}
+
+} // namespace
+
+void Dokument::SpeicherLeeren() {
+    for (const auto &zeile : SpeicherTabelle) (this->*zeile.Liste).Leeren();
+}
+
+std::string Dokument::NeuePersNr() { return NeueNummer(lstGelöschtePersNr, cboPersonen); }
+
+std::string Dokument::NeuePLinienNr() { return NeueNummer(lstGelöschtePLinien, cboPartnerschaftsLinien); }
+
+void Dokument::FreieNummernAufbauen() {
+    FreieAufbauen(cboPersonen, lstGelöschtePersNr);
+    FreieAufbauen(cboPartnerschaftsLinien, lstGelöschtePLinien);
+}
+
+Nummernverzeichnis::Nummernverzeichnis(const Satzliste &speicher) {
+    positionen_.reserve(static_cast<size_t>(speicher.Anzahl()));
+    int position = 0;
+    for (const auto &satz : speicher)
+        positionen_.try_emplace(std::string_view(satz).substr(0, Nummernbreite), position++);
+}
+
+int Nummernverzeichnis::Position(std::string_view nr) const {
+    const auto gefunden = positionen_.find(nr);
+    return gefunden == positionen_.end() ? -1 : gefunden->second;
+}
+
+} // namespace kw

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// Numbers as records write and read them. Everything is computed in double and stored with the
+// precision of a single, so that 8.4 stays "8.4" however it was summed up.
+namespace kw {
+
+/// Reads the longest decimal number at the start of `text`, "." being the decimal mark. Leading blanks
+/// are skipped; the first other character ends it (no exponent, no ","). 0 when there is no number.
+double ZahlLesen(std::string_view text);
+
+/// Writes `wert` with at most seven significant digits, no exponent, trailing zeros cut, never "-0".
+/// What is no number (infinite, not a number) is written as "0".
+std::string ZahlSchreiben(double wert);
+
+/// `wert` rounded to `stellen` decimal places (0 to 9), a tie going to the even neighbour.
+double Gerundet(double wert, int stellen);
+
+/// `wert` rounded half to even and held within the 16 bits that a whole number of a record has.
+int Ganzzahl16(double wert);
+
+/// `text` without the blanks around it.
+std::string_view Getrimmt(std::string_view text);
+
+/// `nummer` in "000" format: at least three digits, as the numbers of persons and lines are written.
+std::string Dreistellig(int nummer);
+
+} // namespace kw

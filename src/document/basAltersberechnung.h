@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/Uhr.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kw {
+
+/// Turns a date of birth, which is free text, into the age of today and the year of birth. The four
+/// results stand until a later call changes them, and callers count on what a call leaves alone: an
+/// empty text changes nothing at all, a text under four characters leaves the outputs.
+class Altersberechnung {
+  public:
+    explicit Altersberechnung(const Uhr &uhr) : uhr_(uhr) {}
+
+    std::string strGebDatumText; ///< the text as it goes into the conversion
+    std::string strAlterText;    ///< completed years, "-" when negative
+    std::string strGebJahrText;  ///< year of birth, four digits
+    bool bDatumUngueltig = false;
+
+    void AlterAusDatum(std::string_view text);
+
+  private:
+    void AlterBerechnen();
+    int AlterInJahren(Datum geboren) const;
+
+    const Uhr &uhr_;
+};
+
+/// A date in numbers separated by ".", "-" or "/" (one kind or mixed), in the locale's order; the other
+/// order of day and month counts when only that one is a date, and a first number of three or more
+/// digits is always the year. Years of one or two digits lie in 1930 to 2029. Nothing when it is no date.
+std::optional<Datum> DatumLesen(std::string_view text, Datumsfolge folge);
+
+} // namespace kw

@@ -1,0 +1,144 @@
+#include "output/basDruckVorschau.h"
+
+#include "document/Zahlen.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+constexpr int Ruhelage = 100;        ///< of the canvas in its frame when it doesn't fit
+constexpr int Überlauf = 1000;       ///< how far one can scroll beyond the page
+constexpr int Schattenversatz = 80;
+constexpr int LuftBreite = 200;      ///< a canvas fits when this is left over
+constexpr int LuftHöhe = 600;
+constexpr int PaletteUndRand = 2620; ///< what of the inner width isn't the frame's
+constexpr int ToolbarUndStatus = 1440;
+constexpr int PalettenBreite = 960;
+constexpr int LetzterEinfacherZoom = 7; ///< 150 %; above it lines are twice as wide
+
+int Höchstwert(int canvas, int rahmen) {
+    return std::clamp<int>(canvas + Überlauf - rahmen, std::numeric_limits<std::int16_t>::min(),
+                           std::numeric_limits<std::int16_t>::max());
+}
+
+} // namespace
+
+Arbeitsbereich::Arbeitsbereich(Zeichenfläche &canvas, Ansicht &ansicht, int bildschirmBreite, int bildschirmHöhe,
+                               Rückrufe rückrufe)
+    : canvas_(canvas), ansicht_(ansicht), bildschirmBreite_(bildschirmBreite), bildschirmHöhe_(bildschirmHöhe),
+      canvasLinks_(Ruhelage), canvasOben_(Ruhelage), rückrufe_(std::move(rückrufe)) {
+    picBack.Left = PalettenBreite;
+    picBack.Top = ToolbarUndStatus; // the frame ends at the inner area's lower edge
+}
+
+Steuerfläche Arbeitsbereich::picVorschau() const {
+    return {canvasLinks_, canvasOben_, canvas_.Width(), canvas_.Height(), true};
+}
+
+void Arbeitsbereich::ZoomListeFuellen() {
+    cboBildGröße.Einträge.Leeren();
+    for (int zoom = 80; zoom <= 250; zoom += 10)
+        cboBildGröße.Einträge.Anhängen((zoom < 100 ? "  " : "") + std::to_string(zoom) + " %");
+    cboBildGröße.ListIndex = 3;
+}
+
+void Arbeitsbereich::ZoomWählen(int listIndex) {
+    if (listIndex < 0 || listIndex >= cboBildGröße.Anzahl()) return;
+    cboBildGröße.ListIndex = listIndex;
+    Bildgrößenveränderung();
+}
+
+void Arbeitsbereich::Vergrößern() { ZoomWählen(cboBildGröße.ListIndex + 1); }
+
+void Arbeitsbereich::Verkleinern() { ZoomWählen(cboBildGröße.ListIndex - 1); }
+
+void Arbeitsbereich::Mausrad(bool hoch) {
+    MausradIndex = std::clamp(MausradIndex + (hoch ? 1 : -1), 0, cboBildGröße.Anzahl() - 1);
+    if (cboBildGröße.ListIndex != MausradIndex) ZoomWählen(MausradIndex);
+}
+
+void Arbeitsbereich::Bildgrößenveränderung() {
+    ansicht_.StrichFaktor = cboBildGröße.ListIndex <= LetzterEinfacherZoom ? 1 : 2;
+    LeinwandGroesseSetzen();
+    rückrufe_.ZoomAnzeigen();
+}
+
+/// 100 % is nine tenths of the screen in each direction, whatever the monitor: the zoom is no factor of
+/// real size. The page setup then reduces one side.
+void Arbeitsbereich::LeinwandGroesseSetzen() {
+    const double zoom = ZahlLesen(cboBildGröße.Text()) / 100;
+    const auto seite = [&](int bildschirm) {
+        return static_cast<int>(std::nearbyint((bildschirm - bildschirm / 10.0) * zoom));
+    };
+    canvas_.GrößeSetzen(seite(bildschirmBreite_), seite(bildschirmHöhe_));
+    BildlaufleistenSetzen();
+    rückrufe_.Vorschau();
+    ArbeitsbereichAnordnen();
+}
+
+void Arbeitsbereich::GrößeÄndern(int breite, int höhe) {
+    breite_ = std::max(breite, KleinsteBreite);
+    höhe_ = std::max(höhe, KleinsteHöhe);
+    picBack.Width = breite_ - PaletteUndRand;
+    picBack.Height = höhe_ - ToolbarUndStatus;
+    Coolbar1.Width = picBack.Width + 100;
+    BildlaufleistenSetzen();
+    VScroll1.Left = breite_ - 500;
+    VScroll1.Top = picBack.Top;
+    VScroll1.Height = picBack.Height;
+    HScroll1.Left = picBack.Left;
+    HScroll1.Width = picBack.Width;
+    HScroll1.Top = picBack.Height + 1480;
+    imgCorner.Left = breite_ - 320;
+    imgCorner.Top = höhe_ - 890;
+    ArbeitsbereichAnordnen();
+}
+
+void Arbeitsbereich::WerkzeugleisteZeigen() {
+    picBack.Left = PalettenBreite;
+    picBack.Width = breite_ - PalettenBreite;
+    ArbeitsbereichAnordnen();
+}
+
+/// The palette stays where it is: the frame merely covers it.
+void Arbeitsbereich::WerkzeugleisteVerbergen() {
+    picBack.Left = -10;
+    picBack.Width = breite_;
+    ArbeitsbereichAnordnen();
+}
+
+void Arbeitsbereich::BildlaufleistenSetzen() {
+    VScroll1.Max = Höchstwert(canvas_.Height(), picBack.Height);
+    HScroll1.Max = Höchstwert(canvas_.Width(), picBack.Width);
+}
+
+/// A canvas that fits is centred and has no scroll bar; one that doesn't goes back to its resting place.
+void Arbeitsbereich::ArbeitsbereichAnordnen() {
+    const auto anordnen = [](int canvas, int rahmen, int luft, Bildlaufleiste &leiste) {
+        leiste.Visible = canvas + luft > rahmen;
+        leiste.Value = 0;
+        return leiste.Visible ? Ruhelage : (rahmen - canvas) / 2;
+    };
+    canvasLinks_ = anordnen(canvas_.Width(), picBack.Width, LuftBreite, HScroll1);
+    canvasOben_ = anordnen(canvas_.Height(), picBack.Height, LuftHöhe, VScroll1);
+    SchattenSetzen();
+}
+
+void Arbeitsbereich::Scrollen(int hValue, int vValue) {
+    HScroll1.Value = std::clamp(hValue, 0, std::max(HScroll1.Max, 0));
+    VScroll1.Value = std::clamp(vValue, 0, std::max(VScroll1.Max, 0));
+    if (HScroll1.Visible) canvasLinks_ = Ruhelage - HScroll1.Value;
+    if (VScroll1.Visible) canvasOben_ = Ruhelage - VScroll1.Value;
+    SchattenSetzen();
+}
+
+void Arbeitsbereich::SchattenSetzen() {
+    shpSchatten = {canvasLinks_ + Schattenversatz, canvasOben_ + Schattenversatz, canvas_.Width(), canvas_.Height(), true};
+}
+
+} // namespace kw

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "document/Auswahlliste.h"
+#include "rendering/Ansicht.h"
+#include "rendering/Zeichenflaeche.h"
+
+#include <functional>
+
+namespace kw {
+
+/// Place and size of a control in twips, within the main window's inner area; of the canvas and its
+/// shadow within `picBack`.
+struct Steuerfläche {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+    bool Visible = true;
+};
+
+struct Bildlaufleiste : Steuerfläche {
+    int Max = 0; ///< 16 bits; negative while the canvas is smaller than the frame
+    int Value = 0;
+};
+
+/// The work area: how large the zoom makes the canvas, and where frame, canvas and scroll bars stand. All
+/// in twips; the face turns them into pixels. Records never depend on any of it.
+class Arbeitsbereich {
+  public:
+    /// What the owner does for it: redraw the page on the canvas, and show a new zoom.
+    struct Rückrufe {
+        std::function<void()> Vorschau;
+        std::function<void()> ZoomAnzeigen;
+    };
+
+    /// The screen's size is in twips.
+    Arbeitsbereich(Zeichenfläche &canvas, Ansicht &ansicht, int bildschirmBreite, int bildschirmHöhe,
+                   Rückrufe rückrufe);
+
+    Auswahlliste cboBildGröße; ///< "  80 %" to "250 %"
+    int MausradIndex = 2;      ///< the wheel's own counter, which no other zoom command updates. Meant.
+    Steuerfläche picBack;
+    Steuerfläche Coolbar1;
+    Steuerfläche imgCorner;
+    Steuerfläche shpSchatten; ///< the page's shadow
+    Bildlaufleiste VScroll1;
+    Bildlaufleiste HScroll1;
+
+    /// The canvas as it stands within `picBack`.
+    Steuerfläche picVorschau() const;
+
+    /// Fills the zoom list and selects its fourth entry.
+    void ZoomListeFuellen();
+    /// Changing the list's index, by any road, applies the zoom.
+    void ZoomWählen(int listIndex);
+    void Vergrößern();
+    void Verkleinern();
+    bool KannVergrößern() const { return cboBildGröße.ListIndex < cboBildGröße.Anzahl() - 1; }
+    bool KannVerkleinern() const { return cboBildGröße.ListIndex > 0; }
+    /// One notch of the wheel, which zooms.
+    void Mausrad(bool hoch);
+    /// Applies the current zoom: line width, canvas, page.
+    void Bildgrößenveränderung();
+
+    /// The main window's inner size is new. Sizes below the minimum count as the minimum.
+    void GrößeÄndern(int breite, int höhe);
+    void WerkzeugleisteZeigen();
+    void WerkzeugleisteVerbergen();
+    bool WerkzeugleisteSichtbar() const { return picBack.Left >= 0; }
+
+    /// The scroll bars were moved.
+    void Scrollen(int hValue, int vValue);
+
+    static constexpr int KleinsteHöhe = 6700;
+    static constexpr int KleinsteBreite = 9000;
+
+  private:
+    void LeinwandGroesseSetzen();
+    void BildlaufleistenSetzen();
+    void ArbeitsbereichAnordnen();
+    void SchattenSetzen();
+
+    Zeichenfläche &canvas_;
+    Ansicht &ansicht_;
+    int bildschirmBreite_;
+    int bildschirmHöhe_;
+    int breite_ = 0; ///< the main window's inner size
+    int höhe_ = 0;
+    int canvasLinks_;
+    int canvasOben_;
+    Rückrufe rückrufe_;
+};
+
+} // namespace kw

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kw {
+
+enum class Knöpfe { Ok, JaNein, JaNeinAbbrechen };
+enum class Zeichen { Keins, Frage, Warnung, Information, Halt };
+enum class Antwort { Ok, Ja, Nein, Abbrechen };
+
+/// A message box.
+struct Nachfrage {
+    std::string Titel;
+    std::string Text;
+    Knöpfe Auswahl = Knöpfe::Ok;
+    Zeichen Bild = Zeichen::Keins;
+};
+
+/// A file dialog. `Filter` is a caption and a pattern joined by "|". The box for reading only never shows.
+struct Dateiwahl {
+    std::string Titel;
+    std::string Vorschlag;
+    std::string Filter;
+    std::string Ordner;
+};
+
+/// What the model asks of the user and of the desktop. Boxes and dialogs are modal: the call returns when
+/// the user is done. Whatever closes a box without a choice is Abbrechen.
+class Benutzer {
+  public:
+    virtual ~Benutzer() = default;
+    virtual Antwort Fragen(const Nachfrage &nachfrage) = 0;
+    /// The chosen path; nothing when the dialog was cancelled. Neither asks about existing files.
+    virtual std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) = 0;
+    virtual std::optional<std::string> DateiSpeichern(const Dateiwahl &wahl) = 0;
+    /// Lets `frmMain::ZeitgeberAbgelaufen` be called with this name, once, after `ms` milliseconds.
+    virtual void ZeitgeberStarten(std::string_view name, int ms) = 0;
+    /// Does something as soon as the window has been painted for the first time.
+    virtual void NachErstemBild(std::function<void()> arbeit) = 0;
+    /// The model's state has changed: title, enabled commands, scroll bars, picture.
+    virtual void AnzeigeAuffrischen() = 0;
+    /// Requests the main window's closing, as its close box does.
+    virtual void FensterSchließen() = 0;
+    virtual std::string Desktopordner() const = 0;
+    virtual std::vector<std::string> Schriftarten() const = 0;
+};
+
+} // namespace kw

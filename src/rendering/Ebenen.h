@@ -1,0 +1,40 @@
+#pragma once
+
+#include "rendering/Zeichnung.h"
+
+// The layers of the page. Each takes the surface and the scale factor: displayed centimetres by paper
+// centimetres, by which every nominal font size is multiplied. A damaged record (too few fields) is
+// passed over, the rest of its store is drawn.
+namespace kw {
+
+/// Relationship lines, over them partnership lines, over them child lines, then the marks of selected lines.
+void LinienEbene(Zeichenfläche &fläche, Zeichnung &z, double faktor);
+void BeziehungslinienZeichnen(Zeichenfläche &fläche, const Zeichnung &z);
+void PartnerschaftslinienZeichnen(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
+void KindlinienZeichnen(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
+
+void KreislinienEbene(Zeichenfläche &fläche, const Zeichnung &z);
+/// Also sets the view's `Pfeilfarbe`, and which arrow shows its handles.
+void PfeilEbene(Zeichenfläche &fläche, Zeichnung &z);
+
+/// Persons with their labels, then the text boxes. In print the base line width becomes 6 here.
+void PersonenEbene(Zeichenfläche &fläche, Zeichnung &z, double faktor);
+/// Draws the text boxes and measures those that have no measures yet: the only place where drawing
+/// writes into a store.
+void TextboxenZeichnen(Zeichenfläche &fläche, Zeichnung &z, double faktor);
+
+/// Draws nothing for an empty list. Keeps the box on the page and on the raster: the stored position follows.
+void LegendenEbene(Zeichenfläche &fläche, Zeichnung &z, double faktor);
+
+// Pieces that the legend's miniatures share with the layers.
+
+/// One relationship line in the pens of `farben`. `basis` is the base style that the record before left,
+/// and takes this one's: an unknown kind draws with it.
+void BeziehungZeichnen(Zeichenfläche &fläche, const ElementFarben &farben, std::string_view beziehungsart, char &basis,
+                       double x1, double y1, double x2, double y2);
+
+/// The mark of a partnership's state and its date, at a bar whose middle is (mitte, y).
+void PartnerstandZeichnen(Zeichenfläche &fläche, std::string_view status, std::string_view datum, double mitte, double y,
+                          double faktor);
+
+} // namespace kw

@@ -1,0 +1,118 @@
+#include "document/Felder.h"
+#include "document/Zahlen.h"
+#include "rendering/Ebenen.h"
+
+#include <cmath>
+
+namespace kw {
+
+namespace {
+
+constexpr double Strichperiode = 0.2;
+constexpr int HöchstSchritte = 32767; ///< the counter has 16 bits; longer lines are damage
+
+struct Kindlinie {
+    std::string_view Kindart;
+    double LinieX, LinieY; ///< on the parents' bar
+    double KindX, KindY;   ///< top of the child's symbol
+};
+
+/// The end at the child is the top of its symbol. Throws FeldFehlt when line or child lack fields.
+Kindlinie Gelesen(const Felder &feld, const std::string &kind) {
+    const double größe = ZahlLesen(Felder(kind)[PersonFeld::Groesse]);
+    return {feld[KindFeld::Kindart], ZahlLesen(feld[KindFeld::LinieX]), ZahlLesen(feld[KindFeld::LinieY]),
+            ZahlLesen(feld[KindFeld::KindX]), ZahlLesen(feld[KindFeld::KindY]) - größe / 2};
+}
+
+void Gestrichelt(Zeichenfläche &f, const Kindlinie &k, Farbe farbe) {
+    const double a = k.KindX - k.LinieX;
+    const double b = k.KindY - k.LinieY;
+    const double striche = std::nearbyint(std::sqrt(a * a + b * b) / Strichperiode);
+    if (!(striche >= 1 && striche <= HöchstSchritte)) return;
+    for (int i = 0; i < striche; ++i) {
+        const double x = k.LinieX + i * a / striche;
+        const double y = k.LinieY + i * b / striche;
+        f.Line(LinieFarbig, x, y, x + a / striche / 2, y + b / striche / 2, farbe);
+    }
+}
+
+bool AngenommenOderPflege(const Kindlinie &k) { return k.Kindart == "1" || k.Kindart == "2"; }
+
+void Strich(Zeichenfläche &f, const Kindlinie &k, Farbe farbe) {
+    f.ForeColor = farbe;
+    if (k.Kindart == "0") f.Line(Linie, k.LinieX, k.LinieY, k.KindX, k.KindY);
+    if (AngenommenOderPflege(k)) Gestrichelt(f, k, farbe);
+}
+
+void Buchstabe(Zeichenfläche &f, const Kindlinie &k, double faktor) {
+    if (!AngenommenOderPflege(k)) return;
+    f.FontBold = false;
+    f.FontSize = 7 * faktor;
+    f.CurrentX = k.KindX + 0.08;
+    f.CurrentY = k.KindY - 0.3;
+    f.Print(k.Kindart == "1" ? "A" : "P");
+}
+
+/// The bar that a link gesture or a selection points at; nothing when none does.
+const std::string *BalkenUnterMarke(const Zeichnung &z) {
+    const bool zeigt = z.geste.Aktion == AktionPLinieGewählt ||
+                       (z.geste.Aktion == AktionKindZiehen && z.geste.PLinieUnterMaus);
+    const auto &speicher = z.dokument.cboPartnerschaftsLinien;
+    const int i = z.geste.PLinieAuswahl;
+    return zeigt && i >= 0 && i < speicher.Anzahl() ? &speicher.Satz(i) : nullptr;
+}
+
+} // namespace
+
+void KindlinienZeichnen(Zeichenfläche &f, const Zeichnung &z, double faktor) {
+    const auto &speicher = z.dokument.cboKindlinien;
+    const auto &personen = z.dokument.cboPersonen;
+    const Nummernverzeichnis nummern(personen);
+    const auto linie = [&](int i) {
+        const Felder feld(speicher.Satz(i));
+        // A child record is matched by its first three characters, as everywhere.
+        const int kind = nummern.Position(std::string_view(speicher.Satz(i)).substr(0, 3));
+        if (kind < 0) throw FeldFehlt();
+        return Gelesen(feld, personen.Satz(kind));
+    };
+    for (int i = 0; i < speicher.Anzahl(); ++i) {
+        f.DrawWidth = z.ansicht.StrichFaktor;
+        f.ForeColor = Schwarz;
+        try {
+            const Kindlinie k = linie(i);
+            Strich(f, k, Schwarz);
+            Buchstabe(f, k, faktor);
+        } catch (const FeldFehlt &) { // no such child, or a damaged record: nothing to draw
+        }
+    }
+    if (z.ansicht.bDruckLaeuft || z.geste.Aktion != AktionKindlinieGewählt) return;
+    const int i = z.geste.KindAuswahl;
+    if (i < 0 || i >= speicher.Anzahl()) return;
+    f.DrawWidth = 3;
+    try {
+        Strich(f, linie(i), z.ansicht.Markierfarbe);
+    } catch (const FeldFehlt &) {
+    }
+    f.DrawWidth = z.ansicht.StrichFaktor;
+    f.ForeColor = Schwarz;
+}
+
+void LinienEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
+    f.Ebene("linien");
+    f.DrawWidth = z.ansicht.StrichFaktor;
+    f.DrawStyle = StilDurchgezogen;
+    BeziehungslinienZeichnen(f, z);
+    PartnerschaftslinienZeichnen(f, z, faktor);
+    KindlinienZeichnen(f, z, faktor);
+
+    if (const auto *satz = z.ansicht.bDruckLaeuft ? nullptr : BalkenUnterMarke(z)) {
+        const Felder feld(*satz);
+        f.DrawWidth = 2;
+        if (feld.Anzahl() > PLinieFeld::BalkenY2)
+            f.Line(LinieFarbig, ZahlLesen(feld[PLinieFeld::BalkenX1]), ZahlLesen(feld[PLinieFeld::BalkenY1]),
+                   ZahlLesen(feld[PLinieFeld::BalkenX2]), ZahlLesen(feld[PLinieFeld::BalkenY2]), ZielFarbe);
+    }
+    f.DrawWidth = 1;
+}
+
+} // namespace kw

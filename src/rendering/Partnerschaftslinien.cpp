@@ -1,0 +1,129 @@
+#include "document/Felder.h"
+#include "document/Zahlen.h"
+#include "rendering/Ebenen.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace kw {
+
+namespace {
+
+constexpr double Strichlänge = 0.2;
+constexpr double Strichperiode = 0.35;
+constexpr double GrößteLänge = 32767 * Strichperiode; ///< what is longer is damage, and no page shows it
+
+/// A straight, level or upright path, walked along its axis.
+struct Pfadstück {
+    bool Waagrecht;
+    double Quer; ///< the coordinate that stays
+    void Zeichnen(Zeichenfläche &f, double von, double bis) const {
+        if (Waagrecht) f.Line(Linie, von, Quer, bis, Quer);
+        else f.Line(Linie, Quer, von, Quer, bis);
+    }
+};
+
+/// Dashes of 0.2 every 0.35 from `von` toward `bis`; the last one runs to the end. The first comes once
+/// more by itself, so a path under 0.2 shows two dashes that overlap.
+void Gestrichelt(Zeichenfläche &f, const Pfadstück &pfad, double von, double bis) {
+    if (!(std::abs(bis - von) < GrößteLänge)) return;
+    const double sinn = bis >= von ? 1 : -1;
+    double s = von;
+    double e = s + sinn * Strichlänge;
+    pfad.Zeichnen(f, s, e);
+    while (sinn * (bis - sinn * Strichlänge - e) >= 0) {
+        pfad.Zeichnen(f, s, e);
+        s += sinn * Strichperiode;
+        e = s + sinn * Strichlänge;
+    }
+    pfad.Zeichnen(f, s, bis);
+}
+
+struct Partnerschaft {
+    double L, R, Y1, Y2; ///< the bar, left end first
+    double AX1, AY1, AX2, AY2;
+};
+
+void Durchgezogen(Zeichenfläche &f, const Partnerschaft &p) {
+    f.Line(Linie, p.L, p.Y1, p.R, p.Y2);
+    f.Line(Linie, p.AX1, p.Y1, p.AX1, p.AY1);
+    f.Line(Linie, p.AX2, p.Y1, p.AX2, p.AY2);
+}
+
+void Distanziert(Zeichenfläche &f, const Partnerschaft &p) {
+    Gestrichelt(f, {true, p.Y1}, p.L, p.R);
+    Gestrichelt(f, {false, p.AX1}, p.Y1, p.AY1);
+    Gestrichelt(f, {false, p.AX2}, p.Y1, p.AY2);
+}
+
+/// Element `i` of the dates; nothing when there are too few (an empty field has none).
+std::optional<std::string_view> Datum(std::string_view daten, int i) {
+    if (daten.empty()) return std::nullopt;
+    const Felder teile(daten, '#');
+    if (i >= teile.Anzahl()) return std::nullopt;
+    return teile[i];
+}
+
+void PartnerschaftZeichnen(Zeichenfläche &f, const Felder &feld, double faktor) {
+    const auto zahl = [&](int i) { return ZahlLesen(feld[i]); };
+    const double x1 = zahl(PLinieFeld::BalkenX1);
+    const double x2 = zahl(PLinieFeld::BalkenX2);
+    const Partnerschaft p{std::min(x1, x2),
+                          std::max(x1, x2),
+                          zahl(PLinieFeld::BalkenY1),
+                          zahl(PLinieFeld::BalkenY2),
+                          zahl(PLinieFeld::AnschlussX1),
+                          zahl(PLinieFeld::AnschlussY1),
+                          zahl(PLinieFeld::AnschlussX2),
+                          zahl(PLinieFeld::AnschlussY2)};
+    if (feld[PLinieFeld::Distanziert] == "1") Distanziert(f, p);
+    else Durchgezogen(f, p);
+
+    f.FillStyle = Durchsichtig;
+    f.FontName = "Arial";
+    f.FontItalic = f.FontUnderline = f.FontBold = false;
+    f.FontSize = 6 * faktor;
+    const auto status = feld[PLinieFeld::Status];
+    if (status.size() != 1 || status[0] < '0' || status[0] > '3') return;
+    // An element missing from the dates leaves the state without mark and text, the bar stands.
+    if (const auto datum = Datum(feld[PLinieFeld::Daten], status[0] - '0'))
+        PartnerstandZeichnen(f, status, *datum, (x1 + x2) / 2, p.Y1, faktor);
+}
+
+} // namespace
+
+void PartnerstandZeichnen(Zeichenfläche &f, std::string_view status, std::string_view datum, double mitte, double balkenY,
+                          double faktor) {
+    if (status.size() != 1) return;
+    constexpr double Versatz[] = {0, 0.2, 0.2, 0.3}; // by state: room for the mark left of the text
+    const double x = mitte - f.TextWidth(datum) / 2 + Versatz[status[0] - '0'];
+    const double y = balkenY - 0.3;
+    f.CurrentX = x;
+    f.CurrentY = y;
+    f.Print(datum);
+    if (status == "2") { // two rings that overlap
+        f.FontName = "Arial";
+        f.FontBold = false;
+        f.FontSize = 8 * faktor;
+        for (const double ring : {0.3, 0.38}) {
+            f.CurrentX = x - ring;
+            f.CurrentY = balkenY - 0.36;
+            f.Print("o");
+        }
+    }
+    if (status == "1" || status == "3") f.Line(Linie, x - 0.1, y + 0.1, x - 0.3, y + 0.5);
+    if (status == "3") f.Line(Linie, x - 0.2, y + 0.1, x - 0.4, y + 0.5);
+}
+
+void PartnerschaftslinienZeichnen(Zeichenfläche &f, const Zeichnung &z, double faktor) {
+    f.DrawStyle = StilDurchgezogen;
+    f.ForeColor = Schwarz;
+    f.FontUnderline = false;
+    for (const auto &satz : z.dokument.cboPartnerschaftsLinien) {
+        const Felder feld(satz);
+        if (feld.Anzahl() >= PLinieFeld::Anzahl) PartnerschaftZeichnen(f, feld, faktor);
+    }
+}
+
+} // namespace kw

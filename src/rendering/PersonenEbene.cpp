@@ -1,0 +1,103 @@
+#include "document/Zahlen.h"
+#include "rendering/Beschriftung.h"
+#include "rendering/Ebenen.h"
+#include "rendering/Seite.h"
+#include "rendering/Symbole.h"
+
+#include <unordered_map>
+#include <unordered_set>
+
+namespace kw {
+
+namespace {
+
+/// Draws the persons of one redraw, in store order.
+class Personenzeichner {
+  public:
+    Personenzeichner(Zeichenfläche &fläche, const Zeichnung &z, double faktor)
+        : f(fläche), z_(z), faktor_(faktor), nummern_(z.dokument.cboPersonen), alter_(z.uhr),
+          pixelJeCm_(z.ansicht.bDruckLaeuft ? DruckPixelJeCm : BildschirmPixelJeCm * faktor) {
+        if (z.ansicht.bDruckLaeuft) return;
+        // Compared as numbers: in a link gesture the list holds positions, and these show like numbers.
+        for (const auto &eintrag : z.auswahl.lstMovedPers) ++gewählt_[Ganzzahl16(ZahlLesen(eintrag))];
+    }
+
+    void Zeichnen(int position) {
+        const Felder feld(z_.dokument.cboPersonen.Satz(position));
+        const double x = ZahlLesen(feld[PersonFeld::PosX]);
+        const double y = ZahlLesen(feld[PersonFeld::PosY]);
+        const double größe = ZahlLesen(feld[PersonFeld::Groesse]);
+        const double links = Gerundet(x - größe / 2, 2);
+        const double oben = Gerundet(y - größe / 2, 2);
+        f.FillColor = SymbolFüllfarbe(z_.ansicht.Farbschema);
+        Zwillingsband(feld, x, y);
+
+        Symbol symbol(f, {links, oben, x, y, größe}, pixelJeCm_, z_.ansicht.StrichFaktor, z_.ansicht.Farbschema);
+        const int kennzahl = SymbolKennzahl(feld[PersonFeld::Symboltyp]);
+        f.ForeColor = Schwarz;
+        symbol.Zeichnen(kennzahl, MarkenVon(feld), Hervorgehoben(feld, position));
+        if (kennzahl <= 2 || kennzahl >= 9)
+            PersonBeschriften(f, z_.ansicht, alter_, feld, x, y, oben, größe, faktor_);
+    }
+
+  private:
+    /// Joins identical twins, once a pair.
+    void Zwillingsband(const Felder &feld, double x, double y) {
+        const std::string_view zwilling = feld[PersonFeld::Zwilling];
+        if (!zwilling.starts_with("1E") || verbunden_.contains(feld[PersonFeld::Nr])) return;
+        const std::string_view nr = zwilling.substr(2);
+        const int partner = nummern_.Position(nr);
+        if (partner < 0) return;
+        const Felder anderer(z_.dokument.cboPersonen.Satz(partner));
+        f.DrawWidth = z_.ansicht.StrichFaktor;
+        f.Line(LinieFarbig, Gerundet(x, 1), Gerundet(y, 1), Gerundet(ZahlLesen(anderer[PersonFeld::PosX]), 1),
+               Gerundet(ZahlLesen(anderer[PersonFeld::PosY]), 1), Schwarz);
+        verbunden_.insert(nr);
+    }
+
+    static Marken MarkenVon(const Felder &feld) {
+        return {feld[PersonFeld::IndexPerson], feld[PersonFeld::Sterbealter].starts_with('$'),
+                feld[PersonFeld::Sucht] == "1", feld[PersonFeld::Erkrankung] == "1"};
+    }
+
+    Symbol::Hervorhebung Hervorgehoben(const Felder &feld, int position) const {
+        if (z_.ansicht.bDruckLaeuft) return {.Druck = true};
+        const int aktion = z_.geste.Aktion;
+        const bool zieht = aktion == AktionBeziehungZiehen || aktion == AktionPartnerschaftZiehen;
+        const auto gewählt = gewählt_.find(Ganzzahl16(ZahlLesen(feld[PersonFeld::Nr])));
+        return {zieht && position + 1 == z_.geste.ZielPerson, gewählt == gewählt_.end() ? 0 : gewählt->second};
+    }
+
+    Zeichenfläche &f;
+    const Zeichnung &z_;
+    double faktor_;
+    Nummernverzeichnis nummern_;
+    Altersberechnung alter_;
+    double pixelJeCm_;
+    std::unordered_map<int, int> gewählt_;
+    std::unordered_set<std::string_view> verbunden_; ///< `lstZWPartner`
+};
+
+} // namespace
+
+void PersonenEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
+    f.Ebene("personen");
+    if (z.ansicht.bDruckLaeuft) z.ansicht.StrichFaktor = 6;
+    DruckrandZeichnen(f, z.ansicht);
+    f.DrawStyle = StilDurchgezogen;
+    f.ForeColor = Schwarz;
+    f.FillStyle = Gefüllt;
+    f.FontName = "Arial";
+    f.FontSize = 9 * faktor;
+    f.FontBold = false;
+    f.Line(Linie, -2, -2, -2, -2); // off the page: parks the pen
+
+    Personenzeichner zeichner(f, z, faktor);
+    for (int i = 0; i < z.dokument.cboPersonen.Anzahl(); ++i) try {
+            zeichner.Zeichnen(i);
+        } catch (const FeldFehlt &) { // a damaged person draws what its record still gave
+        }
+    TextboxenZeichnen(f, z, faktor);
+}
+
+} // namespace kw

@@ -1,0 +1,74 @@
+#include "rendering/Seite.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace kw {
+
+namespace {
+
+constexpr Farbe RasterFarbe = Rgb(240, 240, 240);
+constexpr int Hochformat = 1;
+
+struct Papier {
+    int Code;
+    double Breite; ///< cm in portrait
+    double Höhe;
+};
+constexpr std::array<Papier, 3> Papiere{{{1, 21.59, 27.94}, {9, 21.0, 29.7}, {11, 14.8, 21.0}}};
+
+int InTwips(double cm) { return static_cast<int>(std::nearbyint(cm * TwipsJeCm)); }
+
+} // namespace
+
+void SeiteBestimmen(Dokument &dokument, Ansicht &ansicht) {
+    if (dokument.Papiercode < 1) dokument.Papiercode = 9;
+    const auto *papier = std::find_if(Papiere.begin(), Papiere.end(),
+                                      [&](const Papier &p) { return p.Code == dokument.Papiercode; });
+    if (papier == Papiere.end()) return;
+    ansicht.SeitenBreite = papier->Breite;
+    ansicht.SeitenHöhe = papier->Höhe;
+    if (dokument.Seitenlage != Hochformat) std::swap(ansicht.SeitenBreite, ansicht.SeitenHöhe);
+}
+
+double SeiteEinrichten(Zeichenfläche &fläche, Zeichnung &z) {
+    Ansicht &a = z.ansicht;
+    SeiteBestimmen(z.dokument, a);
+    fläche.ScaleCm();
+    const double verhältnisHöhe = fläche.ScaleHeight() / a.SeitenHöhe;
+    const double verhältnisBreite = fläche.ScaleWidth() / a.SeitenBreite;
+    const double faktor = std::min(verhältnisHöhe, verhältnisBreite);
+    if (verhältnisHöhe >= verhältnisBreite)
+        fläche.GrößeSetzen(fläche.Width(), InTwips(a.SeitenHöhe * faktor));
+    else
+        fläche.GrößeSetzen(InTwips(a.SeitenBreite * faktor), fläche.Height());
+    fläche.Scale(a.SeitenBreite, a.SeitenHöhe, faktor);
+    fläche.Cls();
+    a.Skalierung = faktor;
+    return faktor;
+}
+
+void RasterZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht) {
+    fläche.Ebene("raster");
+    const double schritt = ansicht.Rasterweite;
+    if (ansicht.bDruckLaeuft || !ansicht.bRasterAnzeigen || schritt <= 0) return;
+    const int spalten = static_cast<int>(ansicht.SeitenBreite / schritt);
+    for (int i = 1; i <= spalten; ++i)
+        fläche.Line(LinieFarbig, i * schritt, 0, i * schritt, ansicht.SeitenHöhe, RasterFarbe);
+    const int zeilen = static_cast<int>(ansicht.SeitenHöhe / schritt);
+    for (int i = 1; i <= zeilen; ++i)
+        fläche.Line(LinieFarbig, 0, i * schritt, ansicht.SeitenBreite, i * schritt, RasterFarbe);
+}
+
+void DruckrandZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht) {
+    if (ansicht.bDruckLaeuft || !ansicht.bDruckrandAnzeigen) return;
+    fläche.FillStyle = Durchsichtig;
+    fläche.DrawStyle = StilGepunktet;
+    fläche.ForeColor = Hellgrau;
+    fläche.Line(Kasten, ansicht.DruckrandLinks, ansicht.DruckrandOben, fläche.ScaleWidth() - ansicht.DruckrandRechts,
+                fläche.ScaleHeight() - ansicht.DruckrandUnten);
+    fläche.DrawStyle = StilStrichpunkt;
+}
+
+} // namespace kw

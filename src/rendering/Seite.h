@@ -1,0 +1,22 @@
+#pragma once
+
+#include "rendering/Zeichnung.h"
+
+namespace kw {
+
+/// Replaces a paper code below 1 by 9, and derives the page's width and height (cm) from paper and
+/// orientation. A code that is no paper leaves both as they were.
+void SeiteBestimmen(Dokument &dokument, Ansicht &ansicht);
+
+/// Fits the page into the surface's box: shrinks the surface on one side to the page's proportions, sets
+/// its user units to the page's centimetres and clears it. The scale factor (displayed by paper
+/// centimetres) is given back and kept in the view.
+double SeiteEinrichten(Zeichenfläche &fläche, Zeichnung &z);
+
+/// The snap grid; not in print.
+void RasterZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht);
+
+/// The frame of the printable area, when it is switched on; not in print.
+void DruckrandZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht);
+
+} // namespace kw

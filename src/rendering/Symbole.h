@@ -1,0 +1,87 @@
+#pragma once
+
+#include "rendering/Zeichenflaeche.h"
+
+#include <array>
+#include <string_view>
+
+namespace kw {
+
+/// Pixels per centimetre in print and, times the scale factor, on the canvas: 567 twips by 15.
+constexpr int DruckPixelJeCm = 236;
+constexpr double BildschirmPixelJeCm = 37.8;
+
+/// The three kinds that files write as 1.1, 2.1 and 1.2 are 10, 11 and 12; other kinds are themselves,
+/// and 0 is a kind that has no symbol.
+int SymbolKennzahl(std::string_view symboltyp);
+
+/// What a person's symbol shows.
+struct Marken {
+    std::string_view IndexPerson = "0"; ///< "1"; and "21", which only records from elsewhere hold
+    bool Verstorben = false;
+    bool Sucht = false;
+    bool Erkrankung = false;
+};
+
+/// Draws person symbols. One object draws one symbol at one place; lengths are centimetres of paper.
+class Symbol {
+  public:
+    /// `links`, `oben`: top left corner; `x`, `y`: centre; `größe`: width and height.
+    struct Ort {
+        double links, oben, x, y, größe;
+    };
+    /// What an outline is drawn for a second time.
+    struct Hervorhebung {
+        bool Ziel = false; ///< target of a link gesture
+        int Gewählt = 0;   ///< how often the person is selected
+        bool Druck = false;
+    };
+
+    Symbol(Zeichenfläche &fläche, const Ort &ort, double pixelJeCm, int strichFaktor, int farbschema);
+
+    /// Draws kind `kennzahl`; one without a symbol draws nothing. `FillColor` must be the symbol's.
+    void Zeichnen(int kennzahl, const Marken &marken, const Hervorhebung &hervorhebung);
+
+  private:
+    using Routine = void (Symbol::*)();
+    static const std::array<Routine, 13> Routinen;
+
+    void Männlich();
+    void Weiblich();
+    void Schwangerschaft();
+    void Fehlgeburt();
+    void TotgeburtMännlich();
+    void TotgeburtWeiblich();
+    void Abtreibung();
+    void Institution();
+    void WeiblichZuMännlich();
+    void MännlichZuWeiblich();
+    void Divers();
+
+    void Quadrat();
+    void Kreis();
+    void Kreuz(double einzug);
+    void HalbmarkenQuadrat();
+    void HalbmarkenKreis();
+    void DoppelrandQuadrat();
+    void DoppelrandKreis();
+    void Zickzack();
+    template <typename Umriss> void ZielZeigen(Umriss umriss);
+    template <typename Umriss> void AuswahlZeigen(Umriss umriss);
+    void Vieleck(std::span<const std::array<double, 2>> punkte);
+    void Kanten(std::span<const std::array<double, 2>> punkte);
+    void RotesQuadrat();
+    void RoterKreis();
+    void RotesKreuz(double einzug);
+
+    Zeichenfläche &f;
+    double links, oben, rechts, unten, mx, my, X, Y, r, g;
+    double einzugKreis; ///< inset of the cross in round symbols
+    double k;           ///< pixels per centimetre, for polygons
+    int strichFaktor_;
+    int farbschema_;
+    Marken marken_;
+    Hervorhebung hervorhebung_;
+};
+
+} // namespace kw

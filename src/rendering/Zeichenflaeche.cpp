@@ -1,0 +1,30 @@
+#include "rendering/Zeichenflaeche.h"
+
+namespace kw {
+
+void Zeichenfläche::GrößeSetzen(int breiteTwips, int höheTwips) {
+    breite_ = breiteTwips;
+    höhe_ = höheTwips;
+    ScaleCm();
+}
+
+void Zeichenfläche::ScaleCm() {
+    skalaBreite_ = breite_ / TwipsJeCm;
+    skalaHöhe_ = höhe_ / TwipsJeCm;
+    SkalaGeändert();
+}
+
+void Zeichenfläche::Scale(double breite, double höhe, double faktor) {
+    skalaBreite_ = breite;
+    skalaHöhe_ = höhe;
+    faktor_ = faktor;
+    SkalaGeändert();
+}
+
+void Zeichenfläche::Print(std::string_view text) {
+    if (!text.empty()) TextZeichnen(text);
+    CurrentX = 0;
+    CurrentY += TextHeight();
+}
+
+} // namespace kw

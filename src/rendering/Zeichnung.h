@@ -1,0 +1,31 @@
+#pragma once
+
+#include "document/Dokument.h"
+#include "platform/Uhr.h"
+#include "rendering/Ansicht.h"
+#include "rendering/Auswahl.h"
+#include "rendering/Legende.h"
+#include "rendering/Zeichenflaeche.h"
+
+namespace kw {
+
+/// All that a redraw looks at. Drawing changes none of it but what is told at its place: the measures
+/// of text boxes, the legend's place and size, and what `Ansicht` derives.
+struct Zeichnung {
+    Dokument &dokument;
+    Ansicht &ansicht;
+    const Auswahl &auswahl;
+    Gestenlage &geste;
+    Legendenblatt &legende;
+    const Uhr &uhr;
+};
+
+/// Redraws the whole canvas: page setup, then every layer over the ones before it.
+void VorschauZeichnen(Zeichenfläche &fläche, Zeichnung &z);
+
+/// One print run on `fläche`, whose user units are centimetres already. No page setup, no grid, no
+/// marks. Sets the printing flag and the line width for its length only; an exception passes through
+/// with both put back.
+void DruckZeichnen(Zeichenfläche &fläche, Zeichnung &z);
+
+} // namespace kw

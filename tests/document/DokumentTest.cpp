@@ -1,0 +1,161 @@
+#include "document/Dokument.h"
+#include "document/Chronik.h"
+#include "document/Codepage.h"
+#include "document/UndoRing.h"
+#include "document/Zahlen.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+using namespace kw;
+
+TEST(Zahlen, lesenEndetVorDemErstenFremdenZeichen) {
+    const std::pair<const char *, double> fälle[] = {
+        {"", 0},    {"  4.25cm", 4.25}, {"-.5", -0.5}, {"+7", 7},  {"12.03.1975", 12.03},
+        {"1e5", 1}, {"1,5", 1},         {"0x10", 0},   {"-", 0},   {".", 0},
+        {"5.", 5},  {"inf", 0},         {"- 5", 0},    {"--5", 0}, {"nan", 0},
+        {"$81", 0}, {"1 2", 1},         {"-0", 0}};
+    for (const auto &[text, wert] : fälle) EXPECT_EQ(ZahlLesen(text), wert) << text;
+    const std::string riesig(5000, '9');
+    EXPECT_TRUE(std::isfinite(static_cast<float>(ZahlLesen(riesig))));
+    EXPECT_LT(ZahlLesen("-" + riesig), -1e38);
+    EXPECT_EQ(ZahlLesen("0." + std::string(5000, '0') + "1"), 0);
+}
+
+TEST(Zahlen, schreibenGibtSiebenStellenOhneExponent) {
+    const std::pair<double, const char *> fälle[] = {{0, "0"},
+                                                     {-0.0, "0"},
+                                                     {8.4, "8.4"},
+                                                     {0.1 + 0.2, "0.3"},
+                                                     {-1.25, "-1.25"},
+                                                     {100, "100"},
+                                                     {25.4 / 3, "8.466666"},
+                                                     {1234567.8, "1234568"},
+                                                     {123456789, "123456800"},
+                                                     {9999999.7, "10000000"},
+                                                     {0.00001234, "0.00001234"},
+                                                     {-1e-50, "0"},
+                                                     {std::nan(""), "0"},
+                                                     {-std::numeric_limits<double>::infinity(), "0"}};
+    for (const auto &[wert, text] : fälle) EXPECT_EQ(ZahlSchreiben(wert), text) << wert;
+    EXPECT_EQ(ZahlSchreiben(1e300).size(), 39U);
+    for (const auto *const text : {"0.35", "29.7", "-3.125", "16777220", "0.0000001"}) {
+        EXPECT_EQ(ZahlSchreiben(ZahlLesen(text)), text);
+    }
+}
+
+TEST(Zahlen, rundenGehtZumGeradenNachbarn) {
+    EXPECT_EQ(Gerundet(0.125, 2), 0.12);
+    EXPECT_EQ(Gerundet(0.375, 2), 0.38);
+    EXPECT_EQ(Gerundet(-2.5, 0), -2);
+    EXPECT_EQ(Gerundet(1e300, 9), 1e300);
+    EXPECT_EQ(Ganzzahl16(2.5), 2);
+    EXPECT_EQ(Ganzzahl16(1e9), 32767);
+    EXPECT_EQ(Ganzzahl16(-1e9), -32768);
+    EXPECT_EQ(Ganzzahl16(std::nan("")), 0);
+    EXPECT_EQ(Dreistellig(7) + Dreistellig(42) + Dreistellig(1000), "0070421000");
+}
+
+TEST(Codepage, jedesByteÜbersteht) {
+    std::string alle;
+    for (int byte = 0; byte < 256; ++byte) alle += static_cast<char>(byte);
+    EXPECT_EQ(NachCodepage(NachUtf8(alle)), alle);
+    EXPECT_EQ(NachUtf8("\x80\xE4\xDF\x81"), "€äß\xC2\x81");
+    // Missing in the code page; broken off; overlong; surrogate; too large; a lone following byte.
+    EXPECT_EQ(NachCodepage("日ő😀|\xC3|\xC0\xAF|\xED\xA0\x80|\xF4\x90\x80\x80|\xBF\xE2\x82"), "???|?|??|???|????|???");
+    EXPECT_EQ(NachCodepage("\xC2\x80"), "?") << "byte 80 is the euro";
+}
+
+TEST(Dokument, vergibtFreieNummernZuerst) {
+    Dokument d;
+    EXPECT_EQ(d.NeuePersNr(), "001");
+    d.cboPersonen = {"001_", "003_"};
+    d.lstGelöschtePersNr = {"007", "002"};
+    for (const auto *const nr : {"007", "002", "003"}) EXPECT_EQ(d.NeuePersNr(), nr) << "list order, then count plus 1";
+    for (int i = 0; i < 999; ++i) d.cboPartnerschaftsLinien.Anhängen("");
+    EXPECT_EQ(d.NeuePLinienNr(), "1000");
+}
+
+TEST(Dokument, freieNummernEndenBeimLetztenSatz) {
+    Dokument d;
+    d.lstGelöschtePersNr = {"009"};
+    d.lstGelöschtePLinien = {"009"};
+    d.cboPersonen = {"002_", "7_x", "", "005_"};
+    d.FreieNummernAufbauen();
+    EXPECT_EQ(d.lstGelöschtePersNr, (Satzliste{"001", "003", "004"}));
+    EXPECT_TRUE(d.lstGelöschtePLinien.Leer());
+    d.cboPersonen = {"003_", "001_"};
+    d.FreieNummernAufbauen();
+    EXPECT_EQ(d.NeuePersNr(), "003") << "in use already: meant";
+
+    const Satzliste speicher{"002_a", "001_b", "002_c", "4"};
+    const Nummernverzeichnis verzeichnis(speicher);
+    EXPECT_EQ(verzeichnis.Position("002"), 0) << "the first of a number wins";
+    EXPECT_EQ(verzeichnis.Position("001"), 1);
+    EXPECT_EQ(verzeichnis.Position("4"), 3);
+    EXPECT_EQ(verzeichnis.Position("003"), -1);
+}
+
+TEST(UndoRing, fasstFünfSchritte) {
+    UndoRing ring;
+    Dokument d;
+    const auto personen = [&d] { return d.cboPersonen.Anzahl(); };
+    EXPECT_FALSE(ring.Rückgängig(d));
+    for (int i = 0; i < 9; ++i) { // more than once round
+        d.cboPersonen.Anhängen("p");
+        d.cboPfeile.Anhängen("e");
+        ring.Sichern(d);
+        EXPECT_EQ(ring.UndoSchritte(), std::min(i, 5));
+        EXPECT_EQ(ring.UndoFüllung(), std::min(i + 1, 6));
+    }
+    EXPECT_EQ(ring.UndoPos(), 3);
+    d.lstGelöschtePersNr = d.lstGelöschtePLinien = {"002"};
+    d.Papiercode = 11;
+    for (int i = 8; i >= 4; --i) {
+        EXPECT_TRUE(ring.Rückgängig(d));
+        EXPECT_EQ(personen(), i);
+        EXPECT_EQ(d.cboPfeile.Anzahl(), i);
+    }
+    EXPECT_TRUE(d.lstGelöschtePersNr.Leer() && d.lstGelöschtePLinien.Leer());
+    EXPECT_EQ(d.Papiercode, 11) << "the page is in no snapshot";
+    EXPECT_FALSE(ring.Rückgängig(d));
+    EXPECT_EQ(personen(), 4);
+    for (int i = 5; i <= 9; ++i) {
+        EXPECT_TRUE(ring.Wiederholen(d));
+        EXPECT_EQ(personen(), i);
+    }
+    EXPECT_FALSE(ring.Wiederholen(d));
+
+    ring.Rückgängig(d);
+    ring.Rückgängig(d);
+    d.SpeicherLeeren();
+    ring.Sichern(d);
+    EXPECT_EQ(ring.RedoSchritte(), 0) << "a change takes the way forward";
+    EXPECT_EQ(ring.UndoSchritte(), 4);
+    EXPECT_TRUE(ring.Rückgängig(d));
+    EXPECT_EQ(personen(), 7);
+    ring.Leeren();
+    ring.Sichern(d);
+    EXPECT_EQ(ring.UndoPos(), 1);
+    EXPECT_FALSE(ring.Rückgängig(d)) << "the first snapshot is no step";
+}
+
+TEST(Chronik, behältDieViertenNeuesten) {
+    Chronik chronik;
+    const auto alle = [&chronik] { return chronik[1] + "," + chronik[2] + "," + chronik[3] + "," + chronik[4]; };
+    chronik.Aktualisieren("  ");
+    chronik.Aktualisieren("");
+    for (const auto *const pfad : {"a", "b", "c", "d", "e"}) chronik.Aktualisieren(pfad);
+    EXPECT_EQ(alle(), "e,d,c,b");
+    chronik.Aktualisieren("c");
+    EXPECT_EQ(alle(), "e,d,c,b") << "a known one keeps its place";
+    chronik.Vorziehen(3);
+    EXPECT_EQ(alle(), "c,e,d,b");
+    chronik.Eintragen("f");
+    chronik.Eintragen("d");
+    EXPECT_EQ(alle(), "f,c,e,d");
+    EXPECT_THROW(chronik[0], std::out_of_range);
+    EXPECT_THROW(chronik[5], std::out_of_range);
+}

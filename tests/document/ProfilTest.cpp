@@ -1,0 +1,184 @@
+#include "document/Profil.h"
+
+#include "document/Codepage.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <unistd.h>
+
+using namespace kw;
+using namespace std::string_literals;
+
+namespace {
+
+std::vector<std::string> Geteilt(const std::string &text, char trenner) {
+    std::vector<std::string> teile;
+    std::istringstream strom(text);
+    for (std::string teil; std::getline(strom, teil, trenner);) teile.push_back(teil);
+    if (text.ends_with(trenner)) teile.emplace_back();
+    return teile;
+}
+
+/// A recorded session with the profile calls, all texts in the bytes of the code page.
+struct Aufnahme {
+    std::string Name, Vorher, Rufe, Antworten;
+};
+
+std::string Entschlüsselt(const std::string &zeile) {
+    std::string text;
+    for (size_t i = 0; i < zeile.size(); ++i) {
+        if (zeile[i] != '\\') {
+            text += zeile[i];
+            continue;
+        }
+        const char art = zeile[++i];
+        if (art == 'x') {
+            text += static_cast<char>(std::stoi(zeile.substr(i + 1, 2), nullptr, 16));
+            i += 2;
+        } else {
+            text += art == 'n' ? '\n' : art == 'r' ? '\r' : art == 't' ? '\t' : art;
+        }
+    }
+    return text;
+}
+
+/// `profile/cases.txt`: for each case "# name", then file, calls and answers, a line each with escapes.
+std::vector<Aufnahme> Aufnahmen() {
+    std::ifstream datei(KW_TESTDATEN "/document/profile/cases.txt");
+    std::vector<Aufnahme> alle;
+    for (std::string name, vorher, rufe, antworten; std::getline(datei, name) && std::getline(datei, vorher) &&
+                                                    std::getline(datei, rufe) && std::getline(datei, antworten);) {
+        alle.push_back({name.substr(2), Entschlüsselt(vorher), Entschlüsselt(rufe), Entschlüsselt(antworten)});
+    }
+    return alle;
+}
+
+std::string Klammern(char art, std::string ergebnis) {
+    ergebnis = NachCodepage(ergebnis);
+    std::replace(ergebnis.begin(), ergebnis.end(), '\0', '|');
+    return art + " "s + std::to_string(ergebnis.size()) + " [" + ergebnis + "]";
+}
+
+std::string Antwort(const std::string &datei, const std::string &ruf) {
+    const auto teile = Geteilt(NachUtf8(ruf), '\t');
+    switch (ruf[0]) {
+    case 'W': return "W "s + (ProfilSchreiben(datei, teile.at(1), teile.at(2), teile.at(3)) ? "1" : "0");
+    case 'D': return "D "s + (ProfilSchreiben(datei, teile.at(1), {}, {}) ? "1" : "0");
+    case 'R': return Klammern('R', ProfilLesen(datei, teile.at(1), teile.at(2)));
+    default: return Klammern('K', ProfilLesen(datei, teile.at(1), {}));
+    }
+}
+
+class AufgenommenesProfil : public testing::TestWithParam<Aufnahme> {};
+
+} // namespace
+
+TEST_P(AufgenommenesProfil, antwortetWieAufgenommen) {
+    const auto &fall = GetParam();
+    const auto pfad =
+        std::filesystem::temp_directory_path() / ("kw-profil-" + fall.Name + "-" + std::to_string(::getpid()) + ".ini");
+    std::ofstream(pfad) << fall.Vorher;
+    std::istringstream rufe(fall.Rufe);
+    std::istringstream antworten(fall.Antworten);
+    int verglichen = 0;
+    for (std::string ruf, antwort; std::getline(rufe, ruf) && std::getline(antworten, antwort); ++verglichen) {
+        EXPECT_EQ(Antwort(pfad, ruf), antwort) << ruf;
+    }
+    EXPECT_GT(verglichen, 0);
+    std::filesystem::remove(pfad);
+}
+
+INSTANTIATE_TEST_SUITE_P(Alle, AufgenommenesProfil, testing::ValuesIn(Aufnahmen()),
+                         [](const auto &fall) { return fall.param.Name; });
+
+TEST(Profil, wasDerLesepufferNichtFasstWirdAbgeschnitten) {
+    ASSERT_EQ(Aufnahmen().size(), 24U); // a data file that is not found must not pass as an empty one
+    Profil profil;
+    std::string linie;
+    for (int i = 0; i < 700; ++i) linie += "1.5^2.5_";
+    profil.Schreiben("LINED", "0", linie);
+    EXPECT_EQ(profil.Lesen("LINED", "0"), linie.substr(0, 4095));
+    EXPECT_TRUE(profil.WirdGekürzt("LINED", "0"));
+    EXPECT_NE(profil.Inhalt().find(linie), std::string::npos) << "written whole all the same";
+    profil.Schreiben("LINED", "1", std::string(4095, 'x'));
+    EXPECT_FALSE(profil.WirdGekürzt("LINED", "1"));
+    // The limit counts bytes of the file, not of memory.
+    std::string umlaute;
+    for (int i = 0; i < 5000; ++i) umlaute += "ä";
+    profil.Schreiben("LINED", "2", umlaute);
+    EXPECT_EQ(profil.Lesen("LINED", "2"), umlaute.substr(0, 2 * 4095));
+
+    for (int i = 0; i < 1100; ++i) profil.Schreiben("OBJECTS", std::to_string(i), "x");
+    const auto liste = profil.SchlüsselListe("OBJECTS");
+    EXPECT_EQ(liste.size(), 4094U);
+    EXPECT_TRUE(liste.ends_with("\0"s
+                                "1039\0"s
+                                "1040"s))
+        << "the last name has lost its NUL";
+    EXPECT_EQ(profil.SchlüsselAnzahl("OBJECTS"), 1100U);
+    EXPECT_EQ(profil.Lesen("OBJECTS", "1099"), "x");
+}
+
+TEST(Profil, liestWieDieAufrufeDesSystems) {
+    const Profil profil(
+        "vorn=1\r\n[Eins]\r\na = \"x\" \rb='y'\nc=\"\nd=\"z'\ne=' '\n[Eins\nf=1\n[ eins ]\ng=2\n[ZWEI]]\n0=n\0l\n"s);
+    EXPECT_EQ(profil.Lesen("eins", "A"), "x") << "a lone CR ends a line too";
+    EXPECT_EQ(profil.Lesen("Eins", "b"), "y");
+    EXPECT_EQ(profil.Lesen("Eins", "c"), "\"");
+    EXPECT_EQ(profil.Lesen("Eins", "d"), "\"z'");
+    EXPECT_EQ(profil.Lesen("Eins", "e"), " ");
+    EXPECT_EQ(profil.Lesen("Eins", "f"), "1") << "a header without its bracket is none";
+    EXPECT_EQ(profil.Lesen("Eins", "g"), "") << "only the first section of a name is read";
+    EXPECT_EQ(profil.AbschnittAnzahl("EINS"), 2);
+    EXPECT_EQ(profil.Lesen("zwei]", "0"), "n l") << "a NUL would end the name in a key list";
+    EXPECT_EQ(profil.Lesen("", "vorn"), "") << "what stands before the first header is in no section";
+}
+
+TEST(Profil, schreibtAnOrtUndStelleUndBehältFremdes) {
+    Profil profil(
+        NachCodepage("; Kopf\n\n; noch einer\n[A]\n Größe = 1\n;alt\n\n[B]\n0=b\n[a]\n9=alt\n[C]\nkein Schlüssel\n"));
+    profil.Schreiben("a", "GRÖSSE", "fremd");
+    profil.Schreiben("a", "GRÖßE", "2");
+    profil.Schreiben("b", "1", "x\r\ny\0z"s);
+    profil.Schreiben("b", "1", "kürzer\n[X]");
+    profil.Schreiben("Neu", "k", "日");
+    const auto erwartet =
+        "; Kopf\r\n; noch einer\r\n[A]\r\nGröße=2\r\n;alt\r\nGRÖSSE=fremd\r\n[B]\r\n0=b\r\n1=kürzer [X]\r\n"
+        "[a]\r\n9=alt\r\n[C]\r\nkein Schlüssel\r\n[Neu]\r\nk=?\r\n"s;
+    EXPECT_EQ(NachUtf8(profil.Inhalt()), NachUtf8(NachCodepage(erwartet)));
+    EXPECT_EQ(profil.Lesen("c", "k") + profil.Lesen("neu", "K"), "?");
+    // Otherwise the second section's records would be back at the next load.
+    profil.AbschnittLöschen("A");
+    EXPECT_FALSE(profil.HatAbschnitt("a"));
+    EXPECT_EQ(profil.Lesen("B", "0"), "b");
+    profil.Schreiben("A", "0", "neu");
+    EXPECT_EQ(Profil(profil.Inhalt()).SchlüsselListe("a"), "0\0"s);
+}
+
+TEST(Profil, ersetztKeineDateiDieSichNichtLesenLässt) {
+    const auto ordner = std::filesystem::temp_directory_path() / ("kw-zu-gross-" + std::to_string(::getpid()));
+    std::ofstream(ordner) << "[A]\n";
+    std::filesystem::resize_file(ordner, GrößteDatei + 1);
+    EXPECT_FALSE(ProfilSchreiben(ordner, "A", "k", "w"));
+    EXPECT_EQ(std::filesystem::file_size(ordner), GrößteDatei + 1);
+    std::filesystem::remove(ordner);
+}
+
+TEST(Profil, bleibtSchnellBeiJedemInhalt) {
+    // Seconds would be minutes if any call looked through the file for each key.
+    const auto beginn = std::chrono::steady_clock::now();
+    std::string viele = "[A]\n";
+    for (int i = 0; i < 300000; ++i) viele += std::to_string(i) + "=w\n";
+    Profil profil(viele + std::string(1000000, '\n') + "[B]\n" + std::string(1000000, '['));
+    for (int i = 0; i < 300000; i += 10) {
+        ASSERT_EQ(profil.Lesen("a", std::to_string(i)), "w");
+        profil.Schreiben("Neu", std::to_string(i), "x");
+    }
+    EXPECT_EQ(profil.SchlüsselAnzahl("neu"), 30000U);
+    EXPECT_LT(std::chrono::steady_clock::now() - beginn, std::chrono::seconds(10));
+}

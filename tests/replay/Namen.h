@@ -1,0 +1,27 @@
+#pragma once
+
+#include "app/frmMain.h"
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+
+namespace kw {
+
+/// One variable under its own name: its text, and how to set it from one (none for what is derived).
+struct Variable {
+    std::function<std::string()> Lesen;
+    std::function<void(const std::string &)> Setzen;
+};
+
+/// Everything of a main window that scripts can name.
+struct Namen {
+    std::map<std::string, Variable> Variablen;
+    std::map<std::string, Satzliste *> Listen;
+    std::map<std::string, std::function<Steuerfläche()>> Flächen;
+
+    explicit Namen(frmMain &haupt);
+};
+
+} // namespace kw

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "platform/Benutzer.h"
+#include "platform/Drucker.h"
+#include "platform/Uhr.h"
+
+#include <deque>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace kw {
+
+/// A user who does what the script says: answers wait in a strict queue.
+class DrehbuchBenutzer : public Benutzer {
+  public:
+    explicit DrehbuchBenutzer(std::ostream &aus) : aus_(aus) {}
+
+    struct Vorbereitet {
+        bool Datei = false; ///< a path for a file dialog, else a button of a box
+        bool Abgebrochen = false;
+        Antwort Knopf = Antwort::Abbrechen;
+        std::string Pfad;
+    };
+    struct Zeitgeber {
+        std::string Name;
+        int Fällig; ///< ms since the start
+    };
+
+    std::deque<Vorbereitet> Antworten;
+    std::string Kästen; ///< boxes and dialogs since they were last asked for, a line each
+    std::vector<Zeitgeber> ZeitgeberListe;
+    int Jetzt = 0; ///< ms since the start
+    bool SchließenVerlangt = false;
+
+    Antwort Fragen(const Nachfrage &nachfrage) override;
+    std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) override { return DateiWählen(wahl); }
+    std::optional<std::string> DateiSpeichern(const Dateiwahl &wahl) override { return DateiWählen(wahl); }
+    void ZeitgeberStarten(std::string_view name, int ms) override;
+    void NachErstemBild(std::function<void()> arbeit) override { arbeit(); }
+    void AnzeigeAuffrischen() override {}
+    void FensterSchließen() override { SchließenVerlangt = true; }
+    std::string Desktopordner() const override { return "/home/user/Desktop/"; }
+    std::vector<std::string> Schriftarten() const override { return {"Arial", "Courier New", "Times New Roman"}; }
+
+  private:
+    std::optional<std::string> DateiWählen(const Dateiwahl &wahl);
+    /// The next answer when it is of the kind asked for; else the prompt shows as unanswered.
+    std::optional<Vorbereitet> Nächste(bool datei, const std::string &titel);
+
+    std::ostream &aus_;
+};
+
+class DrehbuchUhr : public Uhr {
+  public:
+    Datum Tag{2026, 3, 12};
+    Datumsfolge Reihenfolge = Datumsfolge::TagMonatJahr;
+
+    Datum Heute() const override { return Tag; }
+    Datumsfolge Folge() const override { return Reihenfolge; }
+};
+
+class DrehbuchDrucker : public Drucker {
+  public:
+    std::vector<std::string> Namen;
+    Druckränder Rand{0.4, 0.4, 0.4, 0.4};
+
+    std::optional<std::string> DeviceName() const override {
+        return Namen.empty() ? std::nullopt : std::optional(Namen.front());
+    }
+    Druckränder Ränder() const override { return Rand; }
+    int Orientation() const override { return 1; }
+};
+
+} // namespace kw

@@ -1,0 +1,22 @@
+#include "replay/Skript.h"
+
+#include <fstream>
+#include <iostream>
+
+int main(int argc, char **argv) {
+    if (argc < 2) {
+        kw::Wiedergabe wiedergabe(std::cout);
+        return wiedergabe.Ausführen(std::cin);
+    }
+    int ergebnis = 0;
+    for (int i = 1; i < argc; ++i) {
+        std::ifstream skript(argv[i]);
+        if (!skript) {
+            std::cerr << "kinwright-replay: cannot read " << argv[i] << "\n";
+            return 2;
+        }
+        kw::Wiedergabe wiedergabe(std::cout);
+        ergebnis = std::max(ergebnis, wiedergabe.Ausführen(skript));
+    }
+    return ergebnis;
+}
