@@ -65,12 +65,31 @@ void EinstellungenEintragen(const Einstellungen &e, Profil &profil) {
     for (int platz = 1; platz <= Chronik::Plätze; ++platz) schreiben(LetzterPfadSchlüssel(platz), e.Zuletzt[platz]);
 }
 
+Einstellungen EinstellungenAus(const std::string &datei) {
+    std::string inhalt;
+    if (!DateiVorhanden(datei)) {
+        Einstellungen e;
+        e.Werkzeugleiste = true; // the very first start shows the palette
+        return e;
+    }
+    DateiLesen(datei, inhalt);
+    return EinstellungenLesen(Profil(std::move(inhalt)));
+}
+
+void EinstellungenSchreiben(const Einstellungen &e, const std::string &datei) {
+    std::string inhalt;
+    if (DateiVorhanden(datei) && !DateiLesen(datei, inhalt).Gelungen()) return;
+    std::error_code fehler; // a folder that can't be made loses the settings, as one without permission does
+    std::filesystem::create_directories(std::filesystem::path(datei).parent_path(), fehler);
+    Profil profil(std::move(inhalt));
+    EinstellungenEintragen(e, profil);
+    DateiSchreiben(datei, profil.Inhalt());
+}
+
 std::string EinstellungsDatei(const std::string &programmordner, const std::string &konfigordner) {
     const std::string daneben = programmordner + "/prog.ini";
     if (DateiVorhanden(daneben)) return daneben;
     if (!IstSystemordner(programmordner) && ::access(programmordner.c_str(), W_OK) == 0) return daneben;
-    std::error_code fehler; // a folder that can't be made loses the settings, as one without permission does
-    std::filesystem::create_directories(konfigordner, fehler);
     return konfigordner + "/prog.ini";
 }
 

@@ -31,8 +31,16 @@ Einstellungen EinstellungenLesen(const Profil &profil);
 /// Writes all keys but `agedisplay` and `language`, which are written when their dialogs are confirmed.
 void EinstellungenEintragen(const Einstellungen &e, Profil &profil);
 
+/// The settings of that file. A file that isn't there gives the defaults of the very first start, one that
+/// can't be read those of an empty file.
+Einstellungen EinstellungenAus(const std::string &datei);
+
+/// Writes them into that file, whose foreign keys stay; its folder is made. A folder without permission
+/// loses the settings silently.
+void EinstellungenSchreiben(const Einstellungen &e, const std::string &datei);
+
 /// Where the settings file lives: in the program's folder when it is there already or that folder is
-/// writable and no system folder, else in `konfigordner` (which is made). Both without a closing "/".
+/// writable and no system folder, else in `konfigordner`. Both without a closing "/".
 std::string EinstellungsDatei(const std::string &programmordner, const std::string &konfigordner);
 
 } // namespace kw

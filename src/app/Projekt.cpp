@@ -6,12 +6,6 @@
 
 namespace kw {
 
-namespace {
-
-constexpr std::string_view KeinProjekt = "not a Kinwright project";
-
-} // namespace
-
 void Projekt::ProjektLaden() {
     frmMain &h = haupt_;
     h.bedienung["btnLegende"].Checked = false;
@@ -34,10 +28,8 @@ void Projekt::ProjektLaden() {
 void Projekt::InhaltLesen() {
     frmMain &h = haupt_;
     std::string inhalt;
-    const Dateibefund befund = DateiLesen(Projektdatei, inhalt);
+    DateiLesen(Projektdatei, inhalt); // a file that can't be read is an empty one
     const Profil profil(std::move(inhalt));
-    ladebefund_ = befund.Meldung;
-    gelesen_ = befund.Gelungen();
 
     SeiteLesen(profil, h.dokument);
     h.SeiteAnzeigen();
@@ -52,9 +44,6 @@ void Projekt::InhaltLesen() {
         h.dokument.FreieNummernAufbauen();
     } catch (const FeldFehlt &) { // a damaged project, or an old one without a legend
     }
-    if (!gelesen_) return;
-    ladebefund_ = Ladeprüfung(profil, h.dokument);
-    gelesen_ = ladebefund_ != KeinProjekt;
 }
 
 void Projekt::Öffnen(const std::string &datei) {

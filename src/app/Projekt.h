@@ -35,18 +35,11 @@ class Projekt {
     /// dropped, or there were none.
     bool NachÄnderungenFragen();
 
-    /// Empty after a load that read the whole file; else what went wrong, in English, for the command line.
-    const std::string &Ladebefund() const { return ladebefund_; }
-    /// Whether anything of a project could be read.
-    bool IstGelesen() const { return gelesen_; }
-
   private:
     void InhaltLesen();
     bool ErsetzenErlaubt(const std::string &datei);
 
     frmMain &haupt_;
-    std::string ladebefund_;
-    bool gelesen_ = false;
 };
 
 } // namespace kw

@@ -78,11 +78,7 @@ void frmMain::ListenFüllen() {
 /// The settings, with their defaults; a damaged file gives defaults and no message.
 void frmMain::ZweiteStufe() {
     IniDatei = start.IniDatei;
-    std::string inhalt;
-    const bool ersterStart = !DateiVorhanden(IniDatei);
-    if (!ersterStart) DateiLesen(IniDatei, inhalt);
-    einstellungen = EinstellungenLesen(Profil(std::move(inhalt)));
-    einstellungen.Werkzeugleiste = einstellungen.Werkzeugleiste || ersterStart;
+    einstellungen = EinstellungenAus(IniDatei);
 
     Textvorlage = "-5_-5_" + einstellungen.stdfontname + "_" + einstellungen.stdfont_m + "_0_0_0_0_0__0_0";
     ansicht.Farbschema = einstellungen.Farbschema;
@@ -133,11 +129,7 @@ void frmMain::EinstellungenSichern() {
     einstellungen.Papiercode = dokument.Papiercode;
     einstellungen.Raster = cboRaster.ListIndex;
     einstellungen.Werkzeugleiste = bereich.WerkzeugleisteSichtbar();
-    std::string inhalt;
-    if (DateiVorhanden(IniDatei) && !DateiLesen(IniDatei, inhalt).Gelungen()) return;
-    Profil profil(std::move(inhalt));
-    EinstellungenEintragen(einstellungen, profil);
-    DateiSchreiben(IniDatei, profil.Inhalt()); // a folder without permission loses the settings silently
+    EinstellungenSchreiben(einstellungen, IniDatei);
 }
 
 void frmMain::ZeitgeberAbgelaufen(std::string_view name) {

@@ -10,6 +10,7 @@
 namespace kw {
 
 // Field positions, one namespace a record kind. Lengths are centimetres on the page.
+// clang-format off
 namespace PersonFeld {
 enum : int { Nr, Symboltyp, PosX, PosY, Groesse, IndexPerson, Sterbealter, Sucht, Erkrankung, Vorname, Nachname,
              Geburtsdatum, ElternLinie, Zwilling, Anzahl };
@@ -33,6 +34,7 @@ enum : int { TextX, TextY, Schriftart, Schriftgroesse, Farbe, Fett, Kursiv, Unte
 /// Fields of a text box that has not been measured yet.
 constexpr int AnzahlUngemessen = TextBreite;
 }
+// clang-format on
 
 /// The genogram: seven stores of text records, which are its only representation, the lists of free
 /// numbers, and the page and legend settings that are saved with it. Owned by the main window; knows

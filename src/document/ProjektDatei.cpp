@@ -200,7 +200,7 @@ std::string Ladeprüfung(const Profil &profil, const Dokument &dokument) {
         vorhanden += profil.SchlüsselAnzahl(zeile.Abschnitt);
         gelesen += static_cast<size_t>((dokument.*zeile.Liste).Anzahl());
     }
-    if (!bekannt) return "not a Kinwright project";
+    if (!bekannt) return std::string(KeinProjekt);
     const auto schaden = ErsterSchaden(profil);
     if (schaden.empty() || gelesen >= vorhanden) return schaden;
     return schaden + "; " + std::to_string(gelesen) + " of " + std::to_string(vorhanden) + " records read";

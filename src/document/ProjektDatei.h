@@ -4,6 +4,7 @@
 #include "document/Profil.h"
 
 #include <string>
+#include <string_view>
 
 // The document's side of loading and saving a project, on a profile in memory. The main window calls these
 // in the order of its own steps; each of them has what an earlier one left when a later one fails.
@@ -25,6 +26,9 @@ void LegendeLesen(const Profil &profil, Dokument &dokument);
 /// Writes the whole document, in place of what the profile had. Foreign sections, and foreign keys beside
 /// the page settings, stay.
 void ProjektEintragen(const Dokument &dokument, Profil &profil);
+
+/// What `Ladeprüfung` says of a file that holds none of the format's sections.
+constexpr std::string_view KeinProjekt = "not a Kinwright project";
 
 /// To be called after a load: empty when the file was read as a whole, else what is damaged or was not
 /// read, and where, as a plain part of an English sentence: the first such place, and how many records

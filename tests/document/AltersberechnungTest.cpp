@@ -25,33 +25,22 @@ std::string Ergebnis(const std::string &text, const FesteUhr &uhr = {}) {
 } // namespace
 
 TEST(Altersberechnung, textWirdAlterUndJahr) {
-    const std::pair<const char *, const char *> fälle[] = {{"195", "||!"},
-                                                           {"äöü", "||!"}, // three characters, though six bytes
-                                                           {"1950", "76|1950|"},
-                                                           {"2100", "-74|2100|"},
-                                                           {"2101", "-75|2101|!"},
-                                                           {"2999", "-973|2999|!"},
-                                                           {"3000", "||!"},
-                                                           {"0123", "1903|0123|"},
-                                                           {"0099", "||!"},
-                                                           {"-123", "||!"},
-                                                           {"1.5.", "||!"},
-                                                           {"abcd", "||!"},
-                                                           {"12.03.1975", "51|1975|"},
-                                                           {"13.03.1975", "50|1975|"},
-                                                           {"12.04.1975", "50|1975|"},
-                                                           {"31.02.1975", "||!"},
-                                                           {"31.12.1799", "226|1799|"},
-                                                           {"12.03.2027", "-1|2027|"},
-                                                           {"1.5.2500", "-475|2500|"},
-                                                           {"2500-05-01", "-475|2500|!"},
-                                                           {"29.02.2024", "2|2024|"},
-                                                           {"29.02.1900", "||!"},
-                                                           {"29.02.2000", "26|2000|"},
-                                                           {"12.03.1975x", "||!"},
-                                                           {"12.03.", "||!"},
-                                                           {"1.2.3.4", "||!"}};
-    for (const auto &[text, erwartet] : fälle) EXPECT_EQ(Ergebnis(text), erwartet) << text;
+    struct Fall {
+        const char *Text, *Erwartet;
+    };
+    for (const auto &[text, erwartet] :
+         {Fall{"1950", "76|1950|"}, Fall{"2100", "-74|2100|"}, Fall{"2101", "-75|2101|!"}, Fall{"2999", "-973|2999|!"},
+          Fall{"0123", "1903|0123|"}, Fall{"12.03.1975", "51|1975|"}, Fall{"13.03.1975", "50|1975|"},
+          Fall{"12.04.1975", "50|1975|"}, Fall{"31.12.1799", "226|1799|"}, Fall{"12.03.2027", "-1|2027|"},
+          Fall{"1.5.2500", "-475|2500|"}, Fall{"2500-05-01", "-475|2500|!"}, Fall{"29.02.2024", "2|2024|"},
+          Fall{"29.02.2000", "26|2000|"}}) {
+        EXPECT_EQ(Ergebnis(text), erwartet) << text;
+    }
+    // "äöü" has six bytes, and three characters.
+    for (const auto *const text : {"195", "äöü", "3000", "0099", "-123", "1.5.", "abcd", "31.02.1975", "29.02.1900",
+                                   "12.03.1975x", "12.03.", "1.2.3.4"}) {
+        EXPECT_EQ(Ergebnis(text), "||!") << text;
+    }
 }
 
 TEST(Altersberechnung, geburtstagZähltAmTagSelbst) {
@@ -92,23 +81,17 @@ TEST(Altersberechnung, datumInDerFolgeDesGebiets) {
         Datumsfolge Folge;
         std::optional<Datum> Erwartet;
     };
-    const Fall fälle[] = {{"03/04/1980", TagMonatJahr, Datum{1980, 4, 3}},
-                          {"03/04/1980", MonatTagJahr, Datum{1980, 3, 4}},
-                          {"12/31/1980", TagMonatJahr, Datum{1980, 12, 31}}, // only the other order is a date
-                          {"31.12-1980", MonatTagJahr, Datum{1980, 12, 31}},
-                          {"1980-04-03", MonatTagJahr, Datum{1980, 4, 3}}, // a year in front is one everywhere
-                          {"80-04-03", JahrMonatTag, Datum{1980, 4, 3}},
-                          {"01-01-1950", JahrMonatTag, Datum{1950, 1, 1}},
-                          {"10.02.1950", JahrMonatTag, Datum{1950, 2, 10}},
-                          {"1.2.29", TagMonatJahr, Datum{2029, 2, 1}},
-                          {"1.2.30", TagMonatJahr, Datum{1930, 2, 1}},
-                          {"1.2.123", TagMonatJahr, Datum{123, 2, 1}},
-                          {" 1.2.1980 ", TagMonatJahr, Datum{1980, 2, 1}},
-                          {"1.2.19800", TagMonatJahr, {}},
-                          {"1. 2.1980", TagMonatJahr, {}},
-                          {"00.01.1980", TagMonatJahr, {}},
-                          {"1..1980", TagMonatJahr, {}},
-                          {"-1.2.1980", TagMonatJahr, {}},
-                          {"", TagMonatJahr, {}}};
-    for (const auto &[text, folge, datum] : fälle) EXPECT_EQ(DatumLesen(text, folge), datum) << text;
+    for (const auto &[text, folge, datum] :
+         {Fall{"03/04/1980", TagMonatJahr, Datum{1980, 4, 3}}, Fall{"03/04/1980", MonatTagJahr, Datum{1980, 3, 4}},
+          // Only the other order is a date; a year in front is one everywhere.
+          Fall{"12/31/1980", TagMonatJahr, Datum{1980, 12, 31}}, Fall{"31.12-1980", MonatTagJahr, Datum{1980, 12, 31}},
+          Fall{"1980-04-03", MonatTagJahr, Datum{1980, 4, 3}}, Fall{"80-04-03", JahrMonatTag, Datum{1980, 4, 3}},
+          Fall{"01-01-1950", JahrMonatTag, Datum{1950, 1, 1}}, Fall{"10.02.1950", JahrMonatTag, Datum{1950, 2, 10}},
+          Fall{"1.2.29", TagMonatJahr, Datum{2029, 2, 1}}, Fall{"1.2.30", TagMonatJahr, Datum{1930, 2, 1}},
+          Fall{"1.2.123", TagMonatJahr, Datum{123, 2, 1}}, Fall{" 1.2.1980 ", TagMonatJahr, Datum{1980, 2, 1}}}) {
+        EXPECT_EQ(DatumLesen(text, folge), datum) << text;
+    }
+    for (const auto *const text : {"1.2.19800", "1. 2.1980", "00.01.1980", "1..1980", "-1.2.1980", ""}) {
+        EXPECT_FALSE(DatumLesen(text, TagMonatJahr)) << text;
+    }
 }

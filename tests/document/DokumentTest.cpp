@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 
 using namespace kw;
 
@@ -25,21 +24,17 @@ TEST(Zahlen, lesenEndetVorDemErstenFremdenZeichen) {
 }
 
 TEST(Zahlen, schreibenGibtSiebenStellenOhneExponent) {
-    const std::pair<double, const char *> fälle[] = {{0, "0"},
-                                                     {-0.0, "0"},
-                                                     {8.4, "8.4"},
-                                                     {0.1 + 0.2, "0.3"},
-                                                     {-1.25, "-1.25"},
-                                                     {100, "100"},
-                                                     {25.4 / 3, "8.466666"},
-                                                     {1234567.8, "1234568"},
-                                                     {123456789, "123456800"},
-                                                     {9999999.7, "10000000"},
-                                                     {0.00001234, "0.00001234"},
-                                                     {-1e-50, "0"},
-                                                     {std::nan(""), "0"},
-                                                     {-std::numeric_limits<double>::infinity(), "0"}};
-    for (const auto &[wert, text] : fälle) EXPECT_EQ(ZahlSchreiben(wert), text) << wert;
+    struct Fall {
+        double Wert;
+        const char *Text;
+    };
+    for (const auto &[wert, text] :
+         {Fall{0, "0"}, Fall{-0.0, "0"}, Fall{8.4, "8.4"}, Fall{0.1 + 0.2, "0.3"}, Fall{-1.25, "-1.25"},
+          Fall{100, "100"}, Fall{25.4 / 3, "8.466666"}, Fall{1234567.8, "1234568"}, Fall{123456789, "123456800"},
+          Fall{9999999.7, "10000000"}, Fall{0.00001234, "0.00001234"}, Fall{-1e-50, "0"}, Fall{std::nan(""), "0"},
+          Fall{-INFINITY, "0"}}) {
+        EXPECT_EQ(ZahlSchreiben(wert), text);
+    }
     EXPECT_EQ(ZahlSchreiben(1e300).size(), 39U);
     for (const auto *const text : {"0.35", "29.7", "-3.125", "16777220", "0.0000001"}) {
         EXPECT_EQ(ZahlSchreiben(ZahlLesen(text)), text);
@@ -142,7 +137,7 @@ TEST(UndoRing, fasstFünfSchritte) {
     EXPECT_FALSE(ring.Rückgängig(d)) << "the first snapshot is no step";
 }
 
-TEST(Chronik, behältDieViertenNeuesten) {
+TEST(Chronik, behältDieVierNeuesten) {
     Chronik chronik;
     const auto alle = [&chronik] { return chronik[1] + "," + chronik[2] + "," + chronik[3] + "," + chronik[4]; };
     chronik.Aktualisieren("  ");

@@ -18,9 +18,8 @@ namespace {
 
 std::vector<std::string> Geteilt(const std::string &text, char trenner) {
     std::vector<std::string> teile;
-    std::istringstream strom(text);
+    std::istringstream strom(text + trenner);
     for (std::string teil; std::getline(strom, teil, trenner);) teile.push_back(teil);
-    if (text.ends_with(trenner)) teile.emplace_back();
     return teile;
 }
 
@@ -29,31 +28,28 @@ struct Aufnahme {
     std::string Name, Vorher, Rufe, Antworten;
 };
 
+void PrintTo(const Aufnahme &fall, std::ostream *strom) { *strom << fall.Name; }
+
 std::string Entschlüsselt(const std::string &zeile) {
     std::string text;
     for (size_t i = 0; i < zeile.size(); ++i) {
-        if (zeile[i] != '\\') {
-            text += zeile[i];
-            continue;
-        }
-        const char art = zeile[++i];
-        if (art == 'x') {
-            text += static_cast<char>(std::stoi(zeile.substr(i + 1, 2), nullptr, 16));
-            i += 2;
-        } else {
-            text += art == 'n' ? '\n' : art == 'r' ? '\r' : art == 't' ? '\t' : art;
-        }
+        const char art = zeile[i] == '\\' ? zeile[++i] : ' ';
+        text += art == 'n' ? '\n' : art == 'r' ? '\r' : art == 't' ? '\t' : zeile[i];
+        if (art != 'x') continue;
+        text.back() = static_cast<char>(std::stoi(zeile.substr(i + 1, 2), nullptr, 16));
+        i += 2;
     }
     return text;
 }
 
-/// `profile/cases.txt`: for each case "# name", then file, calls and answers, a line each with escapes.
+/// `profile/cases.txt`: a case a line, its name, file, calls and answers split by tabs, with escapes in them.
 std::vector<Aufnahme> Aufnahmen() {
     std::ifstream datei(KW_TESTDATEN "/document/profile/cases.txt");
     std::vector<Aufnahme> alle;
-    for (std::string name, vorher, rufe, antworten; std::getline(datei, name) && std::getline(datei, vorher) &&
-                                                    std::getline(datei, rufe) && std::getline(datei, antworten);) {
-        alle.push_back({name.substr(2), Entschlüsselt(vorher), Entschlüsselt(rufe), Entschlüsselt(antworten)});
+    for (std::string zeile; std::getline(datei, zeile);) {
+        const auto teile = Geteilt(zeile, '\t');
+        alle.push_back(
+            {teile.at(0), Entschlüsselt(teile.at(1)), Entschlüsselt(teile.at(2)), Entschlüsselt(teile.at(3))});
     }
     return alle;
 }
@@ -161,12 +157,21 @@ TEST(Profil, schreibtAnOrtUndStelleUndBehältFremdes) {
 }
 
 TEST(Profil, ersetztKeineDateiDieSichNichtLesenLässt) {
-    const auto ordner = std::filesystem::temp_directory_path() / ("kw-zu-gross-" + std::to_string(::getpid()));
-    std::ofstream(ordner) << "[A]\n";
-    std::filesystem::resize_file(ordner, GrößteDatei + 1);
-    EXPECT_FALSE(ProfilSchreiben(ordner, "A", "k", "w"));
-    EXPECT_EQ(std::filesystem::file_size(ordner), GrößteDatei + 1);
-    std::filesystem::remove(ordner);
+    const std::string pfad = std::filesystem::temp_directory_path() / ("kw-zu-gross-" + std::to_string(::getpid()));
+    std::ofstream(pfad) << "[A]\n";
+    std::filesystem::resize_file(pfad, GrößteDatei + 1);
+    EXPECT_FALSE(ProfilSchreiben(pfad, "A", "k", "w"));
+    EXPECT_EQ(std::filesystem::file_size(pfad), GrößteDatei + 1);
+    std::string inhalt = "alt";
+    EXPECT_EQ(DateiLesen(pfad, inhalt).Meldung, "File too large");
+    EXPECT_EQ(DateiLesen("/", inhalt).Meldung, "Is a directory");
+    EXPECT_EQ(DateiLesen(pfad + "/x", inhalt).Meldung, "Not a directory");
+    EXPECT_EQ(inhalt, "alt");
+    EXPECT_TRUE(DateiVorhanden(pfad) && !DateiVorhanden("/") && !DateiVorhanden(pfad + "x"));
+    std::filesystem::remove(pfad);
+    EXPECT_EQ(Pfad("/a/b.c") + "|" + Pfad("b.c") + "|" + DateiName("/a/b.c") + "|" + DateiName("b"), "/a/||b.c|b");
+    EXPECT_EQ(NameOhneKennung("a.b.c") + "|" + NameOhneKennung("a") + "|" + Kennung("a.b.c") + "|" + Kennung("a"),
+              "a.b|a|c|");
 }
 
 TEST(Profil, bleibtSchnellBeiJedemInhalt) {

@@ -5,6 +5,7 @@ script=$2
 expected="${script%.kws}.out"
 actual=$(mktemp)
 trap 'rm -f "$actual"' EXIT
+cd "$(mktemp -d)" || exit 1
 "$replay" "$script" >"$actual"
 code=$?
 if [ "${KW_UPDATE:-}" = 1 ]; then cp "$actual" "$expected"; fi

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "document/Dokument.h"
+#include "platform/Uhr.h"
+#include "rendering/Zeichnung.h"
+
+#include <string>
+
+namespace kw {
+
+/// A project that is loaded to be exported once, without a window: what the command line works with. It
+/// looks as it would in the window after a start with the same settings.
+class Einzelbild {
+  public:
+    /// `iniDatei` need not exist; then the genogram is in full colour and English.
+    Einzelbild(const Uhr &uhr, const std::string &iniDatei);
+
+    /// Loads the project. Gives the empty text, or one plain line that says what is wrong with it.
+    std::string Laden(const std::string &datei);
+    /// Whether anything of a project could be read; what was read can be exported all the same.
+    bool IstGelesen() const { return gelesen_; }
+    Zeichnung DasBild() { return {dokument_, ansicht_, auswahl_, geste_, legende_, uhr_}; }
+
+  private:
+    const Uhr &uhr_;
+    Dokument dokument_;
+    Ansicht ansicht_;
+    Auswahl auswahl_;
+    Gestenlage geste_;
+    Legendenblatt legende_;
+    bool gelesen_ = false;
+};
+
+} // namespace kw

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace kw {
+
+/// What the command line asks for.
+struct Aufruf {
+    enum class Art { Fenster, Export, Hilfe, Version, Falsch };
+    Art Was = Art::Fenster;
+    std::string Datei;  ///< the project; empty for none
+    std::string Ziel;   ///< the file to export to
+    int Dpi = 300;      ///< of pictures
+    std::string Fehler; ///< why it is wrong, one plain line
+};
+
+/// `worte` are the arguments behind the program's name. A "--" ends the options.
+Aufruf AufrufLesen(const std::vector<std::string> &worte);
+
+/// The text of `--help`.
+const char *Hilfetext();
+
+} // namespace kw

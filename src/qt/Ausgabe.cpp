@@ -1,0 +1,125 @@
+#include "qt/Ausgabe.h"
+
+#include "document/Dateien.h"
+#include "qt/QtFlaeche.h"
+#include "rendering/Seite.h"
+#include "rendering/Symbole.h"
+
+#include <QBuffer>
+#include <QImageWriter>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kw {
+
+namespace {
+
+constexpr double CmJeZoll = 2.54;
+constexpr int VektorDpi = 1200;
+constexpr double HöchstzahlPixel = 400e6; ///< 1.6 GB of picture
+
+/// One export: what to draw and where the bytes go.
+struct Auftrag {
+    Zeichnung &zeichnung;
+    int dpi;
+    QString titel;
+    QByteArray inhalt;
+
+    QSizeF Millimeter() const { return QSizeF(zeichnung.ansicht.SeitenBreite, zeichnung.ansicht.SeitenHöhe) * 10; }
+};
+
+/// A print run on `gerät`. Empty on success.
+std::string Drucken(Auftrag &a, QPaintDevice &gerät, double geräteJeCm) {
+    QtFläche fläche;
+    const Ansicht &ansicht = a.zeichnung.ansicht;
+    const auto twips = [](double cm) { return static_cast<int>(std::lround(cm * TwipsJeCm)); };
+    fläche.GrößeSetzen(twips(ansicht.SeitenBreite), twips(ansicht.SeitenHöhe));
+    fläche.Scale(ansicht.SeitenBreite, ansicht.SeitenHöhe, 1);
+    if (!fläche.Beginnen(gerät, geräteJeCm, DruckPixelJeCm)) return "cannot draw the page";
+    DruckZeichnen(fläche, a.zeichnung);
+    return fläche.Beenden() ? "" : "cannot finish the page";
+}
+
+std::string AlsPdf(Auftrag &a) {
+    QBuffer puffer(&a.inhalt);
+    puffer.open(QIODevice::WriteOnly);
+    QPdfWriter pdf(&puffer);
+    pdf.setTitle(a.titel);
+    pdf.setCreator(QStringLiteral("Kinwright"));
+    pdf.setResolution(VektorDpi);
+    const QPageSize papier(a.Millimeter(), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+    pdf.setPageLayout(QPageLayout(papier, QPageLayout::Portrait, QMarginsF()));
+    return Drucken(a, pdf, VektorDpi / CmJeZoll);
+}
+
+std::string AlsSvg(Auftrag &a) {
+    QBuffer puffer(&a.inhalt);
+    puffer.open(QIODevice::WriteOnly);
+    QSvgGenerator svg;
+    svg.setOutputDevice(&puffer);
+    svg.setTitle(a.titel);
+    svg.setResolution(VektorDpi);
+    const QSizeF größe = a.Millimeter() / 10 / CmJeZoll * VektorDpi;
+    svg.setSize(größe.toSize());
+    svg.setViewBox(QRectF(QPointF(), größe));
+    return Drucken(a, svg, VektorDpi / CmJeZoll);
+}
+
+std::string AlsBild(Auftrag &a, const char *format) {
+    const QSizeF größe = a.Millimeter() / 10 / CmJeZoll * a.dpi;
+    if (größe.width() * größe.height() > HöchstzahlPixel)
+        return "the picture would be too large at " + std::to_string(a.dpi) + " dots per inch";
+    QImage bild(größe.toSize(), QImage::Format_RGB32);
+    if (bild.isNull()) return "not enough memory for the picture";
+    bild.fill(Qt::white);
+    if (auto fehler = Drucken(a, bild, a.dpi / CmJeZoll); !fehler.empty()) return fehler;
+    bild.setDotsPerMeterX(static_cast<int>(std::lround(a.dpi / 0.0254)));
+    bild.setDotsPerMeterY(bild.dotsPerMeterX());
+    QBuffer puffer(&a.inhalt);
+    puffer.open(QIODevice::WriteOnly);
+    QImageWriter schreiber(&puffer, format);
+    if (*format == 'j') schreiber.setQuality(100);
+    return schreiber.write(bild) ? "" : schreiber.errorString().toStdString();
+}
+
+struct Format {
+    std::string_view Endung;
+    std::string (*Erzeugen)(Auftrag &);
+};
+constexpr Format Formate[] = {
+    {"pdf", AlsPdf},
+    {"svg", AlsSvg},
+    {"png", [](Auftrag &a) { return AlsBild(a, "png"); }},
+    {"jpg", [](Auftrag &a) { return AlsBild(a, "jpeg"); }},
+    {"jpeg", [](Auftrag &a) { return AlsBild(a, "jpeg"); }},
+    {"bmp", [](Auftrag &a) { return AlsBild(a, "bmp"); }},
+};
+
+const Format *FormatFür(std::string_view ziel) {
+    std::string endung = Kennung(DateiName(std::string(ziel)));
+    for (char &c : endung)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    const auto *ende = std::end(Formate);
+    const auto *i = std::find_if(std::begin(Formate), ende, [&](const Format &f) { return f.Endung == endung; });
+    return i == ende ? nullptr : i;
+}
+
+} // namespace
+
+bool IstAusgabeformat(std::string_view ziel) { return FormatFür(ziel) != nullptr; }
+
+std::string Exportieren(Zeichnung &zeichnung, const std::string &ziel, int dpi, const std::string &titel) {
+    const Format *format = FormatFür(ziel);
+    if (!format) return "unknown kind of file";
+    SeiteBestimmen(zeichnung.dokument, zeichnung.ansicht);
+    Auftrag auftrag{zeichnung, dpi, QString::fromStdString(titel), {}};
+    if (auto fehler = format->Erzeugen(auftrag); !fehler.empty()) return fehler;
+    if (auftrag.inhalt.isEmpty()) return "the page came out empty";
+    return DateiSchreiben(ziel, {auftrag.inhalt.constData(), static_cast<std::size_t>(auftrag.inhalt.size())}).Meldung;
+}
+
+} // namespace kw

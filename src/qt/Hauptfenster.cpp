@@ -1,0 +1,157 @@
+#include "qt/Hauptfenster.h"
+
+#include "app/Befehle.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QTimer>
+
+namespace kw {
+
+namespace {
+
+QString Text(std::string_view utf8) { return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())); }
+
+Startangaben Angaben(const std::string &projektdatei) {
+    const QSize bildschirm = QGuiApplication::primaryScreen()->size();
+    return {projektdatei, EinstellungsDateiDesBenutzers(), bildschirm.width() * TwipsJePixel,
+            bildschirm.height() * TwipsJePixel};
+}
+
+struct Knopfreihe {
+    Knöpfe Auswahl;
+    QMessageBox::StandardButtons Knöpfe_;
+    QMessageBox::StandardButton Vorgabe;
+};
+constexpr Knopfreihe Knopfreihen[] = {
+    {Knöpfe::Ok, QMessageBox::Ok, QMessageBox::Ok},
+    {Knöpfe::JaNein, QMessageBox::Yes | QMessageBox::No, QMessageBox::No},
+    {Knöpfe::JaNeinAbbrechen, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes},
+};
+
+QMessageBox::Icon Bild(Zeichen zeichen) {
+    switch (zeichen) {
+    case Zeichen::Frage: return QMessageBox::Question;
+    case Zeichen::Warnung: return QMessageBox::Warning;
+    case Zeichen::Information: return QMessageBox::Information;
+    case Zeichen::Halt: return QMessageBox::Critical;
+    default: return QMessageBox::NoIcon;
+    }
+}
+
+/// The caption of a filter carries its pattern in parentheses, as the toolkit wants it.
+QString Filter(const Dateiwahl &wahl) { return Text(wahl.Filter.substr(0, wahl.Filter.find('|'))); }
+
+/// A file dialog as the model asks for it; it doesn't ask about existing files itself.
+std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl, QFileDialog::AcceptMode art) {
+    QFileDialog dialog(fenster, Text(wahl.Titel), Text(wahl.Ordner), Filter(wahl));
+    dialog.setAcceptMode(art);
+    dialog.setFileMode(art == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setDefaultSuffix(QStringLiteral("kwp"));
+    if (!wahl.Vorschlag.empty()) dialog.selectFile(Text(wahl.Vorschlag));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    return dialog.selectedFiles().first().toStdString();
+}
+
+} // namespace
+
+Hauptfenster::Hauptfenster(const std::string &projektdatei)
+    : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, uhr_}, leinwand_, Angaben(projektdatei)),
+      fläche_(new Arbeitsflaeche(leinwand_)) {
+    setCentralWidget(fläche_);
+    setMinimumSize(Arbeitsbereich::KleinsteBreite / TwipsJePixel, Arbeitsbereich::KleinsteHöhe / TwipsJePixel);
+    resize(QGuiApplication::primaryScreen()->availableSize() * 0.9);
+    MenüsBauen();
+    fläche_->Verbinden(haupt_, [this] {
+        for (const auto &arbeit : std::exchange(nachErstemBild_, {})) arbeit();
+    });
+    haupt_.Laden();
+    Anzeigen();
+}
+
+void Hauptfenster::MenüsBauen() {
+    QMenu *menü = menuBar()->addMenu(QString());
+    aktionen_["mnuDatei"] = menü->menuAction();
+    for (const Befehl &befehl : BefehlsTabelle()) {
+        if (befehl.Menü != "mnuDatei") continue;
+        if (befehl.Name == "mnuBeenden") menü->addSeparator();
+        QAction *aktion = menü->addAction(QString());
+        aktion->setShortcut(QKeySequence(Text(befehl.Kürzel)));
+        connect(aktion, &QAction::triggered, this, [this, &befehl] { befehl.Ausführen(haupt_); });
+        aktionen_[std::string(befehl.Name)] = aktion;
+    }
+}
+
+/// Many routines ask for a refresh within one event; it is done once, behind them.
+void Hauptfenster::AnzeigeAuffrischen() {
+    if (std::exchange(auffrischungSteht_, true)) return;
+    QTimer::singleShot(0, this, [this] { Anzeigen(); });
+}
+
+void Hauptfenster::Anzeigen() {
+    auffrischungSteht_ = false;
+    setWindowTitle(Text(haupt_.projekt.Titel));
+    for (const auto &[name, aktion] : aktionen_) {
+        const Bedienelement *element = haupt_.bedienung.Finden(name);
+        aktion->setText(Text(element->Caption));
+        aktion->setEnabled(element->Enabled);
+        aktion->setVisible(element->Visible);
+    }
+    fläche_->Auffrischen();
+}
+
+void Hauptfenster::closeEvent(QCloseEvent *ereignis) { ereignis->setAccepted(haupt_.Schließen()); }
+
+void Hauptfenster::NachVorn() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+Antwort Hauptfenster::Fragen(const Nachfrage &nachfrage) {
+    const auto &reihe = Knopfreihen[static_cast<int>(nachfrage.Auswahl)];
+    QMessageBox kasten(Bild(nachfrage.Bild), Text(nachfrage.Titel), Text(nachfrage.Text), reihe.Knöpfe_, this);
+    kasten.setTextFormat(Qt::PlainText);
+    kasten.setDefaultButton(reihe.Vorgabe);
+    switch (kasten.exec()) {
+    case QMessageBox::Yes: return Antwort::Ja;
+    case QMessageBox::No: return Antwort::Nein;
+    case QMessageBox::Ok: return Antwort::Ok;
+    default: return Antwort::Abbrechen;
+    }
+}
+
+std::optional<std::string> Hauptfenster::DateiÖffnen(const Dateiwahl &wahl) {
+    return DialogZeigen(this, wahl, QFileDialog::AcceptOpen);
+}
+
+std::optional<std::string> Hauptfenster::DateiSpeichern(const Dateiwahl &wahl) {
+    return DialogZeigen(this, wahl, QFileDialog::AcceptSave);
+}
+
+void Hauptfenster::ZeitgeberStarten(std::string_view name, int ms) {
+    QTimer::singleShot(ms, this, [this, eigenerName = std::string(name)] { haupt_.ZeitgeberAbgelaufen(eigenerName); });
+}
+
+void Hauptfenster::NachErstemBild(std::function<void()> arbeit) { nachErstemBild_.push_back(std::move(arbeit)); }
+
+std::string Hauptfenster::Desktopordner() const {
+    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation).toStdString();
+}
+
+std::vector<std::string> Hauptfenster::Schriftarten() const {
+    std::vector<std::string> namen;
+    for (const QString &name : QFontDatabase::families()) namen.push_back(name.toStdString());
+    return namen;
+}
+
+} // namespace kw

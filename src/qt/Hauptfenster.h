@@ -1,0 +1,52 @@
+#pragma once
+
+#include "app/frmMain.h"
+#include "qt/Arbeitsflaeche.h"
+#include "qt/LeinwandFlaeche.h"
+#include "qt/QtPlattform.h"
+
+#include <QMainWindow>
+
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace kw {
+
+/// The main window's face: shows the model's state and hands it events. It is also the user as the model
+/// sees it: boxes, dialogs and timers.
+class Hauptfenster : public QMainWindow, public Benutzer {
+  public:
+    explicit Hauptfenster(const std::string &projektdatei);
+
+    Antwort Fragen(const Nachfrage &nachfrage) override;
+    std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) override;
+    std::optional<std::string> DateiSpeichern(const Dateiwahl &wahl) override;
+    void ZeitgeberStarten(std::string_view name, int ms) override;
+    void NachErstemBild(std::function<void()> arbeit) override;
+    void AnzeigeAuffrischen() override;
+    void FensterSchließen() override { close(); }
+    std::string Desktopordner() const override;
+    std::vector<std::string> Schriftarten() const override;
+
+    /// Another start wants this window seen.
+    void NachVorn();
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    void MenüsBauen();
+    void Anzeigen();
+
+    QtUhr uhr_;
+    QtDrucker drucker_;
+    LeinwandFläche leinwand_;
+    frmMain haupt_;
+    Arbeitsflaeche *fläche_;
+    std::map<std::string, QAction *, std::less<>> aktionen_;
+    std::vector<std::function<void()>> nachErstemBild_;
+    bool auffrischungSteht_ = false; ///< a refresh waits for the end of the event
+};
+
+} // namespace kw

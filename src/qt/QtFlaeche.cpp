@@ -1,0 +1,196 @@
+#include "qt/QtFlaeche.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace kw {
+
+namespace {
+
+constexpr double JeCm = 1200 / 2.54; ///< units of 1/1200 inch
+constexpr double JePunkt = 1200.0 / 72;
+constexpr double GrößteSchrift = 1000; ///< points
+constexpr double FernerRand = 1000;    ///< cm; what reaches further is cut off there
+constexpr int TextStift = 0x8000;      ///< in a pen's key: the pen of texts, which has only a colour
+
+QColor Farbton(Farbe farbe) {
+    const Farbe f = Aufgelöst(farbe);
+    return QColor(static_cast<int>(f & 0xFFU), static_cast<int>(f >> 8U & 0xFFU), static_cast<int>(f >> 16U & 0xFFU));
+}
+
+std::uint64_t Schlüssel(Farbe farbe, int breite, int stil) {
+    return static_cast<std::uint64_t>(Aufgelöst(farbe)) << 32U | static_cast<std::uint64_t>(breite) << 8U |
+           static_cast<std::uint64_t>(stil);
+}
+
+bool Fern(double wert) { return !(std::abs(wert) <= FernerRand); }
+
+double Herangeholt(double wert) { return std::clamp(wert, -FernerRand, FernerRand); }
+
+/// Cuts a line to the far edge, so that its slope stays. False when none of it is inside.
+bool Geschnitten(double &x1, double &y1, double &x2, double &y2) {
+    double von = 0;
+    double bis = 1;
+    const double dx = x2 - x1;
+    const double dy = y2 - y1;
+    for (const auto &[d, platz] : {std::pair(-dx, x1 + FernerRand), std::pair(dx, FernerRand - x1),
+                                   std::pair(-dy, y1 + FernerRand), std::pair(dy, FernerRand - y1)}) {
+        if (d == 0 && platz < 0) return false;
+        if (d < 0) von = std::max(von, platz / d);
+        if (d > 0) bis = std::min(bis, platz / d);
+    }
+    if (!(von <= bis)) return false;
+    const double ausX = x1;
+    const double ausY = y1;
+    x1 = ausX + von * dx;
+    y1 = ausY + von * dy;
+    x2 = ausX + bis * dx;
+    y2 = ausY + bis * dy;
+    return std::isfinite(x1) && std::isfinite(y1) && std::isfinite(x2) && std::isfinite(y2);
+}
+
+} // namespace
+
+QtFläche::~QtFläche() { Beenden(); }
+
+bool QtFläche::Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJeCm) {
+    if (!maler_.begin(&gerät)) return false;
+    geräteJeEinheit_ = geräteJeCm / JeCm;
+    pixelJeCm_ = pixelJeCm;
+    maler_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    maler_.scale(geräteJeEinheit_, geräteJeEinheit_);
+    stift_ = füllung_ = ~std::uint64_t{0};
+    schrift_ = nullptr;
+    stifte_.clear();
+    return true;
+}
+
+bool QtFläche::Beenden() { return !maler_.isActive() || maler_.end(); }
+
+void QtFläche::Cls() {
+    maler_.fillRect(QRectF(0, 0, ScaleWidth() * JeCm, ScaleHeight() * JeCm), Qt::white);
+}
+
+bool QtFläche::Sichtbar(double links, double oben, double rechts, double unten) const {
+    constexpr double Rand = 1; // no pen is wider
+    return rechts >= -Rand && unten >= -Rand && links <= ScaleWidth() + Rand && oben <= ScaleHeight() + Rand;
+}
+
+/// Widths are real lengths, never "one device pixel": that would be another width on every device.
+const QPen &QtFläche::Stift(Farbe farbe) {
+    const auto schlüssel = Schlüssel(farbe, DrawWidth, DrawStyle);
+    const auto bekannt = stifte_.find(schlüssel);
+    if (bekannt != stifte_.end()) return bekannt->second;
+    double breite = DrawWidth / pixelJeCm_ * JeCm;
+    if (ausrichten_) breite = std::max(1.0, std::round(breite * geräteJeEinheit_)) / geräteJeEinheit_;
+    QPen stift(Farbton(farbe), breite, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+    if (DrawStyle == StilGepunktet) stift.setDashPattern({2, 3});
+    if (DrawStyle == StilStrichpunkt) stift.setDashPattern({5, 3, 1, 3});
+    if (DrawStyle != StilDurchgezogen) stift.setCapStyle(Qt::FlatCap);
+    return stifte_.emplace(schlüssel, stift).first->second;
+}
+
+void QtFläche::StiftSetzen(Farbe farbe) {
+    const auto schlüssel = Schlüssel(farbe, DrawWidth, DrawStyle);
+    if (schlüssel == stift_) return;
+    const QPen &stift = Stift(farbe);
+    maler_.setPen(stift);
+    stiftPixel_ = static_cast<int>(std::lround(stift.widthF() * geräteJeEinheit_));
+    stift_ = schlüssel;
+}
+
+void QtFläche::FüllungSetzen() {
+    const std::uint64_t schlüssel = FillStyle == Gefüllt ? Aufgelöst(FillColor) : 0xFF000000U;
+    if (schlüssel == füllung_) return;
+    if (FillStyle == Gefüllt) maler_.setBrush(Farbton(FillColor));
+    else maler_.setBrush(Qt::NoBrush);
+    füllung_ = schlüssel;
+}
+
+/// A pen of odd width covers whole pixels when it runs through their middles, one of even width between them.
+double QtFläche::Ausgerichtet(double einheiten) const {
+    const double pixel = einheiten * geräteJeEinheit_;
+    return (stiftPixel_ % 2 == 1 ? std::floor(pixel) + 0.5 : std::round(pixel)) / geräteJeEinheit_;
+}
+
+QPointF QtFläche::Ausgerichtet(QPointF p) const {
+    return ausrichten_ ? QPointF(Ausgerichtet(p.x()), Ausgerichtet(p.y())) : p;
+}
+
+void QtFläche::Line(int flags, double x1, double y1, double x2, double y2, Farbe farbe) {
+    if (!Sichtbar(std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2))) return;
+    const bool kasten = (flags & Kasten) == Kasten;
+    if (Fern(x1) || Fern(y1) || Fern(x2) || Fern(y2)) {
+        if (std::isnan(x1 + x2) || std::isnan(y1 + y2)) return;
+        if (kasten) {
+            for (double *wert : {&x1, &y1, &x2, &y2}) *wert = Herangeholt(*wert);
+        } else if (!Geschnitten(x1, y1, x2, y2)) return;
+    }
+    StiftSetzen(flags & FarbeGilt ? farbe : ForeColor);
+    const QPointF von(x1 * JeCm, y1 * JeCm);
+    const QPointF bis(x2 * JeCm, y2 * JeCm);
+    if (kasten) {
+        FüllungSetzen();
+        maler_.drawRect(QRectF(Ausgerichtet(von), Ausgerichtet(bis)).normalized());
+    } else if (x1 == x2 || y1 == y2) {
+        maler_.drawLine(Ausgerichtet(von), Ausgerichtet(bis));
+    } else {
+        maler_.drawLine(von, bis);
+    }
+}
+
+void QtFläche::Circle(int flags, double x, double y, double radius, Farbe farbe) {
+    if (Fern(x) || Fern(y) || Fern(radius) || !Sichtbar(x - radius, y - radius, x + radius, y + radius)) return;
+    StiftSetzen(flags & FarbeGilt ? farbe : ForeColor);
+    FüllungSetzen();
+    maler_.drawEllipse(QPointF(x, y) * JeCm, radius * JeCm, radius * JeCm);
+}
+
+void QtFläche::Torte(int flags, double x, double y, double radius, Farbe farbe, double von, double bis) {
+    if (Fern(x) || Fern(y) || Fern(radius) || !Sichtbar(x - radius, y - radius, x + radius, y + radius)) return;
+    StiftSetzen(flags & FarbeGilt ? farbe : ForeColor);
+    FüllungSetzen();
+    const auto sechzehntelgrad = [](double bogen) { return static_cast<int>(std::lround(bogen * 16 * 180 / Pi)); };
+    const QRectF rahmen(QPointF(x - radius, y - radius) * JeCm, QSizeF(2 * radius, 2 * radius) * JeCm);
+    maler_.drawPie(rahmen, sechzehntelgrad(von), sechzehntelgrad(bis - von));
+}
+
+void QtFläche::Polygon(std::span<const Bildpunkt> punkte) {
+    constexpr std::size_t Höchstzahl = 9;
+    std::array<QPointF, Höchstzahl> ecken;
+    const std::size_t n = std::min(punkte.size(), Höchstzahl);
+    StiftSetzen(ForeColor);
+    FüllungSetzen();
+    const auto einheiten = [&](int pixel) { return Herangeholt(pixel / pixelJeCm_) * JeCm; };
+    for (std::size_t i = 0; i < n; ++i) ecken[i] = Ausgerichtet({einheiten(punkte[i].X), einheiten(punkte[i].Y)});
+    maler_.drawPolygon(ecken.data(), static_cast<int>(n));
+}
+
+Schriftsatz &QtFläche::Satz() {
+    const double punkte = std::clamp(FontSize / Faktor(), 1.0, GrößteSchrift);
+    return vorrat_.Finden(
+        {FontName, static_cast<int>(std::lround(punkte * JePunkt)), FontBold, FontItalic, FontUnderline});
+}
+
+double QtFläche::TextWidth(std::string_view text) { return text.empty() ? 0 : Satz().Setzen(text).Breite / JeCm; }
+
+double QtFläche::TextHeight() { return Satz().Höhe() / JeCm; }
+
+void QtFläche::TextZeichnen(std::string_view text) {
+    Schriftsatz &satz = Satz();
+    const auto &gesetzt = satz.Setzen(text);
+    const double breite = gesetzt.Breite / JeCm;
+    const double höhe = satz.Höhe() / JeCm;
+    if (Fern(CurrentX) || Fern(CurrentY) || !Sichtbar(CurrentX, CurrentY, CurrentX + breite, CurrentY + höhe)) return;
+    const QPointF ort(CurrentX * JeCm, CurrentY * JeCm);
+    if (!FontTransparent) maler_.fillRect(QRectF(ort, QSizeF(gesetzt.Breite, satz.Höhe())), Qt::white);
+    const auto schlüssel = Schlüssel(ForeColor, TextStift, 0);
+    if (schlüssel != stift_) maler_.setPen(Farbton(ForeColor));
+    stift_ = schlüssel;
+    if (schrift_ != &satz) maler_.setFont(satz.Schrift());
+    schrift_ = &satz;
+    maler_.drawStaticText(ort, gesetzt.Text);
+}
+
+} // namespace kw

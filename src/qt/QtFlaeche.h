@@ -1,0 +1,64 @@
+#pragma once
+
+#include "qt/Textvorrat.h"
+#include "rendering/Zeichenflaeche.h"
+
+#include <QPainter>
+#include <QPen>
+
+#include <cstdint>
+#include <unordered_map>
+
+namespace kw {
+
+/// Draws with a QPainter: on the canvas image, a printer, a PDF, an SVG, a picture. Inside it counts in
+/// 1/1200 inch of the page, the unit in which fonts have whole sizes, so nothing is rescaled between a
+/// line and a text. What lies off the page or is no number isn't handed on.
+class QtFläche : public Zeichenfläche {
+  public:
+    QtFläche() = default;
+    ~QtFläche() override;
+
+    /// Starts on `gerät`, `geräteJeCm` of whose units are a centimetre of the page. `pixelJeCm` is the
+    /// surface's own pixel, in which `DrawWidth` and polygons count. False when the device can't be painted.
+    bool Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJeCm);
+    /// Ends painting; false when the device reports a failure.
+    bool Beenden();
+    /// On a screen: lines of the axes keep to the grid of the device's pixels, so that they are sharp.
+    void AnPixelnAusrichten() { ausrichten_ = true; }
+
+    void Cls() override;
+    void Line(int flags, double x1, double y1, double x2, double y2, Farbe farbe) override;
+    void Circle(int flags, double x, double y, double radius, Farbe farbe) override;
+    void Torte(int flags, double x, double y, double radius, Farbe farbe, double von, double bis) override;
+    void Polygon(std::span<const Bildpunkt> punkte) override;
+    double TextWidth(std::string_view text) override;
+    double TextHeight() override;
+
+  protected:
+    void TextZeichnen(std::string_view text) override;
+    QPainter &Maler() { return maler_; }
+
+  private:
+    Schriftsatz &Satz();
+    void StiftSetzen(Farbe farbe);
+    void FüllungSetzen();
+    const QPen &Stift(Farbe farbe);
+    double Ausgerichtet(double einheiten) const;
+    QPointF Ausgerichtet(QPointF einheiten) const;
+    /// Whether any of the rectangle (user units) can show.
+    bool Sichtbar(double links, double oben, double rechts, double unten) const;
+
+    QPainter maler_;
+    Textvorrat vorrat_;
+    double geräteJeEinheit_ = 1;
+    double pixelJeCm_ = 1;
+    bool ausrichten_ = false;
+    std::unordered_map<std::uint64_t, QPen> stifte_;
+    std::uint64_t stift_ = ~std::uint64_t{0};    ///< key of the painter's pen
+    std::uint64_t füllung_ = ~std::uint64_t{0};  ///< key of the painter's brush
+    const Schriftsatz *schrift_ = nullptr;       ///< the painter's font
+    int stiftPixel_ = 1;                         ///< width of the painter's pen on the device
+};
+
+} // namespace kw

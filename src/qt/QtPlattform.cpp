@@ -1,0 +1,55 @@
+#include "qt/QtPlattform.h"
+
+#include "app/Einstellungen.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QLocale>
+#include <QPageLayout>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QStandardPaths>
+
+namespace kw {
+
+Datumsfolge FolgeAus(const std::string &format) {
+    const auto tag = format.find('d');
+    const auto monat = format.find('M');
+    const auto jahr = format.find('y');
+    if (jahr < monat && jahr < tag) return Datumsfolge::JahrMonatTag;
+    return monat < tag ? Datumsfolge::MonatTagJahr : Datumsfolge::TagMonatJahr;
+}
+
+QtUhr::QtUhr() : folge_(FolgeAus(QLocale::system().dateFormat(QLocale::ShortFormat).toStdString())) {}
+
+Datum QtUhr::Heute() const {
+    const QDate heute = QDate::currentDate();
+    return {heute.year(), heute.month(), heute.day()};
+}
+
+std::optional<std::string> QtDrucker::DeviceName() const {
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (!info.isNull()) return info.printerName().toStdString();
+    const QStringList alle = QPrinterInfo::availablePrinterNames();
+    return alle.isEmpty() ? std::nullopt : std::optional(alle.first().toStdString());
+}
+
+Druckränder QtDrucker::Ränder() const {
+    const QPrinter drucker(QPrinterInfo::defaultPrinter());
+    constexpr double CmJePunkt = 2.54 / 72;
+    const QMarginsF rand = drucker.pageLayout().minimumMargins() * CmJePunkt;
+    return {rand.left(), rand.right(), rand.top(), rand.bottom()};
+}
+
+int QtDrucker::Orientation() const {
+    const QPrinter drucker(QPrinterInfo::defaultPrinter());
+    return drucker.pageLayout().orientation() == QPageLayout::Portrait ? 1 : 2;
+}
+
+std::string EinstellungsDateiDesBenutzers() {
+    const QString konfig = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return EinstellungsDatei(QCoreApplication::applicationDirPath().toStdString(),
+                             konfig.toStdString() + "/kinwright");
+}
+
+} // namespace kw
