@@ -1,13 +1,14 @@
 #!/bin/sh
-# Runs one scenario and compares what it prints with the .out file beside it. KW_UPDATE=1 writes that file anew.
+# Runs one scenario in a folder of its own and compares what it prints with the .out file beside it.
+# KW_UPDATE=1 writes that file anew.
 replay=$1
 script=$2
 expected="${script%.kws}.out"
-actual=$(mktemp)
-trap 'rm -f "$actual"' EXIT
-cd "$(mktemp -d)" || exit 1
-"$replay" "$script" >"$actual"
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+cd "$folder" || exit 1
+"$replay" "$script" >printed
 code=$?
-if [ "${KW_UPDATE:-}" = 1 ]; then cp "$actual" "$expected"; fi
-[ "$code" = 0 ] || { echo "exit code $code"; cat "$actual"; exit 1; }
-diff -u "$expected" "$actual"
+[ "$code" = 0 ] || { echo "exit code $code"; cat printed; exit 1; }
+if [ "${KW_UPDATE:-}" = 1 ]; then cp printed "$expected"; fi
+diff -u "$expected" printed
