@@ -23,8 +23,12 @@ Datumsfolge FolgeAus(const std::string &format) {
 QtUhr::QtUhr() : folge_(FolgeAus(QLocale::system().dateFormat(QLocale::ShortFormat).toStdString())) {}
 
 Datum QtUhr::Heute() const {
-    const QDate heute = QDate::currentDate();
-    return {heute.year(), heute.month(), heute.day()};
+    if (const std::time_t jetzt = std::time(nullptr); jetzt != stand_) {
+        const QDate heute = QDate::currentDate();
+        heute_ = {heute.year(), heute.month(), heute.day()};
+        stand_ = jetzt;
+    }
+    return heute_;
 }
 
 std::optional<std::string> QtDrucker::DeviceName() const {

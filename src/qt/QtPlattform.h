@@ -3,11 +3,13 @@
 #include "platform/Drucker.h"
 #include "platform/Uhr.h"
 
+#include <ctime>
 #include <string>
 
 namespace kw {
 
-/// Today, and the order in which the user's locale writes dates.
+/// Today, and the order in which the user's locale writes dates. A redraw asks for every person, so the
+/// calendar is asked once a second only.
 class QtUhr : public Uhr {
   public:
     QtUhr();
@@ -16,6 +18,8 @@ class QtUhr : public Uhr {
 
   private:
     Datumsfolge folge_;
+    mutable std::time_t stand_ = 0; ///< second in which `heute_` was asked for
+    mutable Datum heute_;
 };
 
 /// The printers of the system.

@@ -3,29 +3,30 @@
 // texts prepared.
 
 #include "app/Einzelbild.h"
+#include "document/Felder.h"
 #include "document/Profil.h"
 #include "document/ProjektDatei.h"
 #include "document/basAltersberechnung.h"
 #include "qt/LeinwandFlaeche.h"
 #include "qt/QtPlattform.h"
-#include "rendering/Seite.h"
+#include "document/Zahlen.h"
+#include "rendering/Ebenen.h"
 #include "rendering/Symbole.h"
 
-#include <QApplication>
-#include <QWidget>
+#include <QGuiApplication>
+#include <QPaintEngine>
+#include <QPainterPath>
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace kw {
 namespace {
-
-const QtUhr uhr; // NOLINT: the benchmark's own
 
 /// A document of `n` persons in families of four, with all that such persons bring along.
 Dokument Familien(int n) {
@@ -54,7 +55,7 @@ Dokument Familien(int n) {
     return d;
 }
 
-/// A canvas as at 100 % on a screen of 1920 x 1080, and a bild on it.
+/// A canvas as at 100 % on a screen of 1920 x 1080, with a document drawn on it.
 struct Blatt {
     explicit Blatt(int n) : bild(uhr, ""), z(bild.DasBild()) {
         z.dokument = Familien(n);
@@ -65,26 +66,218 @@ struct Blatt {
         fläche.GrößeSetzen(25920, 14580);
         VorschauZeichnen(fläche, z);
     }
+    QtUhr uhr;
     LeinwandFläche leinwand{1};
     Einzelbild bild;
     Zeichnung z;
 };
 
-/// Keeps every primitive as plain values, ready to be painted again.
-class Mitschrift : public QtFläche {
+/// What one redraw hands to the painter, as plain values.
+struct Marke {
+    enum class Art { Strich, Kasten, Kreis, Pfad, Vieleck, Text };
+    Art Was;
+    int Stift;
+    int Füllung;
+    QLineF Linie;
+    QRectF Rahmen;
+    QPainterPath Pfad;
+    QPolygonF Ecken;
+    QStaticText Text;
+    QFont Schrift;
+};
+
+/// A paint device that only keeps what is painted on it.
+class Mitschrift : public QPaintDevice, public QPaintEngine {
   public:
-    enum class Art { Strich, Kasten, Kreis, Torte, Vieleck, Fläche, Text };
-    struct Marke {
-        Art Was;
-        int Stift;
-        int Füllung;
-        QRectF Ort; ///< or the line from top left to bottom right
-        std::array<QPointF, 9> Ecken;
-        int Anzahl; ///< corners, or start and length of a pie
-        int Länge;
-        int Text;
-    };
+    Mitschrift(int breite, int höhe) : QPaintEngine(AllFeatures), breite_(breite), höhe_(höhe) {}
+    std::vector<Marke> Marken;
+    std::vector<QPen> Stifte;
+    std::vector<QBrush> Füllungen;
+    QTransform Abbildung;
+
+    QPaintEngine *paintEngine() const override { return const_cast<Mitschrift *>(this); }
+    int metric(PaintDeviceMetric m) const override {
+        return m == PdmWidth ? breite_ : m == PdmHeight ? höhe_ : m == PdmDevicePixelRatioScaled ? 65536 : 96;
+    }
+    Type type() const override { return User; }
+    bool begin(QPaintDevice *) override { return true; }
+    bool end() override { return true; }
+    void updateState(const QPaintEngineState &s) override {
+        if (s.state() & DirtyPen) Stifte.push_back(s.pen());
+        if (s.state() & DirtyBrush) Füllungen.push_back(s.brush());
+        if (s.state() & DirtyTransform) Abbildung = s.transform();
+    }
+    void drawLines(const QLineF *linien, int n) override {
+        for (int i = 0; i < n; ++i) Neu(Marke::Art::Strich).Linie = linien[i];
+    }
+    void drawRects(const QRectF *kästen, int n) override {
+        for (int i = 0; i < n; ++i) Neu(Marke::Art::Kasten).Rahmen = kästen[i];
+    }
+    void drawEllipse(const QRectF &rahmen) override { Neu(Marke::Art::Kreis).Rahmen = rahmen; }
+    void drawPath(const QPainterPath &pfad) override { Neu(Marke::Art::Pfad).Pfad = pfad; }
+    void drawPolygon(const QPointF *p, int n, PolygonDrawMode) override {
+        Neu(Marke::Art::Vieleck).Ecken = QPolygonF(QList<QPointF>(p, p + n));
+    }
+    void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override {}
+    void drawTextItem(const QPointF &grundlinie, const QTextItem &t) override {
+        Marke &m = Neu(Marke::Art::Text);
+        m.Schrift = t.font();
+        m.Text = QStaticText(t.text());
+        m.Text.setTextFormat(Qt::PlainText);
+        m.Text.setPerformanceHint(QStaticText::AggressiveCaching);
+        m.Text.prepare(QTransform(), m.Schrift);
+        m.Rahmen = QRectF(grundlinie - QPointF(0, t.ascent()), QSizeF(1, 1));
+    }
+
+  private:
+    Marke &Neu(Marke::Art art) {
+        Marken.push_back({art, static_cast<int>(Stifte.size()) - 1, static_cast<int>(Füllungen.size()) - 1, {}, {}, {}, {}, {}, {}});
+        return Marken.back();
+    }
+    int breite_;
+    int höhe_;
+};
+
+/// The same primitives in a bare loop.
+void BloßMalen(QImage &bild, const Mitschrift &m) {
+    bild.fill(Qt::white);
+    QPainter p(&bild);
+    p.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    p.setTransform(m.Abbildung);
+    int stift = -1;
+    int füllung = -1;
+    const QFont *schrift = nullptr;
+    for (const Marke &marke : m.Marken) {
+        if (std::exchange(stift, marke.Stift) != marke.Stift) p.setPen(m.Stifte[static_cast<size_t>(stift)]);
+        if (std::exchange(füllung, marke.Füllung) != marke.Füllung) p.setBrush(m.Füllungen[static_cast<size_t>(füllung)]);
+        switch (marke.Was) {
+        case Marke::Art::Strich: p.drawLine(marke.Linie); break;
+        case Marke::Art::Kasten: p.drawRect(marke.Rahmen); break;
+        case Marke::Art::Kreis: p.drawEllipse(marke.Rahmen); break;
+        case Marke::Art::Pfad: p.drawPath(marke.Pfad); break;
+        case Marke::Art::Vieleck: p.drawPolygon(marke.Ecken); break;
+        case Marke::Art::Text:
+            if (!schrift || *schrift != marke.Schrift) p.setFont(marke.Schrift);
+            schrift = &marke.Schrift;
+            p.drawStaticText(marke.Rahmen.topLeft(), marke.Text);
+        }
+    }
+}
+
+void Mitschreiben(Blatt &blatt, Mitschrift &m) {
+    const QImage &bild = blatt.leinwand.Bild();
+    QtFläche fläche;
+    fläche.AnPixelnAusrichten();
+    fläche.GrößeSetzen(blatt.leinwand.Width(), blatt.leinwand.Height());
+    fläche.Scale(blatt.leinwand.ScaleWidth(), blatt.leinwand.ScaleHeight(), blatt.leinwand.Faktor());
+    fläche.Beginnen(m, bild.width() / fläche.ScaleWidth(), BildschirmPixelJeCm * fläche.Faktor());
+    LinienEbene(fläche, blatt.z, fläche.Faktor());
+    PersonenEbene(fläche, blatt.z, fläche.Faktor());
+    fläche.Beenden();
+}
+
+void Redraw(benchmark::State &zustand) {
+    Blatt blatt(static_cast<int>(zustand.range(0)));
+    for (auto _ : zustand) blatt.Zeichnen(blatt.leinwand);
+}
+
+void RedrawBareLoop(benchmark::State &zustand) {
+    Blatt blatt(static_cast<int>(zustand.range(0)));
+    QImage bild(blatt.leinwand.Bild().size(), QImage::Format_RGB32);
+    Mitschrift m(bild.width(), bild.height());
+    Mitschreiben(blatt, m);
+    for (auto _ : zustand) BloßMalen(bild, m);
+}
+
+void Load(benchmark::State &zustand) {
+    Profil quelle;
+    ProjektEintragen(Familien(static_cast<int>(zustand.range(0))), quelle);
+    const std::string inhalt = quelle.Inhalt();
+    for (auto _ : zustand) {
+        Dokument d;
+        const Profil profil{std::string(inhalt)};
+        SeiteLesen(profil, d);
+        SpeicherLesen(profil, d);
+        LegendeLesen(profil, d);
+        d.FreieNummernAufbauen();
+        benchmark::DoNotOptimize(d);
+    }
+}
+
+void Save(benchmark::State &zustand) {
+    const Dokument d = Familien(static_cast<int>(zustand.range(0)));
+    Profil alt;
+    ProjektEintragen(d, alt);
+    const std::string inhalt = alt.Inhalt();
+    for (auto _ : zustand) {
+        Profil profil{std::string(inhalt)};
+        ProjektEintragen(d, profil);
+        benchmark::DoNotOptimize(profil.Inhalt());
+    }
+}
+
+void SaveToDisk(benchmark::State &zustand) {
+    Profil profil;
+    ProjektEintragen(Familien(static_cast<int>(zustand.range(0))), profil);
+    const std::string inhalt = profil.Inhalt();
+    for (auto _ : zustand) benchmark::DoNotOptimize(DateiSchreiben("bench.tmp", inhalt));
+    std::remove("bench.tmp");
+}
+
+void Ages(benchmark::State &zustand) {
+    const Dokument d = Familien(static_cast<int>(zustand.range(0)));
+    const QtUhr uhr;
+    Altersberechnung alter(uhr);
+    for (auto _ : zustand)
+        for (const auto &satz : d.cboPersonen) alter.AlterAusDatum(Felder(satz)[PersonFeld::Geburtsdatum]);
+}
+
+#define KW_SIZES Arg(10)->Arg(100)->Arg(200)->Arg(300)->Arg(400)->Arg(900)->Unit(benchmark::kMicrosecond)
+BENCHMARK(Redraw)->KW_SIZES;
+BENCHMARK(RedrawBareLoop)->KW_SIZES;
+BENCHMARK(Load)->KW_SIZES;
+BENCHMARK(Save)->KW_SIZES;
+BENCHMARK(SaveToDisk)->Arg(100)->Arg(900)->Unit(benchmark::kMicrosecond);
+BENCHMARK(Ages)->KW_SIZES;
+
+/// Shows the usual table, then growth from size to size and the redraw's ratio to the bare loop. With
+/// repetitions the fastest of each counts.
+class Bericht : public benchmark::ConsoleReporter {
+  public:
+    void ReportRuns(const std::vector<Run> &läufe) override {
+        ConsoleReporter::ReportRuns(läufe);
+        for (const Run &lauf : läufe) {
+            if (lauf.run_type != Run::RT_Iteration) continue;
+            double &zeit = zeiten_[lauf.run_name.function_name][std::stoi(lauf.run_name.args)];
+            const double dauer = lauf.GetAdjustedRealTime();
+            zeit = zeit == 0 ? dauer : std::min(zeit, dauer);
+        }
+    }
+    void Schluss() {
+        std::printf("\nGrowth: time by time, for persons by persons\n");
+        for (const auto &[name, werte] : zeiten_)
+            for (auto i = werte.begin(); std::next(i) != werte.end(); ++i)
+                std::printf("  %-16s %4d -> %4d   %.2f for %.2f\n", name.c_str(), i->first, std::next(i)->first,
+                            std::next(i)->second / i->second, 1.0 * std::next(i)->first / i->first);
+        std::printf("\nRedraw by bare loop\n");
+        for (const auto &[n, zeit] : zeiten_["Redraw"])
+            std::printf("  %4d persons   %.2f\n", n, zeit / zeiten_["RedrawBareLoop"][n]);
+    }
+
+  private:
+    std::map<std::string, std::map<int, double>> zeiten_;
 };
 
 } // namespace
 } // namespace kw
+
+int main(int argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication anwendung(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    kw::Bericht bericht;
+    benchmark::RunSpecifiedBenchmarks(&bericht);
+    bericht.Schluss();
+    return 0;
+}
