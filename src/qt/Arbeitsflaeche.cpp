@@ -102,8 +102,9 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
         haupt_->Vorschau();
     }
     const Arbeitsbereich &b = haupt_->bereich;
+    // The page shows up to the scroll bars, which stand a little outside the frame that it is laid out in.
     const QRectF rahmen = Fläche(b.picBack).translated(0, -Pixel(FrameOben));
-    p.setClipRect(rahmen);
+    p.setClipRect(QRectF(rahmen.left(), 0, width() - rahmen.left(), height()));
     p.translate(rahmen.topLeft());
     const QRectF seite = Fläche(b.picVorschau());
     p.fillRect(Fläche(b.shpSchatten), Schatten);

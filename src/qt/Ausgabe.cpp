@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QImageWriter>
 #include <QPageSize>
+#include <QPaintEngine>
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
@@ -20,7 +21,7 @@ namespace {
 
 constexpr double CmJeZoll = 2.54;
 constexpr int VektorDpi = 1200;
-constexpr double HöchstzahlPixel = 400e6; ///< 1.6 GB of picture
+constexpr double HöchstzahlPixel = 200e6; ///< 800 MB of picture; A4 at 1400 dpi
 
 /// One export: what to draw and where the bytes go.
 struct Auftrag {
@@ -40,6 +41,8 @@ std::string Drucken(Auftrag &a, QPaintDevice &gerät, double geräteJeCm) {
     fläche.GrößeSetzen(twips(ansicht.SeitenBreite), twips(ansicht.SeitenHöhe));
     fläche.Scale(ansicht.SeitenBreite, ansicht.SeitenHöhe, 1);
     if (!fläche.Beginnen(gerät, geräteJeCm, DruckPixelJeCm)) return "cannot draw the page";
+    // Viewers show an SVG on whatever ground they have themselves, dark ones too.
+    if (gerät.paintEngine()->type() == QPaintEngine::SVG) fläche.Cls();
     DruckZeichnen(fläche, a.zeichnung);
     return fläche.Beenden() ? "" : "cannot finish the page";
 }
@@ -62,18 +65,22 @@ std::string AlsSvg(Auftrag &a) {
     QSvgGenerator svg;
     svg.setOutputDevice(&puffer);
     svg.setTitle(a.titel);
-    svg.setResolution(VektorDpi);
-    const QSizeF größe = a.Millimeter() / 10 / CmJeZoll * VektorDpi;
-    svg.setSize(größe.toSize());
-    svg.setViewBox(QRectF(QPointF(), größe));
+    svg.setDescription(QStringLiteral("Kinwright"));
+    // The size goes into the file as whole units of this resolution: tenths of a millimetre lose nothing.
+    constexpr int ZehntelmillimeterDpi = 254;
+    svg.setResolution(ZehntelmillimeterDpi);
+    svg.setSize((a.Millimeter() * 10).toSize());
+    svg.setViewBox(QRectF(QPointF(), a.Millimeter() / 10 / CmJeZoll * VektorDpi));
     return Drucken(a, svg, VektorDpi / CmJeZoll);
 }
 
 std::string AlsBild(Auftrag &a, const char *format) {
     const QSizeF größe = a.Millimeter() / 10 / CmJeZoll * a.dpi;
+    const QSize pixel = größe.toSize();
     if (größe.width() * größe.height() > HöchstzahlPixel)
-        return "the picture would be too large at " + std::to_string(a.dpi) + " dots per inch";
-    QImage bild(größe.toSize(), QImage::Format_RGB32);
+        return std::to_string(a.dpi) + " dots per inch make a picture of " + std::to_string(pixel.width()) + " x " +
+               std::to_string(pixel.height()) + " pixels; at most 200 million are possible";
+    QImage bild(pixel, QImage::Format_RGB32);
     if (bild.isNull()) return "not enough memory for the picture";
     bild.fill(Qt::white);
     if (auto fehler = Drucken(a, bild, a.dpi / CmJeZoll); !fehler.empty()) return fehler;
@@ -115,6 +122,7 @@ bool IstAusgabeformat(std::string_view ziel) { return FormatFür(ziel) != nullpt
 std::string Exportieren(Zeichnung &zeichnung, const std::string &ziel, int dpi, const std::string &titel) {
     const Format *format = FormatFür(ziel);
     if (!format) return "unknown kind of file";
+    if (dpi < KleinsteDpi || dpi > GrößteDpi) return "the resolution is out of range";
     SeiteBestimmen(zeichnung.dokument, zeichnung.ansicht);
     Auftrag auftrag{zeichnung, dpi, QString::fromStdString(titel), {}};
     if (auto fehler = format->Erzeugen(auftrag); !fehler.empty()) return fehler;

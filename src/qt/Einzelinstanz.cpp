@@ -2,16 +2,15 @@
 
 #include <QCryptographicHash>
 #include <QDir>
-#include <QLocalSocket>
-#include <QStandardPaths>
+#include <QFile>
 
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace kw {
 
 namespace {
-
-constexpr int Geduld = 2000; ///< ms for an answer of the first instance
 
 /// The same for every start of this user on this display, and no other.
 QString Kennname() {
@@ -21,41 +20,59 @@ QString Kennname() {
 }
 
 QString Laufordner() {
-    const QString ordner = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const QString ordner = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return ordner.isEmpty() ? QDir::tempPath() : ordner;
 }
 
+/// The address of the first instance's socket; false when the path is too long for one.
+bool Adresse(const QString &pfad, sockaddr_un &adresse) {
+    const QByteArray name = QFile::encodeName(pfad);
+    adresse = {};
+    adresse.sun_family = AF_UNIX;
+    if (name.size() >= static_cast<qsizetype>(sizeof adresse.sun_path)) return false;
+    std::copy(name.begin(), name.end(), adresse.sun_path);
+    return true;
+}
+
+int Steckdose() { return ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0); }
+
 } // namespace
+
+Einzelinstanz::~Einzelinstanz() {
+    if (horcher_ >= 0) ::close(horcher_);
+}
 
 bool Einzelinstanz::IstErste() {
     const QString pfad = Laufordner() + QLatin1Char('/') + Kennname();
     sperre_ = std::make_unique<QLockFile>(pfad + QStringLiteral(".lock"));
     sperre_->setStaleLockTime(0); // a lock is held as long as its process lives
+    sockaddr_un adresse;
+    const bool erreichbar = Adresse(pfad + QStringLiteral(".socket"), adresse);
+    const auto *ziel = reinterpret_cast<const sockaddr *>(&adresse);
     if (sperre_->tryLock()) {
-        QLocalServer::removeServer(pfad + QStringLiteral(".socket")); // left by a crash
-        server_.setSocketOptions(QLocalServer::UserAccessOption);
-        server_.listen(pfad + QStringLiteral(".socket"));
+        if (!erreichbar) return true;
+        ::unlink(adresse.sun_path); // left by a crash
+        horcher_ = Steckdose();
+        if (::bind(horcher_, ziel, sizeof adresse) == 0) ::listen(horcher_, 4);
         return true;
     }
     // A folder that can't hold the lock must not keep the program from starting.
     if (sperre_->error() != QLockFile::LockFailedError) return true;
-    QLocalSocket erste;
-    erste.connectToServer(pfad + QStringLiteral(".socket"));
-    if (erste.waitForConnected(Geduld)) {
-        erste.write("vor\n");
-        erste.waitForBytesWritten(Geduld);
-        erste.waitForDisconnected(Geduld);
-    }
+    // To be called is all that the first instance waits for.
+    const int anruf = Steckdose();
+    if (erreichbar) static_cast<void>(::connect(anruf, ziel, sizeof adresse));
+    ::close(anruf);
     return false;
 }
 
 void Einzelinstanz::BeiWeiteremStart(std::function<void()> nachVorn) {
-    QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this, nachVorn] {
-        while (QLocalSocket *bote = server_.nextPendingConnection()) {
-            QObject::connect(bote, &QLocalSocket::disconnected, bote, &QObject::deleteLater);
-            nachVorn();
-            bote->disconnectFromServer();
-        }
+    if (horcher_ < 0) return;
+    wächter_ = std::make_unique<QSocketNotifier>(horcher_, QSocketNotifier::Read);
+    QObject::connect(wächter_.get(), &QSocketNotifier::activated, wächter_.get(), [this, nachVorn] {
+        const int anruf = ::accept(horcher_, nullptr, nullptr);
+        if (anruf < 0) return;
+        ::close(anruf);
+        nachVorn();
     });
 }
 

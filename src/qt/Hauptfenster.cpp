@@ -145,7 +145,8 @@ void Hauptfenster::ZeitgeberStarten(std::string_view name, int ms) {
 void Hauptfenster::NachErstemBild(std::function<void()> arbeit) { nachErstemBild_.push_back(std::move(arbeit)); }
 
 std::string Hauptfenster::Desktopordner() const {
-    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation).toStdString();
+    const QString ordner = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+    return (QDir(ordner).exists() ? ordner : QDir::homePath()).toStdString();
 }
 
 std::vector<std::string> Hauptfenster::Schriftarten() const {

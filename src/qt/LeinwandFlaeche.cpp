@@ -24,7 +24,9 @@ void LeinwandFläche::Cls() {
     if (bild_.size() != größe) bild_ = QImage(größe, QImage::Format_RGB32);
     bild_.setDevicePixelRatio(1); // the painter counts physical pixels
     bild_.fill(Qt::white);
-    Beginnen(bild_, größe.width() / ScaleWidth(), BildschirmPixelJeCm * Faktor());
+    // Not by the picture's own size, which is rounded: polygons count in exactly these pixels.
+    const double pixelJeCm = BildschirmPixelJeCm * Faktor();
+    Beginnen(bild_, pixelJeCm * pixelverhältnis_, pixelJeCm);
     bild_.setDevicePixelRatio(pixelverhältnis_);
 }
 

@@ -1,5 +1,7 @@
 #include "qt/QtFlaeche.h"
 
+#include <QPaintEngine>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -10,9 +12,10 @@ namespace {
 
 constexpr double JeCm = 1200 / 2.54; ///< units of 1/1200 inch
 constexpr double JePunkt = 1200.0 / 72;
-constexpr double GrößteSchrift = 1000; ///< points
-constexpr double FernerRand = 1000;    ///< cm; what reaches further is cut off there
-constexpr int TextStift = 0x8000;      ///< in a pen's key: the pen of texts, which has only a colour
+constexpr double GrößteSchrift = 500; ///< points; with more the width of a long text overflows inside Qt
+constexpr double FernerRand = 1000;   ///< cm; what reaches further is cut off there
+constexpr double SpitzesteEcke = 10;  ///< length of a mitre by the line's width; lets triangles keep their tips
+constexpr int TextStift = 0x8000;     ///< in a pen's key: the pen of texts, which has only a colour
 
 QColor Farbton(Farbe farbe) {
     const Farbe f = Aufgelöst(farbe);
@@ -60,31 +63,37 @@ bool QtFläche::Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJ
     pixelJeCm_ = pixelJeCm;
     maler_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     maler_.scale(geräteJeEinheit_, geräteJeEinheit_);
+    füllbar_ = maler_.paintEngine()->type() == QPaintEngine::Raster;
+    gerastert_ = ausrichten_ || füllbar_;
     stift_ = füllung_ = ~std::uint64_t{0};
-    schrift_ = nullptr;
+    schrift_ = 0;
     stifte_.clear();
     return true;
 }
 
 bool QtFläche::Beenden() { return !maler_.isActive() || maler_.end(); }
 
-void QtFläche::Cls() {
-    maler_.fillRect(QRectF(0, 0, ScaleWidth() * JeCm, ScaleHeight() * JeCm), Qt::white);
-}
+void QtFläche::Cls() { maler_.fillRect(QRectF(0, 0, ScaleWidth() * JeCm, ScaleHeight() * JeCm), Qt::white); }
 
 bool QtFläche::Sichtbar(double links, double oben, double rechts, double unten) const {
     constexpr double Rand = 1; // no pen is wider
     return rechts >= -Rand && unten >= -Rand && links <= ScaleWidth() + Rand && oben <= ScaleHeight() + Rand;
 }
 
-/// Widths are real lengths, never "one device pixel": that would be another width on every device.
+/// In device units. A width is a real length: a cosmetic pen would have another one on every device. Only
+/// what a picture can't show is made thicker.
+double QtFläche::Strichbreite() const {
+    const double breite = DrawWidth / pixelJeCm_ * JeCm * geräteJeEinheit_;
+    if (!gerastert_) return breite;
+    return std::max(1.0, ausrichten_ ? std::round(breite) : breite);
+}
+
 const QPen &QtFläche::Stift(Farbe farbe) {
     const auto schlüssel = Schlüssel(farbe, DrawWidth, DrawStyle);
     const auto bekannt = stifte_.find(schlüssel);
     if (bekannt != stifte_.end()) return bekannt->second;
-    double breite = DrawWidth / pixelJeCm_ * JeCm;
-    if (ausrichten_) breite = std::max(1.0, std::round(breite * geräteJeEinheit_)) / geräteJeEinheit_;
-    QPen stift(Farbton(farbe), breite, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+    QPen stift(Farbton(farbe), Strichbreite() / geräteJeEinheit_, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+    stift.setMiterLimit(SpitzesteEcke);
     if (DrawStyle == StilGepunktet) stift.setDashPattern({2, 3});
     if (DrawStyle == StilStrichpunkt) stift.setDashPattern({5, 3, 1, 3});
     if (DrawStyle != StilDurchgezogen) stift.setCapStyle(Qt::FlatCap);
@@ -94,9 +103,7 @@ const QPen &QtFläche::Stift(Farbe farbe) {
 void QtFläche::StiftSetzen(Farbe farbe) {
     const auto schlüssel = Schlüssel(farbe, DrawWidth, DrawStyle);
     if (schlüssel == stift_) return;
-    const QPen &stift = Stift(farbe);
-    maler_.setPen(stift);
-    stiftPixel_ = static_cast<int>(std::lround(stift.widthF() * geräteJeEinheit_));
+    maler_.setPen(Stift(farbe));
     stift_ = schlüssel;
 }
 
@@ -108,14 +115,45 @@ void QtFläche::FüllungSetzen() {
     füllung_ = schlüssel;
 }
 
-/// A pen of odd width covers whole pixels when it runs through their middles, one of even width between them.
-double QtFläche::Ausgerichtet(double einheiten) const {
-    const double pixel = einheiten * geräteJeEinheit_;
-    return (stiftPixel_ % 2 == 1 ? std::floor(pixel) + 0.5 : std::round(pixel)) / geräteJeEinheit_;
+/// Where the stroke along a line at `gerät` (device units) begins: on a whole pixel, the nearest to its real
+/// place. The small shift decides ties alike, whatever the last digits of a product are.
+double QtFläche::StrichAnfang(double gerät) const {
+    constexpr double Nichts = 1e-6;
+    return std::floor(gerät - Strichbreite() / 2 + 0.5 + Nichts);
 }
 
-QPointF QtFläche::Ausgerichtet(QPointF p) const {
-    return ausrichten_ ? QPointF(Ausgerichtet(p.x()), Ausgerichtet(p.y())) : p;
+double QtFläche::StrichMitte(double einheiten) const {
+    return (StrichAnfang(einheiten * geräteJeEinheit_) + Strichbreite() / 2) / geräteJeEinheit_;
+}
+
+QPointF QtFläche::StrichMitte(QPointF p) const {
+    return gerastert_ ? QPointF(StrichMitte(p.x()), StrichMitte(p.y())) : p;
+}
+
+/// Edges in device units.
+void QtFläche::RechteckFüllen(double links, double oben, double rechts, double unten, Farbe farbe) {
+    if (rechts <= links || unten <= oben) return;
+    // A thousandth of a pixel more on each side: without it rounding leaves black at 1 of 255.
+    const QRectF gerät = QRectF(links, oben, rechts - links, unten - oben) + QMarginsF(0.001, 0.001, 0.001, 0.001);
+    maler_.fillRect(QRectF(gerät.topLeft() / geräteJeEinheit_, gerät.size() / geräteJeEinheit_), Farbton(farbe));
+}
+
+/// What a pen with square caps would mark.
+void QtFläche::AchsenlinieFüllen(QPointF von, QPointF bis, Farbe farbe) {
+    const double breite = Strichbreite();
+    const QRectF r = QRectF(von * geräteJeEinheit_, bis * geräteJeEinheit_).normalized();
+    RechteckFüllen(StrichAnfang(r.left()), StrichAnfang(r.top()), StrichAnfang(r.right()) + breite,
+                   StrichAnfang(r.bottom()) + breite, farbe);
+}
+
+void QtFläche::KastenFüllen(QPointF von, QPointF bis, Farbe farbe) {
+    const double halb = Strichbreite() / 2;
+    const QRectF r = QRectF(von * geräteJeEinheit_, bis * geräteJeEinheit_).normalized();
+    if (FillStyle == Gefüllt)
+        RechteckFüllen(StrichAnfang(r.left()) + halb, StrichAnfang(r.top()) + halb, StrichAnfang(r.right()) + halb,
+                       StrichAnfang(r.bottom()) + halb, FillColor);
+    const QPointF ecken[] = {von, {bis.x(), von.y()}, bis, {von.x(), bis.y()}};
+    for (int i = 0; i < 4; ++i) AchsenlinieFüllen(ecken[i], ecken[(i + 1) % 4], farbe);
 }
 
 void QtFläche::Line(int flags, double x1, double y1, double x2, double y2, Farbe farbe) {
@@ -127,14 +165,19 @@ void QtFläche::Line(int flags, double x1, double y1, double x2, double y2, Farb
             for (double *wert : {&x1, &y1, &x2, &y2}) *wert = Herangeholt(*wert);
         } else if (!Geschnitten(x1, y1, x2, y2)) return;
     }
-    StiftSetzen(flags & FarbeGilt ? farbe : ForeColor);
     const QPointF von(x1 * JeCm, y1 * JeCm);
     const QPointF bis(x2 * JeCm, y2 * JeCm);
+    const Farbe strich = flags & FarbeGilt ? farbe : ForeColor;
+    const bool achse = x1 == x2 || y1 == y2;
+    // On a picture this is ten times faster than the painter's own lines, and sharp.
+    if (füllbar_ && DrawStyle == StilDurchgezogen && (kasten || achse))
+        return kasten ? KastenFüllen(von, bis, strich) : AchsenlinieFüllen(von, bis, strich);
+    StiftSetzen(strich);
     if (kasten) {
         FüllungSetzen();
-        maler_.drawRect(QRectF(Ausgerichtet(von), Ausgerichtet(bis)).normalized());
-    } else if (x1 == x2 || y1 == y2) {
-        maler_.drawLine(Ausgerichtet(von), Ausgerichtet(bis));
+        maler_.drawRect(QRectF(StrichMitte(von), StrichMitte(bis)).normalized());
+    } else if (achse) {
+        maler_.drawLine(StrichMitte(von), StrichMitte(bis));
     } else {
         maler_.drawLine(von, bis);
     }
@@ -163,19 +206,37 @@ void QtFläche::Polygon(std::span<const Bildpunkt> punkte) {
     StiftSetzen(ForeColor);
     FüllungSetzen();
     const auto einheiten = [&](int pixel) { return Herangeholt(pixel / pixelJeCm_) * JeCm; };
-    for (std::size_t i = 0; i < n; ++i) ecken[i] = Ausgerichtet({einheiten(punkte[i].X), einheiten(punkte[i].Y)});
+    for (std::size_t i = 0; i < n; ++i) ecken[i] = StrichMitte({einheiten(punkte[i].X), einheiten(punkte[i].Y)});
     maler_.drawPolygon(ecken.data(), static_cast<int>(n));
 }
 
 Schriftsatz &QtFläche::Satz() {
-    const double punkte = std::clamp(FontSize / Faktor(), 1.0, GrößteSchrift);
+    const double nominal = FontSize / Faktor();
+    const double punkte = nominal > 1 ? std::min(nominal, GrößteSchrift) : 1; // also for what is no number
     return vorrat_.Finden(
-        {FontName, static_cast<int>(std::lround(punkte * JePunkt)), FontBold, FontItalic, FontUnderline});
+        {FontName, static_cast<int>(std::lround(punkte * JePunkt)), FontBold, FontItalic});
 }
 
 double QtFläche::TextWidth(std::string_view text) { return text.empty() ? 0 : Satz().Setzen(text).Breite / JeCm; }
 
 double QtFläche::TextHeight() { return Satz().Höhe() / JeCm; }
+
+/// On a picture in whole pixels: half covered ones would let specks of a line through between two names. The
+/// top is rounded, not taken outwards, for right above it is the symbol's outline.
+void QtFläche::TextgrundFüllen(const QRectF &grund) {
+    if (!gerastert_) return maler_.fillRect(grund, Qt::white);
+    const QRectF r(grund.topLeft() * geräteJeEinheit_, grund.size() * geräteJeEinheit_);
+    RechteckFüllen(std::floor(r.left()), std::round(r.top()), std::ceil(r.right()), std::ceil(r.bottom()), Weiß);
+}
+
+/// Our own line: the painter misplaces that of a prepared text when it is scaled.
+void QtFläche::Unterstreichen(const Schriftsatz &satz, QPointF ort, double breite) {
+    const QRectF strich(ort.x(), ort.y() + satz.StrichTiefe() - satz.StrichDicke() / 2, breite, satz.StrichDicke());
+    if (!gerastert_) return maler_.fillRect(strich, Farbton(ForeColor));
+    const QRectF r(strich.topLeft() * geräteJeEinheit_, strich.size() * geräteJeEinheit_);
+    const double oben = std::round(r.top());
+    RechteckFüllen(r.left(), oben, r.right(), oben + std::max(1.0, std::round(r.height())), ForeColor);
+}
 
 void QtFläche::TextZeichnen(std::string_view text) {
     Schriftsatz &satz = Satz();
@@ -184,13 +245,14 @@ void QtFläche::TextZeichnen(std::string_view text) {
     const double höhe = satz.Höhe() / JeCm;
     if (Fern(CurrentX) || Fern(CurrentY) || !Sichtbar(CurrentX, CurrentY, CurrentX + breite, CurrentY + höhe)) return;
     const QPointF ort(CurrentX * JeCm, CurrentY * JeCm);
-    if (!FontTransparent) maler_.fillRect(QRectF(ort, QSizeF(gesetzt.Breite, satz.Höhe())), Qt::white);
+    if (!FontTransparent) TextgrundFüllen(QRectF(ort, QSizeF(gesetzt.Breite, satz.Höhe())));
     const auto schlüssel = Schlüssel(ForeColor, TextStift, 0);
     if (schlüssel != stift_) maler_.setPen(Farbton(ForeColor));
     stift_ = schlüssel;
-    if (schrift_ != &satz) maler_.setFont(satz.Schrift());
-    schrift_ = &satz;
+    if (schrift_ != satz.Nummer()) maler_.setFont(satz.Schrift());
+    schrift_ = satz.Nummer();
     maler_.drawStaticText(ort, gesetzt.Text);
+    if (FontUnderline) Unterstreichen(satz, ort, gesetzt.Breite);
 }
 
 } // namespace kw

@@ -21,10 +21,12 @@ class QtFläche : public Zeichenfläche {
 
     /// Starts on `gerät`, `geräteJeCm` of whose units are a centimetre of the page. `pixelJeCm` is the
     /// surface's own pixel, in which `DrawWidth` and polygons count. False when the device can't be painted.
+    /// On a picture lines of the axes keep to the grid of its pixels, so that they are sharp, and no line is
+    /// thinner than a pixel.
     bool Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJeCm);
     /// Ends painting; false when the device reports a failure.
     bool Beenden();
-    /// On a screen: lines of the axes keep to the grid of the device's pixels, so that they are sharp.
+    /// For a screen, before `Beginnen`: lines are also a whole number of device pixels wide.
     void AnPixelnAusrichten() { ausrichten_ = true; }
 
     void Cls() override;
@@ -44,8 +46,15 @@ class QtFläche : public Zeichenfläche {
     void StiftSetzen(Farbe farbe);
     void FüllungSetzen();
     const QPen &Stift(Farbe farbe);
-    double Ausgerichtet(double einheiten) const;
-    QPointF Ausgerichtet(QPointF einheiten) const;
+    double Strichbreite() const;
+    double StrichAnfang(double gerät) const;
+    double StrichMitte(double einheiten) const;
+    QPointF StrichMitte(QPointF einheiten) const;
+    void RechteckFüllen(double links, double oben, double rechts, double unten, Farbe farbe);
+    void AchsenlinieFüllen(QPointF von, QPointF bis, Farbe farbe);
+    void KastenFüllen(QPointF von, QPointF bis, Farbe farbe);
+    void TextgrundFüllen(const QRectF &grund);
+    void Unterstreichen(const Schriftsatz &satz, QPointF ort, double breite);
     /// Whether any of the rectangle (user units) can show.
     bool Sichtbar(double links, double oben, double rechts, double unten) const;
 
@@ -54,11 +63,12 @@ class QtFläche : public Zeichenfläche {
     double geräteJeEinheit_ = 1;
     double pixelJeCm_ = 1;
     bool ausrichten_ = false;
+    bool gerastert_ = false; ///< the device is made of pixels
+    bool füllbar_ = false;   ///< filling a rectangle is cheaper there than drawing a line
     std::unordered_map<std::uint64_t, QPen> stifte_;
-    std::uint64_t stift_ = ~std::uint64_t{0};    ///< key of the painter's pen
-    std::uint64_t füllung_ = ~std::uint64_t{0};  ///< key of the painter's brush
-    const Schriftsatz *schrift_ = nullptr;       ///< the painter's font
-    int stiftPixel_ = 1;                         ///< width of the painter's pen on the device
+    std::uint64_t stift_ = ~std::uint64_t{0};   ///< key of the painter's pen
+    std::uint64_t füllung_ = ~std::uint64_t{0}; ///< key of the painter's brush
+    int schrift_ = 0;                           ///< number of the painter's font
 };
 
 } // namespace kw

@@ -6,39 +6,51 @@ namespace kw {
 
 namespace {
 
-// More than any page holds; what passes them is set afresh.
-constexpr std::size_t HöchstzahlTexte = 20000;
-constexpr std::size_t HöchstzahlSchriften = 200;
+// More than any page holds; what passes them is set afresh. A glyph takes some 40 bytes.
+constexpr std::size_t HöchstzahlZeichen = 200000; ///< of one font
+constexpr std::size_t HöchstzahlSchriften = 32;
 
 QFont SchriftFür(const Schriftwunsch &w) {
     QFont schrift(QString::fromUtf8(w.Name.data(), static_cast<qsizetype>(w.Name.size())));
     schrift.setPixelSize(w.Größe);
     schrift.setBold(w.Fett);
     schrift.setItalic(w.Kursiv);
-    schrift.setUnderline(w.Unterstrichen);
     schrift.setHintingPreference(QFont::PreferNoHinting);
     schrift.setKerning(true);
     return schrift;
 }
 
-/// Control characters would break lines or vanish; they show as blanks.
+/// What would break a line (controls, separators) or an XML file (the non-characters) shows as a blank.
+bool IstLesbar(QChar c) {
+    constexpr char16_t NichtZeichen = 0xFFFE;
+    const QChar::Category art = c.category();
+    return art != QChar::Other_Control && art != QChar::Separator_Line && art != QChar::Separator_Paragraph &&
+           c.unicode() < NichtZeichen;
+}
+
 QString Lesbar(std::string_view utf8) {
     QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
     for (QChar &c : text)
-        if (c.category() == QChar::Other_Control) c = QLatin1Char(' ');
+        if (!IstLesbar(c)) c = QLatin1Char(' ');
     return text;
 }
 
 } // namespace
 
-Schriftsatz::Schriftsatz(const Schriftwunsch &wunsch) : schrift_(SchriftFür(wunsch)) {
+Schriftsatz::Schriftsatz(const Schriftwunsch &wunsch, int nummer) : schrift_(SchriftFür(wunsch)), nummer_(nummer) {
     const QFontMetricsF maße(schrift_);
     höhe_ = maße.ascent() + maße.descent();
+    strichTiefe_ = maße.ascent() + maße.underlinePos();
+    strichDicke_ = maße.lineWidth();
 }
 
 const Schriftsatz::Gesetzt &Schriftsatz::Setzen(std::string_view utf8) {
     if (const auto bekannt = texte_.find(utf8); bekannt != texte_.end()) return bekannt->second;
-    if (texte_.size() >= HöchstzahlTexte) texte_.clear();
+    if (zeichen_ > HöchstzahlZeichen) {
+        texte_.clear();
+        zeichen_ = 0;
+    }
+    zeichen_ += utf8.size() + 1;
     const QString text = Lesbar(utf8);
     QStaticText gesetzt(text);
     gesetzt.setTextFormat(Qt::PlainText);
@@ -56,7 +68,7 @@ Schriftsatz &Textvorrat::Finden(const Schriftwunsch &wunsch) {
     auto i = sätze_.find(wunsch);
     if (i == sätze_.end()) {
         if (sätze_.size() >= HöchstzahlSchriften) sätze_.clear();
-        i = sätze_.try_emplace(wunsch, wunsch).first;
+        i = sätze_.try_emplace(wunsch, wunsch, ++nummern_).first;
     }
     letzter_ = wunsch;
     satz_ = &i->second;

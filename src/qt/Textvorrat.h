@@ -3,6 +3,7 @@
 #include <QFont>
 #include <QStaticText>
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <string_view>
@@ -16,7 +17,6 @@ struct Schriftwunsch {
     int Größe = 0; ///< 1/1200 inch
     bool Fett = false;
     bool Kursiv = false;
-    bool Unterstrichen = false;
     auto operator<=>(const Schriftwunsch &) const = default;
 };
 
@@ -25,7 +25,7 @@ struct Schriftwunsch {
 /// paper (point sizes are rounded to device pixels otherwise, by up to 4 %).
 class Schriftsatz {
   public:
-    explicit Schriftsatz(const Schriftwunsch &wunsch);
+    Schriftsatz(const Schriftwunsch &wunsch, int nummer);
 
     struct Gesetzt {
         QStaticText Text;
@@ -33,14 +33,22 @@ class Schriftsatz {
     };
     const Gesetzt &Setzen(std::string_view utf8);
     const QFont &Schrift() const { return schrift_; }
-    double Höhe() const { return höhe_; } ///< ascent and descent
+    int Nummer() const { return nummer_; } ///< from 1; no other font of the store ever has it
+    double Höhe() const { return höhe_; }  ///< ascent and descent
+    /// The line under a text: its middle below the text's top, and its thickness.
+    double StrichTiefe() const { return strichTiefe_; }
+    double StrichDicke() const { return strichDicke_; }
 
   private:
     struct Streuung : std::hash<std::string_view> {
         using is_transparent = void;
     };
     QFont schrift_;
+    int nummer_;
     double höhe_;
+    double strichTiefe_;
+    double strichDicke_;
+    std::size_t zeichen_ = 0; ///< bytes of all texts
     std::unordered_map<std::string, Gesetzt, Streuung, std::equal_to<>> texte_;
 };
 
@@ -51,6 +59,7 @@ class Textvorrat {
 
   private:
     std::map<Schriftwunsch, Schriftsatz> sätze_;
+    int nummern_ = 0;
     Schriftwunsch letzter_; ///< most calls ask for the same again
     Schriftsatz *satz_ = nullptr;
 };

@@ -2,8 +2,8 @@
 
 #include "document/Zahlen.h"
 
+#include <algorithm>
 #include <cmath>
-#include <vector>
 
 namespace kw {
 
@@ -260,10 +260,10 @@ template <typename Umriss> void Symbol::AuswahlZeigen(Umriss umriss) {
 }
 
 void Symbol::Vieleck(std::span<const Ecke> ecken) {
+    constexpr double Grenze = 1e9; // of a whole number; only damaged records come near it
+    const auto pixel = [&](double cm) { return static_cast<int>(std::clamp(std::nearbyint(cm * k), -Grenze, Grenze)); };
     std::array<Bildpunkt, 9> punkte;
-    for (size_t i = 0; i < ecken.size(); ++i)
-        punkte[i] = {static_cast<int>(std::nearbyint(ecken[i][0] * k)),
-                     static_cast<int>(std::nearbyint(ecken[i][1] * k))};
+    for (size_t i = 0; i < ecken.size(); ++i) punkte[i] = {pixel(ecken[i][0]), pixel(ecken[i][1])};
     f.Polygon(std::span(punkte).first(ecken.size()));
 }
 

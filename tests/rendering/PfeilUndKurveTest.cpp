@@ -28,7 +28,7 @@ TEST(Pfeile, KopfNachLängeUndRichtung) {
     Einzelbild bild(uhr, "");
     Zeichnung z = bild.DasBild();
     // The second one's length is in no row of the table: it takes the setback that the first one left.
-    z.dokument.cboPfeile = {"1_5_1_5_2", "2_5_60_5_10", "1_1", "1_0_0_-3_4"};
+    z.dokument.cboPfeile = {"1_5_1_5_2", "2_5_60_5_10", "1_1", "1_8_0_5_4"};
     const auto s = Striche(z, PfeilEbene);
     ASSERT_EQ(s.size(), 104 + 104 + 103 + 104);
     EXPECT_EQ(s[0], "line 5 1 5 2");
@@ -38,7 +38,7 @@ TEST(Pfeile, KopfNachLängeUndRichtung) {
     EXPECT_EQ(s[103], "line 5.1131 1.6869 5 2");
     EXPECT_EQ(s[104 + 1], "line 5 10 4.8869 20.1131"); // upward
     EXPECT_EQ(s[208 + 0], "line 5 60 5.1131 49.8869"); // the other head, without the shaft
-    EXPECT_EQ(s[311 + 1], "line -3 4 -2.7403 3.8857"); // to the left
+    EXPECT_EQ(s[311 + 1], "line 5 4 5.2604 3.8414"); // to the left
 }
 
 TEST(Pfeile, KreislinienFolgenDemFarbschemaEinBildSpäter) {

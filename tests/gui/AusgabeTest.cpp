@@ -1,0 +1,101 @@
+// Exports: whole files of the right size, or a message and no file.
+#include "qt/Ausgabe.h"
+#include "app/Einzelbild.h"
+#include "document/Dateien.h"
+#include "gui/Programmaufruf.h"
+#include "qt/QtPlattform.h"
+
+#include <QColor>
+#include <QDir>
+#include <QImage>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+
+#include <sys/stat.h>
+
+using namespace kw;
+
+namespace {
+
+class Ausgabe : public testing::Test {
+  protected:
+    Ausgabe() {
+        z.dokument.cboPersonen.Anhängen("001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__");
+        z.dokument.cboTextboxen.Anhängen("3_8_Arial_12_255_1_0_0_0_Öl & <Käse>#\x01\xff\xef\xbf\xbe]]>_4_1");
+        z.ansicht.bRasterAnzeigen = true; // of the screen only
+    }
+    QString Ort(const char *name) const { return ordner.filePath(QString::fromUtf8(name)); }
+    std::string Fehler(const char *name, int dpi = 150) {
+        return Exportieren(z, Ort(name).toStdString(), dpi, "Mein Täst");
+    }
+
+    QTemporaryDir ordner;
+    QtUhr uhr;
+    Einzelbild bild{uhr, ""};
+    Zeichnung z = bild.DasBild();
+};
+
+void EnthältAlle(const QString &text, std::initializer_list<const char *> worte) {
+    for (const char *wort : worte)
+        EXPECT_TRUE(text.contains(QString::fromUtf8(wort))) << wort << " in\n" << text.toStdString();
+}
+
+} // namespace
+
+TEST_F(Ausgabe, PicturesHaveThePagesSizeAndSayTheirResolution) {
+    for (const char *name : {"a.png", "a.JPG", "a.jpeg", "a.Bmp"}) {
+        EXPECT_EQ(Fehler(name), "");
+        const QImage gelesen(Ort(name));
+        EXPECT_EQ(gelesen.size(), QSize(1754, 1240)) << name;
+        EXPECT_NEAR(gelesen.dotsPerMeterX(), 150 / 0.0254, 20) << name;
+        EXPECT_FALSE(gelesen.hasAlphaChannel()) << name;
+        for (const QPoint leer : {QPoint(0, 0), QPoint(18, 9), QPoint(1753, 1239)})
+            EXPECT_EQ(gelesen.pixelColor(leer), QColor(Qt::white)) << name;
+        EXPECT_NEAR(gelesen.pixelColor(272, 272).blue(), 226, 4) << "inside the person, " << name;
+    }
+}
+
+TEST_F(Ausgabe, PdfHasThePaperTheFontsAndTheText) {
+    const std::tuple<int, int, const char *> seiten[] = {
+        {9, 2, "842 x 595 pts"}, {9, 1, "595 x 842 pts"}, {11, 1, "420 x 595 pts"}, {1, 2, "792 x 612 pts"}};
+    for (const auto &[papier, lage, größe] : seiten) {
+        z.dokument.Papiercode = papier;
+        z.dokument.Seitenlage = lage;
+        EXPECT_EQ(Fehler("a.pdf"), "");
+        EnthältAlle(Ausgegeben("pdfinfo", {Ort("a.pdf")}), {größe, "Pages:           1\n", "Mein Täst"});
+    }
+    const QStringList schriften = Ausgegeben("pdffonts", {Ort("a.pdf")}).split(u'\n', Qt::SkipEmptyParts).mid(2);
+    EXPECT_FALSE(schriften.empty());
+    for (const QString &schrift : schriften)
+        EXPECT_EQ(schrift.simplified().section(u' ', -5, -5), QStringLiteral("yes")) << schrift.toStdString();
+    EnthältAlle(Ausgegeben("pdftotext", {Ort("a.pdf"), QStringLiteral("-")}), {"Jörg", "Größmann", "Öl & <Käse>"});
+}
+
+TEST_F(Ausgabe, SvgIsWholeWhateverTheTextsHold) {
+    std::string inhalt;
+    EXPECT_EQ(Fehler("a.svg"), "");
+    EXPECT_TRUE(DateiLesen(Ort("a.svg").toStdString(), inhalt).Gelungen());
+    EXPECT_NE(inhalt.find("width=\"297mm\" height=\"210mm\""), std::string::npos);
+    QXmlStreamReader xml(QByteArray::fromStdString(inhalt));
+    QString texte;
+    while (xml.readNext() != QXmlStreamReader::Invalid && !xml.atEnd()) texte += xml.text();
+    EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
+    EnthältAlle(texte, {"Größmann", "Öl & <Käse>", "]]>"});
+}
+
+TEST_F(Ausgabe, WhatCannotBeWrittenIsToldAndLeavesNothing) {
+    QDir(ordner.path()).mkdir(QStringLiteral("ordner.pdf"));
+    ASSERT_TRUE(DateiSchreiben(Ort("fest.pdf").toStdString(), "alt").Gelungen());
+    ASSERT_EQ(::chmod(Ort("fest.pdf").toUtf8().constData(), 0444), 0);
+    for (const char *name : {"voll.pdf", "voll.svg", "voll.png", "voll.jpg", "voll.bmp"}) {
+        ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), Ort(name)));
+        EXPECT_EQ(Fehler(name), "No space left on device");
+        QFile::remove(Ort(name));
+    }
+    for (const char *name : {"ordner.pdf", "fest.pdf", "gibt/es/nicht.pdf", "a.gif", "pdf", ""})
+        EXPECT_NE(Fehler(name), "") << name;
+    for (const int dpi : {GrößteDpi + 1, KleinsteDpi - 1, GrößteDpi}) EXPECT_NE(Fehler("a.png", dpi), "");
+    EXPECT_EQ(QDir(ordner.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).join(u' '),
+              QStringLiteral("fest.pdf ordner.pdf"));
+    EXPECT_EQ(QFileInfo(Ort("fest.pdf")).size(), 3);
+}

@@ -1,0 +1,90 @@
+#!/bin/sh
+# Holds the sources to the plan of the house: no Qt outside src/qt, no include that points up a floor, no file
+# that outgrows its reader, no test that the build has no pattern for. Prints each offender; then proves on a
+# small tree with one offender of each kind that it would have found it.
+set -eu
+
+# What each room may include besides itself, platform/ and libraries.
+below() {
+    case $1 in
+    platform | document) ;;
+    rendering) echo document ;;
+    editing) echo document rendering ;;
+    dialogs | output | commands) echo document rendering editing ;;
+    app) echo document rendering editing dialogs output commands ;;
+    qt) echo document rendering editing dialogs output commands app ;;
+    *) return 1 ;;
+    esac
+}
+
+includes_of_rooms() {
+    for folder in src/*; do
+        room=${folder#src/}
+        if ! allowed=$(below "$room"); then
+            echo "src/$room: no room of this house"
+            continue
+        fi
+        [ "$room" = platform ] || allowed="$allowed platform"
+        pattern=$(echo "$room $allowed" | tr -s ' ' '|')
+        grep -rnE '^ *# *include *"' "src/$room" | grep -vE "include *\"($pattern)/[^/]+\"" | sed 's/$/   (points up, aside or out)/' || true
+        [ "$room" = qt ] || grep -rnE '^ *# *include *[<"](Q|q[a-z]*\.h|[a-z]+/q)' "src/$room" | sed 's/$/   (Qt)/' || true
+    done
+}
+
+long_files() { find src -type f -exec awk 'END { if (NR > 400) print FILENAME ": " NR " lines" }' {} \; ; }
+
+# The patterns and names are those that tests/CMakeLists.txt itself uses.
+forgotten_tests() {
+    set -f
+    patterns=$(grep -oE '[A-Za-z_*][A-Za-z_*/]*\.(cpp|kws|sh)' tests/CMakeLists.txt)
+    for file in $(cd tests && find . -name '*.cpp' -o -name '*.kws' -o -name '*.sh' | sed 's|^\./||'); do
+        for pattern in $patterns; do
+            [ "$(dirname "$pattern")" = "$(dirname "$file")" ] || continue
+            # shellcheck disable=SC2254 # it is a pattern
+            case $file in $pattern) continue 2 ;; esac
+        done
+        echo "tests/$file: no pattern of tests/CMakeLists.txt finds it"
+    done
+    for file in $(cd tests && find . -name '*.out' | sed 's|^\./||'); do
+        [ -f "tests/${file%.out}.kws" ] || echo "tests/$file: no scenario prints it"
+    done
+    set +f
+}
+
+# "offenders FOLDER"
+offenders() (
+    cd "$1"
+    includes_of_rooms
+    long_files
+    forgotten_tests
+)
+
+found=$(offenders "$KW_SRC")
+if [ -n "$found" ]; then
+    echo "$found"
+    exit 1
+fi
+
+tree=$(mktemp -d)
+trap 'rm -rf "$tree"' EXIT
+mkdir -p "$tree/src/document" "$tree/src/output" "$tree/src/qt" "$tree/tests/output" "$tree/tests/scenarios"
+echo 'file(GLOB core_tests output/*Test.cpp scenarios/*.kws)' >"$tree/tests/CMakeLists.txt"
+echo '#include "platform/Uhr.h"' >"$tree/src/document/Clean.cpp"
+printf '#include <QString>\n#include "document/Clean.h"\n' >"$tree/src/qt/Clean.cpp"
+touch "$tree/tests/output/CleanTest.cpp"
+[ -z "$(offenders "$tree")" ] || { echo "finds fault with a clean tree"; offenders "$tree"; exit 1; }
+
+echo '#include "rendering/Seite.h"' >"$tree/src/document/Up.cpp"
+echo '#include "commands/Befehl.h"' >"$tree/src/output/Aside.cpp"
+echo '#include "../qt/Fenster.h"' >"$tree/src/output/Out.cpp"
+echo '# include <QString>' >"$tree/src/document/Qt1.cpp"
+echo '#include <qstring.h>' >"$tree/src/document/Qt2.cpp"
+echo '#include <QtGui/QImage>' >"$tree/src/output/Qt3.cpp"
+mkdir "$tree/src/cellar"
+yes '//' | head -n 401 >"$tree/src/qt/Long.cpp"
+touch "$tree/tests/output/Forgotten.cpp" "$tree/tests/scenarios/orphan.out" "$tree/tests/deep.sh"
+found=$(offenders "$tree")
+for offender in Up.cpp Aside.cpp Out.cpp Qt1.cpp Qt2.cpp Qt3.cpp cellar Long.cpp Forgotten.cpp orphan.out deep.sh; do
+    echo "$found" | grep -q "$offender" || { echo "would not have found $offender"; exit 1; }
+done
+[ "$(echo "$found" | wc -l)" = 11 ] || { echo "finds too much:"; echo "$found"; exit 1; }
