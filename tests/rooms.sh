@@ -12,7 +12,7 @@ below() {
     editing) echo document rendering ;;
     dialogs | output | commands) echo document rendering editing ;;
     app) echo document rendering editing dialogs output commands ;;
-    qt) echo document rendering editing dialogs output commands app ;;
+    qt | replay) echo document rendering editing dialogs output commands app ;;
     *) return 1 ;;
     esac
 }
