@@ -44,7 +44,11 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
 
 void frmMain::Laden() {
     ansicht.Sprache = "en";
-    plattform.benutzer.NachErstemBild([this] { DruckerErmitteln(); });
+    // Asking for printers or fonts can take longer than all the rest of the start.
+    plattform.benutzer.NachErstemBild([this] {
+        SchriftlisteFüllen();
+        DruckerErmitteln();
+    });
     ansicht.StrichFaktor = 1;
     SeiteBestimmen(dokument, ansicht);
     ListenFüllen();
@@ -60,7 +64,6 @@ void frmMain::Laden() {
     if (!einstellungen.Werkzeugleiste) bereich.WerkzeugleisteVerbergen();
     Sichern();
     bereich.Bildgrößenveränderung();
-    SchriftlisteFüllen();
     if (!Getrimmt(Kommandozeile).empty()) plattform.benutzer.ZeitgeberStarten("Timer2", OeffnenVerzögerung);
     projekt.Geändert = false;
     plattform.benutzer.AnzeigeAuffrischen();
@@ -99,8 +102,6 @@ void frmMain::SchriftlisteFüllen() {
     Combo3.ListIndex = 0;
 }
 
-/// Asking the print system can take longer than all the rest of the start, so this waits for the first
-/// picture.
 void frmMain::DruckerErmitteln() {
     DruckerVorhanden = plattform.drucker.DeviceName().has_value();
     if (!DruckerVorhanden) return;

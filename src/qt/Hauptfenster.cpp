@@ -69,8 +69,9 @@ Hauptfenster::Hauptfenster(const std::string &projektdatei)
     setCentralWidget(fläche_);
     setMinimumSize(Arbeitsbereich::KleinsteBreite / TwipsJePixel, Arbeitsbereich::KleinsteHöhe / TwipsJePixel);
     resize(QGuiApplication::primaryScreen()->availableSize() * 0.9);
-    MenüsBauen();
     fläche_->Verbinden(haupt_, [this] {
+        MenüsBauen(); // not before: the first word on the window costs the loading of the system's fonts
+        Anzeigen();
         for (const auto &arbeit : std::exchange(nachErstemBild_, {})) arbeit();
     });
     haupt_.Laden();
