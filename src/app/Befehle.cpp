@@ -15,6 +15,17 @@ const std::vector<Befehl> &BefehlsTabelle() {
         {"mnuSchwarzWeiß", "", "", [](frmMain &h) { h.FarbschemaWählen(SchemaSchwarzWeiß); }},
         {"mnuGraustufen", "", "", [](frmMain &h) { h.FarbschemaWählen(SchemaGraustufen); }},
         {"mnuFarbig", "", "", [](frmMain &h) { h.FarbschemaWählen(SchemaFarbig); }},
+        {"mnuWerkzeugleiste", "", "", [](frmMain &h) { h.WerkzeugleisteUmschalten(); }},
+        {"mnuLegendeAktualisieren", "", "",
+         [](frmMain &h) {
+             LegendeAufbauen(h.dokument, h.legende);
+             h.Vorschau();
+         }},
+        {"mnuLegendeAnzeigen", "", "",
+         [](frmMain &h) {
+             h.bedienung["btnLegende"].Checked = !h.bedienung["btnLegende"].Checked;
+             h.Legende();
+         }},
         {"btnBildGrößer", "", "", [](frmMain &h) { h.bereich.Vergrößern(); }},
         {"btnBildKleiner", "", "", [](frmMain &h) { h.bereich.Verkleinern(); }},
     };

@@ -11,6 +11,7 @@ Einzelbild::Einzelbild(const Uhr &uhr, const std::string &iniDatei) : uhr_(uhr) 
     const Einstellungen e = EinstellungenAus(iniDatei);
     ansicht_.Sprache = e.Sprache;
     ansicht_.Altersanzeige = e.Altersanzeige;
+    ansicht_.Pfeilfarbe = PfeilfarbeFür(ansicht_.Farbschema); // a window has drawn before it shows anything
     ansicht_.Linienfarben = LinienfarbenFür(DateiVorhanden(iniDatei) ? e.Farbschema : ansicht_.Farbschema);
 }
 

@@ -9,10 +9,11 @@
 namespace kw {
 
 /// A project that is loaded to be exported once, without a window: what the command line works with. It
-/// looks as it would in the window after a start with the same settings.
+/// looks as it would in the window after a start with the same settings; where there are none yet, it is
+/// in full colour, though the window's very first start still has the lines of black and white.
 class Einzelbild {
   public:
-    /// `iniDatei` need not exist; then the genogram is in full colour and English.
+    /// `iniDatei` need not exist.
     Einzelbild(const Uhr &uhr, const std::string &iniDatei);
 
     /// Loads the project. Gives the empty text, or one plain line that says what is wrong with it.

@@ -61,7 +61,7 @@ void frmMain::Laden() {
     ansicht.Farbschema = SchemaFarbig;
     SeiteAnzeigen();
     bereich.GrößeÄndern(start.BildschirmBreite, start.BildschirmHöhe);
-    if (!einstellungen.Werkzeugleiste) bereich.WerkzeugleisteVerbergen();
+    if (!einstellungen.Werkzeugleiste) WerkzeugleisteUmschalten();
     Sichern();
     bereich.Bildgrößenveränderung();
     if (!Getrimmt(Kommandozeile).empty()) plattform.benutzer.ZeitgeberStarten("Timer2", OeffnenVerzögerung);
@@ -87,6 +87,7 @@ void frmMain::ZweiteStufe() {
     ansicht.Farbschema = einstellungen.Farbschema;
     ansicht.Altersanzeige = einstellungen.Altersanzeige;
     ansicht.Sprache = einstellungen.Sprache;
+    dokument.Seitenlage = einstellungen.Orientation;
     bedienung.Beschriften(ansicht.Sprache);
     RasterWählen(einstellungen.Raster);
     bereich.cboBildGröße.ListIndex = ZoomBeimStart;
@@ -134,7 +135,7 @@ void frmMain::EinstellungenSichern() {
 }
 
 void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
-    if (name == "Timer2") projekt.Öffnen(Kommandozeile);
+    if (name == "Timer2" && !Getrimmt(Kommandozeile).empty()) projekt.Öffnen(Kommandozeile);
 }
 
 void frmMain::Vorschau() {
@@ -174,6 +175,15 @@ void frmMain::LegendenknopfBeschriften() {
     const bool sichtbar = dokument.LegendeSichtbar;
     bedienung["btnLegende"].Caption = IstDeutsch() ? sichtbar ? "Legende ausblenden" : "Legende anzeigen"
                                                    : sichtbar ? "Hide Legend" : "Show Legend";
+}
+
+void frmMain::WerkzeugleisteUmschalten() {
+    const bool zeigen = !bereich.WerkzeugleisteSichtbar();
+    if (zeigen) bereich.WerkzeugleisteZeigen();
+    else bereich.WerkzeugleisteVerbergen();
+    bedienung["mnuWerkzeugleiste"].Caption = IstDeutsch() ? zeigen ? "Werkzeugleiste ausblenden" : "Werkzeugleiste einblenden"
+                                             : zeigen    ? "Hide Toolbar"
+                                                         : "Show Toolbar";
 }
 
 void frmMain::FarbschemaWählen(int schema) {

@@ -63,6 +63,8 @@ class frmMain {
     void Legende();
     /// Caption of the legend button, as the legend is shown or not.
     void LegendenknopfBeschriften();
+    /// Shows or hides the tool palette.
+    void WerkzeugleisteUmschalten();
     void FarbschemaWählen(int schema);
     /// Sets the colours of the lines from the scheme in force.
     void LinienfarbenSetzen();

@@ -27,6 +27,8 @@ constexpr Zeile Tabelle[] = {
     {"mnuRückgängig", "Rückgängig", "Undo      ", false},
     {"mnuWiederholen", "Wiederherstellen", "Redo", false},
     {"mnuWerkzeugleiste", "Werkzeugleiste ausblenden", "Hide Toolbar"},
+    {"mnuLegendeAktualisieren", "Legende aktualisieren", "Update Legend"},
+    {"mnuLegendeAnzeigen", "Legende einblenden", "Show Legend"},
     {"mnuSchwarzWeiß", "Schwarz / Weiß", "Black / White"},
     {"mnuGraustufen", "Graustufen", "Grayscale"},
     {"mnuFarbig", "Farbig", "Colored"},

@@ -6,6 +6,7 @@
 #include <climits>
 #include <cstring>
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -61,7 +62,13 @@ class Deskriptor {
 };
 
 size_t StückLesen(int fd, char *ziel, size_t höchstens) {
-    const auto anzahl = Ununterbrochen([&] { return ::read(fd, ziel, höchstens); });
+    constexpr int Geduld = 5000; // ms, for the writer of a pipe
+    auto anzahl = Ununterbrochen([&] { return ::read(fd, ziel, höchstens); });
+    while (anzahl < 0 && errno == EAGAIN) {
+        struct pollfd warten {fd, POLLIN, 0};
+        if (Ununterbrochen([&] { return ::poll(&warten, 1, Geduld); }) == 0) Scheitern(ETIMEDOUT);
+        anzahl = Ununterbrochen([&] { return ::read(fd, ziel, höchstens); });
+    }
     if (anzahl < 0) Scheitern();
     return static_cast<size_t>(anzahl);
 }
@@ -195,7 +202,7 @@ void Schreiben(const std::string &pfad, std::string_view inhalt) {
 }
 
 std::string Lesen(const std::string &pfad) {
-    const Deskriptor datei(Öffnen(pfad, O_RDONLY | O_NOCTTY));
+    const Deskriptor datei(Öffnen(pfad, O_RDONLY | O_NOCTTY | O_NONBLOCK)); // a pipe without a writer must not hang
     struct stat angaben {};
     if (::fstat(datei.Nummer(), &angaben) != 0) Scheitern();
     if (S_ISDIR(angaben.st_mode)) Scheitern(EISDIR);

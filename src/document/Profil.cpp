@@ -189,6 +189,30 @@ std::string Profil::Lesen(std::string_view abschnitt, std::string_view schlüsse
     return wert ? NachUtf8(wert->substr(0, Lesepuffer - 1)) : std::string{};
 }
 
+/// A run of other lines is foreign when one of its parts is more than a comment.
+bool Profil::IstFremd(std::size_t i) const {
+    if (Schlüsselname(Zeile(i))) return false;
+    for (auto rest = Zeile(i); !rest.empty();) {
+        if (!rest.starts_with(';')) return true;
+        const auto ende = rest.find(Fuge);
+        rest = ende == std::string_view::npos ? std::string_view{} : rest.substr(ende + 1);
+    }
+    return false;
+}
+
+bool Profil::HatFremdeZeilen(std::string_view abschnitt) const {
+    const auto &gesucht = Gesucht(abschnitt);
+    for (auto i = gesucht.Kopf + std::size_t{1}; i < gesucht.Ende; ++i)
+        if (IstFremd(i)) return true;
+    return false;
+}
+
+bool Profil::HatVorspann() const {
+    for (std::size_t i = 0; i < zeilen_.size() && !KopfnameVon(i); ++i)
+        if (Schlüsselname(Zeile(i)) || IstFremd(i)) return true;
+    return false;
+}
+
 std::string Profil::SchlüsselListe(std::string_view abschnitt) const {
     // The list ends in a NUL of its own behind that of its last name, so it holds a byte less than a value.
     constexpr std::size_t Platz = Lesepuffer - 2;

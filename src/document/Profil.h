@@ -31,6 +31,10 @@ class Profil {
     bool HatAbschnitt(std::string_view abschnitt) const;
     /// How many sections have this name. Only the first of them is read.
     int AbschnittAnzahl(std::string_view abschnitt) const;
+    /// Whether there is a line that is neither a key nor a comment: in the section, or before the first one
+    /// (where a key counts too, since nobody can ask for it).
+    bool HatFremdeZeilen(std::string_view abschnitt) const;
+    bool HatVorspann() const;
     /// How many keys the section has, those included for which the buffer has no room.
     std::size_t SchlüsselAnzahl(std::string_view abschnitt) const;
     /// True when the value does not fit into the buffer, so that `Lesen` cuts it.
@@ -65,6 +69,7 @@ class Profil {
     };
 
     std::string_view Zeile(std::size_t i) const;
+    bool IstFremd(std::size_t i) const;
     std::optional<std::string_view> KopfnameVon(std::size_t i) const;
     Abschnitt &Gesucht(std::string_view abschnitt) const;
     std::size_t Platz(const Abschnitt &abschnitt, std::string_view schlüssel, std::uint32_t streuwert) const;

@@ -127,6 +127,7 @@ std::string Abschnittschaden(const Profil &profil, const SpeicherZeile &zeile) {
     if (profil.SchlüsselAnzahl(abschnitt) > static_cast<size_t>(anzahl)) {
         return abschnitt + ": more records than can be read, the first is " + abschnitt + " " + std::to_string(anzahl);
     }
+    if (profil.HatFremdeZeilen(abschnitt)) return abschnitt + ": a line that is no record isn't read";
     if (profil.AbschnittAnzahl(abschnitt) > 1) return abschnitt + ": only the first section of this name is read";
     return {};
 }
@@ -140,6 +141,7 @@ std::string Legendenschaden(const Profil &profil) {
 }
 
 std::string ErsterSchaden(const Profil &profil) {
+    if (profil.HatVorspann()) return "text before the first section isn't read";
     for (const auto &zeile : SpeicherTabelle) {
         if (auto schaden = Abschnittschaden(profil, zeile); !schaden.empty()) return schaden;
     }
@@ -154,7 +156,8 @@ void SeiteLesen(const Profil &profil, Dokument &dokument) {
     if (papier == "11") dokument.Papiercode = 11;
     if (papier == "1") dokument.Papiercode = 1;
     const int lage = Ganzzahl16(ZahlLesen(profil.Lesen(Vorgaben, "orientation")));
-    dokument.Seitenlage = lage < 1 ? 2 : lage;
+    constexpr int GrößterByte = 255;
+    dokument.Seitenlage = lage < 1 || lage > GrößterByte ? 2 : lage;
 }
 
 void SpeicherLesen(const Profil &profil, Dokument &dokument) {

@@ -17,7 +17,6 @@ constexpr int Schattenversatz = 80;
 constexpr int LuftBreite = 200;      ///< a canvas fits when this is left over
 constexpr int LuftHöhe = 600;
 constexpr int PaletteUndRand = 2620; ///< what of the inner width isn't the frame's
-constexpr int ToolbarUndStatus = 1440;
 constexpr int PalettenBreite = 960;
 constexpr int LetzterEinfacherZoom = 7; ///< 150 %; above it lines are twice as wide
 
@@ -33,7 +32,7 @@ Arbeitsbereich::Arbeitsbereich(Zeichenfläche &canvas, Ansicht &ansicht, int bil
     : canvas_(canvas), ansicht_(ansicht), bildschirmBreite_(bildschirmBreite), bildschirmHöhe_(bildschirmHöhe),
       canvasLinks_(Ruhelage), canvasOben_(Ruhelage), rückrufe_(std::move(rückrufe)) {
     picBack.Left = PalettenBreite;
-    picBack.Top = ToolbarUndStatus; // the frame ends at the inner area's lower edge
+    picBack.Top = FrameOben; // the frame ends at the inner area's lower edge
 }
 
 Steuerfläche Arbeitsbereich::picVorschau() const {
@@ -85,15 +84,15 @@ void Arbeitsbereich::GrößeÄndern(int breite, int höhe) {
     breite_ = std::max(breite, KleinsteBreite);
     höhe_ = std::max(höhe, KleinsteHöhe);
     picBack.Width = breite_ - PaletteUndRand;
-    picBack.Height = höhe_ - ToolbarUndStatus;
+    picBack.Height = höhe_ - FrameOben;
     Coolbar1.Width = picBack.Width + 100;
     BildlaufleistenSetzen();
-    VScroll1.Left = breite_ - 500;
+    VScroll1.Left = breite_ - BalkenRechts;
     VScroll1.Top = picBack.Top;
     VScroll1.Height = picBack.Height;
     HScroll1.Left = picBack.Left;
     HScroll1.Width = picBack.Width;
-    HScroll1.Top = picBack.Height + 1480;
+    HScroll1.Top = picBack.Height + FrameOben + BalkenUnten;
     imgCorner.Left = breite_ - 320;
     imgCorner.Top = höhe_ - 890;
     ArbeitsbereichAnordnen();

@@ -19,7 +19,9 @@ struct Steuerfläche {
 };
 
 struct Bildlaufleiste : Steuerfläche {
-    int Max = 0; ///< 16 bits; negative while the canvas is smaller than the frame
+    /// 16 bits, so held at 32767: at great zooms in a small window the far edge can't be scrolled to. Negative
+    /// while the canvas is smaller than the frame.
+    int Max = 0;
     int Value = 0;
 };
 
@@ -62,7 +64,9 @@ class Arbeitsbereich {
     /// Applies the current zoom: line width, canvas, page.
     void Bildgrößenveränderung();
 
-    /// The main window's inner size is new. Sizes below the minimum count as the minimum.
+    /// The main window's inner size is new. Sizes below the minimum count as the minimum. The frame leaves
+    /// room for the palette whether it shows or not; hiding it then takes the whole width until the next
+    /// change of size. Meant.
     void GrößeÄndern(int breite, int höhe);
     void WerkzeugleisteZeigen();
     void WerkzeugleisteVerbergen();
@@ -71,6 +75,10 @@ class Arbeitsbereich {
     /// The scroll bars were moved.
     void Scrollen(int hValue, int vValue);
 
+    /// Where the scroll bars and the frame stand at the inner area's edges.
+    static constexpr int BalkenRechts = 500; ///< left of the right edge
+    static constexpr int BalkenUnten = 40;   ///< below the lower edge
+    static constexpr int FrameOben = 1440;   ///< room for the toolbar
     static constexpr int KleinsteHöhe = 6700;
     static constexpr int KleinsteBreite = 9000;
 

@@ -19,9 +19,7 @@ namespace {
 // The page is white and what lies behind it is dark on every theme.
 constexpr QColor Hintergrund{35, 35, 35};
 constexpr QColor Schatten{15, 15, 15};
-constexpr int BalkenRechts = 500; ///< twips from the model's inner right edge to its scroll bar
-constexpr int BalkenUnten = 40;   ///< twips from the model's inner lower edge to its scroll bar
-constexpr int FrameOben = 1440;   ///< twips of the model's inner area above the frame
+constexpr int FrameOben = Arbeitsbereich::FrameOben; ///< the model's inner area begins that far above the widget
 constexpr int Zeile = 20 * TwipsJePixel;
 constexpr int Raste = 120; ///< eighths of a degree of one wheel notch
 
@@ -57,8 +55,8 @@ void Arbeitsflaeche::Verbinden(frmMain &haupt, std::function<void()> erstesBild)
 }
 
 QSize Arbeitsflaeche::Innengröße() const {
-    return {(width() - vScroll_.sizeHint().width()) * TwipsJePixel + BalkenRechts,
-            (height() - hScroll_.sizeHint().height()) * TwipsJePixel + FrameOben - BalkenUnten};
+    return {(width() - vScroll_.sizeHint().width()) * TwipsJePixel + Arbeitsbereich::BalkenRechts,
+            (height() - hScroll_.sizeHint().height()) * TwipsJePixel + FrameOben - Arbeitsbereich::BalkenUnten};
 }
 
 void Arbeitsflaeche::resizeEvent(QResizeEvent *) {
@@ -80,9 +78,10 @@ void Arbeitsflaeche::Auffrischen() {
     const Arbeitsbereich &b = haupt_->bereich;
     const int breite = vScroll_.sizeHint().width();
     const int höhe = hScroll_.sizeHint().height();
-    vScroll_.setGeometry(width() - breite, 0, breite, height() - höhe);
-    hScroll_.setGeometry(static_cast<int>(Pixel(std::max(b.picBack.Left, 0))), height() - höhe,
-                         width() - breite - static_cast<int>(Pixel(std::max(b.picBack.Left, 0))), höhe);
+    const QRect senkrecht = Fläche(b.VScroll1).translated(0, -Pixel(FrameOben)).toRect();
+    const QRect waagrecht = Fläche(b.HScroll1).translated(0, -Pixel(FrameOben)).toRect();
+    vScroll_.setGeometry(senkrecht.left(), senkrecht.top(), breite, senkrecht.height());
+    hScroll_.setGeometry(waagrecht.left(), waagrecht.top(), waagrecht.width(), höhe);
     LeisteStellen(vScroll_, b.VScroll1);
     LeisteStellen(hScroll_, b.HScroll1);
     update();

@@ -3,6 +3,8 @@
 #include "qt/Ausgabe.h"
 
 #include <charconv>
+#include <filesystem>
+#include <system_error>
 
 namespace kw {
 
@@ -22,7 +24,9 @@ bool DpiLesen(const std::string &text, int &dpi) {
 
 /// Every call that is understood is checked as a whole at its end.
 Aufruf Geprüft(Aufruf a, bool mitDpi) {
+    std::error_code fehler; // a file that isn't there yet is no other
     if (a.Was == Aufruf::Art::Export) {
+        if (std::filesystem::equivalent(a.Datei, a.Ziel, fehler)) return Falsch("the export would replace the project");
         if (a.Datei.empty()) return Falsch("--export needs a project file");
         if (!IstAusgabeformat(a.Ziel))
             return Falsch("cannot export to " + a.Ziel + ": its name must end in .pdf, .svg, .png, .jpg or .bmp");
@@ -54,12 +58,12 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
             a.Was = Aufruf::Art::Version;
             return a;
         } else if (wort == "--export") {
-            if (!hatWert) return Falsch("--export needs a file to write");
+            if (!hatWert || !a.Ziel.empty()) return Falsch("--export needs one file to write");
             a.Was = Aufruf::Art::Export;
             a.Ziel = worte[++i];
         } else if (wort == "--dpi") {
-            if (!hatWert || !DpiLesen(worte[++i], a.Dpi))
-                return Falsch("--dpi needs a whole number from " + std::to_string(KleinsteDpi) + " to " +
+            if (!hatWert || mitDpi || !DpiLesen(worte[++i], a.Dpi))
+                return Falsch("--dpi needs one whole number from " + std::to_string(KleinsteDpi) + " to " +
                               std::to_string(GrößteDpi));
             mitDpi = true;
         } else {

@@ -2,6 +2,7 @@
 
 #include "document/Dateien.h"
 #include "qt/QtFlaeche.h"
+#include "rendering/Ebenen.h"
 #include "rendering/Seite.h"
 #include "rendering/Symbole.h"
 
@@ -124,6 +125,11 @@ std::string Exportieren(Zeichnung &zeichnung, const std::string &ziel, int dpi, 
     if (!format) return "unknown kind of file";
     if (dpi < KleinsteDpi || dpi > GrößteDpi) return "the resolution is out of range";
     SeiteBestimmen(zeichnung.dokument, zeichnung.ansicht);
+    if (HatUngemesseneTextboxen(zeichnung.dokument)) {
+        QImage probe(1, 1, QImage::Format_RGB32);
+        Auftrag messung{zeichnung, dpi, {}, {}};
+        Drucken(messung, probe, 1);
+    }
     Auftrag auftrag{zeichnung, dpi, QString::fromStdString(titel), {}};
     if (auto fehler = format->Erzeugen(auftrag); !fehler.empty()) return fehler;
     if (auftrag.inhalt.isEmpty()) return "the page came out empty";

@@ -20,8 +20,11 @@ QString Kennname() {
 }
 
 QString Laufordner() {
-    const QString ordner = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    return ordner.isEmpty() ? QDir::tempPath() : ordner;
+    QString ordner = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!ordner.isEmpty()) return ordner;
+    ordner = QDir::homePath() + QStringLiteral("/.cache/kinwright"); // no folder that others can write to
+    QDir().mkpath(ordner);
+    return ordner;
 }
 
 /// The address of the first instance's socket; false when the path is too long for one.
@@ -60,7 +63,7 @@ bool Einzelinstanz::IstErste() {
     if (sperre_->error() != QLockFile::LockFailedError) return true;
     // To be called is all that the first instance waits for.
     const int anruf = Steckdose();
-    if (erreichbar) static_cast<void>(::connect(anruf, ziel, sizeof adresse));
+    geantwortet_ = erreichbar && ::connect(anruf, ziel, sizeof adresse) == 0;
     ::close(anruf);
     return false;
 }

@@ -20,6 +20,8 @@ class Einzelinstanz {
 
     /// True when this is the first instance. Otherwise the first was asked to come to the front.
     bool IstErste();
+    /// Whether that first instance could be reached.
+    bool HatGeantwortet() const { return geantwortet_; }
     /// What the first instance does when another was started.
     void BeiWeiteremStart(std::function<void()> nachVorn);
 
@@ -27,6 +29,7 @@ class Einzelinstanz {
     std::unique_ptr<QLockFile> sperre_;
     std::unique_ptr<QSocketNotifier> wächter_;
     int horcher_ = -1;
+    bool geantwortet_ = false;
 };
 
 } // namespace kw

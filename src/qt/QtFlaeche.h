@@ -13,7 +13,8 @@ namespace kw {
 
 /// Draws with a QPainter: on the canvas image, a printer, a PDF, an SVG, a picture. Inside it counts in
 /// 1/1200 inch of the page, the unit in which fonts have whole sizes, so nothing is rescaled between a
-/// line and a text. What lies off the page or is no number isn't handed on.
+/// line and a text. Lines, circles and
+/// texts that lie off the page or are no numbers aren't handed on.
 class QtFläche : public Zeichenfläche {
   public:
     QtFläche() = default;

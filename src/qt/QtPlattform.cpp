@@ -31,22 +31,32 @@ Datum QtUhr::Heute() const {
     return heute_;
 }
 
-std::optional<std::string> QtDrucker::DeviceName() const {
+namespace {
+
+/// The default printer; without one, the first of the list.
+QPrinterInfo Aktueller() {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
-    if (!info.isNull()) return info.printerName().toStdString();
+    if (!info.isNull()) return info;
     const QStringList alle = QPrinterInfo::availablePrinterNames();
-    return alle.isEmpty() ? std::nullopt : std::optional(alle.first().toStdString());
+    return alle.isEmpty() ? info : QPrinterInfo::printerInfo(alle.first());
+}
+
+} // namespace
+
+std::optional<std::string> QtDrucker::DeviceName() const {
+    const QPrinterInfo info = Aktueller();
+    return info.isNull() ? std::nullopt : std::optional(info.printerName().toStdString());
 }
 
 Druckränder QtDrucker::Ränder() const {
-    const QPrinter drucker(QPrinterInfo::defaultPrinter());
+    const QPrinter drucker(Aktueller());
     constexpr double CmJePunkt = 2.54 / 72;
     const QMarginsF rand = drucker.pageLayout().minimumMargins() * CmJePunkt;
     return {rand.left(), rand.right(), rand.top(), rand.bottom()};
 }
 
 int QtDrucker::Orientation() const {
-    const QPrinter drucker(QPrinterInfo::defaultPrinter());
+    const QPrinter drucker(Aktueller());
     return drucker.pageLayout().orientation() == QPageLayout::Portrait ? 1 : 2;
 }
 

@@ -7,22 +7,38 @@
 
 #include <QApplication>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 
 namespace {
 
 using namespace kw;
 
-int Melden(const std::string &zeile, int ergebnis) {
+/// One plain line, whatever a file's name holds.
+int Melden(std::string zeile, int ergebnis) {
+    std::replace_if(
+        zeile.begin(), zeile.end(), [](unsigned char c) { return c < ' '; }, '?');
     std::fprintf(stderr, "kinwright: %s\n", zeile.c_str());
     return ergebnis;
 }
 
+/// What the toolkit has to say of its surroundings is no word to the user; what ends the program is.
+void Meldung(QtMsgType art, const QMessageLogContext &, const QString &text) {
+    if (art != QtFatalMsg) return;
+    Melden("cannot open a window: " + text.section(QLatin1Char('\n'), 0, 0).toStdString(), 1);
+    std::_Exit(1);
+}
+
+/// 0 when all of it came out.
+int Ausgegeben(const std::string &text) {
+    const bool ganz = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+    return ganz ? 0 : Melden("cannot write to the standard output", 1);
+}
+
 int Exportieren(const Aufruf &aufruf, int &argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen"); // an export needs no display and asks none
-    // What the toolkit has to say of the surroundings is no word about the export, which has one line to say.
-    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QGuiApplication anwendung(argc, argv);
     const QtUhr uhr;
     Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
@@ -42,7 +58,8 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     const QApplication anwendung(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kinwright"));
     Einzelinstanz instanz;
-    if (!instanz.IstErste()) return 0;
+    if (!instanz.IstErste())
+        return instanz.HatGeantwortet() ? 0 : Melden("another Kinwright is running, but doesn't answer", 1);
     std::error_code fehler;
     const std::string datei =
         aufruf.Datei.empty() ? "" : '"' + std::filesystem::absolute(aufruf.Datei, fehler).string() + '"';
@@ -55,10 +72,11 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
 } // namespace
 
 int main(int argc, char **argv) {
-    const Aufruf aufruf = AufrufLesen({argv + 1, argv + argc});
+    qInstallMessageHandler(Meldung);
+    const Aufruf aufruf = AufrufLesen({argv + std::min(argc, 1), argv + argc});
     switch (aufruf.Was) {
-    case Aufruf::Art::Hilfe: return std::fputs(Hilfetext(), stdout) < 0;
-    case Aufruf::Art::Version: return std::printf("kinwright %s\n", frmMain::Programmversion.data()) < 0;
+    case Aufruf::Art::Hilfe: return Ausgegeben(Hilfetext());
+    case Aufruf::Art::Version: return Ausgegeben("kinwright " + std::string(frmMain::Programmversion) + "\n");
     case Aufruf::Art::Falsch: return Melden(aufruf.Fehler + "; see kinwright --help", 2);
     case Aufruf::Art::Export: return Exportieren(aufruf, argc, argv);
     case Aufruf::Art::Fenster: break;

@@ -4,7 +4,7 @@
 
 // The layers of the page. Each takes the surface and the scale factor: displayed centimetres by paper
 // centimetres, by which every nominal font size is multiplied. A damaged record (too few fields) is
-// passed over, the rest of its store is drawn.
+// passed over, a text box draws what it has; the rest of the store is drawn.
 namespace kw {
 
 /// Relationship lines, over them partnership lines, over them child lines, then the marks of selected lines.
@@ -22,6 +22,9 @@ void PersonenEbene(Zeichenfläche &fläche, Zeichnung &z, double faktor);
 /// Draws the text boxes and measures those that have no measures yet: the only place where drawing
 /// writes into a store.
 void TextboxenZeichnen(Zeichenfläche &fläche, Zeichnung &z, double faktor);
+
+/// Whether a box waits to be measured: until then one that isn't aligned to the left stands in a wrong place.
+bool HatUngemesseneTextboxen(const Dokument &dokument);
 
 /// Draws nothing for an empty list. Keeps the box on the page and on the raster: the stored position follows.
 void LegendenEbene(Zeichenfläche &fläche, Zeichnung &z, double faktor);

@@ -10,6 +10,10 @@ ElementFarben LinienfarbenFür(int schema) {
     }
 }
 
+Farbe PfeilfarbeFür(int schema) {
+    return schema == SchemaGraustufen || schema == SchemaFarbig ? 0x404040 : Schwarz;
+}
+
 Farbe SymbolFüllfarbe(int schema) {
     switch (schema) {
     case SchemaFarbig: return Rgb(192, 209, 226);

@@ -19,7 +19,8 @@ constexpr Farbe ZielFarbe = Rgb(251, 59, 15);    ///< target of a link gesture
 constexpr Farbe SystemFenstertext = 0x80000008;
 constexpr Farbe SystemFläche = 0x80000016;
 
-/// A system colour as it is seen: window text is black, the light control face is E3E3E3. Others as given.
+/// A system colour as it is seen: window text is black, the light control face is E3E3E3; nothing
+/// names another.
 constexpr Farbe Aufgelöst(Farbe farbe) {
     if (farbe == SystemFenstertext) return Schwarz;
     if (farbe == SystemFläche) return 0xE3E3E3;
@@ -33,6 +34,9 @@ enum : int { SchemaSchwarzWeiß = 0, SchemaGraustufen = 1, SchemaFarbig = 2 };
 using ElementFarben = std::array<Farbe, 4>;
 enum : std::size_t { KonfliktFarbe = 2, EngeFarbe = 3 };
 ElementFarben LinienfarbenFür(int schema);
+
+/// Colour of arrows and circle lines.
+Farbe PfeilfarbeFür(int schema);
 
 /// Fill colour of person symbols.
 Farbe SymbolFüllfarbe(int schema);

@@ -46,7 +46,8 @@ void Strich(Zeichenfläche &f, const Kindlinie &k, Farbe farbe) {
 
 void Buchstabe(Zeichenfläche &f, const Kindlinie &k, double faktor) {
     if (!AngenommenOderPflege(k)) return;
-    f.FontBold = false;
+    f.FontName = "Arial"; // whatever the redraw before ended with
+    f.FontBold = f.FontItalic = f.FontUnderline = false;
     f.FontSize = 7 * faktor;
     f.CurrentX = k.KindX + 0.08;
     f.CurrentY = k.KindY - 0.3;

@@ -13,6 +13,7 @@ namespace {
 using Codes = std::set<std::string>; ///< sorted as text, each once: "021" stands after "02"
 
 void PersonEintragen(const Felder &feld, Codes &codes) {
+    // A kind without a symbol has nothing to explain: it makes no empty row.
     const int kennzahl = SymbolKennzahl(feld.OderLeer(PersonFeld::Symboltyp));
     if (kennzahl >= 10) codes.insert("02" + std::to_string(kennzahl - 9));
     else if (kennzahl >= 1 && kennzahl != 8) codes.insert("0" + std::to_string(kennzahl));

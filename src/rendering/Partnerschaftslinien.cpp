@@ -12,7 +12,7 @@ namespace {
 
 constexpr double Strichlänge = 0.2;
 constexpr double Strichperiode = 0.35;
-constexpr double GrößteLänge = 32767 * Strichperiode; ///< what is longer is damage, and no page shows it
+constexpr double GrößteLänge = 32767 * Strichperiode; ///< counters are 16 bits: what is longer is damage
 
 /// A straight, level or upright path, walked along its axis.
 struct Pfadstück {

@@ -36,7 +36,8 @@ class Personenzeichner {
         const int kennzahl = SymbolKennzahl(feld[PersonFeld::Symboltyp]);
         f.ForeColor = Schwarz;
         symbol.Zeichnen(kennzahl, MarkenVon(feld), Hervorgehoben(feld, position));
-        if (kennzahl <= 2 || kennzahl >= 9)
+        const double typ = kennzahl > 0 ? kennzahl : ZahlLesen(feld[PersonFeld::Symboltyp]);
+        if (typ <= 2 || typ >= 9)
             PersonBeschriften(f, z_.ansicht, alter_, feld, x, y, oben, größe, faktor_);
     }
 
@@ -49,6 +50,7 @@ class Personenzeichner {
         const int partner = nummern_.Position(nr);
         if (partner < 0) return;
         const Felder anderer(z_.dokument.cboPersonen.Satz(partner));
+        if (anderer.Anzahl() <= PersonFeld::PosY) return;
         f.DrawWidth = z_.ansicht.StrichFaktor;
         f.Line(LinieFarbig, Gerundet(x, 1), Gerundet(y, 1), Gerundet(ZahlLesen(anderer[PersonFeld::PosX]), 1),
                Gerundet(ZahlLesen(anderer[PersonFeld::PosY]), 1), Schwarz);
@@ -95,7 +97,7 @@ void PersonenEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
     Personenzeichner zeichner(f, z, faktor);
     for (int i = 0; i < z.dokument.cboPersonen.Anzahl(); ++i) try {
             zeichner.Zeichnen(i);
-        } catch (const FeldFehlt &) { // a damaged person draws what its record still gave
+        } catch (const FeldFehlt &) { // a damaged person isn't drawn, the others are
         }
     TextboxenZeichnen(f, z, faktor);
 }

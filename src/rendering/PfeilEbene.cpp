@@ -67,7 +67,7 @@ void GriffeZeichnen(Zeichenfläche &f, const Pfeil &p) {
 void PfeilEbene(Zeichenfläche &f, Zeichnung &z) {
     f.Ebene("pfeile");
     Ansicht &a = z.ansicht;
-    a.Pfeilfarbe = a.Farbschema == SchemaGraustufen || a.Farbschema == SchemaFarbig ? 0x404040 : Schwarz;
+    a.Pfeilfarbe = PfeilfarbeFür(a.Farbschema);
     std::unordered_set<int> gewählt;
     if (!a.bDruckLaeuft) {
         a.PfeilMarkiert = false;

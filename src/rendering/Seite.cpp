@@ -53,10 +53,11 @@ void RasterZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht) {
     fläche.Ebene("raster");
     const double schritt = ansicht.Rasterweite;
     if (ansicht.bDruckLaeuft || !ansicht.bRasterAnzeigen || schritt <= 0) return;
-    const int spalten = static_cast<int>(ansicht.SeitenBreite / schritt);
+    constexpr double Höchstzahl = 32767; // the counter has 16 bits
+    const int spalten = static_cast<int>(std::min(ansicht.SeitenBreite / schritt, Höchstzahl));
     for (int i = 1; i <= spalten; ++i)
         fläche.Line(LinieFarbig, i * schritt, 0, i * schritt, ansicht.SeitenHöhe, RasterFarbe);
-    const int zeilen = static_cast<int>(ansicht.SeitenHöhe / schritt);
+    const int zeilen = static_cast<int>(std::min(ansicht.SeitenHöhe / schritt, Höchstzahl));
     for (int i = 1; i <= zeilen; ++i)
         fläche.Line(LinieFarbig, 0, i * schritt, ansicht.SeitenBreite, i * schritt, RasterFarbe);
 }
@@ -68,7 +69,7 @@ void DruckrandZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht) {
     fläche.ForeColor = Hellgrau;
     fläche.Line(Kasten, ansicht.DruckrandLinks, ansicht.DruckrandOben, fläche.ScaleWidth() - ansicht.DruckrandRechts,
                 fläche.ScaleHeight() - ansicht.DruckrandUnten);
-    fläche.DrawStyle = StilStrichpunkt;
+    fläche.DrawStyle = StilStrichpunkt; // stands for nobody: the layer that follows sets its own
 }
 
 } // namespace kw

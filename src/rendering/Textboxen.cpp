@@ -50,7 +50,7 @@ Maße BoxZeichnen(Zeichenfläche &f, const Ansicht &ansicht, const Felder &feld,
     const double textX = ZahlLesen(feld.OderLeer(TextFeld::TextX));
     const double boxBreite = ZahlLesen(feld.OderLeer(TextFeld::TextBreite));
     std::string_view rest = feld.OderLeer(TextFeld::Text);
-    const auto zeilen = 1 + std::count(rest.begin(), rest.end(), '#');
+    const auto zeilen = rest.empty() ? 0 : 1 + std::count(rest.begin(), rest.end(), '#');
     double breite = 0;
     for (auto i = zeilen; i > 0; --i) {
         const std::string zeile = OhneAbsatzzeichen(Abgetrennt(rest, '#'));
@@ -95,6 +95,11 @@ void AuswahlRahmen(Zeichenfläche &f, Zeichnung &z) {
 
 } // namespace
 
+bool HatUngemesseneTextboxen(const Dokument &dokument) {
+    const auto &boxen = dokument.cboTextboxen;
+    return std::any_of(boxen.begin(), boxen.end(), [](const std::string &satz) { return Ungemessen(Felder(satz)); });
+}
+
 void TextboxenZeichnen(Zeichenfläche &f, Zeichnung &z, double faktor) {
     Satzliste &boxen = z.dokument.cboTextboxen;
     for (int i = 0; i < boxen.Anzahl(); ++i) {
@@ -102,7 +107,7 @@ void TextboxenZeichnen(Zeichenfläche &f, Zeichnung &z, double faktor) {
         const Maße maße = BoxZeichnen(f, z.ansicht, feld, faktor);
         if (!Ungemessen(feld)) continue;
         // A box that was just written or placed is measured like any other; the gesture ends with it.
-        if (z.geste.Aktion == AktionTextDialog) z.geste.Aktion = AktionNichts;
+        if (z.geste.Aktion == AktionTextDialog && feld.Anzahl() <= TextFeld::TextBreite) z.geste.Aktion = AktionNichts;
         boxen.Ersetzen(i, MitMaßen(feld, maße));
     }
     if (!z.ansicht.bDruckLaeuft) AuswahlRahmen(f, z);

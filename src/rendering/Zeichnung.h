@@ -10,7 +10,8 @@
 namespace kw {
 
 /// All that a redraw looks at. Drawing changes none of it but what is told at its place: the measures
-/// of text boxes, the legend's place and size, and what `Ansicht` derives.
+/// of text boxes (and with them the gesture that placed one), the legend's place and size, a paper code
+/// below 1, and what `Ansicht` derives.
 struct Zeichnung {
     Dokument &dokument;
     Ansicht &ansicht;

@@ -1,5 +1,7 @@
 #include "replay/Aufzeichnung.h"
 
+#include "rendering/Symbole.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -81,8 +83,8 @@ void Aufzeichnung::Polygon(std::span<const Bildpunkt> punkte) {
     if (!Schreibt || punkte.empty()) return;
     Bildpunkt äußerster = punkte.front();
     for (const auto &p : punkte) äußerster = {std::max(äußerster.X, p.X), std::max(äußerster.Y, p.Y)};
-    // Polygons count pixels, of which even the smallest canvas has more than ten a centimetre.
-    if (Geparkt(äußerster.X / 10.0, äußerster.Y / 10.0)) return;
+    const double pixel = PixelJeCm > 0 ? PixelJeCm : BildschirmPixelJeCm * Faktor();
+    if (Geparkt(äußerster.X / pixel, äußerster.Y / pixel)) return;
     Text += "polygon";
     for (const auto &p : punkte) Text += " " + std::to_string(p.X) + "," + std::to_string(p.Y);
     Text += " pen=" + Hex(ForeColor) + " width=" + std::to_string(DrawWidth) + Füllung() + "\n";

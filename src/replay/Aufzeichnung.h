@@ -12,6 +12,7 @@ class Aufzeichnung : public Zeichenfläche {
   public:
     bool Schreibt = false; ///< nothing is written while this is off
     std::string Text;      ///< what was written
+    double PixelJeCm = 0;  ///< of a printer; 0 for a canvas, whose zoom gives it
 
     void Ebene(std::string_view name) override;
     void Cls() override {}

@@ -2,6 +2,7 @@
 
 #include "document/Zahlen.h"
 
+#include <algorithm>
 #include <type_traits>
 
 namespace kw {
@@ -19,7 +20,8 @@ template <typename T> Variable Von(T &wert) {
             [&wert](const std::string &text) {
                 if constexpr (std::is_convertible_v<T, std::string>) wert = text;
                 else if constexpr (std::is_same_v<T, bool>) wert = ZahlLesen(text) != 0;
-                else wert = static_cast<T>(ZahlLesen(text));
+                else if constexpr (std::is_floating_point_v<T>) wert = ZahlLesen(text);
+                else wert = static_cast<T>(Ganzzahl(ZahlLesen(text)));
             }};
 }
 
@@ -28,6 +30,11 @@ template <typename Lesen> Variable Abgeleitet(Lesen lesen) {
 }
 
 } // namespace
+
+int Ganzzahl(double wert) {
+    constexpr double Grenze = 2147483647;
+    return static_cast<int>(std::clamp(wert, -Grenze, Grenze));
+}
 
 Namen::Namen(frmMain &h) {
     Dokument &d = h.dokument;
@@ -59,12 +66,16 @@ Namen::Namen(frmMain &h) {
         {"LegendeY", Von(d.LegendeY)},
         {"LegendeQuer", Von(d.LegendeQuer)},
         {"OhneStandardsymbole", Von(d.OhneStandardsymbole)},
+        {"optQuer", Von(d.LegendeQuer)},
+        {"chkAlleSymbole", Abgeleitet([&d] { return !d.OhneStandardsymbole; })},
         {"LegendeBreite", Von(h.legende.LegendeBreite)},
         {"LegendeHoehe", Von(h.legende.LegendeHoehe)},
         {"Farbschema", Von(a.Farbschema)},
         {"Altersanzeige", Von(a.Altersanzeige)},
         {"StrichFaktor", Von(a.StrichFaktor)},
         {"Glättungsgrad", Von(a.Glättungsgrad)},
+        {"hsGlättungsgrad", Von(a.Glättungsgrad)},
+        {"Textvorlage", Von(h.Textvorlage)},
         {"Rasterweite", Von(a.Rasterweite)},
         {"bRasterAnzeigen", Von(a.bRasterAnzeigen)},
         {"bDruckLaeuft", Von(a.bDruckLaeuft)},
@@ -109,6 +120,10 @@ Namen::Namen(frmMain &h) {
         Listen[name] = &liste->Einträge;
         Variablen[name + ".index"] = Von(liste->ListIndex);
     }
+    Variablen["cboBildGröße.index"].Setzen = [&h](const std::string &text) { h.bereich.ZoomWählen(Ganzzahl(ZahlLesen(text))); };
+    Variablen["cboRaster.index"].Setzen = [&h](const std::string &text) { h.RasterWählen(Ganzzahl(ZahlLesen(text))); };
+    Listen["cboBildGr_e"] = Listen["cboBildGröße"];
+    Variablen["cboBildGr_e.index"] = Variablen["cboBildGröße.index"];
 
     Flächen = {{"picBack", [&h] { return h.bereich.picBack; }},
                {"picVorschau", [&h] { return h.bereich.picVorschau(); }},
@@ -117,6 +132,8 @@ Namen::Namen(frmMain &h) {
                {"VScroll1", [&h]() -> Steuerfläche { return h.bereich.VScroll1; }},
                {"HScroll1", [&h]() -> Steuerfläche { return h.bereich.HScroll1; }},
                {"shpSchatten", [&h] { return h.bereich.shpSchatten; }}};
+    Variablen["VScroll1.Value"] = Abgeleitet([&h] { return h.bereich.VScroll1.Value; });
+    Variablen["HScroll1.Value"] = Abgeleitet([&h] { return h.bereich.HScroll1.Value; });
     Variablen["VScroll1.Max"] = Von(h.bereich.VScroll1.Max);
     Variablen["HScroll1.Max"] = Von(h.bereich.HScroll1.Max);
 }

@@ -15,6 +15,9 @@ struct Variable {
     std::function<void(const std::string &)> Setzen;
 };
 
+/// A number as a whole one, held within the range of an int.
+int Ganzzahl(double wert);
+
 /// Everything of a main window that scripts can name.
 struct Namen {
     std::map<std::string, Variable> Variablen;

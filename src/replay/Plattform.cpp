@@ -19,6 +19,12 @@ const char *KnopfText(Knöpfe knöpfe) {
     }
 }
 
+bool HatKnopf(Knöpfe knöpfe, Antwort knopf) {
+    if (knöpfe == Knöpfe::Ok) return knopf == Antwort::Ok;
+    return knopf == Antwort::Ja || knopf == Antwort::Nein ||
+           (knopf == Antwort::Abbrechen && knöpfe == Knöpfe::JaNeinAbbrechen);
+}
+
 const char *ZeichenText(Zeichen zeichen) {
     switch (zeichen) {
     case Zeichen::Frage: return "question";
@@ -31,8 +37,9 @@ const char *ZeichenText(Zeichen zeichen) {
 
 } // namespace
 
-std::optional<DrehbuchBenutzer::Vorbereitet> DrehbuchBenutzer::Nächste(bool datei, const std::string &titel) {
-    if (Antworten.empty() || Antworten.front().Datei != datei) {
+template <typename Passt>
+std::optional<DrehbuchBenutzer::Vorbereitet> DrehbuchBenutzer::Nächste(const std::string &titel, Passt passt) {
+    if (Antworten.empty() || !passt(Antworten.front())) {
         aus_ << "unanswered " << titel << "\n";
         return std::nullopt;
     }
@@ -43,15 +50,17 @@ std::optional<DrehbuchBenutzer::Vorbereitet> DrehbuchBenutzer::Nächste(bool dat
 
 Antwort DrehbuchBenutzer::Fragen(const Nachfrage &n) {
     Kästen += "box " + n.Titel + " | " + EineZeile(n.Text) + " | " + KnopfText(n.Auswahl) + " | " + ZeichenText(n.Bild) + "\n";
-    const auto antwort = Nächste(false, n.Titel);
+    const auto antwort = Nächste(n.Titel, [&](const Vorbereitet &v) {
+        return v.Wofür == Vorbereitet::Art::Knopf && HatKnopf(n.Auswahl, v.Knopf);
+    });
     return antwort ? antwort->Knopf : Antwort::Abbrechen;
 }
 
 std::optional<std::string> DrehbuchBenutzer::DateiWählen(const Dateiwahl &w) {
     Kästen += "file " + w.Titel + " | " + w.Vorschlag + " | " + w.Filter + " | " + w.Ordner + "\n";
-    const auto antwort = Nächste(true, w.Titel);
+    const auto antwort = Nächste(w.Titel, [](const Vorbereitet &v) { return v.Wofür == Vorbereitet::Art::Datei; });
     if (!antwort || antwort->Abgebrochen) return std::nullopt;
-    return antwort->Pfad;
+    return antwort->Wert;
 }
 
 void DrehbuchBenutzer::ZeitgeberStarten(std::string_view name, int ms) {

@@ -17,10 +17,11 @@ class DrehbuchBenutzer : public Benutzer {
     explicit DrehbuchBenutzer(std::ostream &aus) : aus_(aus) {}
 
     struct Vorbereitet {
-        bool Datei = false; ///< a path for a file dialog, else a button of a box
+        enum class Art { Knopf, Datei, Farbwert }; ///< of a box, a file dialog, a colour dialog
+        Art Wofür = Art::Knopf;
         bool Abgebrochen = false;
         Antwort Knopf = Antwort::Abbrechen;
-        std::string Pfad;
+        std::string Wert; ///< path or colour
     };
     struct Zeitgeber {
         std::string Name;
@@ -45,8 +46,8 @@ class DrehbuchBenutzer : public Benutzer {
 
   private:
     std::optional<std::string> DateiWählen(const Dateiwahl &wahl);
-    /// The next answer when it is of the kind asked for; else the prompt shows as unanswered.
-    std::optional<Vorbereitet> Nächste(bool datei, const std::string &titel);
+    /// The next answer when `passt` says that it fits the prompt; else the prompt shows as unanswered.
+    template <typename Passt> std::optional<Vorbereitet> Nächste(const std::string &titel, Passt passt);
 
     std::ostream &aus_;
 };

@@ -5,6 +5,7 @@
 #include "document/Felder.h"
 #include "document/Profil.h"
 #include "document/Zahlen.h"
+#include "rendering/Symbole.h"
 
 #include <algorithm>
 #include <cmath>
@@ -63,7 +64,7 @@ std::vector<std::string> Geteilt(std::string_view text, char trenner) {
 int Zahl(const std::string &text) {
     if (text.empty() || text.find_first_not_of("-0123456789.") != std::string::npos)
         throw Skriptfehler("not a number: " + text);
-    return static_cast<int>(ZahlLesen(text));
+    return Ganzzahl(ZahlLesen(text));
 }
 
 const std::string &Wort(const std::vector<std::string> &w, size_t i) {
@@ -80,7 +81,9 @@ std::string Ab(const std::vector<std::string> &w, size_t i) {
 
 Datum DatumAus(const std::string &text) {
     const auto teile = Geteilt(text, '-');
-    return {Zahl(Wort(teile, 0)), Zahl(Wort(teile, 1)), Zahl(Wort(teile, 2))};
+    const Datum datum{Zahl(Wort(teile, 0)), Zahl(Wort(teile, 1)), Zahl(Wort(teile, 2))};
+    if (DatumLesen(text, Datumsfolge::JahrMonatTag) != datum) throw Skriptfehler("not a date: " + text);
+    return datum;
 }
 
 Datumsfolge FolgeAus(const std::string &text) {
@@ -113,11 +116,14 @@ int Wiedergabe::Ausführen(std::istream &skript) {
             return 2;
         }
     }
-    if (programm_ && !programm_->benutzer.Antworten.empty()) {
-        aus_ << "answers left over: " << programm_->benutzer.Antworten.size() << "\n";
-        gescheitert_ = true;
-    }
+    AntwortenPrüfen();
     return gescheitert_ ? 1 : 0;
+}
+
+void Wiedergabe::AntwortenPrüfen() {
+    if (!programm_ || programm_->benutzer.Antworten.empty()) return;
+    aus_ << "answers left over: " << programm_->benutzer.Antworten.size() << "\n";
+    gescheitert_ = true;
 }
 
 void Wiedergabe::Zeile(const std::string &roh, std::istream &skript) {
@@ -146,7 +152,11 @@ void Wiedergabe::Zeile(const std::string &roh, std::istream &skript) {
         {"answer", [&] { Beantworten(w); }},
         {"close", [&] { Schließen(); }},
         {"menu", [&] { MenüWählen(Wort(w, 1)); }},
-        {"wheel", [&] { Läuft().haupt.bereich.Mausrad(Wort(w, 1) == "up"); }},
+        {"wheel",
+         [&] {
+             if (Wort(w, 1) != "up" && w[1] != "down") throw Skriptfehler("unknown word: " + w[1]);
+             Läuft().haupt.bereich.Mausrad(w[1] == "up");
+         }},
         {"resize", [&] { GrößeÄndern(w); }},
         {"pick", [&] { Wählen(w); }},
     };
@@ -156,10 +166,14 @@ void Wiedergabe::Zeile(const std::string &roh, std::istream &skript) {
 }
 
 void Wiedergabe::Starten(const Wörter &w) {
+    AntwortenPrüfen();
+    constexpr std::string_view Bekannt[] = {"ini", "cmd", "today", "screen", "printers", "margins", "locale"};
     std::map<std::string, std::string> angaben{{"today", "2026-03-12"}, {"screen", "1920x1080"}, {"locale", "de"}};
     for (size_t i = 1; i < w.size(); ++i) {
         std::string_view rest = w[i];
         const std::string name(Abgetrennt(rest, '='));
+        if (std::find(std::begin(Bekannt), std::end(Bekannt), name) == std::end(Bekannt))
+            throw Skriptfehler("unknown word: " + name);
         angaben[name] = rest;
     }
     const auto bild = Geteilt(angaben["screen"], 'x');
@@ -213,7 +227,10 @@ std::string Wiedergabe::Zustand(const std::string &frage, const std::string &nam
     const Bedienelement *element = Läuft().haupt.bedienung.Finden(name);
     if (!element) throw Skriptfehler("unknown element: " + name);
     if (frage == "caption") return element->Caption;
-    return std::to_string(frage == "enabled" ? element->Enabled : frage == "visible" ? element->Visible : element->Checked);
+    if (frage == "enabled") return std::to_string(element->Enabled);
+    if (frage == "visible") return std::to_string(element->Visible);
+    if (frage == "checked") return std::to_string(element->Checked);
+    throw Skriptfehler("unknown word: " + frage);
 }
 
 void Wiedergabe::Erwarten(const std::string &zeile) {
@@ -269,6 +286,7 @@ void Wiedergabe::Zeichnen(const Wörter &w) {
         const Ansicht &a = p.haupt.ansicht;
         const auto twips = [](double cm) { return static_cast<int>(std::nearbyint(cm * TwipsJeCm)); };
         papier.GrößeSetzen(twips(a.SeitenBreite), twips(a.SeitenHöhe));
+        papier.PixelJeCm = DruckPixelJeCm;
         papier.Scale(a.SeitenBreite, a.SeitenHöhe, 1);
         Zeichnung bild = p.haupt.DasBild();
         DruckZeichnen(papier, bild);
@@ -292,6 +310,7 @@ void Wiedergabe::Warten(int ms) {
 
 void Wiedergabe::ZeitgeberAuslösen(const std::string &name) {
     Programm &p = Läuft();
+    if (name != "Timer2") throw Skriptfehler("unknown timer: " + name);
     std::erase_if(p.benutzer.ZeitgeberListe, [&](const auto &z) { return z.Name == name; });
     p.haupt.ZeitgeberAbgelaufen(name);
 }
@@ -300,10 +319,11 @@ void Wiedergabe::Beantworten(const Wörter &w) {
     const std::map<std::string, Antwort> knöpfe{
         {"yes", Antwort::Ja}, {"no", Antwort::Nein}, {"cancel", Antwort::Abbrechen}, {"ok", Antwort::Ok}};
     DrehbuchBenutzer::Vorbereitet antwort;
-    if (Wort(w, 1) == "file") {
-        antwort.Datei = true;
-        antwort.Pfad = Ab(w, 2);
-        antwort.Abgebrochen = antwort.Pfad == "cancel";
+    if (Wort(w, 1) == "file" || w[1] == "colour") {
+        using Art = DrehbuchBenutzer::Vorbereitet::Art;
+        antwort.Wofür = w[1] == "file" ? Art::Datei : Art::Farbwert;
+        antwort.Wert = Ab(w, 2);
+        antwort.Abgebrochen = antwort.Wert == "cancel";
     } else {
         const auto knopf = knöpfe.find(w[1]);
         if (knopf == knöpfe.end()) throw Skriptfehler("unknown answer: " + w[1]);
@@ -365,7 +385,10 @@ void Wiedergabe::GrößeÄndern(const Wörter &w) {
 
 void Wiedergabe::Wählen(const Wörter &w) {
     if (Wort(w, 1) != "cboBildGröße") throw Skriptfehler("unknown list: " + w[1]);
-    Läuft().haupt.bereich.ZoomWählen(Zahl(Wort(w, 2)));
+    Arbeitsbereich &bereich = Läuft().haupt.bereich;
+    const int i = Zahl(Wort(w, 2));
+    if (i < 0 || i >= bereich.cboBildGröße.Anzahl()) throw Skriptfehler("no such entry: " + w[2]);
+    bereich.ZoomWählen(i);
 }
 
 } // namespace kw

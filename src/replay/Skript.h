@@ -36,6 +36,7 @@ class Wiedergabe {
     using Wörter = std::vector<std::string>;
     struct Programm; ///< one run of the program with its platform
 
+    void AntwortenPrüfen();
     void Zeile(const std::string &zeile, std::istream &skript);
     void Starten(const Wörter &w);
     Programm &Läuft(); ///< the program; started with the defaults if the script didn't

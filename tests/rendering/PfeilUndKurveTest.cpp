@@ -45,13 +45,16 @@ TEST(Pfeile, KreislinienFolgenDemFarbschemaEinBildSpäter) {
     DrehbuchUhr uhr;
     Einzelbild bild(uhr, "");
     Zeichnung z = bild.DasBild();
-    EXPECT_EQ(z.ansicht.Pfeilfarbe, Schwarz);
-    Aufzeichnung f;
-    PfeilEbene(f, z);
-    EXPECT_EQ(z.ansicht.Pfeilfarbe, 0x404040U);
+    z.dokument.cboFreehandlines = {"1^1_5^1_1^1"};
     z.ansicht.Farbschema = SchemaSchwarzWeiß;
+    Aufzeichnung f;
+    f.Schreibt = true;
+    KreislinienEbene(f, z);
+    EXPECT_NE(f.Text.find("pen=404040"), std::string::npos) << "that of the last redraw";
     PfeilEbene(f, z);
-    EXPECT_EQ(z.ansicht.Pfeilfarbe, Schwarz);
+    f.Text.clear();
+    KreislinienEbene(f, z);
+    EXPECT_EQ(f.Text.find("pen=404040"), std::string::npos);
 }
 
 TEST(Kurven, GehenDurchIhrePunkte) {
