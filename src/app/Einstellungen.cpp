@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view Abschnitt = "DEFAULT";
 
-std::string OderSonst(std::string wert, std::string_view sonst) { return wert.empty() ? std::string(sonst) : wert; }
+std::string OderSonst(const std::string &wert, const std::string &sonst) { return wert.empty() ? sonst : wert; }
 
 std::string LetzterPfadSchlüssel(int platz) { return "lastpath_" + std::to_string(platz); }
 

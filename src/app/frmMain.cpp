@@ -35,12 +35,11 @@ std::string Entpackt(std::string_view kommandozeile) {
     return std::string(text);
 }
 
-frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben start_)
-    : plattform(plattform_), start(std::move(start_)), picVorschau(canvas),
-      bereich(canvas, ansicht, start.BildschirmBreite, start.BildschirmHöhe,
+frmMain::frmMain(Plattform plattform_, Zeichenfläche &leinwand, Startangaben startangaben)
+    : plattform(plattform_), start(std::move(startangaben)), picVorschau(leinwand),
+      bereich(leinwand, ansicht, start.BildschirmBreite, start.BildschirmHöhe,
               {[this] { Vorschau(); }, [this] { ZoomAnzeigen(); }}),
-      projekt(*this),
-      Kommandozeile(Entpackt(start.Kommandozeile)) {}
+      projekt(*this), Kommandozeile(Entpackt(start.Kommandozeile)) {}
 
 void frmMain::Laden() {
     ansicht.Sprache = "en";
@@ -174,16 +173,18 @@ void frmMain::Legende() {
 void frmMain::LegendenknopfBeschriften() {
     const bool sichtbar = dokument.LegendeSichtbar;
     bedienung["btnLegende"].Caption = IstDeutsch() ? sichtbar ? "Legende ausblenden" : "Legende anzeigen"
-                                                   : sichtbar ? "Hide Legend" : "Show Legend";
+                                      : sichtbar   ? "Hide Legend"
+                                                   : "Show Legend";
 }
 
 void frmMain::WerkzeugleisteUmschalten() {
     const bool zeigen = !bereich.WerkzeugleisteSichtbar();
     if (zeigen) bereich.WerkzeugleisteZeigen();
     else bereich.WerkzeugleisteVerbergen();
-    bedienung["mnuWerkzeugleiste"].Caption = IstDeutsch() ? zeigen ? "Werkzeugleiste ausblenden" : "Werkzeugleiste einblenden"
-                                             : zeigen    ? "Hide Toolbar"
-                                                         : "Show Toolbar";
+    bedienung["mnuWerkzeugleiste"].Caption = IstDeutsch()
+                                                 ? zeigen ? "Werkzeugleiste ausblenden" : "Werkzeugleiste einblenden"
+                                             : zeigen ? "Hide Toolbar"
+                                                      : "Show Toolbar";
 }
 
 void frmMain::FarbschemaWählen(int schema) {

@@ -36,8 +36,8 @@ struct Startangaben {
 /// its own: the order of starting, redrawing, closing. Routines stand with the state that they change.
 class frmMain {
   public:
-    /// `picVorschau` is the canvas. Nothing happens before `Laden`.
-    frmMain(Plattform plattform, Zeichenfläche &picVorschau, Startangaben start);
+    /// `leinwand` becomes `picVorschau`. Nothing happens before `Laden`.
+    frmMain(Plattform plattform_, Zeichenfläche &leinwand, Startangaben startangaben);
 
     /// The whole start, in its fixed order.
     void Laden();

@@ -65,7 +65,9 @@ size_t StückLesen(int fd, char *ziel, size_t höchstens) {
     constexpr int Geduld = 5000; // ms, for the writer of a pipe
     auto anzahl = Ununterbrochen([&] { return ::read(fd, ziel, höchstens); });
     while (anzahl < 0 && errno == EAGAIN) {
-        struct pollfd warten {fd, POLLIN, 0};
+        struct pollfd warten {
+            fd, POLLIN, 0
+        };
         if (Ununterbrochen([&] { return ::poll(&warten, 1, Geduld); }) == 0) Scheitern(ETIMEDOUT);
         anzahl = Ununterbrochen([&] { return ::read(fd, ziel, höchstens); });
     }

@@ -11,10 +11,10 @@ namespace kw {
 
 namespace {
 
-constexpr int Ruhelage = 100;        ///< of the canvas in its frame when it doesn't fit
-constexpr int Überlauf = 1000;       ///< how far one can scroll beyond the page
+constexpr int Ruhelage = 100;  ///< of the canvas in its frame when it doesn't fit
+constexpr int Überlauf = 1000; ///< how far one can scroll beyond the page
 constexpr int Schattenversatz = 80;
-constexpr int LuftBreite = 200;      ///< a canvas fits when this is left over
+constexpr int LuftBreite = 200; ///< a canvas fits when this is left over
 constexpr int LuftHöhe = 600;
 constexpr int PaletteUndRand = 2620; ///< what of the inner width isn't the frame's
 constexpr int PalettenBreite = 960;
@@ -137,7 +137,8 @@ void Arbeitsbereich::Scrollen(int hValue, int vValue) {
 }
 
 void Arbeitsbereich::SchattenSetzen() {
-    shpSchatten = {canvasLinks_ + Schattenversatz, canvasOben_ + Schattenversatz, canvas_.Width(), canvas_.Height(), true};
+    shpSchatten = {canvasLinks_ + Schattenversatz, canvasOben_ + Schattenversatz, canvas_.Width(), canvas_.Height(),
+                   true};
 }
 
 } // namespace kw

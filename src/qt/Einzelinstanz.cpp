@@ -68,7 +68,7 @@ bool Einzelinstanz::IstErste() {
     return false;
 }
 
-void Einzelinstanz::BeiWeiteremStart(std::function<void()> nachVorn) {
+void Einzelinstanz::BeiWeiteremStart(const std::function<void()> &nachVorn) {
     if (horcher_ < 0) return;
     wächter_ = std::make_unique<QSocketNotifier>(horcher_, QSocketNotifier::Read);
     QObject::connect(wächter_.get(), &QSocketNotifier::activated, wächter_.get(), [this, nachVorn] {

@@ -23,7 +23,7 @@ class Einzelinstanz {
     /// Whether that first instance could be reached.
     bool HatGeantwortet() const { return geantwortet_; }
     /// What the first instance does when another was started.
-    void BeiWeiteremStart(std::function<void()> nachVorn);
+    void BeiWeiteremStart(const std::function<void()> &nachVorn);
 
   private:
     std::unique_ptr<QLockFile> sperre_;

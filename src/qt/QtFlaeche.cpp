@@ -213,8 +213,7 @@ void QtFläche::Polygon(std::span<const Bildpunkt> punkte) {
 Schriftsatz &QtFläche::Satz() {
     const double nominal = FontSize / Faktor();
     const double punkte = nominal > 1 ? std::min(nominal, GrößteSchrift) : 1; // also for what is no number
-    return vorrat_.Finden(
-        {FontName, static_cast<int>(std::lround(punkte * JePunkt)), FontBold, FontItalic});
+    return vorrat_.Finden({FontName, static_cast<int>(std::lround(punkte * JePunkt)), FontBold, FontItalic});
 }
 
 double QtFläche::TextWidth(std::string_view text) { return text.empty() ? 0 : Satz().Setzen(text).Breite / JeCm; }

@@ -50,7 +50,7 @@ class QtFläche : public Zeichenfläche {
     double Strichbreite() const;
     double StrichAnfang(double gerät) const;
     double StrichMitte(double einheiten) const;
-    QPointF StrichMitte(QPointF einheiten) const;
+    QPointF StrichMitte(QPointF p) const;
     void RechteckFüllen(double links, double oben, double rechts, double unten, Farbe farbe);
     void AchsenlinieFüllen(QPointF von, QPointF bis, Farbe farbe);
     void KastenFüllen(QPointF von, QPointF bis, Farbe farbe);

@@ -62,8 +62,7 @@ int QtDrucker::Orientation() const {
 
 std::string EinstellungsDateiDesBenutzers() {
     const QString konfig = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-    return EinstellungsDatei(QCoreApplication::applicationDirPath().toStdString(),
-                             konfig.toStdString() + "/kinwright");
+    return EinstellungsDatei(QCoreApplication::applicationDirPath().toStdString(), konfig.toStdString() + "/kinwright");
 }
 
 } // namespace kw

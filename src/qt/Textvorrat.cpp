@@ -60,7 +60,7 @@ const Schriftsatz::Gesetzt &Schriftsatz::Setzen(std::string_view utf8) {
     gesetzt.setPerformanceHint(QStaticText::AggressiveCaching);
     gesetzt.prepare(QTransform(), schrift_);
     const double breite = QFontMetricsF(schrift_).horizontalAdvance(text);
-    return texte_.emplace(utf8, Gesetzt{std::move(gesetzt), breite}).first->second;
+    return texte_.emplace(utf8, Gesetzt{gesetzt, breite}).first->second;
 }
 
 Schriftsatz &Textvorrat::Finden(const Schriftwunsch &wunsch) {

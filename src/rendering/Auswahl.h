@@ -16,11 +16,11 @@ struct Auswahl {
 /// What the canvas is doing, as far as drawing looks at it.
 struct Gestenlage {
     int Aktion = 0;
-    int ZielPerson = 0;          ///< one-based position of a link gesture's target, 0 none
-    int PLinieAuswahl = -1;      ///< position of the partnership line selected or under the pointer
+    int ZielPerson = 0;           ///< one-based position of a link gesture's target, 0 none
+    int PLinieAuswahl = -1;       ///< position of the partnership line selected or under the pointer
     bool PLinieUnterMaus = false; ///< in a child link gesture: a partnership line lies under the pointer
-    int KindAuswahl = -1;        ///< position of the selected child line
-    double TextRahmenUnten = 0;  ///< bottom of the selected text box's frame below its top, cm
+    int KindAuswahl = -1;         ///< position of the selected child line
+    double TextRahmenUnten = 0;   ///< bottom of the selected text box's frame below its top, cm
 };
 
 /// The values of `Aktion` that drawing looks at.

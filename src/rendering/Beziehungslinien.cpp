@@ -10,7 +10,7 @@ namespace {
 
 constexpr double Parallelabstand = 0.1;
 constexpr double Strichperiode = 0.35;
-constexpr double Lücke = 0.2;       ///< of a cutoff, and half the length of its bars
+constexpr double Lücke = 0.2; ///< of a cutoff, and half the length of its bars
 constexpr double Zackenperiode = 0.4;
 constexpr double Zackenhöhe = 0.2;
 constexpr int HöchstSchritte = 32767; ///< counters are 16 bits; longer lines are damage and draw no further

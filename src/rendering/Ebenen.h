@@ -37,7 +37,7 @@ void BeziehungZeichnen(Zeichenfläche &fläche, const ElementFarben &farben, std
                        double x1, double y1, double x2, double y2);
 
 /// The mark of a partnership's state and its date, at a bar whose middle is (mitte, y).
-void PartnerstandZeichnen(Zeichenfläche &fläche, std::string_view status, std::string_view datum, double mitte, double y,
-                          double faktor);
+void PartnerstandZeichnen(Zeichenfläche &fläche, std::string_view status, std::string_view datum, double mitte,
+                          double y, double faktor);
 
 } // namespace kw

@@ -10,9 +10,7 @@ ElementFarben LinienfarbenFür(int schema) {
     }
 }
 
-Farbe PfeilfarbeFür(int schema) {
-    return schema == SchemaGraustufen || schema == SchemaFarbig ? 0x404040 : Schwarz;
-}
+Farbe PfeilfarbeFür(int schema) { return schema == SchemaGraustufen || schema == SchemaFarbig ? 0x404040 : Schwarz; }
 
 Farbe SymbolFüllfarbe(int schema) {
     switch (schema) {

@@ -43,8 +43,7 @@ void KreislinienEbene(Zeichenfläche &f, const Zeichnung &z) {
             Kurvenpunkte punkte = PunkteLesen(z.dokument.cboFreehandlines.Satz(i), n);
             const bool hervorgehoben = gewählt.contains(i + 1);
             f.DrawWidth = a.bDruckLaeuft ? 3 : hervorgehoben ? 2 : 1;
-            if (!punkte.empty())
-                KurveZeichnen(f, punkte, n, a.Glättungsgrad, hervorgehoben ? Rot : a.Pfeilfarbe, true);
+            if (!punkte.empty()) KurveZeichnen(f, punkte, n, a.Glättungsgrad, hervorgehoben ? Rot : a.Pfeilfarbe, true);
         } catch (const FeldFehlt &) { // a damaged stroke isn't drawn
         }
 }

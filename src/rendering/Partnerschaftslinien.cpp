@@ -93,8 +93,8 @@ void PartnerschaftZeichnen(Zeichenfläche &f, const Felder &feld, double faktor)
 
 } // namespace
 
-void PartnerstandZeichnen(Zeichenfläche &f, std::string_view status, std::string_view datum, double mitte, double balkenY,
-                          double faktor) {
+void PartnerstandZeichnen(Zeichenfläche &f, std::string_view status, std::string_view datum, double mitte,
+                          double balkenY, double faktor) {
     if (status.size() != 1) return;
     constexpr double Versatz[] = {0, 0.2, 0.2, 0.3}; // by state: room for the mark left of the text
     const double x = mitte - f.TextWidth(datum) / 2 + Versatz[status[0] - '0'];

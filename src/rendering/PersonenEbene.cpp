@@ -37,8 +37,7 @@ class Personenzeichner {
         f.ForeColor = Schwarz;
         symbol.Zeichnen(kennzahl, MarkenVon(feld), Hervorgehoben(feld, position));
         const double typ = kennzahl > 0 ? kennzahl : ZahlLesen(feld[PersonFeld::Symboltyp]);
-        if (typ <= 2 || typ >= 9)
-            PersonBeschriften(f, z_.ansicht, alter_, feld, x, y, oben, größe, faktor_);
+        if (typ <= 2 || typ >= 9) PersonBeschriften(f, z_.ansicht, alter_, feld, x, y, oben, größe, faktor_);
     }
 
   private:

@@ -17,9 +17,9 @@ constexpr double GriffHälfte = 0.08;
 
 /// Setback of the head's base along the shaft, as a share of the shaft, by the arrow's rounded length
 /// (cm): a short arrow doesn't end in an oversized head.
-constexpr std::array<double, 29> Rücksprung{0,     0.2,   0.12,  0.072, 0.05,  0.034, 0.028,  0.028, 0.028, 0.024,
-                                            0.024, 0.02,  0.017, 0.017, 0.015, 0.014, 0.013,  0.0124, 0.012, 0.011,
-                                            0.01,  0.01,  0.01,  0.01,  0.0095, 0.009, 0.008, 0.008, 0.008};
+constexpr std::array<double, 29> Rücksprung{0,     0.2,  0.12,  0.072, 0.05,   0.034, 0.028, 0.028,  0.028, 0.024,
+                                            0.024, 0.02, 0.017, 0.017, 0.015,  0.014, 0.013, 0.0124, 0.012, 0.011,
+                                            0.01,  0.01, 0.01,  0.01,  0.0095, 0.009, 0.008, 0.008,  0.008};
 
 struct Pfeil {
     double x1, y1, x2, y2;

@@ -24,8 +24,8 @@ int InTwips(double cm) { return static_cast<int>(std::nearbyint(cm * TwipsJeCm))
 
 void SeiteBestimmen(Dokument &dokument, Ansicht &ansicht) {
     if (dokument.Papiercode < 1) dokument.Papiercode = 9;
-    const auto *papier = std::find_if(Papiere.begin(), Papiere.end(),
-                                      [&](const Papier &p) { return p.Code == dokument.Papiercode; });
+    const auto *papier =
+        std::find_if(Papiere.begin(), Papiere.end(), [&](const Papier &p) { return p.Code == dokument.Papiercode; });
     if (papier == Papiere.end()) return;
     ansicht.SeitenBreite = papier->Breite;
     ansicht.SeitenHöhe = papier->Höhe;
@@ -39,10 +39,8 @@ double SeiteEinrichten(Zeichenfläche &fläche, Zeichnung &z) {
     const double verhältnisHöhe = fläche.ScaleHeight() / a.SeitenHöhe;
     const double verhältnisBreite = fläche.ScaleWidth() / a.SeitenBreite;
     const double faktor = std::min(verhältnisHöhe, verhältnisBreite);
-    if (verhältnisHöhe >= verhältnisBreite)
-        fläche.GrößeSetzen(fläche.Width(), InTwips(a.SeitenHöhe * faktor));
-    else
-        fläche.GrößeSetzen(InTwips(a.SeitenBreite * faktor), fläche.Height());
+    if (verhältnisHöhe >= verhältnisBreite) fläche.GrößeSetzen(fläche.Width(), InTwips(a.SeitenHöhe * faktor));
+    else fläche.GrößeSetzen(InTwips(a.SeitenBreite * faktor), fläche.Height());
     fläche.Scale(a.SeitenBreite, a.SeitenHöhe, faktor);
     fläche.Cls();
     a.Skalierung = faktor;

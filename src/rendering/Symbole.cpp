@@ -43,8 +43,9 @@ Symbol::Symbol(Zeichenfläche &fläche, const Ort &ort, double pixelJeCm, int st
       einzugKreis(r - r * 0.7), k(pixelJeCm), strichFaktor_(strichFaktor), farbschema_(farbschema) {}
 
 void Symbol::Zeichnen(int kennzahl, const Marken &marken, const Hervorhebung &hervorhebung) {
-    const Routine routine =
-        kennzahl >= 0 && kennzahl < static_cast<int>(Routinen.size()) ? Routinen[static_cast<size_t>(kennzahl)] : nullptr;
+    const Routine routine = kennzahl >= 0 && kennzahl < static_cast<int>(Routinen.size())
+                                ? Routinen[static_cast<size_t>(kennzahl)]
+                                : nullptr;
     if (!routine) return;
     marken_ = marken;
     hervorhebung_ = hervorhebung;

@@ -68,8 +68,8 @@ class Symbol {
     void Zickzack();
     template <typename Umriss> void ZielZeigen(Umriss umriss);
     template <typename Umriss> void AuswahlZeigen(Umriss umriss);
-    void Vieleck(std::span<const std::array<double, 2>> punkte);
-    void Kanten(std::span<const std::array<double, 2>> punkte);
+    void Vieleck(std::span<const std::array<double, 2>> ecken);
+    void Kanten(std::span<const std::array<double, 2>> ecken);
     void RotesQuadrat();
     void RoterKreis();
     void RotesKreuz(double einzug);

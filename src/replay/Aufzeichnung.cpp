@@ -64,13 +64,14 @@ void Aufzeichnung::Line(int flags, double x1, double y1, double x2, double y2, F
     if (!Schreibt || Geparkt(std::max(x1, x2), std::max(y1, y2))) return;
     const bool kasten = (flags & Kasten) == Kasten;
     Text += (kasten ? "box" : "line") + Reihe({x1, y1, x2, y2}) + " pen=" + Hex(Stift(flags, farbe)) +
-            " width=" + std::to_string(DrawWidth) + " style=" + std::to_string(DrawStyle) + (kasten ? Füllung() : "") + "\n";
+            " width=" + std::to_string(DrawWidth) + " style=" + std::to_string(DrawStyle) + (kasten ? Füllung() : "") +
+            "\n";
 }
 
 void Aufzeichnung::Circle(int flags, double x, double y, double radius, Farbe farbe) {
     if (!Schreibt || Geparkt(x + radius, y + radius)) return;
-    Text += "circle" + Reihe({x, y, radius}) + " pen=" + Hex(Stift(flags, farbe)) + " width=" + std::to_string(DrawWidth) +
-            Füllung() + "\n";
+    Text += "circle" + Reihe({x, y, radius}) + " pen=" + Hex(Stift(flags, farbe)) +
+            " width=" + std::to_string(DrawWidth) + Füllung() + "\n";
 }
 
 void Aufzeichnung::Torte(int flags, double x, double y, double radius, Farbe farbe, double von, double bis) {

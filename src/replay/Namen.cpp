@@ -113,14 +113,19 @@ Namen::Namen(frmMain &h) {
                    {"lstMovedKreisLinien", &h.auswahl.lstMovedKreisLinien},
                    {"lstMovedPfeile", &h.auswahl.lstMovedPfeile},
                    {"lstLegende", &h.legende.lstLegende}});
-    const std::map<std::string, Auswahlliste *> auswahllisten{
-        {"cboRaster", &h.cboRaster}, {"cboPaperSize", &h.cboPaperSize}, {"cboBildGröße", &h.bereich.cboBildGröße},
-        {"Combo1", &h.Combo1},       {"Combo2", &h.Combo2},             {"Combo3", &h.Combo3}};
+    const std::map<std::string, Auswahlliste *> auswahllisten{{"cboRaster", &h.cboRaster},
+                                                              {"cboPaperSize", &h.cboPaperSize},
+                                                              {"cboBildGröße", &h.bereich.cboBildGröße},
+                                                              {"Combo1", &h.Combo1},
+                                                              {"Combo2", &h.Combo2},
+                                                              {"Combo3", &h.Combo3}};
     for (const auto &[name, liste] : auswahllisten) {
         Listen[name] = &liste->Einträge;
         Variablen[name + ".index"] = Von(liste->ListIndex);
     }
-    Variablen["cboBildGröße.index"].Setzen = [&h](const std::string &text) { h.bereich.ZoomWählen(Ganzzahl(ZahlLesen(text))); };
+    Variablen["cboBildGröße.index"].Setzen = [&h](const std::string &text) {
+        h.bereich.ZoomWählen(Ganzzahl(ZahlLesen(text)));
+    };
     Variablen["cboRaster.index"].Setzen = [&h](const std::string &text) { h.RasterWählen(Ganzzahl(ZahlLesen(text))); };
     Listen["cboBildGr_e"] = Listen["cboBildGröße"];
     Variablen["cboBildGr_e.index"] = Variablen["cboBildGröße.index"];

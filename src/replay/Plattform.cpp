@@ -49,7 +49,8 @@ std::optional<DrehbuchBenutzer::Vorbereitet> DrehbuchBenutzer::Nächste(const st
 }
 
 Antwort DrehbuchBenutzer::Fragen(const Nachfrage &n) {
-    Kästen += "box " + n.Titel + " | " + EineZeile(n.Text) + " | " + KnopfText(n.Auswahl) + " | " + ZeichenText(n.Bild) + "\n";
+    Kästen += "box " + n.Titel + " | " + EineZeile(n.Text) + " | " + KnopfText(n.Auswahl) + " | " +
+              ZeichenText(n.Bild) + "\n";
     const auto antwort = Nächste(n.Titel, [&](const Vorbereitet &v) {
         return v.Wofür == Vorbereitet::Art::Knopf && HatKnopf(n.Auswahl, v.Knopf);
     });

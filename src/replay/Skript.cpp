@@ -19,7 +19,8 @@
 namespace kw {
 
 struct Wiedergabe::Programm {
-    Programm(std::ostream &aus, const Startangaben &start) : benutzer(aus), haupt({benutzer, drucker, uhr}, leinwand, start) {}
+    Programm(std::ostream &aus, const Startangaben &start)
+        : benutzer(aus), haupt({benutzer, drucker, uhr}, leinwand, start) {}
     DrehbuchBenutzer benutzer;
     DrehbuchDrucker drucker;
     DrehbuchUhr uhr;
@@ -370,7 +371,8 @@ void Wiedergabe::Profilaufrufe(const std::string &datei, std::istream &skript) {
         if (zeile.empty()) continue;
         const auto t = Geteilt(zeile, '\t');
         const std::string &abschnitt = Wort(t, 1);
-        if (t[0] == "W") aus_ << "W " << ProfilSchreiben(datei, abschnitt, Wort(t, 2), t.size() > 3 ? t[3] : "") << "\n";
+        if (t[0] == "W")
+            aus_ << "W " << ProfilSchreiben(datei, abschnitt, Wort(t, 2), t.size() > 3 ? t[3] : "") << "\n";
         else if (t[0] == "D") aus_ << "D " << ProfilSchreiben(datei, abschnitt, std::nullopt, "") << "\n";
         else if (t[0] == "R") zeigen('R', ProfilLesen(datei, abschnitt, Wort(t, 2)));
         else if (t[0] == "K") zeigen('K', ProfilLesen(datei, abschnitt, std::nullopt));
@@ -379,9 +381,7 @@ void Wiedergabe::Profilaufrufe(const std::string &datei, std::istream &skript) {
     throw Skriptfehler("profil without end");
 }
 
-void Wiedergabe::GrößeÄndern(const Wörter &w) {
-    Läuft().haupt.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2)));
-}
+void Wiedergabe::GrößeÄndern(const Wörter &w) { Läuft().haupt.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }
 
 void Wiedergabe::Wählen(const Wörter &w) {
     if (Wort(w, 1) != "cboBildGröße") throw Skriptfehler("unknown list: " + w[1]);

@@ -37,13 +37,13 @@ class Wiedergabe {
     struct Programm; ///< one run of the program with its platform
 
     void AntwortenPrüfen();
-    void Zeile(const std::string &zeile, std::istream &skript);
+    void Zeile(const std::string &roh, std::istream &skript);
     void Starten(const Wörter &w);
     Programm &Läuft(); ///< the program; started with the defaults if the script didn't
 
     void Ablegen(const Wörter &w);
     void Setzen(const Wörter &w);
-    void Erwarten(const std::string &rest);
+    void Erwarten(const std::string &zeile);
     void Drucken(const Wörter &w);
     void Zeichnen(const Wörter &w);
     void Warten(int ms);

@@ -13,14 +13,30 @@ namespace {
 /// A small project with one record of each kind.
 constexpr std::string_view Projekt =
     "[DEFAULT]\r\norientation=2\r\npapersize=9\r\nlegende=1_25_2_1_1\r\n"
-    "[OBJECTS]\r\n0=001_1_3_3_1.2_1_$85_1_1_J\xF6rg_M\xFCller_12.03.1975__1E002\r\n1=002_1.2_6_3_1.2_0__0_0___1950_001_1E001\r\n"
+    "[OBJECTS]\r\n0=001_1_3_3_1.2_1_$85_1_1_J\xF6rg_M\xFCller_12.03.1975__1E002\r\n1=002_1.2_6_3_1.2_0__0_0___1950_001_"
+    "1E001\r\n"
     "[LINEA]\r\n0=_6_3_3_6_3_001_002\r\n1=_3_3_3_6_9_001_002\r\n2=_4_3_3_6_9_001_002\r\n"
     "[LINEB]\r\n0=001_2_3_5_6_5_001_002_3_3_3_6_1_a#b#c#d\r\n[LINEC]\r\n0=002_1_001_6_4_3_5\r\n"
     "[LINED]\r\n0=1^1_5^1_5^5_1^1\r\n[LINEE]\r\n0=2_1_1_9_9\r\n[TEXT]\r\n0=2_2_Arial_12_255_1_0_0_2_Hallo#Welt\r\n";
 
-constexpr std::string_view Bausteine[] = {
-    "_", "#", "^", "=", "\r\n", "[TEXT]", "-", "999999999999999999999999999999999999999999", "1e999", "0", "$", "1E001",
-    std::string_view("\0", 1), "\xFF", "0.0000000000000000001", "-32769", "\"", "1000000"};
+constexpr std::string_view Bausteine[] = {"_",
+                                          "#",
+                                          "^",
+                                          "=",
+                                          "\r\n",
+                                          "[TEXT]",
+                                          "-",
+                                          "999999999999999999999999999999999999999999",
+                                          "1e999",
+                                          "0",
+                                          "$",
+                                          "1E001",
+                                          std::string_view("\0", 1),
+                                          "\xFF",
+                                          "0.0000000000000000001",
+                                          "-32769",
+                                          "\"",
+                                          "1000000"};
 
 /// Overwrites, inserts, removes or doubles a piece at a random place.
 void Beschädigen(std::string &inhalt, std::mt19937 &zufall) {

@@ -11,7 +11,9 @@
 
 class Fenster : public QMainWindow {
   protected:
-    void paintEvent(QPaintEvent *) override { QTimer::singleShot(0, [] { std::_Exit(0); }); }
+    void paintEvent(QPaintEvent *) override {
+        QTimer::singleShot(0, [] { std::_Exit(0); });
+    }
 };
 
 int main(int argc, char **argv) {

@@ -6,11 +6,11 @@
 #include "document/Felder.h"
 #include "document/Profil.h"
 #include "document/ProjektDatei.h"
+#include "document/Zahlen.h"
 #include "document/basAltersberechnung.h"
 #include "qt/Hauptfenster.h"
 #include "qt/LeinwandFlaeche.h"
 #include "qt/QtPlattform.h"
-#include "document/Zahlen.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Symbole.h"
 
@@ -47,13 +47,14 @@ Dokument Familien(int n) {
                                std::to_string(30 + i % 60) + "__");
         if (i % 2 == 0) continue;
         const std::string vorher = Dreistellig(i);
-        d.cboBeziehungsLinien.Anhängen("_" + std::to_string(i % 8) + "_" + z(x - 0.92) + "_" + z(y) + "_" + mitte + "_" +
-                                       vorher + "_" + nr);
+        d.cboBeziehungsLinien.Anhängen("_" + std::to_string(i % 8) + "_" + z(x - 0.92) + "_" + z(y) + "_" + mitte +
+                                       "_" + vorher + "_" + nr);
         d.cboPartnerschaftsLinien.Anhängen(Dreistellig((i + 1) / 2) + "_" + std::to_string(i % 4) + "_" + z(x - 0.92) +
                                            "_" + z(y + 0.5) + "_" + z(x) + "_" + z(y + 0.5) + "_" + vorher + "_" + nr +
-                                           "_" + z(y) + "_" + z(y) + "_" + z(x - 0.92) + "_" + z(x) + "__1980#1990#2000#2010");
-        d.cboKindlinien.Anhängen(nr + "_" + std::to_string(i % 3) + "_001_" + z(x) + "_" + z(x - 0.4) + "_" + z(y) + "_" +
-                                 z(y - 0.6));
+                                           "_" + z(y) + "_" + z(y) + "_" + z(x - 0.92) + "_" + z(x) +
+                                           "__1980#1990#2000#2010");
+        d.cboKindlinien.Anhängen(nr + "_" + std::to_string(i % 3) + "_001_" + z(x) + "_" + z(x - 0.4) + "_" + z(y) +
+                                 "_" + z(y - 0.6));
         if (i % 20 == 1) d.cboTextboxen.Anhängen(mitte + "_Arial_11_255_0_0_0_0_Notiz zu#Müller_2_1");
     }
     return d;
@@ -135,7 +136,8 @@ class Mitschrift : public QPaintDevice, public QPaintEngine {
 
   private:
     Marke &Neu(Marke::Art art) {
-        Marken.push_back({art, static_cast<int>(Stifte.size()) - 1, static_cast<int>(Füllungen.size()) - 1, {}, {}, {}, {}, {}, {}});
+        Marken.push_back(
+            {art, static_cast<int>(Stifte.size()) - 1, static_cast<int>(Füllungen.size()) - 1, {}, {}, {}, {}, {}, {}});
         return Marken.back();
     }
     int breite_;
@@ -153,7 +155,8 @@ void BloßMalen(QImage &bild, const Mitschrift &m) {
     const QFont *schrift = nullptr;
     for (const Marke &marke : m.Marken) {
         if (std::exchange(stift, marke.Stift) != marke.Stift) p.setPen(m.Stifte[static_cast<size_t>(stift)]);
-        if (std::exchange(füllung, marke.Füllung) != marke.Füllung) p.setBrush(m.Füllungen[static_cast<size_t>(füllung)]);
+        if (std::exchange(füllung, marke.Füllung) != marke.Füllung)
+            p.setBrush(m.Füllungen[static_cast<size_t>(füllung)]);
         switch (marke.Was) {
         case Marke::Art::Strich: p.drawLine(marke.Linie); break;
         case Marke::Art::Kasten: p.drawRect(marke.Rahmen); break;

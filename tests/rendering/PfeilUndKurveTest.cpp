@@ -1,8 +1,8 @@
 #include "app/Einzelbild.h"
-#include "replay/Aufzeichnung.h"
-#include "replay/Plattform.h"
 #include "rendering/Ebenen.h"
 #include "rendering/basKurvenGlaettung.h"
+#include "replay/Aufzeichnung.h"
+#include "replay/Plattform.h"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +38,7 @@ TEST(Pfeile, KopfNachLängeUndRichtung) {
     EXPECT_EQ(s[103], "line 5.1131 1.6869 5 2");
     EXPECT_EQ(s[104 + 1], "line 5 10 4.8869 20.1131"); // upward
     EXPECT_EQ(s[208 + 0], "line 5 60 5.1131 49.8869"); // the other head, without the shaft
-    EXPECT_EQ(s[311 + 1], "line 5 4 5.2604 3.8414"); // to the left
+    EXPECT_EQ(s[311 + 1], "line 5 4 5.2604 3.8414");   // to the left
 }
 
 TEST(Pfeile, KreislinienFolgenDemFarbschemaEinBildSpäter) {
