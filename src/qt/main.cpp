@@ -57,6 +57,7 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
         return Melden("no display to open a window on; see kinwright --help for exports without one", 1);
     const QApplication anwendung(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kinwright"));
+    QApplication::setDesktopFileName(QStringLiteral("kinwright")); // gives the window its icon
     Einzelinstanz instanz;
     if (!instanz.IstErste())
         return instanz.HatGeantwortet() ? 0 : Melden("another Kinwright is running, but doesn't answer", 1);
