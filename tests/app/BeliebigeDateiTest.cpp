@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <random>
 
+#include <unistd.h>
+
 namespace kw {
 namespace {
 
@@ -41,7 +43,7 @@ void Beschädigen(std::string &inhalt, std::mt19937 &zufall) {
 TEST(BeliebigeDatei, EndetImBildOderInEinerZeile) {
     std::mt19937 zufall(20260312);
     DrehbuchUhr uhr;
-    const std::string datei = testing::TempDir() + "beliebig.kwp";
+    const std::string datei = testing::TempDir() + "beliebig-" + std::to_string(::getpid()) + ".kwp";
     for (int i = 0; i < 600; ++i) {
         std::string inhalt(Projekt);
         for (auto n = zufall() % 12; n > 0; --n) Beschädigen(inhalt, zufall);
