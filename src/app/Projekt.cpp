@@ -63,10 +63,8 @@ void Projekt::ProjektSchreiben() {
         DateiSchreiben(Projektdatei, profil.Inhalt());
     }
     Geändert = false;
-    if (!haupt_.einstellungen.Zuletzt.Enthält(Projektdatei)) {
-        haupt_.einstellungen.Zuletzt.Eintragen(Projektdatei);
-        haupt_.ChronikAnzeigen();
-    }
+    haupt_.einstellungen.Zuletzt.Eintragen(Projektdatei);
+    haupt_.ChronikAnzeigen();
     haupt_.plattform.benutzer.AnzeigeAuffrischen();
 }
 
@@ -106,8 +104,8 @@ bool Projekt::ErsetzenErlaubt(const std::string &datei) {
 
 bool Projekt::NachÄnderungenFragen() {
     if (!Geändert) return true;
-    const auto *text = haupt_.ansicht.Sprache == "en" ? "Do you want to save the changes in the current project?"
-                                                      : "Möchten Sie die Änderungen im aktuellen Projekt speichern?";
+    const auto *text = haupt_.IstDeutsch() ? "Möchten Sie die Änderungen im aktuellen Projekt speichern?"
+                                           : "Do you want to save the changes in the current project?";
     switch (haupt_.plattform.benutzer.Fragen({"Kinwright", text, Knöpfe::JaNeinAbbrechen, Zeichen::Frage})) {
     case Antwort::Ja: Speichern(); return !SpeichernAbgebrochen;
     case Antwort::Nein: return true;
@@ -129,7 +127,6 @@ void Projekt::mnuÖffnen() {
     Projektdatei = *datei;
     if (!DateiVorhanden(Projektdatei)) return;
     Öffnen(Projektdatei);
-    if (haupt_.einstellungen.Zuletzt.Enthält(Projektdatei)) return;
     haupt_.einstellungen.Zuletzt.Eintragen(Projektdatei);
     haupt_.ChronikAnzeigen();
 }

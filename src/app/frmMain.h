@@ -100,7 +100,7 @@ class frmMain {
     Projekt projekt;
 
     std::string Kommandozeile; ///< trimmed and unquoted
-    std::string IniDatei;      ///< the file that the profile routines of the moment work on
+    std::string IniDatei;      ///< settings or project, whichever was read or written last
     std::string Textvorlage;   ///< what a new text box starts from
     bool DruckerVorhanden = false;
     Auswahlliste cboRaster; ///< millimetres

@@ -17,7 +17,7 @@ class UndoRing {
     int UndoPos() const { return undoPos_; }           ///< the current slot, from 1; 0 when the ring is empty
     int UndoSchritte() const { return undoSchritte_; } ///< steps that can be undone
     int RedoSchritte() const { return redoSchritte_; } ///< undone steps that can be done again
-    int UndoFüllung() const { return undoFüllung_; }   ///< slots written since the ring was emptied
+    int UndoFüllung() const { return undoFüllung_; } ///< slots that can be reached backwards, the current one included
 
     void Sichern(const Dokument &dokument);
     void Leeren();

@@ -4,7 +4,6 @@
 #include "qt/QtFlaeche.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Seite.h"
-#include "rendering/Symbole.h"
 
 #include <QBuffer>
 #include <QImageWriter>

@@ -55,8 +55,10 @@ bool Einzelinstanz::IstErste() {
     if (sperre_->tryLock()) {
         if (!erreichbar) return true;
         ::unlink(adresse.sun_path); // left by a crash
-        horcher_ = Steckdose();
-        if (::bind(horcher_, ziel, sizeof adresse) == 0) ::listen(horcher_, 4);
+        const int dose = Steckdose();
+        const bool horcht = ::bind(dose, ziel, sizeof adresse) == 0 && ::listen(dose, 4) == 0;
+        if (horcht) horcher_ = dose;
+        else ::close(dose); // a folder that can't hold sockets: this instance can't be called, that is all
         return true;
     }
     // A folder that can't hold the lock must not keep the program from starting.

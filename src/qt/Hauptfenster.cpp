@@ -13,6 +13,8 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <utility>
+
 namespace kw {
 
 namespace {
@@ -56,7 +58,7 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
     dialog.setFileMode(art == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     // As the platform's dialogs do for a name typed without one; the question about replacing then names it whole.
-    dialog.setDefaultSuffix(QStringLiteral("kwp"));
+    if (art == QFileDialog::AcceptSave) dialog.setDefaultSuffix(QStringLiteral("kwp"));
     if (!wahl.Vorschlag.empty()) dialog.selectFile(Text(wahl.Vorschlag));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return dialog.selectedFiles().first().toStdString();

@@ -8,7 +8,6 @@
 #include <QMainWindow>
 
 #include <map>
-#include <memory>
 #include <vector>
 
 namespace kw {

@@ -1,7 +1,5 @@
 #include "qt/LeinwandFlaeche.h"
 
-#include "rendering/Symbole.h"
-
 #include <algorithm>
 #include <cmath>
 

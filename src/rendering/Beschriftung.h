@@ -8,18 +8,19 @@
 namespace kw {
 
 /// Names under a person's symbol, age or years of life inside it. `x`, `y`: the symbol's centre, `oben`
-/// its top, `größe` its height (cm). Clears the age's results before and after, so that none carries
+/// its top, `größe` its height (cm). Clears the age before and the year after, so that none carries
 /// over to the next person. Throws FeldFehlt for a record without a date of birth.
 void PersonBeschriften(Zeichenfläche &fläche, const Ansicht &ansicht, Altersberechnung &alter, const Felder &feld,
                        double x, double y, double oben, double größe, double faktor);
 
-/// The text inside the symbol alone, in the form that `altersanzeige` says.
 struct Lebensdaten {
     bool Verstorben = false;
     std::string AlterText; ///< completed years
     std::string GebText;   ///< "* 1950"
     std::string TodText;   ///< age at death
 };
+
+/// The text inside the symbol alone, in the form that `altersanzeige` says.
 void LebensdatenZeichnen(Zeichenfläche &fläche, int altersanzeige, const Lebensdaten &daten, double x, double y,
                          double größe, double faktor);
 

@@ -3,7 +3,6 @@
 #include "rendering/Ebenen.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 
 namespace kw {
@@ -12,7 +11,7 @@ namespace {
 
 constexpr double Strichlänge = 0.2;
 constexpr double Strichperiode = 0.35;
-constexpr double GrößteLänge = 32767 * Strichperiode; ///< counters are 16 bits: what is longer is damage
+constexpr int HöchstSchritte = 32767; ///< the counter has 16 bits; longer paths are damage and end there
 
 /// A straight, level or upright path, walked along its axis.
 struct Pfadstück {
@@ -27,18 +26,20 @@ struct Pfadstück {
 /// Dashes of 0.2 every 0.35 from `von` toward `bis`; the last one runs to the end. The first comes once
 /// more by itself, so a path under 0.2 shows two dashes that overlap.
 void Gestrichelt(Zeichenfläche &f, const Pfadstück &pfad, double von, double bis) {
-    if (!(std::abs(bis - von) < GrößteLänge)) return;
     const double sinn = bis >= von ? 1 : -1;
     double s = von;
     double e = s + sinn * Strichlänge;
     pfad.Zeichnen(f, s, e);
-    while (sinn * (bis - sinn * Strichlänge - e) >= 0) {
+    for (int i = 0; i < HöchstSchritte && sinn * (bis - sinn * Strichlänge - e) >= 0; ++i) {
         pfad.Zeichnen(f, s, e);
         s += sinn * Strichperiode;
         e = s + sinn * Strichlänge;
     }
     pfad.Zeichnen(f, s, bis);
 }
+
+/// One of the four states; a new line has none yet.
+bool HatMarke(std::string_view status) { return status.size() == 1 && status[0] >= '0' && status[0] <= '3'; }
 
 struct Partnerschaft {
     double L, R, Y1, Y2; ///< the bar, left end first
@@ -85,7 +86,7 @@ void PartnerschaftZeichnen(Zeichenfläche &f, const Felder &feld, double faktor)
     f.FontItalic = f.FontUnderline = f.FontBold = false;
     f.FontSize = 6 * faktor;
     const auto status = feld[PLinieFeld::Status];
-    if (status.size() != 1 || status[0] < '0' || status[0] > '3') return;
+    if (!HatMarke(status)) return;
     // An element missing from the dates leaves the state without mark and text, the bar stands.
     if (const auto datum = Datum(feld[PLinieFeld::Daten], status[0] - '0'))
         PartnerstandZeichnen(f, status, *datum, (x1 + x2) / 2, p.Y1, faktor);
@@ -95,7 +96,7 @@ void PartnerschaftZeichnen(Zeichenfläche &f, const Felder &feld, double faktor)
 
 void PartnerstandZeichnen(Zeichenfläche &f, std::string_view status, std::string_view datum, double mitte,
                           double balkenY, double faktor) {
-    if (status.size() != 1) return;
+    if (!HatMarke(status)) return;
     constexpr double Versatz[] = {0, 0.2, 0.2, 0.3}; // by state: room for the mark left of the text
     const double x = mitte - f.TextWidth(datum) / 2 + Versatz[status[0] - '0'];
     const double y = balkenY - 0.3;

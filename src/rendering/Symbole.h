@@ -7,10 +7,6 @@
 
 namespace kw {
 
-/// Pixels per centimetre in print and, times the scale factor, on the canvas: 567 twips by 15.
-constexpr int DruckPixelJeCm = 236;
-constexpr double BildschirmPixelJeCm = 37.8;
-
 /// The three kinds that files write as 1.1, 2.1 and 1.2 are 10, 11 and 12; other kinds are themselves,
 /// and 0 is a kind that has no symbol.
 int SymbolKennzahl(std::string_view symboltyp);

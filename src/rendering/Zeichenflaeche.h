@@ -30,6 +30,10 @@ constexpr double Pi = 3.14159265358979323846;
 constexpr double TwipsJeCm = 567;
 constexpr int TwipsJePixel = 15;
 
+/// Pixels per centimetre in print and, times the scale factor, on the canvas: 567 twips by 15.
+constexpr int DruckPixelJeCm = 236;
+constexpr double BildschirmPixelJeCm = 37.8;
+
 /// What every draw routine draws on: the canvas, a printer, a file or a recording. One user unit is one
 /// centimetre of paper. The properties are plain values that the next primitive obeys; setting one
 /// marks nothing. Layers set what they need and leave it as it stands.

@@ -10,8 +10,8 @@
 namespace kw {
 
 /// All that a redraw looks at. Drawing changes none of it but what is told at its place: the measures
-/// of text boxes (and with them the gesture that placed one), the legend's place and size, a paper code
-/// below 1, and what `Ansicht` derives.
+/// of text boxes (with them the gesture that placed one ends, and the bottom of a selected one is kept), the legend's
+/// place and size, a paper code below 1, and what `Ansicht` derives.
 struct Zeichnung {
     Dokument &dokument;
     Ansicht &ansicht;
@@ -25,8 +25,8 @@ struct Zeichnung {
 void VorschauZeichnen(Zeichenfläche &fläche, Zeichnung &z);
 
 /// One print run on `fläche`, whose user units are centimetres already. No page setup, no grid, no
-/// marks. Sets the printing flag and the line width for its length only; an exception passes through
-/// with both put back.
+/// marks. Sets the printing flag for its length only, however it ends, and leaves the base line width at
+/// 1, whatever the zoom wanted.
 void DruckZeichnen(Zeichenfläche &fläche, Zeichnung &z);
 
 } // namespace kw

@@ -1,7 +1,5 @@
 #include "replay/Aufzeichnung.h"
 
-#include "rendering/Symbole.h"
-
 #include <algorithm>
 #include <cmath>
 #include <cstdio>

@@ -3,6 +3,7 @@
 #include "document/Zahlen.h"
 
 #include <algorithm>
+#include <limits>
 #include <type_traits>
 
 namespace kw {
@@ -21,7 +22,10 @@ template <typename T> Variable Von(T &wert) {
                 if constexpr (std::is_convertible_v<T, std::string>) wert = text;
                 else if constexpr (std::is_same_v<T, bool>) wert = ZahlLesen(text) != 0;
                 else if constexpr (std::is_floating_point_v<T>) wert = ZahlLesen(text);
-                else wert = static_cast<T>(Ganzzahl(ZahlLesen(text)));
+                else
+                    wert =
+                        static_cast<T>(std::clamp(ZahlLesen(text), static_cast<double>(std::numeric_limits<T>::min()),
+                                                  static_cast<double>(std::numeric_limits<T>::max())));
             }};
 }
 

@@ -5,7 +5,6 @@
 #include "document/Felder.h"
 #include "document/Profil.h"
 #include "document/Zahlen.h"
-#include "rendering/Symbole.h"
 
 #include <algorithm>
 #include <cmath>
@@ -65,7 +64,10 @@ std::vector<std::string> Geteilt(std::string_view text, char trenner) {
 int Zahl(const std::string &text) {
     if (text.empty() || text.find_first_not_of("-0123456789.") != std::string::npos)
         throw Skriptfehler("not a number: " + text);
-    return Ganzzahl(ZahlLesen(text));
+    const int zahl = Ganzzahl(ZahlLesen(text));
+    constexpr int Grenze = 10'000'000; // twips, milliseconds or pixels: more is a slip
+    if (zahl < -Grenze || zahl > Grenze) throw Skriptfehler("number out of range: " + text);
+    return zahl;
 }
 
 const std::string &Wort(const std::vector<std::string> &w, size_t i) {
@@ -97,7 +99,8 @@ Datumsfolge FolgeAus(const std::string &text) {
 } // namespace
 
 Wiedergabe::Wiedergabe(std::ostream &aus) : aus_(aus) {
-    std::string muster = (std::filesystem::temp_directory_path() / "kinwright-replay-XXXXXX").string();
+    std::error_code fehler;
+    std::string muster = (std::filesystem::temp_directory_path(fehler) / "kinwright-replay-XXXXXX").string();
     if (::mkdtemp(muster.data())) ordner_ = muster;
 }
 
@@ -168,6 +171,7 @@ void Wiedergabe::Zeile(const std::string &roh, std::istream &skript) {
 
 void Wiedergabe::Starten(const Wörter &w) {
     AntwortenPrüfen();
+    if (ordner_.empty()) throw Skriptfehler("no folder for the run's own settings; see TMPDIR");
     constexpr std::string_view Bekannt[] = {"ini", "cmd", "today", "screen", "printers", "margins", "locale"};
     std::map<std::string, std::string> angaben{{"today", "2026-03-12"}, {"screen", "1920x1080"}, {"locale", "de"}};
     for (size_t i = 1; i < w.size(); ++i) {
@@ -264,7 +268,8 @@ void Wiedergabe::Drucken(const Wörter &w) {
         return;
     }
     if (w.size() > 2) { // caption|enabled|visible|checked NAME
-        aus_ << name << " " << w[2] << " = " << Zustand(name, w[2]) << "\n";
+        const std::string zustand = Zustand(name, w[2]);
+        aus_ << name << " " << w[2] << " = " << zustand << "\n";
         return;
     }
     if (const auto liste = p.namen.Listen.find(name); liste != p.namen.Listen.end()) {

@@ -17,6 +17,7 @@ int main(int argc, char **argv) {
         }
         kw::Wiedergabe wiedergabe(std::cout);
         ergebnis = std::max(ergebnis, wiedergabe.Ausführen(skript));
+        if (skript.bad()) ergebnis = 2; // a folder, for one
     }
     return ergebnis;
 }

@@ -22,7 +22,8 @@ constexpr std::string_view Projekt =
     "[LINEB]\r\n0=001_2_3_5_6_5_001_002_3_3_3_6_1_a#b#c#d\r\n[LINEC]\r\n0=002_1_001_6_4_3_5\r\n"
     "[LINED]\r\n0=1^1_5^1_5^5_1^1\r\n[LINEE]\r\n0=2_1_1_9_9\r\n[TEXT]\r\n0=2_2_Arial_12_255_1_0_0_2_Hallo#Welt\r\n";
 
-const std::string Bausteine = "_ # ^ = [TEXT] - 1e999 0 $ 1E001 \xFF 0.0000000000000000001 -32769 \" 1000000 \r\n "
+const std::string Bausteine = "_ # ^ = [TEXT] - 1e999 0 $ 1E001 10000000000000000_5_10000000000001000 \xFF "
+                              "0.0000000000000000001 -32769 \" 1000000 \r\n "
                               "99999999999999999999999999999999999999999999";
 
 /// Overwrites, inserts, removes or doubles a piece at a random place.
@@ -55,11 +56,15 @@ TEST(BeliebigeDatei, EndetImBildOderInEinerZeile) {
         Zeichnung z = bild.DasBild();
         Aufzeichnung papier;
         papier.GrößeSetzen(16838, 11906);
+        papier.Schreibt = true;
         for (const int anzeige : {0, 1, 2}) {
             z.ansicht.Altersanzeige = anzeige;
             VorschauZeichnen(papier, z);
         }
         DruckZeichnen(papier, z);
+        for (const auto *keineZahl : {" nan", " -nan", " inf", " -inf"})
+            ASSERT_EQ(papier.Text.find(keineZahl), std::string::npos);
+        ASSERT_NE(papier.Text.rfind("layer personen"), std::string::npos);
     }
     std::filesystem::remove(datei);
 }

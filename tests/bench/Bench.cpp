@@ -12,7 +12,6 @@
 #include "qt/LeinwandFlaeche.h"
 #include "qt/QtPlattform.h"
 #include "rendering/Ebenen.h"
-#include "rendering/Symbole.h"
 
 #include <QApplication>
 #include <QPaintEngine>

@@ -1,0 +1,44 @@
+#include "qt/Aufruf.h"
+#include "qt/QtPlattform.h"
+
+#include <gtest/gtest.h>
+
+namespace kw {
+namespace {
+
+TEST(Aufruf, SagtWasVerlangtIst) {
+    using Art = Aufruf::Art;
+    const std::string projekt = std::string(KW_TESTDATEN) + "/CMakeLists.txt"; // any file that is there
+    const std::pair<std::vector<std::string>, Art> fälle[] = {
+        {{}, Art::Fenster},
+        {{"a.kwp"}, Art::Fenster},
+        {{"--", "--help"}, Art::Fenster},
+        {{"a.kwp", "--version"}, Art::Version},
+        {{"--export", "o.PDF", "--dpi", "72", "a.kwp"}, Art::Export},
+        {{"a.kwp", "--export", "o.jpeg"}, Art::Export},
+        {{"a.kwp", "b.kwp"}, Art::Falsch},
+        {{""}, Art::Falsch},
+        {{"--nonsense"}, Art::Falsch},
+        {{"--export", "o.pdf"}, Art::Falsch},
+        {{"--export", "o.txt", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.pdf", "--export", "o.png", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.png", "--dpi", "9", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.png", "--dpi", "72x", "a.kwp"}, Art::Falsch},
+        {{"--dpi", "72", "a.kwp"}, Art::Falsch},
+        {{"--export", projekt, projekt}, Art::Falsch},
+    };
+    for (const auto &[worte, art] : fälle) {
+        const Aufruf a = AufrufLesen(worte);
+        EXPECT_EQ(a.Was, art) << testing::PrintToString(worte) << " " << a.Fehler;
+        EXPECT_EQ(a.Fehler.empty(), art != Art::Falsch);
+    }
+}
+
+TEST(Datumsfolge, FolgtDemKurzenFormatDesLandes) {
+    EXPECT_EQ(FolgeAus("dd.MM.yy"), Datumsfolge::TagMonatJahr);
+    EXPECT_EQ(FolgeAus("M/d/yyyy"), Datumsfolge::MonatTagJahr);
+    EXPECT_EQ(FolgeAus("yyyy-MM-dd"), Datumsfolge::JahrMonatTag);
+}
+
+} // namespace
+} // namespace kw
