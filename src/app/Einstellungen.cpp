@@ -1,5 +1,6 @@
 #include "app/Einstellungen.h"
 
+#include "document/Papier.h"
 #include "document/Zahlen.h"
 
 #include <array>
@@ -31,8 +32,7 @@ Einstellungen EinstellungenLesen(const Profil &profil) {
     const auto zahl = [&](std::string_view schlüssel) { return Ganzzahl16(ZahlLesen(text(schlüssel))); };
     Einstellungen e;
     e.Orientation = zahl("orientation");
-    const std::string papier = text("papersize");
-    e.Papiercode = papier == "11" ? 11 : papier == "1" ? 1 : 9;
+    e.Papiercode = PapiercodeAus(text("papersize")).value_or(DinA4);
     e.LetzterPfad = text("lastpath");
     e.stdfontname = OderSonst(text("stdfontname"), e.stdfontname);
     e.stdfont_s = OderSonst(text("stdfont_s"), e.stdfont_s);

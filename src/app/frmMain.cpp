@@ -1,6 +1,7 @@
 #include "app/frmMain.h"
 
 #include "document/Dateien.h"
+#include "document/Papier.h"
 #include "document/Zahlen.h"
 #include "rendering/Seite.h"
 
@@ -18,14 +19,12 @@ struct Schema {
 constexpr Schema Schemata[] = {
     {"mnuSchwarzWeiß", "keySchwarzweiß"}, {"mnuGraustufen", "keyGraustufen"}, {"mnuFarbig", "keyFarbig"}};
 
-struct Papiereintrag {
-    int Code;
-    const char *Schlüssel;
-    const char *Name;
-    int ListIndex; ///< in `cboPaperSize`
-};
-constexpr Papiereintrag Papiere[] = {
-    {9, "keyDINA4", "DIN A4", 1}, {11, "keyDINA5", "DIN A5", 2}, {1, "keyUSLetter", "US Letter", 0}};
+/// The toolbar's key of a paper: "keyDINA4".
+std::string Papierschlüssel(const Papier &papier) {
+    std::string schlüssel = "key" + std::string(papier.Name);
+    std::erase(schlüssel, ' ');
+    return schlüssel;
+}
 
 } // namespace
 
@@ -73,7 +72,8 @@ void frmMain::ListenFüllen() {
     RasterWählen(0);
     Combo2.Einträge = {"8", "9", "10", "11", "12", "14", "16", "18", "20", "22", "24", "26", "28", "36"};
     Combo3.Einträge = {"Standard", "Fett", "Kursiv", "Fett-Kursiv"};
-    cboPaperSize = {{"US Letter", "DIN A4", "DIN A5"}, 1};
+    for (const Papier &papier : Papiere) cboPaperSize.Einträge.Anhängen(std::string(papier.Name));
+    cboPaperSize.ListIndex = 1;
     bereich.ZoomListeFuellen();
 }
 
@@ -202,11 +202,13 @@ void frmMain::FarbschemaAnzeigen() {
 }
 
 void frmMain::SeiteAnzeigen() {
-    for (const auto &papier : Papiere) {
-        bedienung[papier.Schlüssel].Checked = papier.Code == dokument.Papiercode;
-        if (papier.Code != dokument.Papiercode) continue;
+    for (int i = 0; i < static_cast<int>(Papiere.size()); ++i) {
+        const Papier &papier = Papiere[static_cast<size_t>(i)];
+        const bool gilt = papier.Code == dokument.Papiercode;
+        bedienung[Papierschlüssel(papier)].Checked = gilt;
+        if (!gilt) continue;
         bedienung["btnPapier"].Caption = papier.Name;
-        cboPaperSize.ListIndex = papier.ListIndex;
+        cboPaperSize.ListIndex = i;
     }
     bedienung["btnHochformat"].Checked = dokument.Seitenlage == 1;
     bedienung["btnQuerformat"].Checked = dokument.Seitenlage != 1;

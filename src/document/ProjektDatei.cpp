@@ -1,6 +1,7 @@
 #include "document/ProjektDatei.h"
 
 #include "document/Felder.h"
+#include "document/Papier.h"
 #include "document/Zahlen.h"
 
 #include <algorithm>
@@ -151,10 +152,7 @@ std::string ErsterSchaden(const Profil &profil) {
 } // namespace
 
 void SeiteLesen(const Profil &profil, Dokument &dokument) {
-    const auto papier = profil.Lesen(Vorgaben, "papersize");
-    if (papier.empty() || papier == "9") dokument.Papiercode = 9;
-    if (papier == "11") dokument.Papiercode = 11;
-    if (papier == "1") dokument.Papiercode = 1;
+    dokument.Papiercode = PapiercodeAus(profil.Lesen(Vorgaben, "papersize")).value_or(dokument.Papiercode);
     const int lage = Ganzzahl16(ZahlLesen(profil.Lesen(Vorgaben, "orientation")));
     constexpr int GrößterByte = 255;
     dokument.Seitenlage = lage < 1 || lage > GrößterByte ? 2 : lage;

@@ -1,7 +1,8 @@
 #include "rendering/Seite.h"
 
+#include "document/Papier.h"
+
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace kw {
@@ -11,19 +12,12 @@ namespace {
 constexpr Farbe RasterFarbe = Rgb(240, 240, 240);
 constexpr int Hochformat = 1;
 
-struct Papier {
-    int Code;
-    double Breite; ///< cm in portrait
-    double Höhe;
-};
-constexpr std::array<Papier, 3> Papiere{{{1, 21.59, 27.94}, {9, 21.0, 29.7}, {11, 14.8, 21.0}}};
-
 int InTwips(double cm) { return static_cast<int>(std::nearbyint(cm * TwipsJeCm)); }
 
 } // namespace
 
 void SeiteBestimmen(Dokument &dokument, Ansicht &ansicht) {
-    if (dokument.Papiercode < 1) dokument.Papiercode = 9;
+    if (dokument.Papiercode < 1) dokument.Papiercode = DinA4;
     const auto *papier =
         std::find_if(Papiere.begin(), Papiere.end(), [&](const Papier &p) { return p.Code == dokument.Papiercode; });
     if (papier == Papiere.end()) return;
