@@ -103,7 +103,8 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     const Arbeitsbereich &b = haupt_->bereich;
     // The page shows up to the scroll bars, which stand a little outside the frame that it is laid out in.
     const QRectF rahmen = Fläche(b.picBack).translated(0, -Pixel(FrameOben));
-    p.setClipRect(QRectF(rahmen.left(), 0, width() - rahmen.left(), height()));
+    const double unten = b.HScroll1.Visible ? Pixel(b.HScroll1.Top - FrameOben) : height();
+    p.setClipRect(QRectF(rahmen.left(), 0, width() - rahmen.left(), unten));
     p.translate(rahmen.topLeft());
     const QRectF seite = Fläche(b.picVorschau());
     p.fillRect(Fläche(b.shpSchatten), Schatten);
