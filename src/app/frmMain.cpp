@@ -215,7 +215,7 @@ void frmMain::SeiteAnzeigen() {
 }
 
 void frmMain::ZoomAnzeigen() {
-    const std::string zoom = std::to_string(80 + 10 * bereich.cboBildGröße.ListIndex) + "%";
+    const std::string zoom = ZahlSchreiben(ZahlLesen(bereich.cboBildGröße.Text())) + "%";
     bedienung["btnZoom"].Caption = zoom;
     bedienung.NurAnkreuzen("keyZoom", "keyZoom" + zoom.substr(0, zoom.size() - 1));
     bedienung["btnBildGrößer"].Enabled = bereich.KannVergrößern();
