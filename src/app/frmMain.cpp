@@ -1,8 +1,11 @@
 #include "app/frmMain.h"
 
+#include "app/Befehle.h"
 #include "document/Dateien.h"
 #include "document/Papier.h"
 #include "document/Zahlen.h"
+#include "editing/Marker.h"
+#include "editing/Werkzeuge.h"
 #include "rendering/Seite.h"
 
 namespace kw {
@@ -34,11 +37,16 @@ std::string Entpackt(std::string_view kommandozeile) {
     return std::string(text);
 }
 
-frmMain::frmMain(Plattform plattform_, Zeichenfläche &leinwand, Startangaben startangaben)
-    : plattform(plattform_), start(std::move(startangaben)), picVorschau(leinwand),
-      bereich(leinwand, ansicht, start.BildschirmBreite, start.BildschirmHöhe,
+frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben startangaben)
+    : plattform(plattform_), start(std::move(startangaben)), picVorschau(canvas),
+      bereich(canvas, ansicht, start.BildschirmBreite, start.BildschirmHöhe,
               {[this] { Vorschau(); }, [this] { ZoomAnzeigen(); }}),
-      projekt(*this), Kommandozeile(Entpackt(start.Kommandozeile)) {}
+      projekt(*this), werkbank{dokument, ansicht, auswahl,   lage,        auflagen,
+                               ablage,   legende, bedienung, picVorschau, plattform.benutzer,
+                               *this},
+      leinwand(werkbank), Kommandozeile(Entpackt(start.Kommandozeile)) {
+    BedienelementeAnlegen(bedienung);
+}
 
 void frmMain::Laden() {
     ansicht.Sprache = "en";
@@ -64,7 +72,7 @@ void frmMain::Laden() {
     bereich.Bildgrößenveränderung();
     if (!Getrimmt(Kommandozeile).empty()) plattform.benutzer.ZeitgeberStarten("Timer2", OeffnenVerzögerung);
     projekt.Geändert = false;
-    plattform.benutzer.AnzeigeAuffrischen();
+    NachEreignis();
 }
 
 void frmMain::ListenFüllen() {
@@ -87,7 +95,7 @@ void frmMain::ZweiteStufe() {
     ansicht.Altersanzeige = einstellungen.Altersanzeige;
     ansicht.Sprache = einstellungen.Sprache;
     dokument.Seitenlage = einstellungen.Orientation;
-    bedienung.Beschriften(ansicht.Sprache);
+    Beschriften(bedienung, ansicht.Sprache);
     RasterWählen(einstellungen.Raster);
     bereich.cboBildGröße.ListIndex = ZoomBeimStart;
     ChronikAnzeigen();
@@ -135,6 +143,74 @@ void frmMain::EinstellungenSichern() {
 
 void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "Timer2" && !Getrimmt(Kommandozeile).empty()) projekt.Öffnen(Kommandozeile);
+    if (name == "Timer3") FormÖffnen("frmSymbol");
+    if (name == "Timer4") Vorschau();
+    NachEreignis();
+}
+
+/// What every event ends with: the palette follows, the face shows it.
+void frmMain::NachEreignis() {
+    PaletteAuffrischen(werkbank);
+    plattform.benutzer.AnzeigeAuffrischen();
+}
+
+void frmMain::MouseDown(int taste, double x, double y) {
+    leinwand.MouseDown(taste, x, y);
+    NachEreignis();
+}
+
+void frmMain::MouseMove(int taste, double x, double y) { leinwand.MouseMove(taste, x, y); }
+
+void frmMain::MouseUp(int taste, double x, double y) {
+    leinwand.MouseUp(taste, x, y);
+    NachEreignis();
+}
+
+void frmMain::DblClick(double x, double y) {
+    leinwand.DblClick(x, y);
+    NachEreignis();
+}
+
+bool frmMain::BefehlAusführen(std::string_view name) {
+    const Befehl *befehl = BefehlFinden(name);
+    if (!befehl) return false;
+    if (GehörtZu(name, "mnuBearbeiten")) mnuBearbeiten_Öffnen();
+    for (const Menüzeile *zeile = MenüzeileFinden(name); zeile; zeile = MenüzeileFinden(zeile->Menü))
+        if (const Bedienelement &element = bedienung[zeile->Name]; !element.Enabled || !element.Visible) return false;
+    befehl->Ausführen(*this);
+    NachEreignis();
+    return true;
+}
+
+void frmMain::PopupÖffnen(std::string_view menü) {
+    if (const auto gewählt = plattform.benutzer.PopupZeigen(menü)) BefehlAusführen(*gewählt);
+}
+
+bool frmMain::FormÖffnen(std::string_view form) { return plattform.benutzer.FormZeigen(form); }
+
+void frmMain::mnuBearbeiten_Öffnen() {
+    bedienung["mnuAusschneiden"].Enabled = bedienung["mnuKopieren"].Enabled = auswahl.HatKopierbares();
+    bedienung["mnuEinfügen"].Enabled = ablage.HatEtwas();
+}
+
+void frmMain::cmdUndo() {
+    if (ring.Rückgängig(dokument)) NachSchrittImRing();
+}
+
+void frmMain::cmdredo() {
+    if (ring.Wiederholen(dokument)) NachSchrittImRing();
+}
+
+void frmMain::NachSchrittImRing() {
+    UndoKnöpfeSetzen();
+    NichtsAuswählen();
+    Vorschau();
+}
+
+void frmMain::NichtsAuswählen() {
+    AllesAbwählen(werkbank);
+    bedienung["mnuLöschen1"].Enabled = bedienung["mnuAusschneiden"].Enabled = false;
+    bedienung["mnuMakeTwins"].Visible = false;
 }
 
 void frmMain::Vorschau() {
@@ -159,8 +235,7 @@ void frmMain::UndoKnöpfeSperren() { bedienung["btnUndo"].Enabled = bedienung["b
 void frmMain::AuswahlUndRingLeeren() {
     ring.Leeren();
     UndoKnöpfeSetzen();
-    auswahl = {};
-    geste = {};
+    NichtsAuswählen();
 }
 
 void frmMain::Legende() {

@@ -2,10 +2,11 @@
 
 #include "app/Einstellungen.h"
 #include "app/Projekt.h"
-#include "commands/Bedienelemente.h"
+#include "commands/Menuetafel.h"
 #include "document/Auswahlliste.h"
 #include "document/Dokument.h"
 #include "document/UndoRing.h"
+#include "editing/Leinwand.h"
 #include "output/basDruckVorschau.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
@@ -34,10 +35,10 @@ struct Startangaben {
 
 /// The main window as a model: owns every part of the program and wires them. It keeps only what is truly
 /// its own: the order of starting, redrawing, closing. Routines stand with the state that they change.
-class frmMain {
+class frmMain : public Fensterdienste {
   public:
-    /// `leinwand` becomes `picVorschau`. Nothing happens before `Laden`.
-    frmMain(Plattform plattform_, Zeichenfläche &leinwand, Startangaben startangaben);
+    /// `canvas` becomes `picVorschau`. Nothing happens before `Laden`.
+    frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben startangaben);
 
     /// The whole start, in its fixed order.
     void Laden();
@@ -50,13 +51,33 @@ class frmMain {
     void ZeitgeberAbgelaufen(std::string_view name);
 
     /// Redraws the whole canvas from the stores.
-    void Vorschau();
+    void Vorschau() override;
     /// Takes an undo snapshot and marks the document as changed.
-    void Sichern();
+    void Sichern() override;
     /// Enables undo and redo as the ring has steps.
-    void UndoKnöpfeSetzen();
+    void UndoKnöpfeSetzen() override;
     /// Both off, whatever the ring holds: the document is about to go.
     void UndoKnöpfeSperren();
+    void AlsGeändertMerken() override { projekt.Geändert = true; }
+    void PopupÖffnen(std::string_view menü) override;
+    bool FormÖffnen(std::string_view form) override;
+    /// One step back or forward in the ring; afterwards nothing is selected and no gesture runs.
+    void cmdUndo();
+    void cmdredo();
+
+    /// Pointer events on the canvas, centimetres on the page; see `Leinwand`. After a press, a release and a double
+    /// click the face is asked to refresh; a move changes the overlays only, which the face repaints itself.
+    void MouseDown(int taste, double x, double y);
+    void MouseMove(int taste, double x, double y);
+    void MouseUp(int taste, double x, double y);
+    void DblClick(double x, double y);
+
+    /// Runs the command `name` as a user's choice: its menu opens first, with the states that this refreshes.
+    /// False, and nothing done, when there is none or it is disabled or hidden.
+    bool BefehlAusführen(std::string_view name);
+    /// Brings the states of cut, copy and paste up to date, as opening the edit menu does.
+    void mnuBearbeiten_Öffnen();
+
     /// Empties the undo ring, the selection and the gesture in progress, before another project comes.
     void AuswahlUndRingLeeren();
     /// Shows or hides the legend as its button stands.
@@ -78,12 +99,9 @@ class frmMain {
 
     bool IstDeutsch() const { return ansicht.Sprache == "de"; }
     /// What a draw routine looks at.
-    Zeichnung DasBild() { return {dokument, ansicht, auswahl, geste, legende, plattform.uhr}; }
+    Zeichnung DasBild() { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
 
     static constexpr std::string_view Programmversion = "1.3.015";
-    static constexpr double GrößeNormal = 1.2; ///< cm
-    static constexpr double GrößeKlein = 0.6;
-    static constexpr double BalkenAbstand = 1.8;
 
     Plattform plattform;
     Startangaben start;
@@ -91,13 +109,17 @@ class frmMain {
     Dokument dokument;
     Ansicht ansicht;
     Auswahl auswahl;
-    Gestenlage geste;
+    Leinwandlage lage;
+    Auflagen auflagen;
+    Zwischenablage ablage;
     Legendenblatt legende;
     UndoRing ring;
     Arbeitsbereich bereich;
     Bedienelemente bedienung;
     Einstellungen einstellungen;
     Projekt projekt;
+    Werkbank werkbank;
+    Leinwand leinwand;
 
     std::string Kommandozeile; ///< trimmed and unquoted
     std::string IniDatei;      ///< settings or project, whichever was read or written last
@@ -110,6 +132,9 @@ class frmMain {
     Auswahlliste Combo3; ///< font styles
 
   private:
+    void NachEreignis();
+    void NachSchrittImRing();
+    void NichtsAuswählen();
     void ZweiteStufe();
     void ListenFüllen();
     void SchriftlisteFüllen();

@@ -80,6 +80,12 @@ double Gerundet(double wert, int stellen) {
     return std::nearbyint(groß) / faktor;
 }
 
+double Gerastert(double wert, double raster) {
+    if (!(raster > 0)) return wert;
+    // The quotient is rounded first: 0.45 / 0.3 is a tie, though not in binary.
+    return std::nearbyint(Gerundet(wert / raster, 6)) * raster;
+}
+
 int Ganzzahl16(double wert) {
     if (std::isnan(wert)) return 0;
     return static_cast<int>(std::clamp(std::nearbyint(wert), -32768.0, 32767.0));

@@ -18,6 +18,14 @@ std::string ZahlSchreiben(double wert);
 /// `wert` rounded to `stellen` decimal places (0 to 9), a tie going to the even neighbour.
 double Gerundet(double wert, int stellen);
 
+/// The multiple of `raster` that is nearest to `wert`, a tie going to the even multiple; `wert` itself without
+/// a raster. What is stored is rounded to one decimal afterwards.
+double Gerastert(double wert, double raster);
+
+/// Whether `a` is below `b` by more than the noise of computing with decimals: what lies exactly on an edge,
+/// as people write it, isn't inside.
+inline bool Kleiner(double a, double b) { return b - a > 1e-6; }
+
 /// `wert` rounded half to even and held within the 16 bits that a whole number of a record has.
 int Ganzzahl16(double wert);
 

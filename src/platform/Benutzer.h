@@ -37,6 +37,11 @@ class Benutzer {
     /// The chosen path; nothing when the dialog was cancelled. Neither asks about existing files.
     virtual std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) = 0;
     virtual std::optional<std::string> DateiSpeichern(const Dateiwahl &wahl) = 0;
+    /// Shows context menu `menü` at the pointer; the name of the entry that the user picks, nothing when it is
+    /// dismissed. Entries that are disabled or hidden can't be picked.
+    virtual std::optional<std::string> PopupZeigen(std::string_view menü) = 0;
+    /// Shows a form and returns when it is closed. False when there is none of that name.
+    virtual bool FormZeigen(std::string_view /*form*/) { return false; }
     /// Lets `frmMain::ZeitgeberAbgelaufen` be called with this name, once, after `ms` milliseconds.
     virtual void ZeitgeberStarten(std::string_view name, int ms) = 0;
     /// Does something as soon as the window has been painted for the first time.

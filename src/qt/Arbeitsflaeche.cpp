@@ -1,9 +1,15 @@
 #include "qt/Arbeitsflaeche.h"
 
 #include "app/frmMain.h"
+#include "qt/Auflagenmaler.h"
+#include "qt/Zeigerbild.h"
 
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QResizeEvent>
 #include <QSignalBlocker>
 #include <QTimer>
@@ -35,11 +41,17 @@ void AufPixelRücken(QPainter &p, QPointF ort) {
     p.translate((std::round(gerät.x()) - gerät.x()) / maßstab, (std::round(gerät.y()) - gerät.y()) / maßstab);
 }
 
+/// As the model counts them; the middle button and the others are none of the canvas.
+int Tastencode(Qt::MouseButton taste) {
+    return taste == Qt::LeftButton ? TasteLinks : taste == Qt::RightButton ? TasteRechts : TasteKeine;
+}
+
 } // namespace
 
 Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true); // rubber lines follow the pointer without a button
     setAccessibleName(QStringLiteral("Genogramm"));
     for (QScrollBar *leiste : {&vScroll_, &hScroll_}) {
         leiste->setFocusPolicy(Qt::NoFocus); // the keyboard keeps working on the canvas
@@ -63,6 +75,7 @@ void Arbeitsflaeche::resizeEvent(QResizeEvent *) {
     if (!haupt_) return;
     haupt_->bereich.GrößeÄndern(Innengröße().width(), Innengröße().height());
     Auffrischen();
+    haupt_->plattform.benutzer.AnzeigeAuffrischen(); // the palette beside the frame
 }
 
 void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &modell) {
@@ -84,7 +97,18 @@ void Arbeitsflaeche::Auffrischen() {
     hScroll_.setGeometry(waagrecht.left(), waagrecht.top(), waagrecht.width(), höhe);
     LeisteStellen(vScroll_, b.VScroll1);
     LeisteStellen(hScroll_, b.HScroll1);
+    ZeigerSetzen();
     update();
+}
+
+QRectF Arbeitsflaeche::Seite() const {
+    const Arbeitsbereich &b = haupt_->bereich;
+    return Fläche(b.picVorschau()).translated(Fläche(b.picBack).topLeft()).translated(0, -Pixel(FrameOben));
+}
+
+QPointF Arbeitsflaeche::InCm(QPointF ort) const {
+    const QRectF seite = Seite();
+    return (ort - seite.topLeft()) * (haupt_->ansicht.SeitenBreite / seite.width());
 }
 
 void Arbeitsflaeche::Scrollen() {
@@ -96,6 +120,7 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     QPainter p(this);
     p.fillRect(ereignis->rect(), Hintergrund);
     if (!haupt_) return;
+    p.fillRect(QRectF(0, 0, Pixel(haupt_->bereich.picBack.Left), height()), palette().window()); // the tool palette's
     if (leinwand_.Pixelverhältnis() != devicePixelRatioF()) { // the window came to another screen
         leinwand_.PixelverhältnisSetzen(devicePixelRatioF());
         haupt_->Vorschau();
@@ -105,11 +130,12 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     const QRectF rahmen = Fläche(b.picBack).translated(0, -Pixel(FrameOben));
     const double unten = b.HScroll1.Visible ? Pixel(b.HScroll1.Top - FrameOben) : height();
     p.setClipRect(QRectF(rahmen.left(), 0, width() - rahmen.left(), unten));
-    p.translate(rahmen.topLeft());
-    const QRectF seite = Fläche(b.picVorschau());
-    p.fillRect(Fläche(b.shpSchatten), Schatten);
+    p.fillRect(Fläche(b.shpSchatten).translated(rahmen.topLeft()), Schatten);
+    const QRectF seite = Seite();
     AufPixelRücken(p, seite.topLeft());
-    p.drawImage(seite.topLeft(), leinwand_.Bild());
+    p.translate(seite.topLeft());
+    p.drawImage(QPointF(), leinwand_.Bild());
+    AuflagenMalen(p, haupt_->auflagen, haupt_->lage.PfeilArt, seite.width() / haupt_->ansicht.SeitenBreite);
     if (auto erstesBild = std::exchange(erstesBild_, nullptr)) QTimer::singleShot(0, this, erstesBild);
 }
 
@@ -118,6 +144,85 @@ void Arbeitsflaeche::wheelEvent(QWheelEvent *ereignis) {
     radrest_ += ereignis->angleDelta().y();
     for (; std::abs(radrest_) >= Raste; radrest_ -= radrest_ > 0 ? Raste : -Raste)
         haupt_->bereich.Mausrad(radrest_ > 0);
+}
+
+/// Hands the model an event. What it opens then (a popup, a box) runs a loop of its own, which can outlive this
+/// widget. False when it has.
+bool Arbeitsflaeche::Melden(const std::function<void()> &ereignis) {
+    const QPointer<Arbeitsflaeche> ich = this;
+    const bool äußeres = !std::exchange(imModell_, true);
+    const bool zeigteAuflagen = ZeigtAuflagen(haupt_->auflagen);
+    ereignis();
+    if (!ich) return false;
+    imModell_ = !äußeres;
+    ZeigerSetzen();
+    // The kept picture is copied and the shapes painted over it; nothing of the page is drawn anew.
+    if (zeigteAuflagen || taste_ != Qt::NoButton || ZeigtAuflagen(haupt_->auflagen)) update();
+    if (äußeres && wartet_) QCoreApplication::postEvent(this, wartet_.release());
+    return true;
+}
+
+/// A press and a double click.
+void Arbeitsflaeche::Drücken(QMouseEvent &ereignis, const std::function<void(QPointF)> &melden) {
+    ereignis.accept();
+    if (!haupt_ || Tastencode(ereignis.button()) == TasteKeine) return;
+    if (imModell_) { // dismisses the popup that the event before opened, and counts when that is through
+        wartet_.reset(ereignis.clone());
+        return;
+    }
+    if (taste_ != Qt::NoButton && ereignis.buttons() & taste_) return;
+    if (!Loslassen()) return;
+    setFocus(Qt::MouseFocusReason);
+    const QPointF cm = InCm(ereignis.position());
+    // The model also judges by the last move, which a popup or a box over the page may have kept from us.
+    if (std::exchange(ort_, ereignis.position()) != ereignis.position())
+        Melden([&] { haupt_->MouseMove(TasteKeine, cm.x(), cm.y()); });
+    taste_ = ereignis.button();
+    const bool unten = QGuiApplication::mouseButtons() & taste_;
+    if (!Melden([&] { melden(cm); })) return;
+    if (unten && !(QGuiApplication::mouseButtons() & taste_)) Loslassen(); // the popup has swallowed the release
+}
+
+void Arbeitsflaeche::mousePressEvent(QMouseEvent *ereignis) {
+    Drücken(*ereignis, [this](QPointF cm) { haupt_->MouseDown(Tastencode(taste_), cm.x(), cm.y()); });
+}
+
+/// The second press of a double click, which comes in place of a press. Right clicks count singly, however fast.
+void Arbeitsflaeche::mouseDoubleClickEvent(QMouseEvent *ereignis) {
+    if (ereignis->button() != Qt::LeftButton) return mousePressEvent(ereignis);
+    Drücken(*ereignis, [this](QPointF cm) { haupt_->DblClick(cm.x(), cm.y()); });
+}
+
+void Arbeitsflaeche::mouseMoveEvent(QMouseEvent *ereignis) {
+    if (!haupt_ || imModell_) return;
+    if (!(ereignis->buttons() & taste_) && !Loslassen()) return; // it went up where nobody told
+    ort_ = ereignis->position();
+    const QPointF cm = InCm(ort_);
+    Melden([&] { haupt_->MouseMove(Tastencode(taste_), cm.x(), cm.y()); });
+}
+
+void Arbeitsflaeche::mouseReleaseEvent(QMouseEvent *ereignis) {
+    if (!haupt_ || imModell_ || taste_ == Qt::NoButton || ereignis->button() != taste_) return;
+    ort_ = ereignis->position();
+    Loslassen();
+}
+
+/// The button of the gesture is up, at the place of the last event. False when this widget is gone.
+bool Arbeitsflaeche::Loslassen() {
+    const Qt::MouseButton taste = std::exchange(taste_, Qt::NoButton);
+    if (taste == Qt::NoButton) return true;
+    const QPointF cm = InCm(ort_);
+    return Melden([&] { haupt_->MouseUp(Tastencode(taste), cm.x(), cm.y()); });
+}
+
+void Arbeitsflaeche::ZeigerSetzen() {
+    const QRectF rahmen = Fläche(haupt_->bereich.picBack).translated(0, -Pixel(FrameOben));
+    const bool aufSeite = Seite().contains(ort_) && ort_.x() >= rahmen.left();
+    const Mauszeiger zeiger = aufSeite ? haupt_->lage.Zeiger : Mauszeiger::Pfeil;
+    if (zeiger == zeiger_ && zeigerverhältnis_ == devicePixelRatioF()) return;
+    zeiger_ = zeiger;
+    zeigerverhältnis_ = devicePixelRatioF();
+    setCursor(Zeigerbild(zeiger_, zeigerverhältnis_));
 }
 
 } // namespace kw

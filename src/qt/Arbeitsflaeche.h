@@ -1,19 +1,22 @@
 #pragma once
 
+#include "editing/Leinwandlage.h"
 #include "qt/LeinwandFlaeche.h"
 
+#include <QMouseEvent>
 #include <QScrollBar>
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 
 namespace kw {
 
 class frmMain;
 
-/// The inside of the main window: the dark frame, the page with its shadow, the scroll bars. Shows what the
-/// model's work area says, in pixels; the model's inner area begins above and ends below it, so that frame
-/// and bars meet the edges.
+/// The inside of the main window: the dark frame, the page with its shadow, the overlay shapes, the scroll bars.
+/// Shows what the model's work area says, in pixels; the model's inner area begins above and ends below it, so
+/// that frame and bars meet the edges. Hands the model what the pointer does, in centimetres of the page.
 class Arbeitsflaeche : public QWidget {
   public:
     explicit Arbeitsflaeche(LeinwandFläche &leinwand);
@@ -29,8 +32,19 @@ class Arbeitsflaeche : public QWidget {
     void paintEvent(QPaintEvent *) override;
     void resizeEvent(QResizeEvent *) override;
     void wheelEvent(QWheelEvent *ereignis) override;
+    void mousePressEvent(QMouseEvent *ereignis) override;
+    void mouseMoveEvent(QMouseEvent *ereignis) override;
+    void mouseReleaseEvent(QMouseEvent *ereignis) override;
+    void mouseDoubleClickEvent(QMouseEvent *ereignis) override;
 
   private:
+    /// The page on this widget, logical pixels.
+    QRectF Seite() const;
+    QPointF InCm(QPointF ort) const;
+    void Drücken(QMouseEvent &ereignis, const std::function<void(QPointF cm)> &melden);
+    bool Loslassen();
+    bool Melden(const std::function<void()> &ereignis);
+    void ZeigerSetzen();
     void LeisteStellen(QScrollBar &leiste, const struct Bildlaufleiste &modell);
     void Scrollen();
 
@@ -39,7 +53,13 @@ class Arbeitsflaeche : public QWidget {
     std::function<void()> erstesBild_;
     QScrollBar vScroll_{Qt::Vertical, this};
     QScrollBar hScroll_{Qt::Horizontal, this};
-    int radrest_ = 0; ///< eighths of a degree that make no notch yet
+    int radrest_ = 0;                      ///< eighths of a degree that make no notch yet
+    Qt::MouseButton taste_ = Qt::NoButton; ///< the button that is down on the canvas; another one doesn't count
+    QPointF ort_;                          ///< of the last event, pixels
+    bool imModell_ = false;                ///< an event is being worked on, perhaps in a popup's loop
+    std::unique_ptr<QMouseEvent> wartet_;  ///< a press that came meanwhile
+    Mauszeiger zeiger_ = Mauszeiger::Pfeil;
+    double zeigerverhältnis_ = 0; ///< resolution of the pointer's picture
 };
 
 } // namespace kw

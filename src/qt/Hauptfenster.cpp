@@ -1,12 +1,13 @@
 #include "qt/Hauptfenster.h"
 
-#include "app/Befehle.h"
+#include "qt/Palette.h"
+#include "qt/Text.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDatabase>
-#include <QGuiApplication>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScreen>
@@ -18,8 +19,6 @@
 namespace kw {
 
 namespace {
-
-QString Text(std::string_view utf8) { return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())); }
 
 Startangaben Angaben(const std::string &projektdatei) {
     const QSize bildschirm = QGuiApplication::primaryScreen()->size();
@@ -68,12 +67,14 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
 
 Hauptfenster::Hauptfenster(const std::string &projektdatei)
     : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, uhr_}, leinwand_, Angaben(projektdatei)),
-      fläche_(new Arbeitsflaeche(leinwand_)) {
+      fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     setCentralWidget(fläche_);
     setMinimumSize(Arbeitsbereich::KleinsteBreite / TwipsJePixel, Arbeitsbereich::KleinsteHöhe / TwipsJePixel);
     resize(QGuiApplication::primaryScreen()->availableSize() * 0.9);
     fläche_->Verbinden(haupt_, [this] {
-        MenüsBauen(); // not before: the first word on the window costs the loading of the system's fonts
+        // Not before: the first word on the window costs the loading of the system's fonts.
+        menüs_.Bauen(*menuBar());
+        palette_ = new Werkzeugpalette(fläche_, haupt_, [this](std::string_view name) { Ausführen(name); });
         Anzeigen();
         for (const auto &arbeit : std::exchange(nachErstemBild_, {})) arbeit();
     });
@@ -81,17 +82,9 @@ Hauptfenster::Hauptfenster(const std::string &projektdatei)
     Anzeigen();
 }
 
-void Hauptfenster::MenüsBauen() {
-    QMenu *menü = menuBar()->addMenu(QString());
-    aktionen_["mnuDatei"] = menü->menuAction();
-    for (const Befehl &befehl : BefehlsTabelle()) {
-        if (befehl.Menü != "mnuDatei") continue;
-        if (befehl.Name == "mnuBeenden") menü->addSeparator();
-        QAction *aktion = menü->addAction(QString());
-        aktion->setShortcut(QKeySequence(Text(befehl.Kürzel)));
-        connect(aktion, &QAction::triggered, this, [this, &befehl] { befehl.Ausführen(haupt_); });
-        aktionen_[std::string(befehl.Name)] = aktion;
-    }
+void Hauptfenster::Ausführen(std::string_view befehl) {
+    haupt_.BefehlAusführen(befehl);
+    AnzeigeAuffrischen();
 }
 
 /// Many routines ask for a refresh within one event; it is done once, behind them.
@@ -103,16 +96,17 @@ void Hauptfenster::AnzeigeAuffrischen() {
 void Hauptfenster::Anzeigen() {
     auffrischungSteht_ = false;
     setWindowTitle(Text(haupt_.projekt.Titel));
-    for (const auto &[name, aktion] : aktionen_) {
-        const Bedienelement *element = haupt_.bedienung.Finden(name);
-        aktion->setText(Text(element->Caption));
-        aktion->setEnabled(element->Enabled);
-        aktion->setVisible(element->Visible);
-    }
+    menüs_.Auffrischen();
     fläche_->Auffrischen();
+    if (palette_) palette_->Auffrischen();
 }
 
-void Hauptfenster::closeEvent(QCloseEvent *ereignis) { ereignis->setAccepted(haupt_.Schließen()); }
+void Hauptfenster::closeEvent(QCloseEvent *ereignis) {
+    ereignis->setAccepted(haupt_.Schließen());
+    if (!ereignis->isAccepted()) return;
+    while (QWidget *popup = QApplication::activePopupWidget()) // its loop would keep the program alive
+        if (!popup->close()) break;
+}
 
 void Hauptfenster::NachVorn() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -140,6 +134,11 @@ std::optional<std::string> Hauptfenster::DateiÖffnen(const Dateiwahl &wahl) {
 
 std::optional<std::string> Hauptfenster::DateiSpeichern(const Dateiwahl &wahl) {
     return DialogZeigen(this, wahl, QFileDialog::AcceptSave);
+}
+
+std::optional<std::string> Hauptfenster::PopupZeigen(std::string_view menü) {
+    const auto ort = palette_ ? palette_->Popuport() : std::nullopt;
+    return menüs_.Popup(menü, ort.value_or(QCursor::pos()), *this);
 }
 
 void Hauptfenster::ZeitgeberStarten(std::string_view name, int ms) {

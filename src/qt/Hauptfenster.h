@@ -3,17 +3,19 @@
 #include "app/frmMain.h"
 #include "qt/Arbeitsflaeche.h"
 #include "qt/LeinwandFlaeche.h"
+#include "qt/Menues.h"
 #include "qt/QtPlattform.h"
 
 #include <QMainWindow>
 
-#include <map>
 #include <vector>
 
 namespace kw {
 
+class Werkzeugpalette;
+
 /// The main window's face: shows the model's state and hands it events. It is also the user as the model
-/// sees it: boxes, dialogs and timers.
+/// sees it: boxes, dialogs, popups and timers.
 class Hauptfenster : public QMainWindow, public Benutzer {
   public:
     explicit Hauptfenster(const std::string &projektdatei);
@@ -21,6 +23,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     Antwort Fragen(const Nachfrage &nachfrage) override;
     std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) override;
     std::optional<std::string> DateiSpeichern(const Dateiwahl &wahl) override;
+    std::optional<std::string> PopupZeigen(std::string_view menü) override;
     void ZeitgeberStarten(std::string_view name, int ms) override;
     void NachErstemBild(std::function<void()> arbeit) override;
     void AnzeigeAuffrischen() override;
@@ -35,7 +38,8 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void closeEvent(QCloseEvent *ereignis) override;
 
   private:
-    void MenüsBauen();
+    /// A command that the user has chosen in a menu, by a shortcut or on the palette.
+    void Ausführen(std::string_view befehl);
     void Anzeigen();
 
     QtUhr uhr_;
@@ -43,7 +47,8 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     LeinwandFläche leinwand_;
     frmMain haupt_;
     Arbeitsflaeche *fläche_;
-    std::map<std::string, QAction *, std::less<>> aktionen_;
+    Menüs menüs_;
+    Werkzeugpalette *palette_ = nullptr; ///< not before the first picture
     std::vector<std::function<void()>> nachErstemBild_;
     bool auffrischungSteht_ = false; ///< a refresh waits for the end of the event
 };

@@ -11,6 +11,12 @@ struct Auswahl {
     Satzliste lstMovedText;        ///< positions, from 0
     Satzliste lstMovedKreisLinien; ///< positions, from 1
     Satzliste lstMovedPfeile;      ///< positions, from 0
+
+    bool Leer() const { return lstMovedPLines.Leer() && !HatKopierbares(); }
+    /// Something that can be cut and copied: not partnership lines alone.
+    bool HatKopierbares() const {
+        return !(lstMovedPers.Leer() && lstMovedText.Leer() && lstMovedKreisLinien.Leer() && lstMovedPfeile.Leer());
+    }
 };
 
 /// What the canvas is doing, as far as drawing looks at it.
@@ -24,15 +30,13 @@ struct Gestenlage {
 };
 
 /// The values of `Aktion` that drawing looks at.
-enum : int {
-    AktionNichts = 0,
-    AktionPLinieGewählt = 5,
-    AktionKindlinieGewählt = 6,
-    AktionTextGesetzt = 9,
-    AktionTextDialog = 11,
-    AktionBeziehungZiehen = 12,
-    AktionPartnerschaftZiehen = 13,
-    AktionKindZiehen = 15,
-};
+constexpr int AktionNichts = 0;
+constexpr int AktionPLinieGewählt = 5;
+constexpr int AktionKindlinieGewählt = 6;
+constexpr int AktionTextGesetzt = 9;
+constexpr int AktionTextDialog = 11;
+constexpr int AktionBeziehungZiehen = 12;
+constexpr int AktionPartnerschaftZiehen = 13;
+constexpr int AktionKindZiehen = 15;
 
 } // namespace kw

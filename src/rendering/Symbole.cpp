@@ -9,8 +9,6 @@ namespace kw {
 
 namespace {
 
-using Ecke = std::array<double, 2>;
-
 constexpr int FehlgeburtGrau = 0x808080;
 
 } // namespace
@@ -21,6 +19,19 @@ int SymbolKennzahl(std::string_view symboltyp) {
     if (t == 2.1) return 11;
     if (t == 1.2) return 12;
     return t >= 1 && t <= 12 && t == std::floor(t) ? static_cast<int>(t) : 0;
+}
+
+std::array<Ecke, 3> Dreieck(double x, double y, double größe) {
+    const double r = größe / 2;
+    return {{{x - r, y + r}, {x + r, y + r}, {x, y - r}}};
+}
+
+std::array<Ecke, 6> Sechseck(double x, double y, double größe) {
+    const double w1 = größe / 1.731 / 2;
+    const double w2 = größe * 1.155 / 2;
+    const double oben = y - größe / 2;
+    const double b = y + größe / 2;
+    return {{{x - w1, oben}, {x + w1, oben}, {x + w2, y}, {x + w1, b}, {x - w1, b}, {x - w2, y}}};
 }
 
 const std::array<Symbol::Routine, 13> Symbol::Routinen{nullptr,
@@ -161,8 +172,8 @@ void Symbol::Divers() {
     const double w1 = g / 1.731 / 2;
     const double w2 = g * 1.155 / 2;
     const double b = Y + g / 2;
-    const std::array<Ecke, 6> sechseck{
-        {{X - w1, oben}, {X + w1, oben}, {X + w2, Y}, {X + w1, b}, {X - w1, b}, {X - w2, Y}}};
+    std::array<Ecke, 6> sechseck = Sechseck(X, Y, g);
+    sechseck[0][1] = sechseck[1][1] = oben; // rounded, as of every symbol
     Vieleck(sechseck);
     if (marken_.Sucht) {
         f.FillColor = f.ForeColor = MarkenGrau;

@@ -3,6 +3,7 @@
 #include "rendering/Zeichenflaeche.h"
 
 #include <array>
+#include <span>
 #include <string_view>
 
 namespace kw {
@@ -10,6 +11,13 @@ namespace kw {
 /// The three kinds that files write as 1.1, 2.1 and 1.2 are 10, 11 and 12; other kinds are themselves,
 /// and 0 is a kind that has no symbol.
 int SymbolKennzahl(std::string_view symboltyp);
+
+/// A corner of an outline: x, y.
+using Ecke = std::array<double, 2>;
+/// The outlines that are no box and no circle, round the centre (x, y): pregnancy and abortion, and the hexagon
+/// with its level edges first and fourth.
+std::array<Ecke, 3> Dreieck(double x, double y, double größe);
+std::array<Ecke, 6> Sechseck(double x, double y, double größe);
 
 /// What a person's symbol shows.
 struct Marken {

@@ -1,51 +1,26 @@
 #include "replay/Namen.h"
 
-#include "document/Zahlen.h"
-
-#include <algorithm>
-#include <limits>
-#include <type_traits>
-
 namespace kw {
 
 namespace {
 
-template <typename T> std::string AlsText(const T &wert) {
-    if constexpr (std::is_convertible_v<T, std::string>) return wert;
-    else if constexpr (std::is_floating_point_v<T>) return ZahlSchreiben(wert);
-    else return std::to_string(static_cast<long>(wert));
-}
-
-template <typename T> Variable Von(T &wert) {
-    return {[&wert] { return AlsText(wert); },
-            [&wert](const std::string &text) {
-                if constexpr (std::is_convertible_v<T, std::string>) wert = text;
-                else if constexpr (std::is_same_v<T, bool>) wert = ZahlLesen(text) != 0;
-                else if constexpr (std::is_floating_point_v<T>) wert = ZahlLesen(text);
-                else
-                    wert =
-                        static_cast<T>(std::clamp(ZahlLesen(text), static_cast<double>(std::numeric_limits<T>::min()),
-                                                  static_cast<double>(std::numeric_limits<T>::max())));
-            }};
-}
-
-template <typename Lesen> Variable Abgeleitet(Lesen lesen) {
-    return {[lesen] { return AlsText(lesen()); }, nullptr};
-}
+int Ganzzahl(const std::string &text) { return AusText<int>(text); }
 
 } // namespace
 
-int Ganzzahl(double wert) {
-    constexpr double Grenze = 2147483647;
-    return static_cast<int>(std::clamp(wert, -Grenze, Grenze));
+Namen::Namen(frmMain &h) {
+    Programmnamen(h);
+    Dokumentnamen(h);
+    Ansichtsnamen(h);
+    Auswahllisten(h);
+    Arbeitsflächen(h.bereich);
+    Leinwandnamen(h.lage);
+    Auflagennamen(h.auflagen);
 }
 
-Namen::Namen(frmMain &h) {
-    Dokument &d = h.dokument;
-    Ansicht &a = h.ansicht;
-    Variablen = {
+void Namen::Programmnamen(frmMain &h) {
+    Variablen.insert({
         {"Programmversion", Abgeleitet([] { return std::string(frmMain::Programmversion); })},
-        {"Sprache", Von(a.Sprache)},
         {"IniDatei", Von(h.IniDatei)},
         {"Projektdatei", Von(h.projekt.Projektdatei)},
         {"Kommandozeile", Von(h.Kommandozeile)},
@@ -58,9 +33,27 @@ Namen::Namen(frmMain &h) {
         {"stdfont_s", Von(h.einstellungen.stdfont_s)},
         {"stdfont_m", Von(h.einstellungen.stdfont_m)},
         {"stdfont_l", Von(h.einstellungen.stdfont_l)},
-        {"GrößeNormal", Abgeleitet([] { return frmMain::GrößeNormal; })},
-        {"GrößeKlein", Abgeleitet([] { return frmMain::GrößeKlein; })},
-        {"BalkenAbstand", Abgeleitet([] { return frmMain::BalkenAbstand; })},
+        {"GrößeNormal", Abgeleitet([] { return GrößeNormal; })},
+        {"GrößeKlein", Abgeleitet([] { return GrößeKlein; })},
+        {"BalkenAbstand", Abgeleitet([] { return BalkenAbstand; })},
+        {"Textvorlage", Von(h.Textvorlage)},
+        {"UndoTiefe", Abgeleitet([] { return UndoRing::UndoTiefe; })},
+        {"UndoPos", Abgeleitet([&h] { return h.ring.UndoPos(); })},
+        {"UndoSchritte", Abgeleitet([&h] { return h.ring.UndoSchritte(); })},
+        {"RedoSchritte", Abgeleitet([&h] { return h.ring.RedoSchritte(); })},
+        {"UndoFüllung", Abgeleitet([&h] { return h.ring.UndoFüllung(); })},
+        {"KopierModus", Von(h.ablage.KopierModus)},
+        {"KopierPunkt", Von(h.ablage.KopierPunkt)},
+        {"KopierBreite", Von(h.ablage.KopierBreite)},
+        {"KopierHöhe", Von(h.ablage.KopierHöhe)},
+    });
+    for (int i = 1; i <= Chronik::Plätze; ++i)
+        Variablen["Chronik(" + std::to_string(i) + ")"] = Abgeleitet([&h, i] { return h.einstellungen.Zuletzt[i]; });
+}
+
+void Namen::Dokumentnamen(frmMain &h) {
+    Dokument &d = h.dokument;
+    Variablen.insert({
         {"Papiercode", Von(d.Papiercode)},
         {"Papierformat", Von(d.Papiercode)},
         {"Seitenlage", Von(d.Seitenlage)},
@@ -74,12 +67,33 @@ Namen::Namen(frmMain &h) {
         {"chkAlleSymbole", Abgeleitet([&d] { return !d.OhneStandardsymbole; })},
         {"LegendeBreite", Von(h.legende.LegendeBreite)},
         {"LegendeHoehe", Von(h.legende.LegendeHoehe)},
+    });
+    for (const auto &zeile : SpeicherTabelle) Listen[std::string(zeile.Name)] = &(d.*zeile.Liste);
+    Listen.insert({{"lstGelöschtePersNr", &d.lstGelöschtePersNr},
+                   {"lstGelöschtePLinien", &d.lstGelöschtePLinien},
+                   {"lstMovedPers", &h.auswahl.lstMovedPers},
+                   {"lstMovedPLines", &h.auswahl.lstMovedPLines},
+                   {"lstMovedText", &h.auswahl.lstMovedText},
+                   {"lstMovedKreisLinien", &h.auswahl.lstMovedKreisLinien},
+                   {"lstMovedPfeile", &h.auswahl.lstMovedPfeile},
+                   {"lstLegende", &h.legende.lstLegende},
+                   {"ZA_Personen", &h.ablage.ZA_Personen},
+                   {"ZA_PLines", &h.ablage.ZA_PLines},
+                   {"ZA_KindLinien", &h.ablage.ZA_KindLinien},
+                   {"ZA_Textboxen", &h.ablage.ZA_Textboxen},
+                   {"ZA_Kreislinien", &h.ablage.ZA_Kreislinien},
+                   {"ZA_Pfeile", &h.ablage.ZA_Pfeile}});
+}
+
+void Namen::Ansichtsnamen(frmMain &h) {
+    Ansicht &a = h.ansicht;
+    Variablen.insert({
+        {"Sprache", Von(a.Sprache)},
         {"Farbschema", Von(a.Farbschema)},
         {"Altersanzeige", Von(a.Altersanzeige)},
         {"StrichFaktor", Von(a.StrichFaktor)},
         {"Glättungsgrad", Von(a.Glättungsgrad)},
         {"hsGlättungsgrad", Von(a.Glättungsgrad)},
-        {"Textvorlage", Von(h.Textvorlage)},
         {"Rasterweite", Von(a.Rasterweite)},
         {"bRasterAnzeigen", Von(a.bRasterAnzeigen)},
         {"bDruckLaeuft", Von(a.bDruckLaeuft)},
@@ -91,32 +105,12 @@ Namen::Namen(frmMain &h) {
         {"Markierfarbe", Von(a.Markierfarbe)},
         {"Pfeilfarbe", Von(a.Pfeilfarbe)},
         {"Skalierung", Von(a.Skalierung)},
-        {"Aktion", Von(h.geste.Aktion)},
-        {"ZielPerson", Von(h.geste.ZielPerson)},
-        {"PLinieAuswahl", Von(h.geste.PLinieAuswahl)},
-        {"PLinieUnterMaus", Von(h.geste.PLinieUnterMaus)},
-        {"KindAuswahl", Von(h.geste.KindAuswahl)},
-        {"MausradIndex", Von(h.bereich.MausradIndex)},
-        {"UndoTiefe", Abgeleitet([] { return UndoRing::UndoTiefe; })},
-        {"UndoPos", Abgeleitet([&h] { return h.ring.UndoPos(); })},
-        {"UndoSchritte", Abgeleitet([&h] { return h.ring.UndoSchritte(); })},
-        {"RedoSchritte", Abgeleitet([&h] { return h.ring.RedoSchritte(); })},
-        {"UndoFüllung", Abgeleitet([&h] { return h.ring.UndoFüllung(); })},
-    };
+    });
     for (size_t i = 0; i < a.Linienfarben.size(); ++i)
         Variablen["Linienfarben(" + std::to_string(i + 1) + ")"] = Von(a.Linienfarben[i]);
-    for (int i = 1; i <= Chronik::Plätze; ++i)
-        Variablen["Chronik(" + std::to_string(i) + ")"] = Abgeleitet([&h, i] { return h.einstellungen.Zuletzt[i]; });
+}
 
-    for (const auto &zeile : SpeicherTabelle) Listen[std::string(zeile.Name)] = &(d.*zeile.Liste);
-    Listen.insert({{"lstGelöschtePersNr", &d.lstGelöschtePersNr},
-                   {"lstGelöschtePLinien", &d.lstGelöschtePLinien},
-                   {"lstMovedPers", &h.auswahl.lstMovedPers},
-                   {"lstMovedPLines", &h.auswahl.lstMovedPLines},
-                   {"lstMovedText", &h.auswahl.lstMovedText},
-                   {"lstMovedKreisLinien", &h.auswahl.lstMovedKreisLinien},
-                   {"lstMovedPfeile", &h.auswahl.lstMovedPfeile},
-                   {"lstLegende", &h.legende.lstLegende}});
+void Namen::Auswahllisten(frmMain &h) {
     const std::map<std::string, Auswahlliste *> auswahllisten{{"cboRaster", &h.cboRaster},
                                                               {"cboPaperSize", &h.cboPaperSize},
                                                               {"cboBildGröße", &h.bereich.cboBildGröße},
@@ -127,24 +121,35 @@ Namen::Namen(frmMain &h) {
         Listen[name] = &liste->Einträge;
         Variablen[name + ".index"] = Von(liste->ListIndex);
     }
-    Variablen["cboBildGröße.index"].Setzen = [&h](const std::string &text) {
-        h.bereich.ZoomWählen(Ganzzahl(ZahlLesen(text)));
-    };
-    Variablen["cboRaster.index"].Setzen = [&h](const std::string &text) { h.RasterWählen(Ganzzahl(ZahlLesen(text))); };
+    // These two apply a choice at once.
+    Variablen["cboBildGröße.index"].Setzen = [&h](const std::string &text) { h.bereich.ZoomWählen(Ganzzahl(text)); };
+    Variablen["cboRaster.index"].Setzen = [&h](const std::string &text) { h.RasterWählen(Ganzzahl(text)); };
     Listen["cboBildGr_e"] = Listen["cboBildGröße"];
     Variablen["cboBildGr_e.index"] = Variablen["cboBildGröße.index"];
+}
 
-    Flächen = {{"picBack", [&h] { return h.bereich.picBack; }},
-               {"picVorschau", [&h] { return h.bereich.picVorschau(); }},
-               {"Coolbar1", [&h] { return h.bereich.Coolbar1; }},
-               {"imgCorner", [&h] { return h.bereich.imgCorner; }},
-               {"VScroll1", [&h]() -> Steuerfläche { return h.bereich.VScroll1; }},
-               {"HScroll1", [&h]() -> Steuerfläche { return h.bereich.HScroll1; }},
-               {"shpSchatten", [&h] { return h.bereich.shpSchatten; }}};
-    Variablen["VScroll1.Value"] = Abgeleitet([&h] { return h.bereich.VScroll1.Value; });
-    Variablen["HScroll1.Value"] = Abgeleitet([&h] { return h.bereich.HScroll1.Value; });
-    Variablen["VScroll1.Max"] = Von(h.bereich.VScroll1.Max);
-    Variablen["HScroll1.Max"] = Von(h.bereich.HScroll1.Max);
+void Namen::Arbeitsflächen(Arbeitsbereich &b) {
+    const std::map<std::string, std::function<Steuerfläche()>> flächen{
+        {"picBack", [&b] { return b.picBack; }},
+        {"picVorschau", [&b] { return b.picVorschau(); }},
+        {"Coolbar1", [&b] { return b.Coolbar1; }},
+        {"imgCorner", [&b] { return b.imgCorner; }},
+        {"VScroll1", [&b]() -> Steuerfläche { return b.VScroll1; }},
+        {"HScroll1", [&b]() -> Steuerfläche { return b.HScroll1; }},
+        {"shpSchatten", [&b] { return b.shpSchatten; }}};
+    for (const auto &eintrag : flächen) {
+        const auto fläche = eintrag.second;
+        Formen[eintrag.first] = [fläche] {
+            const Steuerfläche s = fläche();
+            return AlsText(s.Left) + " " + AlsText(s.Top) + " " + AlsText(s.Width) + " " + AlsText(s.Height);
+        };
+        Sichtbar[eintrag.first] = [fläche] { return fläche().Visible; };
+    }
+    Variablen.insert({{"MausradIndex", Von(b.MausradIndex)},
+                      {"VScroll1.Value", Abgeleitet([&b] { return b.VScroll1.Value; })},
+                      {"HScroll1.Value", Abgeleitet([&b] { return b.HScroll1.Value; })},
+                      {"VScroll1.Max", Von(b.VScroll1.Max)},
+                      {"HScroll1.Max", Von(b.HScroll1.Max)}});
 }
 
 } // namespace kw

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/frmMain.h"
+#include "replay/Variable.h"
 
 #include <functional>
 #include <map>
@@ -8,22 +9,23 @@
 
 namespace kw {
 
-/// One variable under its own name: its text, and how to set it from one (none for what is derived).
-struct Variable {
-    std::function<std::string()> Lesen;
-    std::function<void(const std::string &)> Setzen;
-};
-
-/// A number as a whole one, held within the range of an int.
-int Ganzzahl(double wert);
-
-/// Everything of a main window that scripts can name.
+/// Everything of a main window that scripts can name. `haupt` must outlive it.
 struct Namen {
     std::map<std::string, Variable> Variablen;
     std::map<std::string, Satzliste *> Listen;
-    std::map<std::string, std::function<Steuerfläche()>> Flächen;
+    std::map<std::string, std::function<std::string()>> Formen; ///< where a shape stands: its four numbers
+    std::map<std::string, std::function<bool()>> Sichtbar;      ///< every shape; and what else only shows or not
 
     explicit Namen(frmMain &haupt);
+
+  private:
+    void Programmnamen(frmMain &h);
+    void Dokumentnamen(frmMain &h);
+    void Ansichtsnamen(frmMain &h);
+    void Auswahllisten(frmMain &h);
+    void Arbeitsflächen(Arbeitsbereich &b);
+    void Leinwandnamen(Leinwandlage &l);
+    void Auflagennamen(Auflagen &a);
 };
 
 } // namespace kw

@@ -1,5 +1,8 @@
 #include "replay/Plattform.h"
 
+#include "app/Befehle.h"
+#include "commands/Menuetafel.h"
+
 #include <algorithm>
 
 namespace kw {
@@ -62,6 +65,25 @@ std::optional<std::string> DrehbuchBenutzer::DateiWählen(const Dateiwahl &w) {
     const auto antwort = Nächste(w.Titel, [](const Vorbereitet &v) { return v.Wofür == Vorbereitet::Art::Datei; });
     if (!antwort || antwort->Abgebrochen) return std::nullopt;
     return antwort->Wert;
+}
+
+bool DrehbuchBenutzer::IstWählbar(const std::string &name, std::string_view menü) const {
+    if (!bedienung || !BefehlFinden(name)) return false;
+    for (const auto *zeile = MenüzeileFinden(name); zeile; zeile = MenüzeileFinden(zeile->Menü)) {
+        const Bedienelement *element = bedienung->Finden(zeile->Name);
+        if (!element || !element->Enabled || !element->Visible) return false;
+        if (zeile->Menü == menü) return true;
+    }
+    return false;
+}
+
+std::optional<std::string> DrehbuchBenutzer::PopupZeigen(std::string_view menü) {
+    if (Menüwahlen.empty()) return std::nullopt;
+    const std::string name = Menüwahlen.front();
+    Menüwahlen.pop_front();
+    if (IstWählbar(name, menü)) return name;
+    aus_ << "disabled " << name << "\n";
+    return std::nullopt;
 }
 
 void DrehbuchBenutzer::ZeitgeberStarten(std::string_view name, int ms) {

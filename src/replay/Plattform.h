@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Bedienelemente.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
 #include "platform/Uhr.h"
@@ -28,8 +29,10 @@ class DrehbuchBenutzer : public Benutzer {
         int Fällig; ///< ms since the start
     };
 
+    const Bedienelemente *bedienung = nullptr; ///< of the window; what of a context menu can be picked
     std::deque<Vorbereitet> Antworten;
-    std::string Kästen; ///< boxes and dialogs since they were last asked for, a line each
+    std::deque<std::string> Menüwahlen; ///< entries to pick in the next context menus
+    std::string Kästen;                 ///< boxes and dialogs since they were last asked for, a line each
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
@@ -37,6 +40,7 @@ class DrehbuchBenutzer : public Benutzer {
     Antwort Fragen(const Nachfrage &nachfrage) override;
     std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) override { return DateiWählen(wahl); }
     std::optional<std::string> DateiSpeichern(const Dateiwahl &wahl) override { return DateiWählen(wahl); }
+    std::optional<std::string> PopupZeigen(std::string_view menü) override;
     void ZeitgeberStarten(std::string_view name, int ms) override;
     void NachErstemBild(std::function<void()> arbeit) override { arbeit(); }
     void AnzeigeAuffrischen() override {}
@@ -45,6 +49,8 @@ class DrehbuchBenutzer : public Benutzer {
     std::vector<std::string> Schriftarten() const override { return {"Arial", "Courier New", "Times New Roman"}; }
 
   private:
+    /// Whether a user finds entry `name` in `menü` or in a menu below it, and can choose it.
+    bool IstWählbar(const std::string &name, std::string_view menü) const;
     std::optional<std::string> DateiWählen(const Dateiwahl &wahl);
     /// The next answer when `passt` says that it fits the prompt; else the prompt shows as unanswered.
     template <typename Passt> std::optional<Vorbereitet> Nächste(const std::string &titel, Passt passt);

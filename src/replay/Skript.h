@@ -5,64 +5,61 @@
 #include "replay/Aufzeichnung.h"
 #include "replay/Namen.h"
 #include "replay/Plattform.h"
+#include "replay/Woerter.h"
 
 #include <istream>
 #include <memory>
 #include <ostream>
-#include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace kw {
 
-/// A line of a script that can't be read.
-struct Skriptfehler : std::runtime_error {
-    using std::runtime_error::runtime_error;
+/// One start of the program, with the platform that the script speaks for.
+struct Programm {
+    Programm(std::ostream &aus, const Startangaben &start);
+
+    DrehbuchBenutzer benutzer;
+    DrehbuchDrucker drucker;
+    DrehbuchUhr uhr;
+    Aufzeichnung leinwand;
+    frmMain haupt;
+    Namen namen{haupt};
+    Altersberechnung alter{uhr};
+    int Taste = TasteKeine; ///< the mouse button that is down
 };
 
-/// Runs the program from a script and prints what the script asks for. The commands stand in a table, one
-/// short routine each.
+/// Runs the program from a script and prints what the script asks for. What a line does stands in the tables
+/// of replay/Skriptbefehle.h; the commands work on what is public here.
 class Wiedergabe {
   public:
-    explicit Wiedergabe(std::ostream &aus);
+    explicit Wiedergabe(std::ostream &aus_);
     ~Wiedergabe();
     Wiedergabe(const Wiedergabe &) = delete;
     Wiedergabe &operator=(const Wiedergabe &) = delete;
 
     /// 0; 1 when an expectation failed or an answer was left over; 2 for a line that can't be read.
     int Ausführen(std::istream &skript);
+    /// Runs a single line. Throws `Skriptfehler` when it can't be read.
+    void Zeile(const std::string &zeile);
+
+    /// A fresh program, as the words after the first tell: `today=2026-03-12` and so on.
+    void Starten(const Wörter &w);
+    /// The program; started with the defaults if the script didn't.
+    Programm &Läuft();
+    /// The next line of the script, for a command of several lines; false at its end.
+    bool NächsteZeile(std::string &zeile);
+    /// Prints what differs at the current line; the run has failed.
+    void Scheitern(const std::string &befund);
+
+    std::ostream &aus;
 
   private:
-    using Wörter = std::vector<std::string>;
-    struct Programm; ///< one run of the program with its platform
-
+    /// An answer that nobody asked for fails the run.
     void AntwortenPrüfen();
-    void Zeile(const std::string &roh, std::istream &skript);
-    void Starten(const Wörter &w);
-    Programm &Läuft(); ///< the program; started with the defaults if the script didn't
 
-    void Ablegen(const Wörter &w);
-    void Setzen(const Wörter &w);
-    void Erwarten(const std::string &zeile);
-    void Drucken(const Wörter &w);
-    void Zeichnen(const Wörter &w);
-    void Warten(int ms);
-    void ZeitgeberAuslösen(const std::string &name);
-    void Beantworten(const Wörter &w);
-    void Schließen();
-    void MenüWählen(const std::string &name);
-    void AlterBerechnen(const std::string &text);
-    void Profilaufrufe(const std::string &datei, std::istream &skript);
-    void GrößeÄndern(const Wörter &w);
-    void Wählen(const Wörter &w);
-
-    std::string Wert(const std::string &name);
-    std::string Zustand(const std::string &frage, const std::string &name);
-
-    std::ostream &aus_;
     std::string ordner_; ///< holds the settings of programs that were given none; removed at the end
     std::unique_ptr<Programm> programm_;
-    std::unique_ptr<Altersberechnung> alter_;
+    std::istream *skript_ = nullptr;
     int zeilennummer_ = 0;
     int starts_ = 0;
     bool gescheitert_ = false;

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/Bedienelemente.h"
+
+#include <span>
+#include <string_view>
+
+namespace kw {
+
+/// One thing that the user can choose: a menu entry, a toolbar item, a button of the palette. Menu bar, context
+/// menus, palette, shortcuts and replay all read these rows; what a row does stands in app/Befehle.cpp under
+/// the same name.
+struct Menüzeile {
+    std::string_view Name;
+    std::string_view Menü; ///< the menu that it stands in; a group below for what stands in none
+    std::string_view Deutsch;
+    std::string_view Englisch;
+    std::string_view Kürzel = {}; ///< "Ctrl+O"
+    bool Enabled = true;
+    bool Visible = true;
+};
+
+/// Groups of rows that are no menus.
+inline constexpr std::string_view Menüleiste = "Menüleiste";   ///< top entries, in their order
+inline constexpr std::string_view Kontextmenü = "Kontextmenü"; ///< popups; no caption
+inline constexpr std::string_view Werkzeugband = "Coolbar1";   ///< toolbar items, caption is the tool tip
+inline constexpr std::string_view Palette = "frmToolbar";      ///< palette buttons, caption is the tool's name
+
+/// A caption of a line between entries.
+inline constexpr std::string_view Trennstrich = "-";
+
+/// All rows, those of one menu together and in their order.
+std::span<const Menüzeile> Menütafel();
+/// The row of that name, or nothing.
+const Menüzeile *MenüzeileFinden(std::string_view name);
+/// Whether the row `name` stands in `menü` or in a menu below it.
+bool GehörtZu(std::string_view name, std::string_view menü);
+
+/// Creates the states of all rows, as at start, in English.
+void BedienelementeAnlegen(Bedienelemente &elemente);
+/// "de" gives the German captions, anything else the English ones. Captions that show a state are set by
+/// the routines that own the state.
+void Beschriften(Bedienelemente &elemente, std::string_view sprache);
+
+} // namespace kw

@@ -1,0 +1,117 @@
+#pragma once
+
+#include "editing/Auflagen.h"
+#include "rendering/Auswahl.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kw {
+
+/// The values of `Aktion`: at once the armed tool, the gesture in progress and the kind of the selected element.
+/// Those that drawing looks at stand in rendering/Auswahl.h.
+constexpr int AktionPersonSetzen = 1;
+constexpr int AktionPersonGewählt = 3;
+constexpr int AktionBeziehungGewählt = 4;
+constexpr int AktionPLinieBearbeitet = 8;
+constexpr int AktionTextGefasst = 10;
+constexpr int AktionMenüOffen = 14;
+constexpr int AktionRahmenZiehen = 16;
+constexpr int AktionGruppeGewählt = 17;
+constexpr int AktionKreisZeichnen = 18;
+constexpr int AktionKreisGewählt = 19;
+constexpr int AktionTextGewählt = 20;
+constexpr int AktionElternPrüfen = 23;
+constexpr int AktionElternSetzen = 24;
+constexpr int AktionPfeilZeichnen = 25;
+constexpr int AktionPfeilGefasst = 26;
+constexpr int AktionPfeilEnde2 = 27;
+constexpr int AktionPfeilEnde1 = 28;
+constexpr int AktionPfeilGewählt = 29;
+constexpr int AktionLegendeGefasst = 30;
+
+constexpr double GrößeNormal = 1.2;   ///< cm; size of a new symbol
+constexpr double GrößeKlein = 0.6;    ///< of a new small symbol: pregnancy to abortion
+constexpr double BalkenAbstand = 1.8; ///< drop of a new partnership bar below the lower partner
+
+/// Kinds of persons that editing tells apart.
+constexpr int TypMännlich = 1;
+constexpr int TypWeiblich = 2;
+constexpr int TypSchwangerschaft = 3;
+constexpr int TypInstitution = 9;
+constexpr int TypWeiblichZuMännlich = 10;
+constexpr int TypMännlichZuWeiblich = 11;
+constexpr int TypDivers = 12;
+
+enum class Mauszeiger { Pfeil, Verschieben, Person, Textfeld };
+
+/// What the panel `Frame1(0)` tells of the selected person.
+struct Personeninfo {
+    bool Visible = false;
+    bool IndexPerson = false;
+    bool Verstorben = false;
+    bool Sucht = false;
+    bool Erkrankung = false;
+};
+
+/// What the canvas remembers between two events. Lengths and places are centimetres on the page.
+struct Leinwandlage : Gestenlage {
+    int SymbolTyp = 0;        ///< of the tool or of the selected person
+    double SymbolGröße = 1.2; ///< the same
+    int PersAuswahl = 0;      ///< one-based position of the selected person, 0 none
+    std::string PersRecord;
+    std::string PersNr;     ///< survives the end of the selection
+    std::string ElementArt; ///< "Person" or "Textbox"
+    int TextAuswahl = -1;   ///< positions from 0, -1 none, but for the circle line's
+    std::string TextRecord;
+    int BezAuswahl = -1;
+    int PfeilAuswahl = -1;
+    int KreisAuswahl = 0; ///< one-based, 0 none
+    bool KreisGetroffen = false;
+
+    double DownX = 0; ///< where the button went down, two decimals
+    double DownY = 0;
+    double LetztX = 0; ///< last place that a gesture used, two decimals
+    double LetztY = 0;
+    double MausX = 0; ///< last move
+    double MausY = 0;
+    double AnkerX = 0; ///< snapped start of a gesture
+    double AnkerY = 0;
+    double VersatzX = 0; ///< pointer minus origin of what was grabbed
+    double VersatzY = 0;
+    double GummiX = 0; ///< fixed end of a rubber line
+    double GummiY = 0;
+    double AltX = 0; ///< group frame at the grab
+    double AltY = 0;
+    double DeltaX = 0; ///< way of a group move
+    double DeltaY = 0;
+    double NeuX = 0; ///< new centre of the person in hand
+    double NeuY = 0;
+
+    bool LinieVerschoben = false;
+    bool BildAuswahl = false; ///< the next marquee is a region of the picture
+    bool PopupOffen = false;  ///< a press opened a context menu: its release ends no gesture
+    int PfeilArt = 1;         ///< 1 arrow, 2 double arrow
+    double PfeilEndeX = 0;
+    double PfeilEndeY = 0;
+    std::string PunktListe;                             ///< circle line in the making
+    std::vector<std::pair<double, double>> KreisPunkte; ///< the selected circle line as it was when selected
+    std::string lblPersAuswahl;                         ///< link target as last shown
+
+    double AuswahlX = Geparkt; ///< marker of the selected person or text box
+    double AuswahlY = Geparkt;
+    double MarkerBreite = 0.01;
+    double MarkerHöhe = 0.01;
+    double AuswahlGröße = 0; ///< of the person last hit
+
+    int ZwillingsArt = 0;      ///< 1 to 6, see the twins' table
+    std::string Zwillingspaar; ///< two siblings that can become twins, and their parents' line
+    std::string PersNrA;       ///< the parents of a twin command
+    std::string PersNrB;
+
+    Mauszeiger Zeiger = Mauszeiger::Pfeil;
+    Personeninfo Info;
+};
+
+} // namespace kw

@@ -1,0 +1,237 @@
+#include "editing/Loeschen.h"
+
+#include "editing/Kinder.h"
+#include "editing/Marker.h"
+#include "editing/Satzbau.h"
+
+namespace kw {
+
+namespace {
+
+/// Removes, from the end, the records of at least `felder` fields that `passt`.
+template <typename Passt> void Entfernen(Satzliste &speicher, int felder, Passt passt) {
+    for (int i = speicher.Anzahl() - 1; i >= 0; --i) {
+        const Felder feld(speicher.Satz(i));
+        if (feld.Anzahl() >= felder && passt(feld)) speicher.Entfernen(i);
+    }
+}
+
+/// Removes the records at a list's positions, from its last entry on; the store counts from `erste`.
+void StellenEntfernen(Satzliste &speicher, Satzliste &liste, int erste) {
+    for (int e = liste.Anzahl() - 1; e >= 0; --e) {
+        const int i = Ganzzahl16(ZahlLesen(liste.Satz(e))) - erste;
+        if (i >= 0 && i < speicher.Anzahl()) speicher.Entfernen(i);
+    }
+    liste.Leeren();
+}
+
+/// The relationship records that join a pair of twins.
+void ZwillingsbandEntfernen(Dokument &d, std::string_view a, std::string_view b) {
+    Entfernen(d.cboBeziehungsLinien, BezFeld::Anzahl, [&](const Felder &f) {
+        const auto eins = f[BezFeld::PersNr1];
+        const auto zwei = f[BezFeld::PersNr2];
+        return (eins == a && zwei == b) || (eins == b && zwei == a);
+    });
+}
+
+/// Removes the partnership at `linie` with its children's lines; the children stay where they are.
+void PartnerschaftEntfernen(Dokument &d, int linie) {
+    const std::string nr = d.cboPartnerschaftsLinien.Satz(linie).substr(0, 3);
+    Entfernen(d.cboKindlinien, KindFeld::Anzahl, [&](const Felder &f) { return f[KindFeld::PLinie] == nr; });
+    for (int i = 0; i < d.cboPersonen.Anzahl(); ++i) {
+        const Felder feld(d.cboPersonen.Satz(i));
+        if (feld.OderLeer(PersonFeld::ElternLinie) != nr) continue;
+        const auto zwilling = feld.OderLeer(PersonFeld::Zwilling);
+        if (zwilling.starts_with("1E")) ZwillingsbandEntfernen(d, feld[PersonFeld::Nr], zwilling.substr(2));
+        Satzbau satz(d.cboPersonen.Satz(i), PersonFeld::Anzahl);
+        satz.Setzen(PersonFeld::ElternLinie, "").Setzen(PersonFeld::Zwilling, "");
+        d.cboPersonen.Ersetzen(i, satz.Text());
+    }
+    d.cboPartnerschaftsLinien.Entfernen(linie);
+    d.lstGelöschtePLinien.Anhängen(nr);
+}
+
+/// Removes person `nr` and every record that names it. Numbers of lines' ends are compared by value.
+void PersonEntfernen(Werkbank &w, const std::string &nr) {
+    Dokument &d = w.dokument;
+    const int person = PersonMitNr(d, nr);
+    if (person < 0) return; // no such person: its number must not become free twice
+    const double wert = ZahlLesen(nr);
+    const auto genannt = [&](const Felder &f, int eins, int zwei) {
+        return ZahlLesen(f[eins]) == wert || ZahlLesen(f[zwei]) == wert;
+    };
+    Entfernen(d.cboBeziehungsLinien, BezFeld::Anzahl,
+              [&](const Felder &f) { return genannt(f, BezFeld::PersNr1, BezFeld::PersNr2); });
+    for (int i = d.cboPartnerschaftsLinien.Anzahl() - 1; i >= 0; --i) {
+        const Felder feld(d.cboPartnerschaftsLinien.Satz(i));
+        if (feld.Anzahl() >= PLinieFeld::Anzahl && genannt(feld, PLinieFeld::PersNr1, PLinieFeld::PersNr2))
+            PartnerschaftEntfernen(d, i);
+    }
+    Entfernen(d.cboKindlinien, KindFeld::Anzahl,
+              [&](const Felder &f) { return ZahlLesen(f[KindFeld::KindNr]) == wert; });
+    d.lstGelöschtePersNr.Anhängen(nr);
+
+    const std::string zwilling = ZwillingNr(Felder(d.cboPersonen.Satz(person)).OderLeer(PersonFeld::Zwilling));
+    d.cboPersonen.Entfernen(person);
+    const int anderer = zwilling.empty() ? -1 : PersonMitNr(d, zwilling);
+    if (anderer >= 0) {
+        Satzbau satz(d.cboPersonen.Satz(anderer), PersonFeld::Anzahl);
+        d.cboPersonen.Ersetzen(anderer, satz.Setzen(PersonFeld::Zwilling, "").Text());
+    }
+    w.auflagen.shpMask.Parken();
+    w.lage.PersAuswahl = 0; // positions have moved up
+    w.lage.PersRecord.clear();
+}
+
+/// How every single delete ends.
+void Abschließen(Werkbank &w) {
+    w.lage.Aktion = AktionNichts;
+    w.fenster.Sichern();
+    w.bedienung["mnuLöschen1"].Enabled = false;
+    w.fenster.Vorschau();
+}
+
+bool Gültig(const Satzliste &speicher, int position) { return position >= 0 && position < speicher.Anzahl(); }
+
+void GruppenPersonenLöschen(Werkbank &w) {
+    const Satzliste personen = w.auswahl.lstMovedPers;
+    for (int i = personen.Anzahl() - 1; i >= 0; --i) {
+        w.lage.ElementArt = "Person";
+        w.lage.PersNr = personen.Satz(i);
+        SymbolLöschen(w);
+    }
+}
+
+} // namespace
+
+void SymbolLöschen(Werkbank &w) {
+    Satzliste &boxen = w.dokument.cboTextboxen;
+    if (w.lage.ElementArt == "Textbox") {
+        w.lage.ElementArt.clear();
+        if (!Gültig(boxen, w.lage.TextAuswahl)) return;
+        boxen.Entfernen(w.lage.TextAuswahl);
+        w.lage.TextAuswahl = -1;
+        w.auswahl.lstMovedText.Leeren();
+        w.fenster.Vorschau();
+        w.fenster.Sichern();
+        return;
+    }
+    if (w.dokument.cboPersonen.Leer()) return;
+    const int vorher = w.dokument.cboPersonen.Anzahl();
+    PersonEntfernen(w, w.lage.PersNr);
+    if (w.lage.Aktion == AktionGruppeGewählt || w.lage.Aktion == AktionPersonGewählt) return;
+    w.fenster.Vorschau();
+    if (w.dokument.cboPersonen.Anzahl() < vorher) w.fenster.Sichern();
+}
+
+void PLinieLöschen(Werkbank &w) {
+    if (!Gültig(w.dokument.cboPartnerschaftsLinien, w.lage.PLinieAuswahl)) return;
+    PartnerschaftEntfernen(w.dokument, w.lage.PLinieAuswahl);
+    w.lage.PLinieAuswahl = -1;
+    w.auswahl.lstMovedPLines.Leeren();
+    Gummi1Parken(w);
+    Abschließen(w);
+}
+
+void BezLinieLöschen(Werkbank &w) {
+    if (!Gültig(w.dokument.cboBeziehungsLinien, w.lage.BezAuswahl)) return;
+    w.dokument.cboBeziehungsLinien.Entfernen(w.lage.BezAuswahl);
+    w.lage.BezAuswahl = -1;
+    Abschließen(w);
+}
+
+void PfeilLöschen(Werkbank &w) {
+    if (!Gültig(w.dokument.cboPfeile, w.lage.PfeilAuswahl)) return;
+    w.dokument.cboPfeile.Entfernen(w.lage.PfeilAuswahl);
+    w.lage.PfeilAuswahl = -1;
+    w.auswahl.lstMovedPfeile.Leeren();
+    Abschließen(w);
+}
+
+void KreisLinieLöschen(Werkbank &w) {
+    if (!Gültig(w.dokument.cboFreehandlines, w.lage.KreisAuswahl - 1)) return;
+    w.dokument.cboFreehandlines.Entfernen(w.lage.KreisAuswahl - 1);
+    w.lage.KreisAuswahl = 0;
+    w.auswahl.lstMovedKreisLinien.Leeren();
+    Abschließen(w);
+}
+
+void TextLöschen(Werkbank &w) {
+    w.auswahl.lstMovedText.Leeren();
+    if (!Gültig(w.dokument.cboTextboxen, w.lage.TextAuswahl)) return;
+    w.dokument.cboTextboxen.Entfernen(w.lage.TextAuswahl);
+    w.lage.TextAuswahl = -1;
+    MarkerParken(w);
+    Abschließen(w);
+}
+
+void AuswahlLöschen(Werkbank &w) {
+    Dokument &d = w.dokument;
+    StellenEntfernen(d.cboFreehandlines, w.auswahl.lstMovedKreisLinien, 1);
+    StellenEntfernen(d.cboTextboxen, w.auswahl.lstMovedText, 0);
+    StellenEntfernen(d.cboPfeile, w.auswahl.lstMovedPfeile, 0);
+    w.lage.KreisAuswahl = 0;
+    w.lage.TextAuswahl = w.lage.PfeilAuswahl = -1;
+    GruppenPersonenLöschen(w);
+    AuswahlrahmenParken(w);
+    w.fenster.Sichern();
+    w.fenster.Vorschau();
+    w.lage.Aktion = AktionNichts;
+}
+
+void mnuLöschen1(Werkbank &w) {
+    struct Weg {
+        int Aktion;
+        void (*Löschen)(Werkbank &);
+    };
+    static constexpr Weg Wege[] = {
+        {AktionKindlinieGewählt, KindLinieEntfernen},
+        {AktionKreisGewählt, KreisLinieLöschen},
+        {AktionBeziehungGewählt, BezLinieLöschen},
+        {AktionPLinieGewählt, PLinieLöschen},
+        {AktionTextGewählt, TextLöschen},
+        {AktionPfeilGewählt, PfeilLöschen},
+    };
+    w.lage.Info.Visible = false;
+    const auto weg =
+        std::find_if(std::begin(Wege), std::end(Wege), [&](const Weg &g) { return g.Aktion == w.lage.Aktion; });
+    if (weg != std::end(Wege)) {
+        weg->Löschen(w);
+    } else {
+        w.lage.Aktion = AktionGruppeGewählt;
+        AuswahlLöschen(w);
+        MarkierungsListBoxenLöschen(w);
+    }
+    w.bedienung["mnuLöschen1"].Enabled = false;
+}
+
+void mnuSymbolLöschen(Werkbank &w) {
+    w.lage.Info.Visible = false;
+    SymbolLöschen(w);
+    MarkierungsListBoxenLöschen(w);
+    MarkerEntfernen(w);
+    w.lage.Aktion = AktionNichts;
+    w.auflagen.shpMask.Visible = false;
+}
+
+void cmdDelete(Werkbank &w) {
+    if (w.lage.Aktion != AktionGruppeGewählt) return;
+    Dokument &d = w.dokument;
+    StellenEntfernen(d.cboFreehandlines, w.auswahl.lstMovedKreisLinien, 1);
+    StellenEntfernen(d.cboTextboxen, w.auswahl.lstMovedText, 0);
+    w.lage.KreisAuswahl = 0;
+    w.lage.TextAuswahl = -1;
+    GruppenPersonenLöschen(w);
+    for (const auto &nr : w.auswahl.lstMovedPLines) {
+        const int linie = PLinieMitNr(d, nr);
+        if (linie >= 0) d.cboPartnerschaftsLinien.Entfernen(linie);
+        Entfernen(d.cboKindlinien, KindFeld::Anzahl, [&](const Felder &f) { return f[KindFeld::PLinie] == nr; });
+    }
+    AuswahlrahmenParken(w);
+    MarkierungsListBoxenLöschen(w);
+    w.lage.Aktion = AktionNichts;
+    w.fenster.Vorschau();
+    w.fenster.Sichern();
+}
+
+} // namespace kw

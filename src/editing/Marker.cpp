@@ -1,0 +1,143 @@
+#include "editing/Marker.h"
+
+#include "document/Felder.h"
+#include "document/Zahlen.h"
+#include "editing/Symbolgroesse.h"
+#include "editing/Treffer.h"
+
+namespace kw {
+
+namespace {
+
+constexpr double TextRandLinks = 0.1;  ///< the frame of a text box begins that far left of it
+constexpr double TextMaskeMehr = 0.22; ///< the drag mask is that much wider than the text
+
+int MitAnfang(const Satzliste &speicher, std::string_view nr) {
+    const std::string_view gesucht = nr.substr(0, 3);
+    for (int i = 0; i < speicher.Anzahl(); ++i)
+        if (std::string_view(speicher.Satz(i)).substr(0, 3) == gesucht) return i;
+    return -1;
+}
+
+Umriss MaskenForm(int typ) {
+    switch (typ) {
+    case 1:
+    case 3:
+    case 5:
+    case 7: return Umriss::Quadrat;
+    case 2:
+    case 4:
+    case 6: return Umriss::Kreis;
+    case TypMännlichZuWeiblich: return Umriss::Oval;
+    default: return Umriss::Rechteck;
+    }
+}
+
+void PersonInfoAnzeigen(Werkbank &w, const Felder &feld) {
+    w.lage.Info = {ZahlLesen(feld[PersonFeld::Symboltyp]) != TypInstitution, feld[PersonFeld::IndexPerson] == "1",
+                   feld[PersonFeld::Sterbealter].starts_with('$'), feld[PersonFeld::Sucht] == "1",
+                   feld[PersonFeld::Erkrankung] == "1"};
+}
+
+} // namespace
+
+void MarkierungsListBoxenLöschen(Werkbank &w) { w.auswahl = {}; }
+
+void MarkerParken(Werkbank &w) {
+    w.lage.AuswahlX = w.lage.AuswahlY = Geparkt;
+    w.lage.MarkerBreite = w.lage.MarkerHöhe = 0.01;
+    w.auflagen.shpMask.Visible = false;
+}
+
+void MarkerEntfernen(Werkbank &w) {
+    MarkerParken(w);
+    w.fenster.Vorschau();
+}
+
+void KeineAktion(Werkbank &w) {
+    MarkerEntfernen(w);
+    w.lage.Aktion = AktionNichts;
+}
+
+void Aktion_Nichts(Werkbank &w) { w.lage.Aktion = AktionNichts; }
+
+void Gummi1Parken(Werkbank &w) { w.auflagen.Line1.Parken(); }
+
+void Gummi2Parken(Werkbank &w) { w.auflagen.Line2.Parken(); }
+
+void AuswahlrahmenParken(Werkbank &w) { w.auflagen.shpBox.Legen(Geparkt, Geparkt, 0, 0); }
+
+void AllesAbwählen(Werkbank &w) {
+    w.auswahl = {};
+    const Leinwandlage vorher = std::exchange(w.lage, {});
+    w.lage.MausX = vorher.MausX; // the pointer stays where it is
+    w.lage.MausY = vorher.MausY;
+    w.lage.PopupOffen = vorher.PopupOffen;
+    w.auflagen = {};
+}
+
+void PersonAuswählen(Werkbank &w, int position) {
+    Leinwandlage &lage = w.lage;
+    MarkierungsListBoxenLöschen(w);
+    lage.PersAuswahl = position + 1;
+    lage.ElementArt = "Person";
+    lage.PersRecord = w.dokument.cboPersonen.Satz(position);
+    const Felder feld(lage.PersRecord);
+    lage.PersNr = feld[PersonFeld::Nr];
+    w.auswahl.lstMovedPers.Anhängen(lage.PersNr);
+    const double größe = ZahlLesen(feld[PersonFeld::Groesse]);
+    lage.SymbolTyp = Ganzzahl16(ZahlLesen(feld[PersonFeld::Symboltyp]));
+    lage.SymbolGröße = lage.AuswahlGröße = lage.MarkerBreite = lage.MarkerHöhe = größe;
+    lage.AuswahlX = Gerundet(ZahlLesen(feld[PersonFeld::PosX]) - größe / 2, 2);
+    lage.AuswahlY = Gerundet(ZahlLesen(feld[PersonFeld::PosY]) - größe / 2, 2);
+    Auflagenform &maske = w.auflagen.shpMask;
+    maske.Visible = false;
+    maske.Shape = MaskenForm(lage.SymbolTyp);
+    maske.Legen(lage.AuswahlX, lage.AuswahlY, größe, größe);
+    lage.Aktion = AktionPersonGewählt;
+    GrößeMenüsPrüfen(w);
+    PersonInfoAnzeigen(w, feld);
+}
+
+void TextboxAuswählen(Werkbank &w, int position) {
+    Leinwandlage &lage = w.lage;
+    Gummi1Parken(w);
+    MarkierungsListBoxenLöschen(w);
+    lage.TextAuswahl = position;
+    lage.ElementArt = "Textbox";
+    lage.TextRecord = w.dokument.cboTextboxen.Satz(position);
+    const Felder feld(lage.TextRecord);
+    const double links = ZahlLesen(feld.OderLeer(TextFeld::TextX));
+    const double oben = ZahlLesen(feld.OderLeer(TextFeld::TextY));
+    lage.AuswahlX = links - TextRandLinks;
+    lage.AuswahlY = oben;
+    lage.MarkerBreite = ZahlLesen(feld.OderLeer(TextFeld::TextBreite)) + TextMaskeMehr;
+    lage.MarkerHöhe = lage.TextRahmenUnten;
+    Auflagenform &maske = w.auflagen.shpMask;
+    maske.Visible = false;
+    maske.Shape = Umriss::Rechteck;
+    maske.Legen(links, oben, lage.MarkerBreite, lage.MarkerHöhe);
+}
+
+void KreisAuswählen(Werkbank &w, int position) {
+    Leinwandlage &lage = w.lage;
+    lage.Aktion = AktionKreisGewählt;
+    lage.KreisAuswahl = position + 1;
+    MarkierungsListBoxenLöschen(w);
+    w.auswahl.lstMovedKreisLinien.Anhängen(std::to_string(position + 1));
+    lage.KreisPunkte = KreisPunkte(w.dokument.cboFreehandlines.Satz(position));
+}
+
+int PersonMitNr(const Dokument &dokument, std::string_view nr) { return MitAnfang(dokument.cboPersonen, nr); }
+
+int PLinieMitNr(const Dokument &dokument, std::string_view nr) {
+    return MitAnfang(dokument.cboPartnerschaftsLinien, nr);
+}
+
+int KindLinieVon(const Dokument &dokument, std::string_view nr) { return MitAnfang(dokument.cboKindlinien, nr); }
+
+std::string ZwillingNr(std::string_view zwilling) {
+    return std::string(zwilling.size() > 2 ? zwilling.substr(2) : std::string_view{});
+}
+
+} // namespace kw

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "editing/Werkbank.h"
+
+// Selecting and unselecting, and putting the shapes over the page out of the way.
+namespace kw {
+
+/// Empties the five selection lists; no redraw.
+void MarkierungsListBoxenLöschen(Werkbank &w);
+/// Parks the marker of the single person or text box, and redraws. The lists stay.
+void MarkerEntfernen(Werkbank &w);
+/// The same without the redraw, for routines that redraw once at their end.
+void MarkerParken(Werkbank &w);
+/// `MarkerEntfernen`, then no action.
+void KeineAktion(Werkbank &w);
+/// Nothing but `Aktion` 0: what the forms call when they are left.
+void Aktion_Nichts(Werkbank &w);
+void Gummi1Parken(Werkbank &w);
+void Gummi2Parken(Werkbank &w);
+void AuswahlrahmenParken(Werkbank &w);
+/// Nothing selected, no gesture, every shape out of the way; no redraw. Before other records come into the stores.
+void AllesAbwählen(Werkbank &w);
+
+/// Selects the person at `position` alone: lists, marker, drag mask and panel; `Aktion` 3.
+void PersonAuswählen(Werkbank &w, int position);
+/// Selects the text box at `position`, with marker and drag mask. The lists are emptied; `Aktion` is the caller's.
+void TextboxAuswählen(Werkbank &w, int position);
+/// Selects the circle line at `position` (from 0) alone; `Aktion` 19.
+void KreisAuswählen(Werkbank &w, int position);
+
+/// Position of the person with number `nr`, the first three characters compared; -1 none.
+int PersonMitNr(const Dokument &dokument, std::string_view nr);
+/// The same for partnership lines.
+int PLinieMitNr(const Dokument &dokument, std::string_view nr);
+/// The child line of child `nr`.
+int KindLinieVon(const Dokument &dokument, std::string_view nr);
+
+/// Number of the other twin in field `Zwilling`, behind its mark; empty when there is none.
+std::string ZwillingNr(std::string_view zwilling);
+
+} // namespace kw

@@ -1,0 +1,82 @@
+#include "editing/Symbolgroesse.h"
+
+#include "editing/Marker.h"
+#include "editing/Satzbau.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace kw {
+
+namespace {
+
+struct Familie {
+    double Kleinste;
+    double Größte;
+    /// Size at which enlarging from the context menu disables itself. Of the large family it lies beyond what the
+    /// command can reach: the entry stays enabled until the next selection. Meant.
+    double MenüEnde;
+};
+constexpr Familie Kleine{0.3, 1.2, 1.2};
+constexpr Familie Große{0.9, 1.8, 2.4};
+
+const Familie &FamilieVon(std::string_view symboltyp) {
+    const double typ = ZahlLesen(symboltyp);
+    return typ >= TypSchwangerschaft && typ < TypInstitution ? Kleine : Große;
+}
+
+struct Maß {
+    Familie Grenzen;
+    double Größe;
+};
+
+/// Family and size of the selected person.
+std::optional<Maß> Gewählte(const Werkbank &w) {
+    const int i = PersonMitNr(w.dokument, w.lage.PersNr);
+    if (i < 0) return std::nullopt;
+    const Felder feld(w.dokument.cboPersonen.Satz(i));
+    return Maß{FamilieVon(feld.OderLeer(PersonFeld::Symboltyp)), ZahlLesen(feld.OderLeer(PersonFeld::Groesse))};
+}
+
+} // namespace
+
+void GrößeÄndern(Werkbank &w, double delta) {
+    Satzliste &personen = w.dokument.cboPersonen;
+    for (const auto &eintrag : w.auswahl.lstMovedPers) {
+        const int i = PersonMitNr(w.dokument, Getrimmt(eintrag));
+        if (i < 0) continue;
+        Satzbau satz(personen.Satz(i), PersonFeld::Anzahl);
+        const Familie &familie = FamilieVon(satz.Feld(PersonFeld::Symboltyp));
+        const double neu = std::clamp(satz.Zahl(PersonFeld::Groesse) + delta, familie.Kleinste, familie.Größte);
+        personen.Ersetzen(i, satz.Setzen(PersonFeld::Groesse, neu).Text());
+    }
+    AuswahlrahmenParken(w);
+    w.fenster.Vorschau();
+    w.lage.Aktion = AktionNichts;
+    w.fenster.Sichern();
+}
+
+void mnuSymbolVergrößern(Werkbank &w) {
+    GrößeÄndern(w, GrößenSchritt);
+    const auto maß = Gewählte(w);
+    if (!maß) return;
+    w.bedienung["mnuSymbolVergrößern"].Enabled = Kleiner(maß->Größe, maß->Grenzen.MenüEnde);
+    w.bedienung["mnuSymbolVerkleinern"].Enabled = true;
+}
+
+void mnuSymbolVerkleinern(Werkbank &w) {
+    GrößeÄndern(w, -GrößenSchritt);
+    const auto maß = Gewählte(w);
+    if (!maß) return;
+    w.bedienung["mnuSymbolVerkleinern"].Enabled = Kleiner(maß->Grenzen.Kleinste, maß->Größe);
+    w.bedienung["mnuSymbolVergrößern"].Enabled = true;
+}
+
+void GrößeMenüsPrüfen(Werkbank &w) {
+    const auto maß = Gewählte(w);
+    if (!maß) return;
+    w.bedienung["mnuSymbolVergrößern"].Enabled = Kleiner(maß->Größe, maß->Grenzen.Größte);
+    w.bedienung["mnuSymbolVerkleinern"].Enabled = Kleiner(maß->Grenzen.Kleinste, maß->Größe);
+}
+
+} // namespace kw

@@ -1,0 +1,145 @@
+#include "editing/Treffer.h"
+
+#include "document/Felder.h"
+#include "document/Zahlen.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kw {
+
+namespace {
+
+constexpr double LinienToleranz = 0.1;
+constexpr double EndeToleranz = 0.2;
+/// Of circle lines: so wide that the box of a stretch decides.
+constexpr double KreisGrenze = 100000.0;
+
+bool Zwischen(double wert, double unten, double oben) { return Kleiner(unten, wert) && Kleiner(wert, oben); }
+
+/// Upright and level lines only.
+bool AchsenlinieGetroffen(double x1, double y1, double x2, double y2, double x, double y) {
+    const auto [minX, maxX] = std::minmax(x1, x2);
+    const auto [minY, maxY] = std::minmax(y1, y2);
+    if (minX == maxX && Zwischen(y, minY, maxY)) return Zwischen(x, minX - LinienToleranz, minX + LinienToleranz);
+    if (minY == maxY && Zwischen(x, minX, maxX)) return Zwischen(y, minY - LinienToleranz, minY + LinienToleranz);
+    return false;
+}
+
+/// The first record of at least `felder` fields that `passt`.
+template <typename Passt> int Erster(const Satzliste &speicher, int felder, Passt passt) {
+    for (int i = 0; i < speicher.Anzahl(); ++i) {
+        const Felder feld(speicher.Satz(i));
+        if (feld.Anzahl() >= felder && passt(feld)) return i;
+    }
+    return -1;
+}
+
+/// A hit test over the numbers of four fields.
+struct Strecke {
+    int X1, Y1, X2, Y2;
+    bool Getroffen(const Felder &feld, double x, double y) const {
+        return SegmentGetroffen(ZahlLesen(feld[X1]), ZahlLesen(feld[Y1]), ZahlLesen(feld[X2]), ZahlLesen(feld[Y2]), x,
+                                y);
+    }
+};
+
+} // namespace
+
+bool SegmentGetroffen(double x1, double y1, double x2, double y2, double x, double y, double grenze) {
+    if (AchsenlinieGetroffen(x1, y1, x2, y2, x, y)) return true;
+    const auto [minX, maxX] = std::minmax(x1, x2);
+    const auto [minY, maxY] = std::minmax(y1, y2);
+    if (!Zwischen(x, minX, maxX) || !Zwischen(y, minY, maxY)) return false;
+    const double dx = x1 - x2;
+    const double dy = y1 - y2;
+    return Kleiner(std::fabs((-dx * y + dy * x) - (-dx * y1 + dy * x1)), grenze);
+}
+
+int PersonBei(const Dokument &d, double x, double y) {
+    return Erster(d.cboPersonen, PersonFeld::Anzahl, [&](const Felder &feld) {
+        const double halb = ZahlLesen(feld[PersonFeld::Groesse]) / 2;
+        return Kleiner(std::fabs(x - ZahlLesen(feld[PersonFeld::PosX])), halb) &&
+               Kleiner(std::fabs(y - ZahlLesen(feld[PersonFeld::PosY])), halb);
+    });
+}
+
+int BezLinieBei(const Dokument &d, double x, double y) {
+    constexpr Strecke Linie{BezFeld::LinieX1, BezFeld::LinieY1, BezFeld::LinieX2, BezFeld::LinieY2};
+    return Erster(d.cboBeziehungsLinien, BezFeld::Anzahl, [&](const Felder &f) { return Linie.Getroffen(f, x, y); });
+}
+
+int PLinieBei(const Dokument &d, double x, double y) {
+    return Erster(d.cboPartnerschaftsLinien, PLinieFeld::Anzahl, [&](const Felder &f) {
+        return AchsenlinieGetroffen(ZahlLesen(f[PLinieFeld::BalkenX1]), ZahlLesen(f[PLinieFeld::BalkenY1]),
+                                    ZahlLesen(f[PLinieFeld::BalkenX2]), ZahlLesen(f[PLinieFeld::BalkenY2]), x, y);
+    });
+}
+
+int KindLinieBei(const Dokument &d, double x, double y, double auswahlGröße) {
+    return Erster(d.cboKindlinien, KindFeld::Anzahl, [&](const Felder &f) {
+        return SegmentGetroffen(ZahlLesen(f[KindFeld::KindX]), ZahlLesen(f[KindFeld::KindY]) - auswahlGröße / 2,
+                                ZahlLesen(f[KindFeld::LinieX]), ZahlLesen(f[KindFeld::LinieY]), x, y);
+    });
+}
+
+int PfeilBei(const Dokument &d, double x, double y) {
+    constexpr Strecke Schaft{PfeilFeld::PfeilX1, PfeilFeld::PfeilY1, PfeilFeld::PfeilX2, PfeilFeld::PfeilY2};
+    return Erster(d.cboPfeile, PfeilFeld::Anzahl, [&](const Felder &f) { return Schaft.Getroffen(f, x, y); });
+}
+
+int PfeilEndeBei(const Dokument &d, int pfeil, double x, double y) {
+    if (pfeil < 0 || pfeil >= d.cboPfeile.Anzahl()) return 0;
+    const Felder f(d.cboPfeile.Satz(pfeil));
+    if (f.Anzahl() < PfeilFeld::Anzahl) return 0;
+    const auto nahe = [&](int feldX, int feldY) {
+        return Kleiner(std::fabs(x - ZahlLesen(f[feldX])), EndeToleranz) &&
+               Kleiner(std::fabs(y - ZahlLesen(f[feldY])), EndeToleranz);
+    };
+    if (nahe(PfeilFeld::PfeilX2, PfeilFeld::PfeilY2)) return 2;
+    return nahe(PfeilFeld::PfeilX1, PfeilFeld::PfeilY1) ? 1 : 0;
+}
+
+int KreisLinieBei(const Dokument &d, double x, double y) {
+    for (int i = 0; i < d.cboFreehandlines.Anzahl(); ++i) {
+        const auto punkte = KreisPunkte(d.cboFreehandlines.Satz(i));
+        for (size_t p = 1; p < punkte.size(); ++p)
+            if (SegmentGetroffen(punkte[p - 1].first, punkte[p - 1].second, punkte[p].first, punkte[p].second, x, y,
+                                 KreisGrenze))
+                return i;
+    }
+    return -1;
+}
+
+int TextboxBei(const Dokument &d, double x, double y) {
+    double breite = 0;
+    double höhe = 0;
+    return Erster(d.cboTextboxen, TextFeld::TextY + 1, [&](const Felder &f) {
+        if (f.Anzahl() > TextFeld::TextBreite) {
+            breite = ZahlLesen(f[TextFeld::TextBreite]);
+            höhe = ZahlLesen(f.OderLeer(TextFeld::TextHoehe));
+        }
+        const double links = ZahlLesen(f[TextFeld::TextX]);
+        const double oben = ZahlLesen(f[TextFeld::TextY]);
+        return Zwischen(x, links, links + breite) && Zwischen(y, oben, oben + höhe);
+    });
+}
+
+std::vector<std::pair<double, double>> KreisPunkte(std::string_view satz) {
+    std::vector<std::pair<double, double>> punkte;
+    while (!satz.empty()) {
+        auto punkt = Abgetrennt(satz, '_');
+        if (punkt.find('^') == std::string_view::npos) continue;
+        const double x = ZahlLesen(Abgetrennt(punkt, '^'));
+        punkte.emplace_back(x, ZahlLesen(Abgetrennt(punkt, '^')));
+    }
+    return punkte;
+}
+
+std::string KreisSatz(const std::vector<std::pair<double, double>> &punkte) {
+    std::string satz;
+    for (const auto &[x, y] : punkte) satz += (satz.empty() ? "" : "_") + ZahlSchreiben(x) + "^" + ZahlSchreiben(y);
+    return satz;
+}
+
+} // namespace kw

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "document/Dokument.h"
+#include "editing/Auflagen.h"
+#include "editing/Leinwandlage.h"
+#include "editing/Zwischenablage.h"
+#include "platform/Bedienelemente.h"
+#include "platform/Benutzer.h"
+#include "rendering/Ansicht.h"
+#include "rendering/Auswahl.h"
+#include "rendering/Legende.h"
+#include "rendering/Zeichenflaeche.h"
+
+#include <string_view>
+
+namespace kw {
+
+/// What editing asks of the main window around it.
+class Fensterdienste {
+  public:
+    virtual ~Fensterdienste() = default;
+    /// Redraws the whole canvas from the stores.
+    virtual void Vorschau() = 0;
+    /// Takes an undo snapshot and marks the document as changed.
+    virtual void Sichern() = 0;
+    /// Marks the document as changed: what no snapshot holds.
+    virtual void AlsGeändertMerken() = 0;
+    virtual void UndoKnöpfeSetzen() = 0;
+    /// Shows a context menu at the pointer and runs what the user picks there, before it returns.
+    virtual void PopupÖffnen(std::string_view menü) = 0;
+    /// Shows a form modally. False when there is no such form: nothing was asked.
+    virtual bool FormÖffnen(std::string_view form) = 0;
+};
+
+/// All that the editing routines work on. Each routine stands with what it changes and gets the bench as its
+/// first argument.
+struct Werkbank {
+    Dokument &dokument;
+    Ansicht &ansicht;
+    Auswahl &auswahl;
+    Leinwandlage &lage;
+    Auflagen &auflagen;
+    Zwischenablage &ablage;
+    Legendenblatt &legende;
+    Bedienelemente &bedienung;
+    Zeichenfläche &picVorschau;
+    Benutzer &benutzer;
+    Fensterdienste &fenster;
+
+    bool IstDeutsch() const { return ansicht.Sprache == "de"; }
+};
+
+} // namespace kw

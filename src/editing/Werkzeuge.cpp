@@ -1,0 +1,126 @@
+#include "editing/Werkzeuge.h"
+
+#include "document/Felder.h"
+#include "document/Zahlen.h"
+#include "editing/Marker.h"
+#include "editing/Verbindungen.h"
+
+namespace kw {
+
+namespace {
+
+/// What a button arms.
+struct Werkzeug {
+    int Nummer;
+    int Aktion;
+    int Typ = 0;      ///< kind of person that it places
+    double Größe = 0; ///< of that symbol, cm
+    int PfeilArt = 0; ///< arrow or double arrow
+};
+constexpr int TypEltern = 22; ///< of the parents' tool; no record has it
+constexpr int TypZwilling = 8;
+
+constexpr Werkzeug Werkzeuge[] = {
+    {1, AktionPersonSetzen, TypMännlich, GrößeNormal},
+    {2, AktionPersonSetzen, TypWeiblich, GrößeNormal},
+    {3, AktionPersonSetzen, TypSchwangerschaft, GrößeKlein},
+    {4, AktionPersonSetzen, 4, GrößeKlein},
+    {5, AktionPersonSetzen, 5, GrößeKlein},
+    {6, AktionPersonSetzen, 6, GrößeKlein},
+    {7, AktionPersonSetzen, 7, GrößeKlein},
+    {WerkzeugKreislinie, AktionKreisZeichnen},
+    {WerkzeugText, AktionTextGesetzt},
+    {WerkzeugEltern, AktionElternSetzen, TypEltern, GrößeNormal},
+    {WerkzeugBeziehung, AktionBeziehungZiehen},
+    {WerkzeugPartnerschaft, AktionPartnerschaftZiehen},
+    {WerkzeugKind, AktionKindZiehen},
+    {WerkzeugPfeil, AktionPfeilZeichnen, 0, 0, 1},
+    {WerkzeugDoppelpfeil, AktionPfeilZeichnen, 0, 0, 2},
+    {17, AktionPersonSetzen, TypInstitution, GrößeNormal},
+    {18, AktionPersonSetzen, TypWeiblichZuMännlich, GrößeNormal},
+    {19, AktionPersonSetzen, TypMännlichZuWeiblich, GrößeNormal},
+    {20, AktionPersonSetzen, TypDivers, GrößeNormal},
+};
+
+bool HatPerson(const Werkbank &w) {
+    return w.lage.PersAuswahl > 0 && w.lage.PersAuswahl <= w.dokument.cboPersonen.Anzahl();
+}
+
+/// A child of somebody can't become another's.
+bool KannKindWerden(const Werkbank &w) {
+    if (!HatPerson(w) || ZahlLesen(w.lage.PersNr) < 1) return false;
+    const Felder feld(w.dokument.cboPersonen.Satz(w.lage.PersAuswahl - 1));
+    return Getrimmt(feld.OderLeer(PersonFeld::ElternLinie)).empty();
+}
+
+bool Brauchbar(const Werkbank &w, int nummer) {
+    if (nummer == WerkzeugKind) return KannKindWerden(w);
+    return (nummer != WerkzeugBeziehung && nummer != WerkzeugPartnerschaft) || HatPerson(w);
+}
+
+/// The links start from the selected person; without one nothing is armed.
+bool LinkBeginnen(Werkbank &w, int nummer) {
+    if (nummer != WerkzeugBeziehung && nummer != WerkzeugPartnerschaft && nummer != WerkzeugKind) return false;
+    if (!Brauchbar(w, nummer)) w.lage.Aktion = AktionNichts;
+    else if (nummer == WerkzeugBeziehung) mnuBeziehungErstellen2(w);
+    else if (nummer == WerkzeugPartnerschaft) mnuPartnerschaftsLinie(w);
+    else mnuKindVon(w);
+    return true;
+}
+
+bool IstGedrückt(const Leinwandlage &lage, const Werkzeug &werkzeug) {
+    if (lage.Aktion != werkzeug.Aktion) return false;
+    if (werkzeug.PfeilArt) return werkzeug.PfeilArt == lage.PfeilArt;
+    return lage.Aktion != AktionPersonSetzen || werkzeug.Typ == lage.SymbolTyp;
+}
+
+} // namespace
+
+std::string WerkzeugName(int nummer) { return "cmdSymb(" + std::to_string(nummer) + ")"; }
+
+void WerkzeugDrücken(Werkbank &w, int nummer) {
+    if (nummer == WerkzeugZwillinge) { // works on what is selected
+        cmdZwillinge(w);
+        return;
+    }
+    Leinwandlage &lage = w.lage;
+    MarkierungsListBoxenLöschen(w);
+    lage.Info.Visible = false;
+    lage.Aktion = AktionPersonSetzen;
+    AuswahlrahmenParken(w);
+    LinkAufräumen(w);
+    MarkerEntfernen(w); // also redraws, without what was selected
+    lage.Zeiger = nummer < WerkzeugZwillinge ? Mauszeiger::Person : Mauszeiger::Pfeil;
+    if (LinkBeginnen(w, nummer)) return;
+    const auto werkzeug =
+        std::find_if(std::begin(Werkzeuge), std::end(Werkzeuge), [&](const Werkzeug &z) { return z.Nummer == nummer; });
+    if (werkzeug == std::end(Werkzeuge)) return;
+    lage.Aktion = werkzeug->Aktion;
+    if (werkzeug->Typ) {
+        lage.SymbolTyp = werkzeug->Typ;
+        lage.SymbolGröße = werkzeug->Größe;
+    }
+    if (werkzeug->PfeilArt) lage.PfeilArt = werkzeug->PfeilArt;
+    if (nummer == WerkzeugKreislinie) lage.KreisAuswahl = 0;
+}
+
+void cmdZwillinge(Werkbank &w) {
+    const int vorher = w.lage.Aktion;
+    w.lage.Aktion = AktionPersonSetzen;
+    w.lage.SymbolGröße = GrößeNormal;
+    w.lage.SymbolTyp = TypZwilling;
+    w.fenster.PopupÖffnen("mnuZwillinge");
+    // A dismissed menu arms nothing, there is no such symbol to place: what was selected stays so.
+    if (w.lage.Aktion == AktionPersonSetzen) w.lage.Aktion = vorher;
+}
+
+void PaletteAuffrischen(Werkbank &w) {
+    for (const Werkzeug &werkzeug : Werkzeuge) {
+        Bedienelement &knopf = w.bedienung[WerkzeugName(werkzeug.Nummer)];
+        knopf.Checked = IstGedrückt(w.lage, werkzeug);
+        knopf.Enabled = Brauchbar(w, werkzeug.Nummer);
+    }
+    w.bedienung["cmdDelete"].Enabled = w.lage.Aktion == AktionGruppeGewählt;
+}
+
+} // namespace kw

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+
+namespace kw {
+
+/// State of one menu entry, toolbar item, palette button or panel.
+struct Bedienelement {
+    std::string Caption;
+    bool Enabled = true;
+    bool Visible = true;
+    bool Checked = false; ///< ticked, or for a button pressed
+};
+
+/// The states of everything that the user can press, under the names of the elements. The model writes them,
+/// the face shows them; neither decides by them but for the buttons that stand for a state (legend).
+class Bedienelemente {
+  public:
+    /// Element `name`; an unknown name is a fault of the program and throws std::out_of_range.
+    Bedienelement &operator[](std::string_view name) {
+        const auto i = elemente_.find(name);
+        return i == elemente_.end() ? elemente_.at(std::string(name)) : i->second;
+    }
+    const Bedienelement *Finden(std::string_view name) const {
+        const auto i = elemente_.find(name);
+        return i == elemente_.end() ? nullptr : &i->second;
+    }
+    void Anlegen(std::string_view name, Bedienelement element) { elemente_[std::string(name)] = std::move(element); }
+
+    /// Ticks `name` and clears the others that begin with `gruppe` ("keyZoom").
+    void NurAnkreuzen(std::string_view gruppe, std::string_view name) {
+        for (auto &[eigenerName, element] : elemente_)
+            if (std::string_view(eigenerName).starts_with(gruppe)) element.Checked = eigenerName == name;
+    }
+
+  private:
+    std::map<std::string, Bedienelement, std::less<>> elemente_;
+};
+
+} // namespace kw

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "editing/Auflagen.h"
+
+class QPainter;
+
+namespace kw {
+
+/// Whether any overlay shape shows.
+bool ZeigtAuflagen(const Auflagen &auflagen);
+
+/// Paints the overlay shapes. The painter's origin is the page's top left corner and its unit a logical pixel,
+/// `pixelJeCm` of which are a centimetre. Strokes are equally wide at every zoom, and readable on the page as on
+/// the dark ground around it. An arrow in hand has two heads when `pfeilArt` is 2.
+void AuflagenMalen(QPainter &p, const Auflagen &auflagen, int pfeilArt, double pixelJeCm);
+
+} // namespace kw

@@ -1,0 +1,114 @@
+#include "qt/Menues.h"
+
+#include "app/Befehle.h"
+#include "app/frmMain.h"
+#include "qt/Text.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+
+#include <algorithm>
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+bool IstTrennstrich(const Menüzeile &zeile) { return zeile.Englisch == Trennstrich; }
+
+bool IstMenü(const Menüzeile &zeile) {
+    const auto tafel = Menütafel();
+    return std::any_of(tafel.begin(), tafel.end(), [&](const Menüzeile &z) { return z.Menü == zeile.Name; });
+}
+
+/// Whether there is a command behind the row, or behind a row of its menu.
+bool FührtZuBefehl(const Menüzeile &zeile) {
+    if (!IstMenü(zeile)) return BefehlFinden(zeile.Name) != nullptr;
+    const auto tafel = Menütafel();
+    return std::any_of(tafel.begin(), tafel.end(),
+                       [&](const Menüzeile &z) { return z.Menü == zeile.Name && FührtZuBefehl(z); });
+}
+
+/// The caption without the blanks that once aligned columns, and without the key's name behind it: the menu
+/// shows the shortcut itself. What isn't from the table (a file's name) has no mnemonics.
+QString Beschriftung(const Menüzeile &zeile, const std::string &caption) {
+    QString text = Text(caption);
+    if (!zeile.Kürzel.empty())
+        if (const auto lücke = text.trimmed().indexOf(QLatin1String("  ")); lücke > 0)
+            text = text.trimmed().left(lücke);
+    text = text.trimmed();
+    if (caption != zeile.Deutsch && caption != zeile.Englisch) text.replace(u'&', QLatin1String("&&"));
+    return text;
+}
+
+} // namespace
+
+Menüs::Menüs(frmMain &haupt, std::function<void(std::string_view)> ausführen)
+    : haupt_(haupt), ausführen_(std::move(ausführen)) {}
+
+void Menüs::Füllen(QMenu &menü, std::string_view name, std::vector<Eintrag> &einträge) {
+    for (const Menüzeile &zeile : Menütafel()) {
+        if (zeile.Menü != name) continue;
+        if (IstTrennstrich(zeile)) {
+            einträge.push_back({&zeile, menü.addSeparator()});
+        } else if (!FührtZuBefehl(zeile)) {
+            continue;
+        } else if (IstMenü(zeile)) {
+            QMenu *unter = menü.addMenu(QString());
+            einträge.push_back({&zeile, unter->menuAction()});
+            Füllen(*unter, zeile.Name, einträge);
+        } else {
+            QAction *aktion = menü.addAction(QString());
+            aktion->setData(Text(zeile.Name));
+            einträge.push_back({&zeile, aktion});
+        }
+    }
+}
+
+void Menüs::Bauen(QMenuBar &leiste) {
+    for (const Menüzeile &zeile : Menütafel()) {
+        if (zeile.Menü != Menüleiste || !IstMenü(zeile) || !FührtZuBefehl(zeile)) continue;
+        QMenu *menü = leiste.addMenu(QString());
+        einträge_.push_back({&zeile, menü->menuAction()});
+        Füllen(*menü, zeile.Name, einträge_);
+        QObject::connect(menü, &QMenu::aboutToShow, menü, [this] { Auffrischen(); });
+    }
+    for (const auto &[zeile, aktion] : einträge_) {
+        if (!zeile->Kürzel.empty()) aktion->setShortcut(QKeySequence(Text(zeile->Kürzel), QKeySequence::PortableText));
+        if (!aktion->menu() && !aktion->isSeparator())
+            QObject::connect(aktion, &QAction::triggered, aktion, [this, name = zeile->Name] { ausführen_(name); });
+    }
+}
+
+void Menüs::Zeigen(const Eintrag &eintrag) {
+    const Bedienelement *element = haupt_.bedienung.Finden(eintrag.Zeile->Name);
+    if (!element) return;
+    eintrag.Aktion->setVisible(element->Visible);
+    if (eintrag.Aktion->isSeparator()) return;
+    eintrag.Aktion->setText(Beschriftung(*eintrag.Zeile, element->Caption));
+    eintrag.Aktion->setEnabled(element->Enabled);
+    eintrag.Aktion->setCheckable(element->Checked);
+    eintrag.Aktion->setChecked(element->Checked);
+}
+
+void Menüs::Auffrischen() {
+    if (einträge_.empty()) return;
+    haupt_.mnuBearbeiten_Öffnen();
+    for (const Eintrag &eintrag : einträge_) Zeigen(eintrag);
+}
+
+std::optional<std::string> Menüs::Popup(std::string_view menü, QPoint ort, QWidget &fenster) {
+    const QPointer<QMenu> popup = new QMenu(&fenster);
+    std::vector<Eintrag> einträge;
+    Füllen(*popup, menü, einträge);
+    for (const Eintrag &eintrag : einträge) Zeigen(eintrag);
+    const QAction *gewählt = popup->isEmpty() ? nullptr : popup->exec(ort);
+    std::optional<std::string> name;
+    if (popup && gewählt) name = gewählt->data().toString().toStdString();
+    delete popup;
+    return name;
+}
+
+} // namespace kw

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "commands/Menuetafel.h"
+
+#include <QPoint>
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class QAction;
+class QMenu;
+class QMenuBar;
+class QWidget;
+
+namespace kw {
+
+class frmMain;
+
+/// The menus of the table, as far as the program has commands for them. Captions and states are the model's.
+class Menüs {
+  public:
+    /// `ausführen` runs the command that the user has picked in the menu bar, or by its shortcut.
+    Menüs(frmMain &haupt, std::function<void(std::string_view)> ausführen);
+
+    void Bauen(QMenuBar &leiste);
+    /// Copies captions and states. After every event too, for shortcuts obey them without any menu.
+    void Auffrischen();
+
+    /// Shows context menu `menü` with its corner at `ort` on the screen, until the user is done. Gives the name of
+    /// what was picked; runs nothing.
+    std::optional<std::string> Popup(std::string_view menü, QPoint ort, QWidget &fenster);
+
+  private:
+    struct Eintrag {
+        const Menüzeile *Zeile;
+        QAction *Aktion;
+    };
+    void Füllen(QMenu &menü, std::string_view name, std::vector<Eintrag> &einträge);
+    void Zeigen(const Eintrag &eintrag);
+
+    frmMain &haupt_;
+    std::function<void(std::string_view)> ausführen_;
+    std::vector<Eintrag> einträge_; ///< of the menu bar
+};
+
+} // namespace kw

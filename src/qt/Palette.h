@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace kw {
+
+class frmMain;
+class Merkmalfeld;
+class Palettenknopf;
+
+/// The tool palette at the left of the page: the tools in two columns, the delete button, and below them what
+/// holds for the selected person. One stop of the tab order; the arrow keys go from button to button.
+class Werkzeugpalette : public QWidget {
+  public:
+    /// `ausführen` runs the command that a pressed button stands for.
+    Werkzeugpalette(QWidget *fläche, frmMain &haupt, std::function<void(std::string_view)> ausführen);
+
+    /// Copies the model's states, and the strip beside the frame that the palette has; without one it hides.
+    void Auffrischen();
+    /// Where a popup opens that was asked for by keyboard: beside the button with the focus, on the screen.
+    std::optional<QPoint> Popuport() const;
+
+  protected:
+    void resizeEvent(QResizeEvent *) override { Anordnen(); }
+
+  private:
+    struct Platz;
+    void KnöpfeAnlegen();
+    void Anordnen();
+    void TabstoppSetzen();
+    bool Gehen(int von, int taste);
+
+    frmMain &haupt_;
+    std::function<void(std::string_view)> ausführen_;
+    std::vector<Palettenknopf *> knöpfe_; ///< by their places
+    std::vector<Merkmalfeld *> merkmale_;
+    int aktuell_ = 0; ///< the button that Tab reaches
+};
+
+} // namespace kw

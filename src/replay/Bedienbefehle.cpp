@@ -1,0 +1,120 @@
+#include "app/Befehle.h"
+#include "editing/Werkzeuge.h"
+#include "replay/Skriptbefehle.h"
+
+#include <algorithm>
+#include <map>
+
+namespace kw {
+
+namespace {
+
+/// What the user chooses, wherever it stands; menus, toolbar and palette need no roads of their own.
+void Auslösen(Wiedergabe &lauf, const std::string &name) {
+    frmMain &haupt = lauf.Läuft().haupt;
+    if (!haupt.bedienung.Finden(name) && !BefehlFinden(name)) throw Skriptfehler("unknown name: " + name);
+    if (!haupt.BefehlAusführen(name)) lauf.aus << "disabled " << name << "\n";
+}
+
+void WerkzeugWählen(Wiedergabe &lauf, const std::string &wort) {
+    if (wort == "zwillinge") return Auslösen(lauf, "cmdZwillinge");
+    const int nummer = Zahl(wort);
+    if (nummer < 1 || nummer > WerkzeugAnzahl) throw Skriptfehler("no such tool: " + wort);
+    Auslösen(lauf, WerkzeugName(nummer));
+}
+
+void TasteTippen(Wiedergabe &lauf, const std::string &kürzel) {
+    const auto tafel = Menütafel();
+    const auto zeile = std::find_if(tafel.begin(), tafel.end(), [&](const Menüzeile &z) { return z.Kürzel == kürzel; });
+    if (kürzel.empty() || zeile == tafel.end()) throw Skriptfehler("unknown key: " + kürzel);
+    Auslösen(lauf, std::string(zeile->Name));
+}
+
+void MenüwahlVormerken(Wiedergabe &lauf, const std::string &name) {
+    if (!MenüzeileFinden(name)) throw Skriptfehler("unknown name: " + name);
+    lauf.Läuft().benutzer.Menüwahlen.push_back(name);
+}
+
+void Beantworten(Wiedergabe &lauf, const Wörter &w) {
+    static const std::map<std::string_view, Antwort> Knopfwörter{
+        {"yes", Antwort::Ja}, {"no", Antwort::Nein}, {"cancel", Antwort::Abbrechen}, {"ok", Antwort::Ok}};
+    DrehbuchBenutzer::Vorbereitet antwort;
+    if (Wort(w, 1) == "file" || w[1] == "colour") {
+        using Art = DrehbuchBenutzer::Vorbereitet::Art;
+        antwort.Wofür = w[1] == "file" ? Art::Datei : Art::Farbwert;
+        antwort.Wert = Ab(w, 2);
+        antwort.Abgebrochen = antwort.Wert == "cancel";
+    } else {
+        const auto knopf = Knopfwörter.find(w[1]);
+        if (knopf == Knopfwörter.end()) throw Skriptfehler("unknown answer: " + w[1]);
+        antwort.Knopf = knopf->second;
+    }
+    lauf.Läuft().benutzer.Antworten.push_back(antwort);
+}
+
+/// The lists of the toolbar, and what a choice in them does.
+struct Wahlliste {
+    std::string_view Name;
+    const Auswahlliste &(*Liste)(frmMain &);
+    void (*Wählen)(frmMain &, int);
+};
+
+constexpr Wahlliste Wahllisten[] = {
+    {"cboBildGröße", [](frmMain &h) -> const Auswahlliste & { return h.bereich.cboBildGröße; },
+     [](frmMain &h, int i) { h.bereich.ZoomWählen(i); }},
+    {"cboRaster", [](frmMain &h) -> const Auswahlliste & { return h.cboRaster; },
+     [](frmMain &h, int i) { h.RasterWählen(i); }},
+};
+
+void Wählen(Wiedergabe &lauf, const std::string &name, const std::string &index) {
+    const auto wahl = std::find_if(std::begin(Wahllisten), std::end(Wahllisten),
+                                   [&](const Wahlliste &liste) { return liste.Name == name; });
+    if (wahl == std::end(Wahllisten)) throw Skriptfehler("unknown list: " + name);
+    frmMain &haupt = lauf.Läuft().haupt;
+    const int i = Zahl(index);
+    if (i < 0 || i >= wahl->Liste(haupt).Anzahl()) throw Skriptfehler("no such entry: " + index);
+    wahl->Wählen(haupt, i);
+}
+
+void ZeitgeberAuslösen(Programm &p, const std::string &name) {
+    constexpr std::string_view Bekannt[] = {"Timer2", "Timer3", "Timer4"};
+    const auto gestartet = std::erase_if(p.benutzer.ZeitgeberListe, [&](const auto &z) { return z.Name == name; });
+    if (gestartet == 0 && std::find(std::begin(Bekannt), std::end(Bekannt), name) == std::end(Bekannt))
+        throw Skriptfehler("unknown timer: " + name);
+    p.haupt.ZeitgeberAbgelaufen(name);
+}
+
+void Warten(Programm &p, int ms) {
+    DrehbuchBenutzer &b = p.benutzer;
+    const int ende = b.Jetzt + ms;
+    while (true) {
+        const auto nächster = std::min_element(b.ZeitgeberListe.begin(), b.ZeitgeberListe.end(),
+                                               [](const auto &x, const auto &y) { return x.Fällig < y.Fällig; });
+        if (nächster == b.ZeitgeberListe.end() || nächster->Fällig > ende) break;
+        b.Jetzt = nächster->Fällig;
+        ZeitgeberAuslösen(p, std::string(nächster->Name));
+    }
+    b.Jetzt = ende;
+}
+
+constexpr Skriptbefehl Tabelle[] = {
+    {"tool", [](auto &lauf, auto &w, auto &) { WerkzeugWählen(lauf, Wort(w, 1)); }},
+    {"press", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
+    {"menu", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
+    {"toolbar", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
+    {"key", [](auto &lauf, auto &w, auto &) { TasteTippen(lauf, Wort(w, 1)); }},
+    {"popup", [](auto &lauf, auto &w, auto &) { MenüwahlVormerken(lauf, Wort(w, 1)); }},
+    {"answer", [](auto &lauf, auto &w, auto &) { Beantworten(lauf, w); }},
+    {"pick", [](auto &lauf, auto &w, auto &) { Wählen(lauf, Wort(w, 1), Wort(w, 2)); }},
+    {"resize",
+     [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
+    {"close", [](auto &lauf, auto &, auto &) { lauf.aus << (lauf.Läuft().haupt.Schließen() ? "closed\n" : "open\n"); }},
+    {"wait", [](auto &lauf, auto &w, auto &) { Warten(lauf.Läuft(), Zahl(Wort(w, 1))); }},
+    {"raise", [](auto &lauf, auto &w, auto &) { ZeitgeberAuslösen(lauf.Läuft(), Wort(w, 1)); }},
+};
+
+} // namespace
+
+std::span<const Skriptbefehl> Bedienbefehle() { return Tabelle; }
+
+} // namespace kw

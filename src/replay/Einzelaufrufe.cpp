@@ -1,0 +1,53 @@
+#include "document/Codepage.h"
+#include "document/Profil.h"
+#include "replay/Skriptbefehle.h"
+
+#include <algorithm>
+
+namespace kw {
+
+namespace {
+
+void AlterBerechnen(Wiedergabe &lauf, const std::string &text) {
+    Altersberechnung &alter = lauf.Läuft().alter;
+    alter.AlterAusDatum(text);
+    lauf.aus << alter.strGebDatumText << "\n"
+             << alter.strAlterText << "\n"
+             << alter.strGebJahrText << "\n"
+             << alter.bDatumUngueltig << "\n";
+}
+
+void Profilaufruf(std::ostream &aus, const std::string &datei, const std::string &zeile) {
+    const auto zeigen = [&](char art, std::string text) {
+        const size_t länge = NachCodepage(text).size();
+        std::replace(text.begin(), text.end(), '\0', '|');
+        aus << art << " " << länge << " [" << text << "]\n";
+    };
+    const Wörter t = Geteilt(zeile, '\t');
+    const std::string &abschnitt = Wort(t, 1);
+    if (t[0] == "W") aus << "W " << ProfilSchreiben(datei, abschnitt, Wort(t, 2), t.size() > 3 ? t[3] : "") << "\n";
+    else if (t[0] == "D") aus << "D " << ProfilSchreiben(datei, abschnitt, std::nullopt, "") << "\n";
+    else if (t[0] == "R") zeigen('R', ProfilLesen(datei, abschnitt, Wort(t, 2)));
+    else if (t[0] == "K") zeigen('K', ProfilLesen(datei, abschnitt, std::nullopt));
+    else throw Skriptfehler("unknown call: " + t[0]);
+}
+
+void Profilaufrufe(Wiedergabe &lauf, const std::string &datei) {
+    std::string zeile;
+    while (lauf.NächsteZeile(zeile)) {
+        if (zeile == "end") return;
+        if (!zeile.empty()) Profilaufruf(lauf.aus, datei, zeile);
+    }
+    throw Skriptfehler("profil without end");
+}
+
+constexpr Skriptbefehl Tabelle[] = {
+    {"age", [](auto &lauf, auto &w, auto &) { AlterBerechnen(lauf, w.size() > 1 ? Ab(w, 1) : ""); }},
+    {"profil", [](auto &lauf, auto &w, auto &) { Profilaufrufe(lauf, Ab(w, 1)); }},
+};
+
+} // namespace
+
+std::span<const Skriptbefehl> Einzelaufrufe() { return Tabelle; }
+
+} // namespace kw

@@ -1,0 +1,132 @@
+#include "document/Zahlen.h"
+#include "replay/Skriptbefehle.h"
+
+#include <cmath>
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+void Speichern(Projekt &projekt, const std::string &datei) {
+    projekt.Projektdatei = datei;
+    projekt.ProjektSchreiben();
+}
+
+void Ablegen(Programm &p, const Wörter &w) {
+    const auto liste = p.namen.Listen.find(Wort(w, 1));
+    if (liste == p.namen.Listen.end()) throw Skriptfehler("unknown store: " + w[1]);
+    liste->second->Anhängen(Ab(w, 2));
+}
+
+void Setzen(Programm &p, const Wörter &w) {
+    const auto variable = p.namen.Variablen.find(Wort(w, 1));
+    if (variable == p.namen.Variablen.end() || !variable->second.Setzen)
+        throw Skriptfehler("no variable to set: " + w[1]);
+    variable->second.Setzen(w.size() > 2 ? Ab(w, 2) : "");
+}
+
+std::string Wert(const Programm &p, const std::string &name) {
+    if (const auto v = p.namen.Variablen.find(name); v != p.namen.Variablen.end()) return v->second.Lesen();
+    if (const auto l = p.namen.Listen.find(name); l != p.namen.Listen.end()) return std::to_string(l->second->Anzahl());
+    throw Skriptfehler("unknown name: " + name);
+}
+
+std::string Zustand(const Programm &p, const std::string &frage, const std::string &name) {
+    if (const auto s = p.namen.Sichtbar.find(name); frage == "visible" && s != p.namen.Sichtbar.end())
+        return std::to_string(s->second());
+    const Bedienelement *element = p.haupt.bedienung.Finden(name);
+    if (!element) throw Skriptfehler("unknown element: " + name);
+    if (frage == "caption") return element->Caption;
+    if (frage == "enabled") return std::to_string(element->Enabled);
+    if (frage == "visible") return std::to_string(element->Visible);
+    if (frage == "checked") return std::to_string(element->Checked);
+    throw Skriptfehler("unknown word: " + frage);
+}
+
+void Erwarten(Wiedergabe &lauf, const std::string &zeile) {
+    const size_t gleich = zeile.find(" = ");
+    const bool leer = gleich == std::string::npos && zeile.ends_with(" =");
+    if (gleich == std::string::npos && !leer) throw Skriptfehler("expect NAME = VALUE");
+    const Wörter links = Zerlegt(zeile.substr(0, leer ? zeile.size() - 2 : gleich));
+    std::string soll(leer ? "" : Getrimmt(std::string_view(zeile).substr(gleich + 3)));
+    if (soll.size() > 1 && soll.starts_with('"') && soll.ends_with('"')) soll = Ab(Zerlegt(soll), 0);
+    const Programm &p = lauf.Läuft();
+    const std::string ist = links.size() > 2 ? Zustand(p, links[1], links[2]) : Wert(p, Wort(links, 1));
+    if (ist != soll) lauf.Scheitern("expected " + Ab(links, 1) + " = " + soll + ", found " + ist);
+}
+
+std::string FormText(const Programm &p, const std::string &name) {
+    const auto form = p.namen.Formen.find(name);
+    if (form == p.namen.Formen.end()) throw Skriptfehler("unknown shape: " + name);
+    return name + " " + form->second() + (p.namen.Sichtbar.at(name)() ? " visible" : " hidden");
+}
+
+void Drucken(Wiedergabe &lauf, const Wörter &w) {
+    Programm &p = lauf.Läuft();
+    const std::string &name = Wort(w, 1);
+    if (name == "boxes") {
+        lauf.aus << std::exchange(p.benutzer.Kästen, {});
+        return;
+    }
+    if (name == "shape") {
+        lauf.aus << FormText(p, Wort(w, 2)) << "\n";
+        return;
+    }
+    if (w.size() > 2) { // caption|enabled|visible|checked NAME
+        const std::string zustand = Zustand(p, name, w[2]);
+        lauf.aus << name << " " << w[2] << " = " << zustand << "\n";
+        return;
+    }
+    if (const auto liste = p.namen.Listen.find(name); liste != p.namen.Listen.end()) {
+        lauf.aus << name << " " << liste->second->Anzahl() << "\n";
+        for (const auto &satz : *liste->second) lauf.aus << "  " << satz << "\n";
+        return;
+    }
+    const std::string wert = Wert(p, name);
+    lauf.aus << name << " = " << wert << "\n";
+}
+
+/// One print run, on a surface of the page's size.
+std::string DruckText(frmMain &haupt) {
+    const Ansicht &a = haupt.ansicht;
+    const auto twips = [](double cm) { return static_cast<int>(std::nearbyint(cm * TwipsJeCm)); };
+    Aufzeichnung papier;
+    papier.GrößeSetzen(twips(a.SeitenBreite), twips(a.SeitenHöhe));
+    papier.PixelJeCm = DruckPixelJeCm;
+    papier.Scale(a.SeitenBreite, a.SeitenHöhe, 1);
+    papier.Schreibt = true;
+    Zeichnung bild = haupt.DasBild();
+    DruckZeichnen(papier, bild);
+    return papier.Text;
+}
+
+std::string VorschauText(Programm &p) {
+    p.leinwand.Text.clear();
+    p.leinwand.Schreibt = true;
+    p.haupt.Vorschau();
+    p.leinwand.Schreibt = false;
+    return p.leinwand.Text;
+}
+
+void Zeichnen(Wiedergabe &lauf, const Wörter &w) {
+    if (w.size() > 1 && w[1] != "printing") throw Skriptfehler("unknown word: " + w[1]);
+    Programm &p = lauf.Läuft();
+    lauf.aus << (w.size() > 1 ? DruckText(p.haupt) : VorschauText(p));
+}
+
+constexpr Skriptbefehl Tabelle[] = {
+    {"load", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt.projekt.Öffnen(Ab(w, 1)); }},
+    {"save", [](auto &lauf, auto &w, auto &) { Speichern(lauf.Läuft().haupt.projekt, Ab(w, 1)); }},
+    {"store", [](auto &lauf, auto &w, auto &) { Ablegen(lauf.Läuft(), w); }},
+    {"set", [](auto &lauf, auto &w, auto &) { Setzen(lauf.Läuft(), w); }},
+    {"print", [](auto &lauf, auto &w, auto &) { Drucken(lauf, w); }},
+    {"expect", [](auto &lauf, auto &, auto &zeile) { Erwarten(lauf, zeile); }},
+    {"draw", [](auto &lauf, auto &w, auto &) { Zeichnen(lauf, w); }},
+};
+
+} // namespace
+
+std::span<const Skriptbefehl> Zustandsbefehle() { return Tabelle; }
+
+} // namespace kw

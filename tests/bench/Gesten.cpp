@@ -1,0 +1,115 @@
+// Speed of what the pointer does, by the size of the document, without the redraw's painting: the canvas takes the
+// primitives and drops them.
+
+#include "Familien.h"
+
+#include "app/frmMain.h"
+#include "editing/Loeschen.h"
+#include "editing/Treffer.h"
+#include "replay/Aufzeichnung.h"
+#include "replay/Plattform.h"
+
+#include <benchmark/benchmark.h>
+
+#include <sstream>
+
+namespace kw {
+namespace {
+
+/// A window with a document of `n` persons.
+struct Sitzung {
+    explicit Sitzung(benchmark::State &lauf) : haupt({benutzer, drucker, uhr}, leinwand, {"", "", 28800, 16200}) {
+        haupt.Laden();
+        haupt.dokument = Familien(static_cast<int>(lauf.range(0)));
+        haupt.Vorschau();
+        haupt.Sichern();
+    }
+    void Ziehen(double x1, double y1, double x2, double y2) {
+        haupt.MouseDown(TasteLinks, x1, y1);
+        haupt.MouseMove(TasteLinks, x2, y2);
+        haupt.MouseUp(TasteLinks, x2, y2);
+    }
+    /// A marquee over the left half of the page: half of the persons.
+    void HälfteWählen() { Ziehen(0.2, 0.2, 14.8, 20.8); }
+
+    std::ostringstream aus;
+    DrehbuchBenutzer benutzer{aus};
+    DrehbuchDrucker drucker;
+    DrehbuchUhr uhr;
+    Aufzeichnung leinwand;
+    frmMain haupt;
+};
+
+/// Every hit test, at a place where all of them miss.
+void Treffer(benchmark::State &lauf) {
+    const Sitzung s(lauf);
+    const Dokument &d = s.haupt.dokument;
+    for (auto _ : lauf)
+        benchmark::DoNotOptimize(KreisLinieBei(d, 29, 20) + PersonBei(d, 29, 20) + BezLinieBei(d, 29, 20) +
+                                 PLinieBei(d, 29, 20) + KindLinieBei(d, 29, 20, 1.2) + PfeilBei(d, 29, 20) +
+                                 TextboxBei(d, 29, 20));
+}
+
+void Rahmen(benchmark::State &lauf) {
+    Sitzung s(lauf);
+    for (auto _ : lauf) {
+        s.HälfteWählen();
+        lauf.PauseTiming();
+        s.Ziehen(29.5, 20.9, 29.5, 20.9);
+        lauf.ResumeTiming();
+    }
+}
+
+void GruppeBewegen(benchmark::State &lauf) {
+    Sitzung s(lauf);
+    s.HälfteWählen();
+    double weg = 0.3;
+    for (auto _ : lauf) {
+        const Auflagenform &rahmen = s.haupt.auflagen.shpBox;
+        const double x = rahmen.Left + 1;
+        const double y = rahmen.Top + 1;
+        s.Ziehen(x, y, x + weg, y + weg);
+        weg = -weg;
+    }
+}
+
+void Löschen(benchmark::State &lauf) {
+    Sitzung s(lauf);
+    const Dokument ganz = s.haupt.dokument;
+    for (auto _ : lauf) {
+        lauf.PauseTiming();
+        s.haupt.dokument = ganz;
+        s.HälfteWählen();
+        lauf.ResumeTiming();
+        mnuLöschen1(s.haupt.werkbank);
+    }
+}
+
+void Schnappschuss(benchmark::State &lauf) {
+    Sitzung s(lauf);
+    for (auto _ : lauf) s.haupt.Sichern();
+}
+
+void UndoUndRedo(benchmark::State &lauf) {
+    Sitzung s(lauf);
+    s.haupt.Sichern();
+    for (auto _ : lauf) {
+        s.haupt.cmdUndo();
+        s.haupt.cmdredo();
+    }
+}
+
+void Personenzahlen(benchmark::internal::Benchmark *b) {
+    for (const int n : {10, 100, 300, 900}) b->Arg(n);
+    b->Unit(benchmark::kMicrosecond);
+}
+
+BENCHMARK(Treffer)->Apply(Personenzahlen);
+BENCHMARK(Rahmen)->Apply(Personenzahlen);
+BENCHMARK(GruppeBewegen)->Apply(Personenzahlen);
+BENCHMARK(Löschen)->Apply(Personenzahlen);
+BENCHMARK(Schnappschuss)->Apply(Personenzahlen);
+BENCHMARK(UndoUndRedo)->Apply(Personenzahlen);
+
+} // namespace
+} // namespace kw
