@@ -232,27 +232,34 @@ void BalkenBewegen(Werkbank &w) {
     }
 }
 
-void Bez_LinieAnpassen(Werkbank &w, std::string_view beziehungsart) {
-    Satzliste &linien = w.dokument.cboBeziehungsLinien;
-    const int i = w.lage.BezAuswahl;
-    if (i < 0 || i >= linien.Anzahl()) return;
-    Satzbau satz(linien.Satz(i), BezFeld::Anzahl);
-    linien.Ersetzen(i, satz.Setzen(BezFeld::Beziehungsart, beziehungsart).Text());
+namespace {
+
+void LinieAngepasst(Werkbank &w) {
     w.lage.Aktion = AktionNichts;
     Gummi1Parken(w);
     w.fenster.Vorschau();
     w.fenster.Sichern();
 }
 
-void P_LinieAnpassen(Werkbank &w, std::string_view felder) {
+} // namespace
+
+void Bez_LinieAnpassen(Werkbank &w, std::string_view beziehungsart) {
+    Satzliste &linien = w.dokument.cboBeziehungsLinien;
+    const int i = w.lage.BezAuswahl;
+    if (i < 0 || i >= linien.Anzahl()) return;
+    Satzbau satz(linien.Satz(i), BezFeld::Anzahl);
+    linien.Ersetzen(i, satz.Setzen(BezFeld::Beziehungsart, beziehungsart).Text());
+    LinieAngepasst(w);
+}
+
+void P_LinieAnpassen(Werkbank &w, std::string_view distanziert, std::string_view status, std::string_view daten) {
     Satzliste &linien = w.dokument.cboPartnerschaftsLinien;
     const int i = w.lage.PLinieAuswahl;
     if (i < 0 || i >= linien.Anzahl()) return;
-    linien.Ersetzen(i, Satzbau(felder, PLinieFeld::Anzahl).Text());
-    w.lage.Aktion = AktionNichts;
-    Gummi1Parken(w);
-    w.fenster.Vorschau();
-    w.fenster.Sichern();
+    Satzbau satz(linien.Satz(i), PLinieFeld::Anzahl);
+    satz.Setzen(PLinieFeld::Distanziert, distanziert).Setzen(PLinieFeld::Status, status);
+    linien.Ersetzen(i, satz.Setzen(PLinieFeld::Daten, daten).Text());
+    LinieAngepasst(w);
 }
 
 } // namespace kw

@@ -23,7 +23,6 @@ void BalkenBewegen(Werkbank &w);
 
 /// Writes a form's values into the line that it was opened for; one snapshot.
 void Bez_LinieAnpassen(Werkbank &w, std::string_view beziehungsart);
-/// `felder` are the partnership's fields as the form leaves them, joined by "_".
-void P_LinieAnpassen(Werkbank &w, std::string_view felder);
+void P_LinieAnpassen(Werkbank &w, std::string_view distanziert, std::string_view status, std::string_view daten);
 
 } // namespace kw

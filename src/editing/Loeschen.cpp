@@ -39,6 +39,7 @@ void PartnerschaftEntfernen(Dokument &d, int linie) {
     const std::string nr = d.cboPartnerschaftsLinien.Satz(linie).substr(0, 3);
     Entfernen(d.cboKindlinien, KindFeld::Anzahl, [&](const Felder &f) { return f[KindFeld::PLinie] == nr; });
     for (int i = 0; i < d.cboPersonen.Anzahl(); ++i) {
+        if (d.cboPersonen.Satz(i).find(nr) == std::string::npos) continue; // spares splitting nearly all of them
         const Felder feld(d.cboPersonen.Satz(i));
         if (feld.OderLeer(PersonFeld::ElternLinie) != nr) continue;
         const auto zwilling = feld.OderLeer(PersonFeld::Zwilling);
@@ -51,14 +52,26 @@ void PartnerschaftEntfernen(Dokument &d, int linie) {
     d.lstGelöschtePLinien.Anhängen(nr);
 }
 
+/// Equal in value: "002" is "2". Three digits, as nearly all numbers are, need no reading.
+bool NummernGleich(std::string_view a, std::string_view b) {
+    constexpr size_t Üblich = 3;
+    return a == b || ((a.size() != Üblich || b.size() != Üblich) && ZahlLesen(a) == ZahlLesen(b));
+}
+
+/// Positions of single elements, once records have moved up.
+void PositionenVergessen(Leinwandlage &lage) {
+    lage.PersAuswahl = lage.KreisAuswahl = 0;
+    lage.TextAuswahl = lage.BezAuswahl = lage.PLinieAuswahl = lage.KindAuswahl = lage.PfeilAuswahl = -1;
+    lage.PersRecord.clear();
+}
+
 /// Removes person `nr` and every record that names it. Numbers of lines' ends are compared by value.
 void PersonEntfernen(Werkbank &w, const std::string &nr) {
     Dokument &d = w.dokument;
     const int person = PersonMitNr(d, nr);
     if (person < 0) return; // no such person: its number must not become free twice
-    const double wert = ZahlLesen(nr);
     const auto genannt = [&](const Felder &f, int eins, int zwei) {
-        return ZahlLesen(f[eins]) == wert || ZahlLesen(f[zwei]) == wert;
+        return NummernGleich(f[eins], nr) || NummernGleich(f[zwei], nr);
     };
     Entfernen(d.cboBeziehungsLinien, BezFeld::Anzahl,
               [&](const Felder &f) { return genannt(f, BezFeld::PersNr1, BezFeld::PersNr2); });
@@ -68,7 +81,7 @@ void PersonEntfernen(Werkbank &w, const std::string &nr) {
             PartnerschaftEntfernen(d, i);
     }
     Entfernen(d.cboKindlinien, KindFeld::Anzahl,
-              [&](const Felder &f) { return ZahlLesen(f[KindFeld::KindNr]) == wert; });
+              [&](const Felder &f) { return NummernGleich(f[KindFeld::KindNr], nr); });
     d.lstGelöschtePersNr.Anhängen(nr);
 
     const std::string zwilling = ZwillingNr(Felder(d.cboPersonen.Satz(person)).OderLeer(PersonFeld::Zwilling));
@@ -79,12 +92,11 @@ void PersonEntfernen(Werkbank &w, const std::string &nr) {
         d.cboPersonen.Ersetzen(anderer, satz.Setzen(PersonFeld::Zwilling, "").Text());
     }
     w.auflagen.shpMask.Parken();
-    w.lage.PersAuswahl = 0; // positions have moved up
-    w.lage.PersRecord.clear();
 }
 
 /// How every single delete ends.
 void Abschließen(Werkbank &w) {
+    PositionenVergessen(w.lage);
     w.lage.Aktion = AktionNichts;
     w.fenster.Sichern();
     w.bedienung["mnuLöschen1"].Enabled = false;
@@ -110,7 +122,7 @@ void SymbolLöschen(Werkbank &w) {
         w.lage.ElementArt.clear();
         if (!Gültig(boxen, w.lage.TextAuswahl)) return;
         boxen.Entfernen(w.lage.TextAuswahl);
-        w.lage.TextAuswahl = -1;
+        PositionenVergessen(w.lage);
         w.auswahl.lstMovedText.Leeren();
         w.fenster.Vorschau();
         w.fenster.Sichern();
@@ -119,6 +131,7 @@ void SymbolLöschen(Werkbank &w) {
     if (w.dokument.cboPersonen.Leer()) return;
     const int vorher = w.dokument.cboPersonen.Anzahl();
     PersonEntfernen(w, w.lage.PersNr);
+    PositionenVergessen(w.lage);
     if (w.lage.Aktion == AktionGruppeGewählt || w.lage.Aktion == AktionPersonGewählt) return;
     w.fenster.Vorschau();
     if (w.dokument.cboPersonen.Anzahl() < vorher) w.fenster.Sichern();
@@ -127,7 +140,6 @@ void SymbolLöschen(Werkbank &w) {
 void PLinieLöschen(Werkbank &w) {
     if (!Gültig(w.dokument.cboPartnerschaftsLinien, w.lage.PLinieAuswahl)) return;
     PartnerschaftEntfernen(w.dokument, w.lage.PLinieAuswahl);
-    w.lage.PLinieAuswahl = -1;
     w.auswahl.lstMovedPLines.Leeren();
     Gummi1Parken(w);
     Abschließen(w);
@@ -136,14 +148,12 @@ void PLinieLöschen(Werkbank &w) {
 void BezLinieLöschen(Werkbank &w) {
     if (!Gültig(w.dokument.cboBeziehungsLinien, w.lage.BezAuswahl)) return;
     w.dokument.cboBeziehungsLinien.Entfernen(w.lage.BezAuswahl);
-    w.lage.BezAuswahl = -1;
     Abschließen(w);
 }
 
 void PfeilLöschen(Werkbank &w) {
     if (!Gültig(w.dokument.cboPfeile, w.lage.PfeilAuswahl)) return;
     w.dokument.cboPfeile.Entfernen(w.lage.PfeilAuswahl);
-    w.lage.PfeilAuswahl = -1;
     w.auswahl.lstMovedPfeile.Leeren();
     Abschließen(w);
 }
@@ -151,7 +161,6 @@ void PfeilLöschen(Werkbank &w) {
 void KreisLinieLöschen(Werkbank &w) {
     if (!Gültig(w.dokument.cboFreehandlines, w.lage.KreisAuswahl - 1)) return;
     w.dokument.cboFreehandlines.Entfernen(w.lage.KreisAuswahl - 1);
-    w.lage.KreisAuswahl = 0;
     w.auswahl.lstMovedKreisLinien.Leeren();
     Abschließen(w);
 }
@@ -160,7 +169,6 @@ void TextLöschen(Werkbank &w) {
     w.auswahl.lstMovedText.Leeren();
     if (!Gültig(w.dokument.cboTextboxen, w.lage.TextAuswahl)) return;
     w.dokument.cboTextboxen.Entfernen(w.lage.TextAuswahl);
-    w.lage.TextAuswahl = -1;
     MarkerParken(w);
     Abschließen(w);
 }
@@ -170,8 +178,7 @@ void AuswahlLöschen(Werkbank &w) {
     StellenEntfernen(d.cboFreehandlines, w.auswahl.lstMovedKreisLinien, 1);
     StellenEntfernen(d.cboTextboxen, w.auswahl.lstMovedText, 0);
     StellenEntfernen(d.cboPfeile, w.auswahl.lstMovedPfeile, 0);
-    w.lage.KreisAuswahl = 0;
-    w.lage.TextAuswahl = w.lage.PfeilAuswahl = -1;
+    PositionenVergessen(w.lage);
     GruppenPersonenLöschen(w);
     AuswahlrahmenParken(w);
     w.fenster.Sichern();
@@ -219,8 +226,7 @@ void cmdDelete(Werkbank &w) {
     Dokument &d = w.dokument;
     StellenEntfernen(d.cboFreehandlines, w.auswahl.lstMovedKreisLinien, 1);
     StellenEntfernen(d.cboTextboxen, w.auswahl.lstMovedText, 0);
-    w.lage.KreisAuswahl = 0;
-    w.lage.TextAuswahl = -1;
+    PositionenVergessen(w.lage);
     GruppenPersonenLöschen(w);
     for (const auto &nr : w.auswahl.lstMovedPLines) {
         const int linie = PLinieMitNr(d, nr);

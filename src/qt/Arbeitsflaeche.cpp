@@ -4,7 +4,6 @@
 #include "qt/Auflagenmaler.h"
 #include "qt/Zeigerbild.h"
 
-#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -150,29 +149,25 @@ void Arbeitsflaeche::wheelEvent(QWheelEvent *ereignis) {
 /// widget. False when it has.
 bool Arbeitsflaeche::Melden(const std::function<void()> &ereignis) {
     const QPointer<Arbeitsflaeche> ich = this;
-    const bool äußeres = !std::exchange(imModell_, true);
+    const bool vorher = std::exchange(imModell_, true);
     const bool zeigteAuflagen = ZeigtAuflagen(haupt_->auflagen);
     ereignis();
     if (!ich) return false;
-    imModell_ = !äußeres;
+    imModell_ = vorher;
     ZeigerSetzen();
     // The kept picture is copied and the shapes painted over it; nothing of the page is drawn anew.
     if (zeigteAuflagen || taste_ != Qt::NoButton || ZeigtAuflagen(haupt_->auflagen)) update();
-    if (äußeres && wartet_) QCoreApplication::postEvent(this, wartet_.release());
     return true;
 }
 
 /// A press and a double click.
 void Arbeitsflaeche::Drücken(QMouseEvent &ereignis, const std::function<void(QPointF)> &melden) {
     ereignis.accept();
-    if (!haupt_ || Tastencode(ereignis.button()) == TasteKeine) return;
-    if (imModell_) { // dismisses the popup that the event before opened, and counts when that is through
-        wartet_.reset(ereignis.clone());
-        return;
-    }
+    if (!haupt_ || imModell_ || Tastencode(ereignis.button()) == TasteKeine) return;
     if (taste_ != Qt::NoButton && ereignis.buttons() & taste_) return;
     if (!Loslassen()) return;
     setFocus(Qt::MouseFocusReason);
+    if (!Seite().contains(ereignis.position())) return; // a gesture may leave the page, but begins on it
     const QPointF cm = InCm(ereignis.position());
     // The model also judges by the last move, which a popup or a box over the page may have kept from us.
     if (std::exchange(ort_, ereignis.position()) != ereignis.position())

@@ -3,12 +3,10 @@
 #include "editing/Leinwandlage.h"
 #include "qt/LeinwandFlaeche.h"
 
-#include <QMouseEvent>
 #include <QScrollBar>
 #include <QWidget>
 
 #include <functional>
-#include <memory>
 
 namespace kw {
 
@@ -57,7 +55,6 @@ class Arbeitsflaeche : public QWidget {
     Qt::MouseButton taste_ = Qt::NoButton; ///< the button that is down on the canvas; another one doesn't count
     QPointF ort_;                          ///< of the last event, pixels
     bool imModell_ = false;                ///< an event is being worked on, perhaps in a popup's loop
-    std::unique_ptr<QMouseEvent> wartet_;  ///< a press that came meanwhile
     Mauszeiger zeiger_ = Mauszeiger::Pfeil;
     double zeigerverhältnis_ = 0; ///< resolution of the pointer's picture
 };

@@ -5,8 +5,10 @@
 #include "qt/Text.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPointer>
 
 #include <algorithm>
@@ -42,6 +44,38 @@ QString Beschriftung(const Menüzeile &zeile, const std::string &caption) {
     if (caption != zeile.Deutsch && caption != zeile.Englisch) text.replace(u'&', QLatin1String("&&"));
     return text;
 }
+
+/// Sees to a press that dismisses a popup: it is a click on what lies there, as a popup's press is nobody's else.
+class Danebenklick : public QObject {
+  public:
+    Danebenklick() { qApp->installEventFilter(this); }
+
+    /// Once the popup is gone.
+    void Nachreichen(const QWidget &fenster) const {
+        QWidget *ziel = taste_ == Qt::NoButton ? nullptr : QApplication::widgetAt(ort_);
+        if (!ziel || ziel->window() != &fenster) return;
+        const QPoint ort = ziel->mapFromGlobal(ort_);
+        for (const auto art : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+            QCoreApplication::postEvent(ziel, new QMouseEvent(art, ort, ort_, taste_,
+                                                              art == QEvent::MouseButtonPress ? taste_ : Qt::NoButton,
+                                                              Qt::NoModifier));
+    }
+
+  protected:
+    bool eventFilter(QObject *empfänger, QEvent *ereignis) override {
+        if (ereignis->type() != QEvent::MouseButtonPress || !qobject_cast<QMenu *>(empfänger)) return false;
+        const auto *maus = static_cast<QMouseEvent *>(ereignis);
+        const QPoint ort = maus->globalPosition().toPoint();
+        if (qobject_cast<QMenu *>(QApplication::widgetAt(ort))) return false;
+        ort_ = ort;
+        taste_ = maus->button();
+        return false;
+    }
+
+  private:
+    QPoint ort_;
+    Qt::MouseButton taste_ = Qt::NoButton;
+};
 
 } // namespace
 
@@ -104,9 +138,12 @@ std::optional<std::string> Menüs::Popup(std::string_view menü, QPoint ort, QWi
     std::vector<Eintrag> einträge;
     Füllen(*popup, menü, einträge);
     for (const Eintrag &eintrag : einträge) Zeigen(eintrag);
+    popup->setAttribute(Qt::WA_NoMouseReplay); // not by the toolkit too
+    const Danebenklick daneben;
     const QAction *gewählt = popup->isEmpty() ? nullptr : popup->exec(ort);
     std::optional<std::string> name;
     if (popup && gewählt) name = gewählt->data().toString().toStdString();
+    else if (popup) daneben.Nachreichen(fenster);
     delete popup;
     return name;
 }

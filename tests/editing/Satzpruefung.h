@@ -43,13 +43,16 @@ class Prüfung {
 
   private:
     std::string Beurteilt(const std::vector<Verstoß> &verstöße);
-    std::string ÜbergangPrüfen() const;
+    void EntschuldigungenEinfügen();
+    std::vector<Verstoß> Übergang();
 
     std::ostringstream aus_;
     Wiedergabe wiedergabe_{aus_};
     std::string zeile_, vorige_;
-    Stand neu_, alt_, vorletzter_;
-    std::set<std::string> entschuldigt_, doppelt_;
+    Stand neu_, alt_;
+    std::map<int, Dokument> plätze_; ///< what the undo ring should hold
+    Dokument bekannt_;               ///< when it last had its snapshot, or was excused for having none
+    std::set<std::string> entschuldigt_;
     std::map<std::string, int> gezählt_;
 };
 

@@ -14,47 +14,18 @@ namespace {
 /// %= the same place again, %m an entry of the menu of what stands at a place, %z one of the twins' menu, %t a tool,
 /// %F a frame round any two elements, %C one round a couple. More often is said by saying it twice.
 constexpr std::string_view Handlungen[] = {
-    "tool %t|click %e",
-    "tool 1|click %e",
-    "tool 11|click %e",
-    "click %p|tool 12|move %p|click %=",
-    "click %p|tool 13|move %p|click %=",
-    "click %p|tool 14|move %b|click %=",
-    "click %p|tool 14|move %b|click %=",
-    "drag %F",
-    "drag %F",
-    "click 28.6 20.4|drag %F",
-    "drag %C|popup %z|tool zwillinge",
-    "drag %C|popup mnuTwinsEineiig|rclick %=",
-    "popup %m|rclick %=",
-    "popup %m|rclick %=|rclick %=",
-    "drag %x %e",
-    "drag %x %e",
-    "drag %x %x",
-    "click %x",
-    "click %x|key Del",
-    "key Del",
-    "key Ctrl+C",
-    "key Ctrl+X",
-    "key Ctrl+V",
-    "drag %F|key Ctrl+C|key Ctrl+V",
-    "drag %F|key Ctrl+X|key Ctrl+V",
-    "drag %F|drag %= %e",
-    "drag %F|press cmdDelete",
-    "key Ctrl+Z",
-    "key Ctrl+Z|key Ctrl+Y",
-    "tool 9|drag %e %e",
-    "tool 15|drag %e %e",
-    "down left %x|move %x|move %x",
-    "down right %x",
-    "up %x",
-    "move %x|key Del|up %x",
-    "dblclick %x|wait 100",
-    "save zufall.kwp|load zufall.kwp",
-    "pick cboRaster 0",
-    "pick cboRaster 2",
-    "wheel up",
-    "menu mnuSymbolGrößer",
+    "tool %t|click %e", "tool 1|click %e", "tool 3|click %e", "tool 11|click %e", "tool 11|click %e",
+    "click %p|tool 12|move %p|click %=", "click %p|tool 12|move %p|click %=", "click %p|tool 13|move %p|click %=",
+    "click %p|tool 13|move %p|click %=", "click %p|tool 14|move %b|click %=", "click %p|tool 14|move %b|click %=",
+    "click %p|tool 14|move %b|click %=", "click %p|tool 14|move %b|click %=", "tool 1|click %e|click %=|tool 14|move %b|click %=",
+    "drag %C|popup %z|tool zwillinge", "drag %C|popup %z|tool zwillinge", "drag %F|popup mnuTwinsEineiig|rclick %=",
+    "drag %F|popup mnuTwinszweiiig|rclick %=", "drag %F", "drag %F|drag %= %e", "drag %F|drag %= %e",
+    "drag %F|drag %= %e", "drag %F|press cmdDelete", "drag %F|menu mnuSymbolGrößer", "drag %F|key Ctrl+C|key Ctrl+V",
+    "drag %F|key Ctrl+X|key Ctrl+V", "key Ctrl+V", "popup %m|rclick %=", "popup %m|rclick %=|rclick %=", "drag %x %e",
+    "drag %p %e", "drag %b %e", "drag %x %x", "click %x|drag %= %e", "click %x", "click %x|key Del", "key Del",
+    "key Ctrl+C", "key Ctrl+X", "key Ctrl+Z", "key Ctrl+Z|key Ctrl+Z|key Ctrl+Y|key Ctrl+Y", "tool 9|drag %e %e",
+    "tool 15|drag %e %e", "down left %x|move %x|move %x", "down right %x", "up %x", "move %x|key Del|up %x",
+    "dblclick %x|wait 100", "save zufall.kwp|load zufall.kwp", "pick cboRaster 0", "pick cboRaster 2", "wheel up",
     "menu mnuLegendeAnzeigen",
 };
 
@@ -126,8 +97,8 @@ std::string Zufallsnutzer::Eingesetzt(char platzhalter) {
         return Text({bar.X - 2.5, bar.Y - 2.5}) + " " + Text({bar.X + 2.5, bar.Y + Würfel(3) * 1.5 - 1});
     }
     case 'F': {
-        const Ort a = wählen(alle_), b = wählen(alle_);
-        const double rand = 0.2 + Würfel(10) / 5.0;
+        const Ort b = wählen(alle_), a = Würfel(2) ? b : wählen(alle_);
+        const double rand = 0.2 + Würfel(15) / 5.0;
         return Text({std::min(a.X, b.X) - rand, std::min(a.Y, b.Y) - rand}) + " " +
                Text({std::max(a.X, b.X) + rand, std::max(a.Y, b.Y) + rand});
     }
@@ -140,6 +111,8 @@ std::vector<std::string> Zufallsnutzer::Nächstes(const Stand &stand, bool antwo
     const bool voll = personen_.size() > 40; // then nothing is placed but by pasting
     std::vector<std::string> zeilen(1);
     std::string_view handlung = Eines(Handlungen);
+    const auto hat = [&](std::string_view wort) { return handlung.find(wort) != std::string_view::npos; };
+    while (genau_ && (hat("load") || hat("Ctrl+V") || hat("Ctrl+Z"))) handlung = Eines(Handlungen);
     if (voll && handlung.starts_with("tool")) handlung = "drag %F|key Del";
     for (size_t i = 0; i < handlung.size(); ++i) {
         if (handlung[i] == '|') zeilen.emplace_back();

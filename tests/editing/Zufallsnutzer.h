@@ -31,6 +31,7 @@ class Zufallsnutzer {
     std::string Text(Ort ort) const;
 
     std::mt19937_64 zufall_;
+    const bool genau_ = Würfel(2) == 0; ///< leaves out what can give a number twice, so that all rules are kept
     std::vector<Ort> personen_, balken_, alle_; ///< what a pointer can hit
     Ort letzter_;
 };
