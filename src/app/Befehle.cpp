@@ -55,6 +55,8 @@ void LegendeUmschalten(frmMain &h) {
 
 constexpr Befehl Tabelle[] = {
     {"mnuÖffnen", [](frmMain &h) { h.projekt.mnuÖffnen(); }},
+    {"btnÖffnen", [](frmMain &h) { h.projekt.mnuÖffnen(); }},
+    {"btnSpeichern", [](frmMain &h) { h.projekt.Speichern(); }},
     {"mnuSpeichern", [](frmMain &h) { h.projekt.Speichern(); }},
     {"mnuSichernUnter", [](frmMain &h) { h.projekt.SpeichernUnter(); }},
     {"mnuBeenden", [](frmMain &h) { h.plattform.benutzer.FensterSchließen(); }},
@@ -63,6 +65,8 @@ constexpr Befehl Tabelle[] = {
     {"mnuWiederholen", [](frmMain &h) { h.cmdredo(); }},
     {"cmdUndo", [](frmMain &h) { h.cmdUndo(); }},
     {"cmdredo", [](frmMain &h) { h.cmdredo(); }},
+    {"btnUndo", [](frmMain &h) { h.cmdUndo(); }},
+    {"btnRedo", [](frmMain &h) { h.cmdredo(); }},
     {"mnuAusschneiden", Auf<Ausschneiden>},
     {"mnuAusschneiden2", Auf<Ausschneiden>},
     {"mnuAusschneiden4", Auf<Ausschneiden>},

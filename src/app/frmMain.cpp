@@ -143,7 +143,7 @@ void frmMain::EinstellungenSichern() {
 
 void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "Timer2" && !Getrimmt(Kommandozeile).empty()) projekt.Öffnen(Kommandozeile);
-    if (name == "Timer3") FormÖffnen("frmSymbol");
+    if (name == "Timer3" && !Getrimmt(lage.PersRecord).empty()) FormÖffnen("frmSymbol");
     if (name == "Timer4") Vorschau();
     NachEreignis();
 }
@@ -177,6 +177,7 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     if (GehörtZu(name, "mnuBearbeiten")) mnuBearbeiten_Öffnen();
     for (const Menüzeile *zeile = MenüzeileFinden(name); zeile; zeile = MenüzeileFinden(zeile->Menü))
         if (const Bedienelement &element = bedienung[zeile->Name]; !element.Enabled || !element.Visible) return false;
+    leinwand.GesteAbbrechen();
     befehl->Ausführen(*this);
     NachEreignis();
     return true;
@@ -210,7 +211,7 @@ void frmMain::NachSchrittImRing() {
 void frmMain::NichtsAuswählen() {
     AllesAbwählen(werkbank);
     bedienung["mnuLöschen1"].Enabled = bedienung["mnuAusschneiden"].Enabled = false;
-    bedienung["mnuMakeTwins"].Visible = false;
+    PaletteAuffrischen(werkbank);
 }
 
 void frmMain::Vorschau() {

@@ -2,6 +2,7 @@
 
 #include "document/Zahlen.h"
 
+#include <algorithm>
 #include <cmath>
 #include <unordered_set>
 
@@ -43,6 +44,11 @@ void FreieAufbauen(const Satzliste &speicher, Satzliste &freie) {
 }
 
 } // namespace
+
+bool Dokument::GleicheSätze(const Dokument &anderes) const {
+    return std::all_of(SpeicherTabelle.begin(), SpeicherTabelle.end(),
+                       [&](const SpeicherZeile &z) { return this->*z.Liste == anderes.*z.Liste; });
+}
 
 void Dokument::SpeicherLeeren() {
     for (const auto &zeile : SpeicherTabelle) (this->*zeile.Liste).Leeren();

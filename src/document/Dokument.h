@@ -60,6 +60,8 @@ struct Dokument {
     bool LegendeQuer = false;
     bool OhneStandardsymbole = false;
 
+    /// Whether the seven stores hold the same records.
+    bool GleicheSätze(const Dokument &anderes) const;
     /// Empties the seven stores, not the free lists.
     void SpeicherLeeren();
 

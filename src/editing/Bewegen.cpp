@@ -133,7 +133,7 @@ void GruppePersonen(Werkbank &w, const Bezüge &bezüge) {
     Satzliste &personen = w.dokument.cboPersonen;
     for (const auto &nr : w.auswahl.lstMovedPers) {
         const int i = bezüge.Person(nr);
-        if (i < 0) continue;
+        if (i < 0 || Felder(personen.Satz(i)).Anzahl() < PersonFeld::Anzahl) continue;
         Satzbau satz(personen.Satz(i), PersonFeld::Anzahl);
         Verschieben(satz, PersonFeld::PosX, PersonFeld::PosY, lage, w.ansicht.Rasterweite);
         personen.Ersetzen(i, satz.Text());
@@ -204,8 +204,9 @@ void ElementeBewegen(Werkbank &w, const Bezüge &bezüge) {
 void GruppeBewegen(Werkbank &w) {
     Leinwandlage &lage = w.lage;
     w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
-    lage.DeltaX = Gerundet(w.auflagen.shpBox.Left - lage.AltX, 1);
-    lage.DeltaY = Gerundet(w.auflagen.shpBox.Top - lage.AltY, 1);
+    // Half a tenth is no way: a frame between two tenths mustn't creep with each click.
+    lage.DeltaX = Gerundet(Gerundet(w.auflagen.shpBox.Left - lage.AltX, 6), 1);
+    lage.DeltaY = Gerundet(Gerundet(w.auflagen.shpBox.Top - lage.AltY, 6), 1);
     if (w.auswahl.Leer() || (lage.DeltaX == 0 && lage.DeltaY == 0)) return;
     const Bezüge bezüge(w.dokument);
     GruppeLinien(w, bezüge);
@@ -215,13 +216,14 @@ void GruppeBewegen(Werkbank &w) {
     w.fenster.Sichern();
 }
 
-void BalkenBewegen(Werkbank &w) {
+bool BalkenBewegen(Werkbank &w) {
     Dokument &d = w.dokument;
     const int i = w.lage.PLinieAuswahl;
-    if (i < 0 || i >= d.cboPartnerschaftsLinien.Anzahl()) return;
+    if (i < 0 || i >= d.cboPartnerschaftsLinien.Anzahl()) return false;
     const Auflagenlinie &linie = w.auflagen.Line1;
     const double y = Gerundet(linie.Y1, 2);
     Satzbau satz(d.cboPartnerschaftsLinien.Satz(i), PLinieFeld::Anzahl);
+    if (satz.Zahl(PLinieFeld::BalkenY1) == y && satz.Zahl(PLinieFeld::BalkenY2) == y) return false;
     satz.Setzen(PLinieFeld::BalkenX1, Gerundet(linie.X1, 2)).Setzen(PLinieFeld::BalkenX2, Gerundet(linie.X2, 2));
     satz.Setzen(PLinieFeld::BalkenY1, y).Setzen(PLinieFeld::BalkenY2, y);
     d.cboPartnerschaftsLinien.Ersetzen(i, satz.Text());
@@ -230,6 +232,7 @@ void BalkenBewegen(Werkbank &w) {
         Satzbau kindlinie(d.cboKindlinien.Satz(kind), KindFeld::Anzahl);
         d.cboKindlinien.Ersetzen(kind, kindlinie.Setzen(KindFeld::LinieY, y).Text());
     }
+    return true;
 }
 
 namespace {

@@ -18,8 +18,9 @@ void KinderAnpassen(Dokument &dokument, const Bezüge &bezüge, std::string_view
 /// The end of a group move: everything selected goes the frame's way. The frame stays, ready for another move.
 void GruppeBewegen(Werkbank &w);
 
-/// The end of a bar's drag: the bar of `PLinieAuswahl` and its children's lines take the height of `Line1`.
-void BalkenBewegen(Werkbank &w);
+/// The end of a bar's drag: the bar of `PLinieAuswahl` and its children's lines take the height of `Line1`. False when
+/// the bar has that height already.
+bool BalkenBewegen(Werkbank &w);
 
 /// Writes a form's values into the line that it was opened for; one snapshot.
 void Bez_LinieAnpassen(Werkbank &w, std::string_view beziehungsart);

@@ -42,9 +42,10 @@ void KindArtSetzen(Werkbank &w, std::string_view art) {
     const int i = w.lage.KindAuswahl;
     if (i < 0 || i >= linien.Anzahl()) return;
     Satzbau satz(linien.Satz(i), KindFeld::Anzahl);
+    const std::string alt(satz.Feld(KindFeld::Kindart));
     linien.Ersetzen(i, satz.Setzen(KindFeld::Kindart, art == "A" ? "1" : art == "P" ? "2" : "0").Text());
     w.lage.Aktion = AktionNichts;
-    w.fenster.Sichern();
+    if (satz.Feld(KindFeld::Kindart) != alt) w.fenster.Sichern();
     w.fenster.Vorschau();
 }
 

@@ -21,6 +21,10 @@ class Leinwand {
     void MouseUp(int taste, double x, double y);
     void DblClick(double x, double y);
 
+    /// A command comes: a link gesture ends with nothing made, and so does what the button is dragging, but for a
+    /// circle line, which stays where it is. The release to come ends no gesture.
+    void GesteAbbrechen();
+
   private:
     struct Ereignis {
         int Taste;
@@ -94,6 +98,8 @@ class Leinwand {
     void PopupÖffnen(std::string_view menü);
     double Raster(double wert) const;        ///< snapped
     double RasterZehntel(double wert) const; ///< snapped and rounded to one decimal, as stored
+    void LinkAbbrechen();
+    void ZugAbbrechen();
     bool HatSichBewegt(const Ereignis &e) const;
 
     Werkbank &w;

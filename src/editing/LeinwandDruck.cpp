@@ -4,6 +4,7 @@
 #include "document/Zahlen.h"
 #include "editing/Kinder.h"
 #include "editing/Marker.h"
+#include "editing/Rahmenauswahl.h"
 #include "editing/Treffer.h"
 #include "editing/Verbindungen.h"
 
@@ -14,7 +15,7 @@ double Leinwand::Raster(double wert) const { return Gerastert(wert, w.ansicht.Ra
 double Leinwand::RasterZehntel(double wert) const { return Gerundet(Raster(wert), 1); }
 
 void Leinwand::PopupÖffnen(std::string_view menü) {
-    lage.PopupOffen = true;
+    lage.Gedrückt = false; // what is picked there may arm a tool, which waits for the next press
     w.fenster.PopupÖffnen(menü);
 }
 
@@ -33,7 +34,7 @@ void Leinwand::MouseDown(int taste, double x, double y) {
 }
 
 bool Leinwand::Zurücksetzen(const Ereignis &) {
-    lage.PopupOffen = false;
+    lage.Gedrückt = true;
     auflagen.Line5.Visible = false;
     w.bedienung["mnuLöschen1"].Enabled = false;
     auflagen.shpMask.Visible = false;
@@ -82,6 +83,11 @@ bool Leinwand::LegendeUnterMaus() const {
 
 bool Leinwand::LegendeFassen(const Ereignis &e) {
     if (!LegendeUnterMaus()) return false;
+    LinkAbbrechen();
+    if (lage.Aktion == AktionGruppeGewählt) {
+        AuswahlrahmenParken(w);
+        MarkierungsListBoxenLöschen(w);
+    }
     lage.Aktion = AktionLegendeGefasst;
     Auflagenform &maske = auflagen.shpMask;
     maske.Shape = Umriss::Rechteck;
@@ -89,7 +95,9 @@ bool Leinwand::LegendeFassen(const Ereignis &e) {
     maske.Visible = e.Links();
     lage.VersatzX = e.X - maske.Left;
     lage.VersatzY = e.Y - maske.Top;
-    if (e.Rechts()) PopupÖffnen("mnuLegende");
+    if (!e.Rechts()) return true;
+    PopupÖffnen("mnuLegende");
+    if (lage.Aktion == AktionLegendeGefasst) lage.Aktion = AktionNichts;
     return true;
 }
 
@@ -140,6 +148,7 @@ bool Leinwand::GruppeFassen(const Ereignis &e) {
     lage.VersatzY = e.Y - rahmen.Top;
     if (e.Rechts()) {
         lage.Zeiger = Mauszeiger::Pfeil; // no drag follows
+        w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
         PopupÖffnen("mnuAuswahlBox");
     }
     return true;
@@ -159,6 +168,7 @@ bool Leinwand::KindLinkBeenden(const Ereignis &) {
     lage.Aktion = AktionNichts; // before the redraw, which marks the bar under the pointer
     lage.PLinieUnterMaus = false;
     LinkAufräumen(w);
+    w.auswahl.lstMovedPLines.Leeren();
     MarkerEntfernen(w);
     if (angelegt) w.fenster.Sichern();
     return true;
@@ -201,7 +211,7 @@ bool Leinwand::PersonTreffen(const Ereignis &e) {
     lage.Aktion = AktionMenüOffen;
     for (const char *eintrag : {"mnuBeziehungErstellen2", "mnuPartnerschaftsLinie", "mnuKindVon", "mnuStr2"})
         b[eintrag].Visible = lage.SymbolTyp != TypInstitution;
-    b["mnuKindVon"].Enabled = feld[PersonFeld::ElternLinie].empty();
+    b["mnuKindVon"].Enabled = Getrimmt(feld[PersonFeld::ElternLinie]).empty();
     PopupÖffnen("mnuPerson");
     return true;
 }
@@ -214,6 +224,7 @@ bool Leinwand::LinieWarGewählt(const Ereignis &e) {
                                                                : nullptr;
     if (!menü) return false;
     if (e.Rechts()) {
+        w.bedienung["mnuLöschen1"].Enabled = true;
         PopupÖffnen(menü);
         return true;
     }
@@ -281,7 +292,12 @@ bool Leinwand::PfeilEndeTreffer(double x, double y) {
     const int ende = PfeilEndeBei(dokument, lage.PfeilAuswahl, x, y);
     if (ende == 0) return false;
     PfeilFassen();
+    Auswahl übrige;
+    übrige.lstMovedPfeile = w.auswahl.lstMovedPfeile; // it may show its handles, or not
+    w.auswahl = übrige;
+    w.bedienung["mnuAusschneiden"].Enabled = w.bedienung["mnuLöschen1"].Enabled = true;
     lage.Aktion = ende == 2 ? AktionPfeilEnde2 : AktionPfeilEnde1;
+    w.fenster.Vorschau();
     return true;
 }
 
@@ -324,6 +340,7 @@ bool Leinwand::RahmenBeginnen(const Ereignis &e) {
         w.bedienung[eintrag].Visible = true;
     }
     PopupÖffnen("mnuSymbolEinfügen");
+    if (lage.Aktion == AktionRahmenZiehen) RahmenAuswählen(w); // dismissed: the end of an empty marquee
     return true;
 }
 

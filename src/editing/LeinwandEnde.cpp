@@ -6,6 +6,7 @@
 #include "editing/Rahmenauswahl.h"
 #include "editing/Satzbau.h"
 #include "editing/Treffer.h"
+#include "editing/Verbindungen.h"
 
 #include <cmath>
 
@@ -49,8 +50,7 @@ void Leinwand::MouseUp(int taste, double x, double y) {
         {AktionPfeilEnde1, &Leinwand::PfeilEndeLoslassen},      {AktionPfeilEnde2, &Leinwand::PfeilEndeLoslassen},
         {AktionPfeilGefasst, &Leinwand::PfeilLoslassen},
     };
-    // The press opened a context menu: what was picked there may have armed a tool, which waits for the next press.
-    if (std::exchange(lage.PopupOffen, false)) return;
+    if (!std::exchange(lage.Gedrückt, false)) return;
     for (Auflagenlinie &linie : auflagen.MarkLine) linie.Visible = false;
     if (std::exchange(lage.BildAuswahl, false)) {
         AuswahlrahmenParken(w);
@@ -69,6 +69,45 @@ void Leinwand::MouseUp(int taste, double x, double y) {
     }
 }
 
+void Leinwand::GesteAbbrechen() {
+    LinkAbbrechen();
+    if (std::exchange(lage.Gedrückt, false)) ZugAbbrechen();
+}
+
+void Leinwand::LinkAbbrechen() {
+    if (lage.Aktion != AktionBeziehungZiehen && lage.Aktion != AktionPartnerschaftZiehen &&
+        lage.Aktion != AktionKindZiehen)
+        return;
+    LinkAufräumen(w);
+    MarkierungsListBoxenLöschen(w); // positions of the two, which nothing else must take for numbers
+    lage.PLinieUnterMaus = false;
+    lage.Aktion = AktionNichts;
+}
+
+void Leinwand::ZugAbbrechen() {
+    auflagen.shpMask.Visible = auflagen.Line1.Visible = auflagen.Line5.Visible = false;
+    lage.LinieVerschoben = false;
+    lage.Zeiger = Mauszeiger::Pfeil;
+    switch (lage.Aktion) {
+    case AktionKreisGewählt: KreisLoslassen({}); break;
+    case AktionPersonSetzen: PersonGesetzt({}); break; // it stands already
+    case AktionTextGefasst: lage.Aktion = AktionTextGewählt; break;
+    case AktionGruppeGewählt:
+        auflagen.shpBox.Left = lage.AltX;
+        auflagen.shpBox.Top = lage.AltY;
+        break;
+    case AktionRahmenZiehen:
+    case AktionKreisZeichnen:
+    case AktionPfeilZeichnen:
+    case AktionLegendeGefasst:
+        AuswahlrahmenParken(w);
+        lage.PunktListe.clear();
+        lage.Aktion = AktionNichts;
+        break;
+    default: break;
+    }
+}
+
 void Leinwand::PersonGesetzt(const Ereignis &) {
     w.fenster.Sichern();
     lage.Aktion = AktionNichts;
@@ -77,21 +116,25 @@ void Leinwand::PersonGesetzt(const Ereignis &) {
 void Leinwand::PersonLoslassen(const Ereignis &e) {
     const int i = lage.PersAuswahl - 1;
     if (i < 0 || i >= dokument.cboPersonen.Anzahl()) return;
-    lage.AuswahlX = Gerundet(auflagen.shpMask.Left, 2);
-    lage.AuswahlY = Gerundet(auflagen.shpMask.Top, 2);
+    const bool bewegt = HatSichBewegt(e);
+    if (bewegt) { // back on the spot it stays where it was, off the raster too
+        lage.AuswahlX = Gerundet(auflagen.shpMask.Left, 2);
+        lage.AuswahlY = Gerundet(auflagen.shpMask.Top, 2);
+    }
     lage.NeuX = Gerundet(lage.AuswahlX + lage.SymbolGröße / 2, 2);
     lage.NeuY = Gerundet(lage.AuswahlY + lage.SymbolGröße / 2, 2);
     lage.MarkerBreite = lage.MarkerHöhe = lage.SymbolGröße;
     Satzbau satz(dokument.cboPersonen.Satz(i), PersonFeld::Anzahl);
-    satz.Setzen(PersonFeld::PosX, lage.NeuX).Setzen(PersonFeld::PosY, lage.NeuY);
-    lage.PersRecord = satz.Text();
+    dokument.cboPersonen.Ersetzen(i, satz.Text());
+    const Dokument vorher = dokument;
+    lage.PersRecord = satz.Setzen(PersonFeld::PosX, lage.NeuX).Setzen(PersonFeld::PosY, lage.NeuY).Text();
     dokument.cboPersonen.Ersetzen(i, lage.PersRecord);
-    if (!HatSichBewegt(e)) return;
+    if (!bewegt) return;
     ElementeBewegen(w, Bezüge(dokument));
     lage.Aktion = AktionNichts;
     w.fenster.Vorschau();
     auflagen.shpMask.Parken();
-    w.fenster.Sichern();
+    if (!dokument.GleicheSätze(vorher)) w.fenster.Sichern();
 }
 
 void Leinwand::TextLoslassen(const Ereignis &e) {
@@ -102,25 +145,21 @@ void Leinwand::TextLoslassen(const Ereignis &e) {
         return;
     }
     Satzliste &boxen = dokument.cboTextboxen;
-    if (lage.TextAuswahl < 0 || lage.TextAuswahl >= boxen.Anzahl()) return;
-    const std::string &alt = boxen.Satz(lage.TextAuswahl);
+    const Auflagenform maske = std::exchange(auflagen.shpMask, {});
+    lage.Aktion = AktionTextGewählt;
+    if (!HatSichBewegt(e) || lage.TextAuswahl < 0 || lage.TextAuswahl >= boxen.Anzahl()) return;
+    const std::string alt = boxen.Satz(lage.TextAuswahl);
     Satzbau satz(alt, std::min(Felder(alt).Anzahl(), Felder::Höchstzahl)); // its measures stay, if it has them
-    satz.Setzen(TextFeld::TextX, RasterZehntel(auflagen.shpMask.Left));
-    satz.Setzen(TextFeld::TextY, RasterZehntel(auflagen.shpMask.Top));
+    satz.Setzen(TextFeld::TextX, RasterZehntel(maske.Left)).Setzen(TextFeld::TextY, RasterZehntel(maske.Top));
     lage.TextRecord = satz.Text();
     boxen.Ersetzen(lage.TextAuswahl, lage.TextRecord);
-    auflagen.shpMask.Parken();
-    auflagen.shpMask.Visible = false;
-    lage.Aktion = AktionTextGewählt;
-    if (!HatSichBewegt(e)) return;
-    w.fenster.Sichern();
+    if (lage.TextRecord != alt) w.fenster.Sichern();
     w.benutzer.ZeitgeberStarten("Timer4", NachDemEreignis); // redraws, once, behind the event
 }
 
 void Leinwand::BalkenLoslassen(const Ereignis &) {
-    const bool verschoben = std::exchange(lage.LinieVerschoben, false);
+    const bool verschoben = std::exchange(lage.LinieVerschoben, false) && BalkenBewegen(w);
     if (verschoben) {
-        BalkenBewegen(w);
         lage.Aktion = AktionNichts;
         Gummi1Parken(w);
     }
@@ -188,6 +227,7 @@ void Leinwand::PfeilGezogen(const Ereignis &e) {
     w.fenster.Sichern();
     lage.PfeilAuswahl = dokument.cboPfeile.Anzahl() - 1;
     w.auswahl.lstMovedPfeile.Anhängen(std::to_string(lage.PfeilAuswahl));
+    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
     w.fenster.Vorschau();
     lage.Aktion = AktionPfeilGewählt;
 }
@@ -201,13 +241,13 @@ void Leinwand::PfeilEndeLoslassen(const Ereignis &e) {
     Satzbau satz(dokument.cboPfeile.Satz(lage.PfeilAuswahl), PfeilFeld::Anzahl);
     const double x = RasterZehntel(zweites ? auflagen.Line5.X2 : auflagen.Line5.X1);
     const double y = RasterZehntel(zweites ? auflagen.Line5.Y2 : auflagen.Line5.Y1);
-    const bool anders = satz.Zahl(feldX) != x || satz.Zahl(feldY) != y;
+    if (!HatSichBewegt(e) || (satz.Zahl(feldX) == x && satz.Zahl(feldY) == y)) return;
     if (zweites) {
         lage.PfeilEndeX = x;
         lage.PfeilEndeY = y;
     }
     dokument.cboPfeile.Ersetzen(lage.PfeilAuswahl, satz.Setzen(feldX, x).Setzen(feldY, y).Text());
-    if (!(zweites ? HatSichBewegt(e) : anders)) return;
+
     w.fenster.Sichern();
     w.fenster.Vorschau();
 }

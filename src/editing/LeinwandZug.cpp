@@ -48,8 +48,9 @@ void Leinwand::MouseMove(int taste, double x, double y) {
     lage.MausX = x;
     lage.MausY = y;
     const Ereignis e{taste, x, y};
-    const auto zug = std::find_if(std::begin(Züge), std::end(Züge),
-                                  [&](const Zug &z) { return z.Aktion == lage.Aktion && (e.Links() || !z.NurLinks); });
+    const auto zug = std::find_if(std::begin(Züge), std::end(Züge), [&](const Zug &z) {
+        return z.Aktion == lage.Aktion && ((e.Links() && lage.Gedrückt) || !z.NurLinks);
+    });
     if (zug != std::end(Züge)) (this->*zug->Ziehen)(e);
     if (lage.Aktion == AktionTextGesetzt) lage.Zeiger = Mauszeiger::Textfeld;
     if (lage.Aktion == AktionPersonSetzen) lage.Zeiger = Mauszeiger::Person;

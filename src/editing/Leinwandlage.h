@@ -91,7 +91,7 @@ struct Leinwandlage : Gestenlage {
 
     bool LinieVerschoben = false;
     bool BildAuswahl = false; ///< the next marquee is a region of the picture
-    bool PopupOffen = false;  ///< a press opened a context menu: its release ends no gesture
+    bool Gedrückt = false;    ///< a press runs a gesture; false again when something else came between
     int PfeilArt = 1;         ///< 1 arrow, 2 double arrow
     double PfeilEndeX = 0;
     double PfeilEndeY = 0;

@@ -58,13 +58,6 @@ bool NummernGleich(std::string_view a, std::string_view b) {
     return a == b || ((a.size() != Üblich || b.size() != Üblich) && ZahlLesen(a) == ZahlLesen(b));
 }
 
-/// Positions of single elements, once records have moved up.
-void PositionenVergessen(Leinwandlage &lage) {
-    lage.PersAuswahl = lage.KreisAuswahl = 0;
-    lage.TextAuswahl = lage.BezAuswahl = lage.PLinieAuswahl = lage.KindAuswahl = lage.PfeilAuswahl = -1;
-    lage.PersRecord.clear();
-}
-
 /// Removes person `nr` and every record that names it. Numbers of lines' ends are compared by value.
 void PersonEntfernen(Werkbank &w, const std::string &nr) {
     Dokument &d = w.dokument;
@@ -101,6 +94,13 @@ void Abschließen(Werkbank &w) {
     w.fenster.Sichern();
     w.bedienung["mnuLöschen1"].Enabled = false;
     w.fenster.Vorschau();
+}
+
+/// Records of all stores: fewer of them tell that something was deleted.
+int Sätze(const Dokument &d) {
+    int summe = 0;
+    for (const SpeicherZeile &zeile : SpeicherTabelle) summe += (d.*zeile.Liste).Anzahl();
+    return summe;
 }
 
 bool Gültig(const Satzliste &speicher, int position) { return position >= 0 && position < speicher.Anzahl(); }
@@ -175,13 +175,14 @@ void TextLöschen(Werkbank &w) {
 
 void AuswahlLöschen(Werkbank &w) {
     Dokument &d = w.dokument;
+    const int vorher = Sätze(d);
     StellenEntfernen(d.cboFreehandlines, w.auswahl.lstMovedKreisLinien, 1);
     StellenEntfernen(d.cboTextboxen, w.auswahl.lstMovedText, 0);
     StellenEntfernen(d.cboPfeile, w.auswahl.lstMovedPfeile, 0);
     PositionenVergessen(w.lage);
     GruppenPersonenLöschen(w);
     AuswahlrahmenParken(w);
-    w.fenster.Sichern();
+    if (Sätze(d) < vorher) w.fenster.Sichern();
     w.fenster.Vorschau();
     w.lage.Aktion = AktionNichts;
 }
@@ -219,11 +220,13 @@ void mnuSymbolLöschen(Werkbank &w) {
     MarkerEntfernen(w);
     w.lage.Aktion = AktionNichts;
     w.auflagen.shpMask.Visible = false;
+    w.bedienung["mnuLöschen1"].Enabled = false;
 }
 
 void cmdDelete(Werkbank &w) {
     if (w.lage.Aktion != AktionGruppeGewählt) return;
     Dokument &d = w.dokument;
+    const int vorher = Sätze(d);
     StellenEntfernen(d.cboFreehandlines, w.auswahl.lstMovedKreisLinien, 1);
     StellenEntfernen(d.cboTextboxen, w.auswahl.lstMovedText, 0);
     PositionenVergessen(w.lage);
@@ -237,7 +240,7 @@ void cmdDelete(Werkbank &w) {
     MarkierungsListBoxenLöschen(w);
     w.lage.Aktion = AktionNichts;
     w.fenster.Vorschau();
-    w.fenster.Sichern();
+    if (Sätze(d) < vorher) w.fenster.Sichern();
 }
 
 } // namespace kw

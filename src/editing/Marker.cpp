@@ -14,6 +14,7 @@ constexpr double TextMaskeMehr = 0.22; ///< the drag mask is that much wider tha
 
 int MitAnfang(const Satzliste &speicher, std::string_view nr) {
     const std::string_view gesucht = nr.substr(0, 3);
+    if (gesucht.empty()) return -1;
     for (int i = 0; i < speicher.Anzahl(); ++i)
         if (std::string_view(speicher.Satz(i)).substr(0, 3) == gesucht) return i;
     return -1;
@@ -41,7 +42,10 @@ void PersonInfoAnzeigen(Werkbank &w, const Felder &feld) {
 
 } // namespace
 
-void MarkierungsListBoxenLöschen(Werkbank &w) { w.auswahl = {}; }
+void MarkierungsListBoxenLöschen(Werkbank &w) {
+    w.auswahl = {};
+    w.bedienung["mnuMakeTwins"].Visible = false; // it was offered for what the lists held
+}
 
 void MarkerParken(Werkbank &w) {
     w.lage.AuswahlX = w.lage.AuswahlY = Geparkt;
@@ -67,12 +71,19 @@ void Gummi2Parken(Werkbank &w) { w.auflagen.Line2.Parken(); }
 
 void AuswahlrahmenParken(Werkbank &w) { w.auflagen.shpBox.Legen(Geparkt, Geparkt, 0, 0); }
 
+void PositionenVergessen(Leinwandlage &lage) {
+    lage.PersAuswahl = lage.KreisAuswahl = 0;
+    lage.TextAuswahl = lage.BezAuswahl = lage.PLinieAuswahl = lage.KindAuswahl = lage.PfeilAuswahl = -1;
+    lage.PersRecord.clear();
+}
+
 void AllesAbwählen(Werkbank &w) {
-    w.auswahl = {};
+    MarkierungsListBoxenLöschen(w);
     const Leinwandlage vorher = std::exchange(w.lage, {});
-    w.lage.MausX = vorher.MausX; // the pointer stays where it is
+    w.lage.MausX = vorher.MausX; // the pointer stays where it is, and what was measured last remains so
     w.lage.MausY = vorher.MausY;
-    w.lage.PopupOffen = vorher.PopupOffen;
+    w.lage.AuswahlGröße = vorher.AuswahlGröße;
+    w.lage.TextRahmenUnten = vorher.TextRahmenUnten;
     w.auflagen = {};
 }
 
@@ -103,6 +114,7 @@ void TextboxAuswählen(Werkbank &w, int position) {
     Leinwandlage &lage = w.lage;
     Gummi1Parken(w);
     MarkierungsListBoxenLöschen(w);
+    lage.PersRecord.clear();
     lage.TextAuswahl = position;
     lage.ElementArt = "Textbox";
     lage.TextRecord = w.dokument.cboTextboxen.Satz(position);
@@ -123,6 +135,7 @@ void KreisAuswählen(Werkbank &w, int position) {
     Leinwandlage &lage = w.lage;
     lage.Aktion = AktionKreisGewählt;
     lage.KreisAuswahl = position + 1;
+    lage.PersRecord.clear();
     MarkierungsListBoxenLöschen(w);
     w.auswahl.lstMovedKreisLinien.Anhängen(std::to_string(position + 1));
     lage.KreisPunkte = KreisPunkte(w.dokument.cboFreehandlines.Satz(position));

@@ -18,6 +18,8 @@ void Aktion_Nichts(Werkbank &w);
 void Gummi1Parken(Werkbank &w);
 void Gummi2Parken(Werkbank &w);
 void AuswahlrahmenParken(Werkbank &w);
+/// Forgets the positions of single selected elements: after records have gone or others are selected.
+void PositionenVergessen(Leinwandlage &lage);
 /// Nothing selected, no gesture, every shape out of the way; no redraw. Before other records come into the stores.
 void AllesAbwählen(Werkbank &w);
 

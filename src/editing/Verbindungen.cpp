@@ -135,6 +135,7 @@ void RubberStart(Werkbank &w) {
     w.lage.ZielPerson = 0;
     if (i < 0) return;
     const Felder feld(w.dokument.cboPersonen.Satz(i));
+    w.lage.SymbolGröße = ZahlLesen(feld.OderLeer(PersonFeld::Groesse)); // a tool may have left another one
     w.lage.GummiX = ZahlLesen(feld.OderLeer(PersonFeld::PosX));
     w.lage.GummiY = ZahlLesen(feld.OderLeer(PersonFeld::PosY));
 }

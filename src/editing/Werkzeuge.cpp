@@ -79,13 +79,14 @@ bool IstGedrückt(const Leinwandlage &lage, const Werkzeug &werkzeug) {
 std::string WerkzeugName(int nummer) { return "cmdSymb(" + std::to_string(nummer) + ")"; }
 
 void WerkzeugDrücken(Werkbank &w, int nummer) {
-    if (nummer == WerkzeugZwillinge) { // works on what is selected
+    if (nummer == WerkzeugZwillinge) { // works on what is selected, so it arms and empties nothing. Meant.
         cmdZwillinge(w);
         return;
     }
     Leinwandlage &lage = w.lage;
     MarkierungsListBoxenLöschen(w);
     lage.Info.Visible = false;
+    lage.PersRecord.clear();
     lage.Aktion = AktionPersonSetzen;
     AuswahlrahmenParken(w);
     LinkAufräumen(w);
@@ -105,13 +106,17 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
 }
 
 void cmdZwillinge(Werkbank &w) {
-    const int vorher = w.lage.Aktion;
-    w.lage.Aktion = AktionPersonSetzen;
-    w.lage.SymbolGröße = GrößeNormal;
-    w.lage.SymbolTyp = TypZwilling;
+    Leinwandlage &lage = w.lage;
+    const Leinwandlage vorher = lage;
+    lage.Aktion = AktionPersonSetzen;
+    lage.SymbolGröße = GrößeNormal;
+    lage.SymbolTyp = TypZwilling;
     w.fenster.PopupÖffnen("mnuZwillinge");
-    // A dismissed menu arms nothing, there is no such symbol to place: what was selected stays so.
-    if (w.lage.Aktion == AktionPersonSetzen) w.lage.Aktion = vorher;
+    if (lage.Aktion != AktionPersonSetzen) return;
+    // A dismissed menu arms nothing, there is no such symbol to place: what was selected or armed stays so.
+    lage.Aktion = vorher.Aktion;
+    lage.SymbolGröße = vorher.SymbolGröße;
+    lage.SymbolTyp = vorher.SymbolTyp;
 }
 
 void PaletteAuffrischen(Werkbank &w) {

@@ -1,5 +1,6 @@
 #include "editing/Zwischenablage.h"
 
+#include "editing/Kinder.h"
 #include "editing/Loeschen.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
@@ -48,18 +49,20 @@ void FamilieKopieren(Werkbank &w) {
     const Dokument &d = w.dokument;
     Zwischenablage &za = w.ablage;
     const auto gewählt = NummernIn(w.auswahl.lstMovedPers);
+    std::unordered_set<std::string> schon; // a number that stands twice finds the same record again
     for (const auto &nr : w.auswahl.lstMovedPLines) {
         const int i = PLinieMitNr(d, nr);
-        if (i < 0) continue;
+        if (i < 0 || !schon.insert(nr).second) continue;
         const Felder feld(d.cboPartnerschaftsLinien.Satz(i));
         if (gewählt.contains(std::string(feld.OderLeer(PLinieFeld::PersNr1))) &&
             gewählt.contains(std::string(feld.OderLeer(PLinieFeld::PersNr2))))
             za.ZA_PLines.Anhängen(d.cboPartnerschaftsLinien.Satz(i));
     }
     const auto linien = NummernIn(za.ZA_PLines);
+    schon.clear();
     for (const auto &nr : w.auswahl.lstMovedPers) {
         const int i = PersonMitNr(d, nr);
-        if (i < 0) continue;
+        if (i < 0 || !schon.insert(nr).second) continue;
         za.ZA_Personen.Anhängen(d.cboPersonen.Satz(i));
         const int kind = KindLinieVon(d, nr);
         if (kind >= 0 && linien.contains(std::string(Felder(d.cboKindlinien.Satz(kind)).OderLeer(KindFeld::PLinie))))
@@ -196,6 +199,10 @@ void EingefügtesAuswählen(Werkbank &w) {
     const int texte = za.ZA_Textboxen.Anzahl();
     const int kreise = za.ZA_Kreislinien.Anzahl();
     const bool eins = personen + texte + kreise == 1 && za.ZA_Pfeile.Leer() && za.ZA_PLines.Leer();
+    PositionenVergessen(w.lage);
+    MarkerParken(w);
+    w.lage.Info.Visible = false;
+    ZwillingeBereit(w);
     w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
     if (eins && personen) {
         PersonAuswählen(w, d.cboPersonen.Anzahl() - 1);

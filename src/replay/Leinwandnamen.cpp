@@ -42,7 +42,7 @@ void Namen::Leinwandnamen(Leinwandlage &l) {
         {"NeuY", Von(l.NeuY)},
         {"LinieVerschoben", Von(l.LinieVerschoben)},
         {"BildAuswahl", Von(l.BildAuswahl)},
-        {"PopupOffen", Von(l.PopupOffen)},
+        {"Gedrückt", Von(l.Gedrückt)},
         {"PfeilArt", Von(l.PfeilArt)},
         {"PfeilEndeX", Von(l.PfeilEndeX)},
         {"PfeilEndeY", Von(l.PfeilEndeY)},

@@ -1,18 +1,65 @@
 #pragma once
 
-#include "Satzpruefung.h"
+#include "replay/Skript.h"
 
+#include <map>
 #include <random>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
 
 namespace kw {
+
+/// What of the program is compared before and after a line of a script.
+struct Stand {
+    Dokument dokument;
+    Leinwandlage lage;
+    Auflagen auflagen;
+    Auswahl auswahl;
+    Zwischenablage ablage;
+    UndoRing ring;
+};
+
+/// A rule that a state breaks, and whom it is about: "P003" is a person, "L001" a partnership line.
+struct Verstoß {
+    std::string Art;
+    std::vector<std::string> Wer;
+    std::string Text() const;
+};
+
+/// All that is wrong with a state. Broken records end the search, since the other rules count on their form.
+std::vector<Verstoß> Verstöße(const Stand &stand);
+
+/// Runs a script line by line and holds each state against the rules of the records. Where the program breaks one
+/// by its own rules this is excused at the line where it arises, for these elements only, and counted.
+class Prüfung {
+  public:
+    /// Runs the line. The first fault as "kind: whom", empty when all is well.
+    std::string Zeile(const std::string &zeile);
+    bool AntwortOffen();
+
+    Stand Jetzt;
+    std::map<std::string, int> Entschuldigt; ///< by which rule, and how often
+
+  private:
+    void EntschuldigungenEinfügen();
+    std::vector<Verstoß> Übergang();
+
+    std::ostringstream aus_;
+    Wiedergabe wiedergabe_{aus_};
+    std::string zeile_, vorige_;
+    Stand alt_;
+    std::map<int, Dokument> plätze_;     ///< what the undo ring should hold
+    Dokument bekannt_;                   ///< when it last had its snapshot, or was excused for having none
+    std::set<std::string> entschuldigt_; ///< texts of faults
+};
 
 /// A user who draws families at random, in lines of the replay language. The same seed gives the same user.
 class Zufallsnutzer {
   public:
-    explicit Zufallsnutzer(unsigned long saat) : zufall_(saat) {}
-    /// What the user finds on the page when he comes.
-    std::vector<std::string> Anfang();
-    /// What he does next: a few lines that belong together. While an answer waits he prepares no other.
+    explicit Zufallsnutzer(unsigned saat) : zufall_(saat) {}
+    /// What he does next, a few lines that belong together. While an answer waits he prepares no other.
     std::vector<std::string> Nächstes(const Stand &stand, bool antwortOffen);
 
   private:
@@ -21,17 +68,16 @@ class Zufallsnutzer {
         double Y = 0;
         std::string_view Menü = "mnuSymbolEinfügen"; ///< of what stands there
     };
-    int Würfel(int seiten) { return static_cast<int>(zufall_() % static_cast<unsigned>(seiten)); }
-    template <typename Liste> const auto &Eines(const Liste &liste) {
-        return *(std::data(liste) + Würfel(static_cast<int>(std::size(liste))));
-    }
+    int Würfel(size_t seiten) { return static_cast<int>(zufall_() % seiten); }
     void Umsehen(const Stand &stand);
-    void Merken(std::vector<Ort> &orte, const Satzliste &speicher, std::string_view menü, int x1, int x2);
+    void Merken(std::vector<Ort> &orte, const Satzliste &speicher, std::string_view menü, int x1, int x2, int y1 = 0);
+    const Ort &Wählen(const std::vector<Ort> &orte);
+    std::string Eintrag(std::string_view menü);
     std::string Eingesetzt(char platzhalter);
-    std::string Text(Ort ort) const;
 
     std::mt19937_64 zufall_;
     const bool genau_ = Würfel(2) == 0; ///< leaves out what can give a number twice, so that all rules are kept
+    bool neu_ = true;
     std::vector<Ort> personen_, balken_, alle_; ///< what a pointer can hit
     Ort letzter_;
 };

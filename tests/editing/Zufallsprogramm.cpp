@@ -1,11 +1,11 @@
-// A random user who lets the editor run from one seed to the next, and a script for whatever goes wrong.
+// Runs random users from one seed to the next. For each kind of fault it prints the shortest script that shows it.
 #include "Zufallsnutzer.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <iostream>
-#include <poll.h>
+
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -16,98 +16,75 @@ using Skript = std::vector<std::string>;
 struct Lauf {
     Skript Zeilen;
     std::string Fehler; ///< empty when all went well
-    std::map<std::string, int> Gezählt;
+    std::map<std::string, int> Entschuldigt;
 
-    /// Runs of the same kind show the same fault.
     std::string Art() const { return Fehler.substr(0, Fehler.find(':')); }
 };
 
-/// Runs `arbeit` in a process of its own, which may crash or hang. It says through `melden` which line comes next
-/// (">"), what it excused ("~") and what it found ("!").
-using Melden = std::function<void(char, std::string)>;
-Lauf ImKind(const std::function<void(const Melden &)> &arbeit) {
+/// Runs what `weiter` gives, `höchstens` that many lines, in a process of its own: it may crash or hang. Each line is
+/// told before it runs, so that the script is known whatever comes.
+Lauf Laufen(const std::function<Skript(kw::Prüfung &)> &weiter, size_t höchstens) {
+    constexpr unsigned Geduld = 20; // s for a line
     int rohr[2];
     if (::pipe(rohr) != 0) std::abort();
     const pid_t kind = ::fork();
+    FILE *strom = ::fdopen(rohr[kind == 0 ? 1 : 0], kind == 0 ? "w" : "r");
+    ::close(rohr[kind == 0 ? 0 : 1]);
     if (kind == 0) {
-        const Melden melden = [&](char art, std::string text) {
-            text = art + text + '\0';
-            if (::write(rohr[1], text.data(), text.size()) < 0) ::_exit(2);
+        const auto melden = [&](const char *art, const std::string &text) {
+            std::fprintf(strom, "%s%s\n", art, text.c_str());
+            std::fflush(strom);
         };
+        std::string fehler;
+        std::filesystem::remove("zufall.kwp"); // no run sees what another one saved
         try {
-            arbeit(melden);
+            kw::Prüfung prüfung;
+            for (size_t getan = 0; getan < höchstens && fehler.empty();)
+                for (const auto &zeile : weiter(prüfung)) {
+                    melden(">", zeile);
+                    ::alarm(Geduld);
+                    ++getan;
+                    if (!(fehler = prüfung.Zeile(zeile)).empty()) break;
+                }
+            for (const auto &[name, zahl] : prüfung.Entschuldigt)
+                for (int i = 0; i < zahl; ++i) melden("~", name);
         } catch (const std::exception &ausnahme) {
-            melden('!', std::string("exception: ") + ausnahme.what());
+            fehler = std::string("exception: ") + ausnahme.what();
         }
+        if (!fehler.empty()) melden("!", fehler);
         ::_exit(0);
     }
-    ::close(rohr[1]);
-    std::string alles;
-    constexpr int Geduld = 20'000; // ms for a single line
-    pollfd warte{rohr[0], POLLIN, 0};
-    char puffer[65536];
-    bool hängt = false;
-    for (;;) {
-        hängt = ::poll(&warte, 1, Geduld) == 0;
-        const ssize_t n = hängt ? 0 : ::read(rohr[0], puffer, sizeof puffer);
-        if (n <= 0) break;
-        alles.append(puffer, static_cast<size_t>(n));
+    Lauf lauf;
+    char *puffer = nullptr;
+    size_t größe = 0;
+    while (::getline(&puffer, &größe, strom) > 0) {
+        std::string text = puffer + 1;
+        text.pop_back();
+        if (*puffer == '>') lauf.Zeilen.push_back(text);
+        else if (*puffer == '~') ++lauf.Entschuldigt[text];
+        else lauf.Fehler = text;
     }
-    ::close(rohr[0]);
-    if (hängt) ::kill(kind, SIGKILL);
+    std::free(puffer);
+    std::fclose(strom);
     int ende = 0;
     ::waitpid(kind, &ende, 0);
-    Lauf lauf;
-    for (size_t von = 0; von < alles.size();) {
-        const std::string text(alles.c_str() + von);
-        von += text.size() + 1;
-        if (text[0] == '>') lauf.Zeilen.push_back(text.substr(1));
-        else if (text[0] == '~') ++lauf.Gezählt[text.substr(1)];
-        else lauf.Fehler = text.substr(1);
-    }
-    if (hängt) lauf.Fehler = "hangs";
-    else if (WIFSIGNALED(ende)) lauf.Fehler = "signal " + std::to_string(WTERMSIG(ende));
-    else if (WEXITSTATUS(ende) != 0) lauf.Fehler = "stopped by the sanitizer";
+    if (WIFSIGNALED(ende)) lauf.Fehler = WTERMSIG(ende) == SIGALRM ? "hangs" : "crashes";
+    else if (WEXITSTATUS(ende) != 0) lauf.Fehler = "stopped by a sanitizer";
     return lauf;
 }
 
-/// Runs what `weiter` gives until it gives nothing.
-Lauf Probe(const std::function<Skript(kw::Prüfung &)> &weiter, int höchstens) {
-    return ImKind([&](const Melden &melden) {
-        std::filesystem::remove("zufall.kwp"); // no run sees what another one saved
-        kw::Prüfung prüfung;
-        std::string fehler;
-        int getan = 0;
-        for (Skript s = weiter(prüfung); getan < höchstens && fehler.empty(); s = weiter(prüfung))
-            for (size_t i = 0; i < s.size() && fehler.empty(); ++i, ++getan) {
-                melden('>', s[i]);
-                fehler = prüfung.Zeile(s[i]);
-            }
-        for (const auto &[name, zahl] : prüfung.Gezählt())
-            for (int i = 0; i < zahl; ++i) melden('~', name);
-        if (!fehler.empty()) melden('!', fehler);
-    });
-}
-
-Lauf Nachgespielt(const Skript &skript) {
-    return Probe([&](kw::Prüfung &) { return skript; }, static_cast<int>(skript.size()));
-}
-
-/// Drops from a script what its fault doesn't need: halves, quarters, at last single lines.
+/// Drops from a script what its fault doesn't need: halves, then ever smaller pieces, single lines until none can go.
 Lauf Gekürzt(Lauf lauf) {
     for (size_t stück = lauf.Zeilen.size() / 2; stück > 0;) {
-        bool kürzer = false;
+        const size_t vorher = lauf.Zeilen.size();
         for (size_t von = 0; von < lauf.Zeilen.size();) {
-            Skript ohne = lauf.Zeilen;
-            const auto anfang = ohne.begin() + static_cast<std::ptrdiff_t>(von);
-            ohne.erase(anfang, anfang + static_cast<std::ptrdiff_t>(std::min(stück, ohne.size() - von)));
-            Lauf neu = Nachgespielt(ohne);
-            if (neu.Art() == lauf.Art()) {
-                lauf = std::move(neu);
-                kürzer = true;
-            } else von += stück;
+            Skript ohne(lauf.Zeilen.begin(), lauf.Zeilen.begin() + static_cast<std::ptrdiff_t>(von));
+            for (size_t i = von + stück; i < lauf.Zeilen.size(); ++i) ohne.push_back(lauf.Zeilen[i]);
+            Lauf neu = ohne.empty() ? Lauf() : Laufen([&](auto &) { return ohne; }, ohne.size());
+            if (neu.Art() == lauf.Art()) lauf = std::move(neu);
+            else von += stück;
         }
-        if (!kürzer || stück > 1) stück = stück == 1 ? 0 : std::max<size_t>(stück / 2, 1);
+        if (stück > 1 || lauf.Zeilen.size() == vorher) stück /= 2;
     }
     return lauf;
 }
@@ -122,19 +99,14 @@ int main(int argc, char **argv) {
     std::filesystem::current_path(ordner);
     ::setenv("TMPDIR", ordner.c_str(), 1); // what a crashed run leaves goes with it
 
-    std::map<std::string, int> fehler, macken;
+    std::map<std::string, int> fehler, entschuldigt;
     size_t schritte = 0;
-    for (int i = 0; i < angaben["--scripts"]; ++i) {
-        const int saat = angaben["--seed"] + i;
-        kw::Zufallsnutzer nutzer(static_cast<unsigned long>(saat));
-        bool erstes = true;
-        const Lauf lauf = Probe(
-            [&](kw::Prüfung &p) {
-                return std::exchange(erstes, false) ? nutzer.Anfang() : nutzer.Nächstes(p.Jetzt(), p.AntwortOffen());
-            },
-            angaben["--steps"]);
+    for (int saat = angaben["--seed"]; saat < angaben["--seed"] + angaben["--scripts"]; ++saat) {
+        kw::Zufallsnutzer nutzer(static_cast<unsigned>(saat));
+        const Lauf lauf = Laufen([&](kw::Prüfung &p) { return nutzer.Nächstes(p.Jetzt, p.AntwortOffen()); },
+                                 static_cast<size_t>(angaben["--steps"]));
         schritte += lauf.Zeilen.size();
-        for (const auto &[name, zahl] : lauf.Gezählt) macken[name] += zahl;
+        for (const auto &[name, zahl] : lauf.Entschuldigt) entschuldigt[name] += zahl;
         if (lauf.Fehler.empty() || ++fehler[lauf.Art()] > 1) continue;
         const Lauf kurz = Gekürzt(lauf);
         std::cout << "# seed " << saat << ", " << kurz.Fehler << "\n";
@@ -143,8 +115,8 @@ int main(int argc, char **argv) {
     }
     std::filesystem::current_path("/");
     std::filesystem::remove_all(ordner);
-    std::cout << schritte << " steps\n";
-    for (const auto &[name, zahl] : macken) std::cout << "  excused " << zahl << " times: " << name << "\n";
+    std::cout << schritte << " lines run\n";
+    for (const auto &[name, zahl] : entschuldigt) std::cout << "  excused " << zahl << " times: " << name << "\n";
     for (const auto &[art, zahl] : fehler) std::cout << "  FAULT in " << zahl << " scripts: " << art << "\n";
     return fehler.empty() ? 0 : 1;
 }
