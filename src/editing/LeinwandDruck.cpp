@@ -33,8 +33,9 @@ void Leinwand::MouseDown(int taste, double x, double y) {
         if ((this->*schritt)(e)) return;
 }
 
-bool Leinwand::Zurücksetzen(const Ereignis &) {
-    lage.Gedrückt = true;
+bool Leinwand::Zurücksetzen(const Ereignis &e) {
+    // The last release got lost; a dragged circle line has moved already.
+    if (std::exchange(lage.Gedrückt, true) && lage.Aktion == AktionKreisGewählt) KreisLoslassen(e);
     auflagen.Line5.Visible = false;
     w.bedienung["mnuLöschen1"].Enabled = false;
     auflagen.shpMask.Visible = false;

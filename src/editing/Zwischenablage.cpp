@@ -170,25 +170,42 @@ void Anhängen(const Satzliste &quelle, Satzliste &speicher, Satzliste *nummern,
     }
 }
 
-/// A frame for what was copied without one: the box of the arrows.
-void RahmenUmPfeile(Auflagenform &rahmen, const Satzliste &pfeile) {
-    double links = 0, oben = 0, rechts = 0, unten = 0;
-    bool erster = true;
-    for (const auto &satz : pfeile) {
+/// The smallest box that holds some places.
+struct Umgebung {
+    double Links = 0, Oben = 0, Rechts = 0, Unten = 0;
+    bool Leer = true;
+
+    void Aufnehmen(double x, double y, double breite = 0, double höhe = 0) {
+        Links = Leer ? x : std::min(Links, x);
+        Oben = Leer ? y : std::min(Oben, y);
+        Rechts = Leer ? x + breite : std::max(Rechts, x + breite);
+        Unten = Leer ? y + höhe : std::max(Unten, y + höhe);
+        Leer = false;
+    }
+};
+
+/// A frame round the clipboard's records, for what was copied without one.
+void RahmenUm(Auflagenform &rahmen, const Zwischenablage &za) {
+    Umgebung u;
+    for (const auto &satz : za.ZA_Personen) {
+        const Satzbau p(satz, PersonFeld::Anzahl);
+        const double größe = p.Zahl(PersonFeld::Groesse);
+        u.Aufnehmen(p.Zahl(PersonFeld::PosX) - größe / 2, p.Zahl(PersonFeld::PosY) - größe / 2, größe, größe);
+    }
+    for (const auto &satz : za.ZA_Textboxen) {
+        const Satzbau t(satz, TextFeld::Anzahl);
+        u.Aufnehmen(t.Zahl(TextFeld::TextX), t.Zahl(TextFeld::TextY), t.Zahl(TextFeld::TextBreite),
+                    t.Zahl(TextFeld::TextHoehe));
+    }
+    for (const auto &satz : za.ZA_Kreislinien)
+        for (const auto &[x, y] : KreisPunkte(satz)) u.Aufnehmen(x, y);
+    for (const auto &satz : za.ZA_Pfeile) {
         const Satzbau p(satz, PfeilFeld::Anzahl);
-        for (const auto &[fx, fy] :
-             {std::pair(PfeilFeld::PfeilX1, PfeilFeld::PfeilY1), std::pair(PfeilFeld::PfeilX2, PfeilFeld::PfeilY2)}) {
-            const double x = p.Zahl(fx);
-            const double y = p.Zahl(fy);
-            links = erster ? x : std::min(links, x);
-            rechts = erster ? x : std::max(rechts, x);
-            oben = erster ? y : std::min(oben, y);
-            unten = erster ? y : std::max(unten, y);
-            erster = false;
-        }
+        u.Aufnehmen(p.Zahl(PfeilFeld::PfeilX1), p.Zahl(PfeilFeld::PfeilY1));
+        u.Aufnehmen(p.Zahl(PfeilFeld::PfeilX2), p.Zahl(PfeilFeld::PfeilY2));
     }
     constexpr double Rand = 0.3;
-    if (!erster) rahmen.Legen(links - Rand, oben - Rand, rechts - links + 2 * Rand, unten - oben + 2 * Rand);
+    if (!u.Leer) rahmen.Legen(u.Links - Rand, u.Oben - Rand, u.Rechts - u.Links + 2 * Rand, u.Unten - u.Oben + 2 * Rand);
 }
 
 /// What was pasted is selected: a single element as if clicked, anything else as a group in its frame.
@@ -217,7 +234,7 @@ void EingefügtesAuswählen(Werkbank &w) {
         const Satzbau punkt(za.KopierPunkt, 2);
         Auflagenform &rahmen = w.auflagen.shpBox;
         rahmen.Legen(punkt.Zahl(0), punkt.Zahl(1), za.KopierBreite, za.KopierHöhe);
-        if (za.KopierBreite <= 0 || za.KopierHöhe <= 0) RahmenUmPfeile(rahmen, za.ZA_Pfeile);
+        if (za.KopierBreite <= 0 || za.KopierHöhe <= 0) RahmenUm(rahmen, za);
         w.lage.Aktion = AktionGruppeGewählt;
     }
 }

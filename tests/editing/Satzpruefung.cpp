@@ -104,7 +104,7 @@ struct Sammler {
         const std::string anderer = marke.substr(2);
         const Wer wer{"P" + nr, "P" + anderer};
         const auto *satz = Finden(d.cboPersonen, anderer);
-        if (!satz || anderer == nr) return Soll(false, "twin is nobody", wer);
+        if (!satz || anderer == nr) return Soll(false, "twin of one side", wer);
         const Felder z(*satz);
         Soll(z[PersonFeld::Zwilling] == marke.substr(0, 2) + nr, "twin of one side", wer);
         Soll(z[PersonFeld::ElternLinie] == eltern, "twins of different parents", wer);
@@ -257,7 +257,7 @@ const Macke Macken[] = {
      }},
     {"copied twins have no parents, and get them one by one", "twins of different parents, twins don't meet",
      [](const Schritt &s, const Verstoß &) { return s.Alt.lage.Aktion == AktionKindZiehen; }},
-    {"a line that goes clears the marks of its own children only", "twin of one side, twin is nobody",
+    {"a line that goes clears the marks of its own children only", "twin of one side",
      [](const Schritt &s, const Verstoß &v) {
          return FeldVon(s.Alt.dokument, v.Wer[0], PersonFeld::ElternLinie) !=
                 FeldVon(s.Alt.dokument, v.Wer[1], PersonFeld::ElternLinie);
@@ -266,17 +266,6 @@ const Macke Macken[] = {
      [](const Schritt &s, const Verstoß &) { return s.Neu.lage.Aktion == AktionKreisGewählt; }},
     {"a person just placed waits for its snapshot", "change without snapshot in cboPersonen",
      [](const Schritt &s, const Verstoß &) { return s.Neu.lage.Aktion == AktionPersonSetzen; }},
-    {"what is released where it was pressed snaps to the raster without a snapshot",
-     "change without snapshot in cboPersonen, change without snapshot in cboTextboxen, change without snapshot in "
-     "cboPfeile",
-     [](const Schritt &s, const Verstoß &v) {
-         const int aktion = s.Neu.lage.Aktion;
-         return (aktion == AktionPersonGewählt && v.Art.ends_with("Personen")) ||
-                (aktion == AktionTextGewählt && v.Art.ends_with("Textboxen")) ||
-                (aktion == AktionPfeilEnde2 && v.Art.ends_with("Pfeile"));
-     }},
-    {"a person that snapped so leaves its lines behind", "end of leg, end of bar, end at child, end of relationship",
-     [](const Schritt &s, const Verstoß &) { return s.Neu.lage.Aktion == AktionPersonGewählt && s.OhneSicherung(); }},
 };
 
 } // namespace
@@ -312,7 +301,8 @@ bool Prüfung::AntwortOffen() {
 
 /// A number that two records share excuses whatever else is wrong with it, for the rest of the document's life.
 std::string Prüfung::Zeile(const std::string &zeile) {
-    if (zeile.starts_with("up") && wiedergabe_.Läuft().Taste == TasteKeine) return ""; // no face sends that
+    const bool loslassen = zeile.starts_with("up"); // only where the pointer is, as every face does
+    if (loslassen && (wiedergabe_.Läuft().Taste == TasteKeine || zeile_ != "move" + zeile.substr(2))) return "";
     vorige_ = std::exchange(zeile_, zeile);
     wiedergabe_.Zeile(zeile);
     aus_.str({});
@@ -360,8 +350,10 @@ std::vector<Verstoß> Prüfung::Übergang() {
     if (zeile_.starts_with("load") && vorige_ == "save" + zeile_.substr(4))
         falsch = Unterschied(alt_.dokument, Jetzt.dokument);
     if (!falsch.empty()) return {{"loading does not give back" + falsch, {}}};
-    if (platz != vorher && (zeile_ == "key Ctrl+Z" || zeile_ == "key Ctrl+Y")) {
-        if (plätze_.contains(platz)) falsch = Unterschied(plätze_[platz], Jetzt.dokument);
+    if (zeile_ == "key Ctrl+Z" || zeile_ == "key Ctrl+Y") {
+        const int ziel = (vorher + (zeile_ == "key Ctrl+Z" ? UndoRing::UndoTiefe - 2 : 0)) % UndoRing::UndoTiefe + 1;
+        if (platz != ziel) plätze_ = {{platz, Jetzt.dokument}}; // no step left, or it ended a gesture first
+        falsch = Unterschied(plätze_.try_emplace(platz, Jetzt.dokument).first->second, Jetzt.dokument);
         if (!falsch.empty()) return {{"undo does not give back" + falsch, {}}};
         return {};
     }

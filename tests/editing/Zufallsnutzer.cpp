@@ -26,8 +26,8 @@ constexpr std::string_view Handlungen[] = {
     "drag %F|key Ctrl+X|key Ctrl+V", "key Ctrl+V", "popup %m|rclick %=", "popup %m|rclick %=|rclick %=",
     "drag %x %e", "drag %p %e", "drag %b %e", "drag %x %x", "click %x|drag %= %e", "click %x", "click %x|key Del",
     "key Del", "key Ctrl+C", "key Ctrl+X", "key Ctrl+Z", "key Ctrl+Z|key Ctrl+Z|key Ctrl+Y|key Ctrl+Y",
-    "tool 9|drag %e %e", "tool 15|drag %e %e", "down left %x|move %x|move %x", "down right %x", "up %x",
-    "move %x|key Del|up %x", "dblclick %x|wait 100", "save zufall.kwp|load zufall.kwp", "pick cboRaster 0",
+    "tool 9|drag %e %e", "tool 15|drag %e %e", "down left %x|move %x|move %x", "down right %x|move %x|up %=", "move %x|up %=",
+    "move %x|key Del|move %x|up %=", "dblclick %x|wait 100", "save zufall.kwp|load zufall.kwp", "pick cboRaster 0",
     "pick cboRaster 2", "wheel up", "menu mnuLegendeAnzeigen",
 };
 // clang-format on
@@ -107,13 +107,13 @@ std::string Zufallsnutzer::Eingesetzt(char platzhalter) {
 }
 
 std::vector<std::string> Zufallsnutzer::Nächstes(const Stand &stand, bool antwortOffen) {
-    constexpr size_t VollePersonen = 40;
+    constexpr size_t Voll = 60; // elements, arrows counted twice
     Umsehen(stand);
     std::string_view handlung = Anfang;
     const auto hat = [&](std::string_view wort) { return handlung.find(wort) != std::string_view::npos; };
     while (!neu_ && (handlung == Anfang || (genau_ && (hat("load") || hat("Ctrl+V") || hat("Ctrl+Z")))))
         handlung = Handlungen[zufall_() % std::size(Handlungen)];
-    if (personen_.size() > VollePersonen && handlung.starts_with("tool")) handlung = "drag %F|key Del";
+    if (alle_.size() > Voll && (handlung.starts_with("tool") || hat("Ctrl+V"))) handlung = "drag %F|key Del";
     neu_ = false;
     std::vector<std::string> zeilen(1);
     for (size_t i = 0; i < handlung.size(); ++i) {

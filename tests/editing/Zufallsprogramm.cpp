@@ -24,7 +24,7 @@ struct Lauf {
 /// Runs what `weiter` gives, `höchstens` that many lines, in a process of its own: it may crash or hang. Each line is
 /// told before it runs, so that the script is known whatever comes.
 Lauf Laufen(const std::function<Skript(kw::Prüfung &)> &weiter, size_t höchstens) {
-    constexpr unsigned Geduld = 20; // s for a line
+    constexpr unsigned Geduld = 3; // s for a line
     int rohr[2];
     if (::pipe(rohr) != 0) std::abort();
     const pid_t kind = ::fork();
