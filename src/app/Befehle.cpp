@@ -40,7 +40,7 @@ void PLinieBearbeiten(frmMain &h) {
 
 void TextBearbeiten(frmMain &h) {
     h.lage.Aktion = AktionTextDialog;
-    if (!h.FormÖffnen("frmKommentar")) Aktion_Nichts(h.werkbank);
+    h.FormÖffnen("frmKommentar");
 }
 
 void LegendeAktualisieren(frmMain &h) {
@@ -139,6 +139,11 @@ constexpr Befehl Tabelle[] = {
     {"mnuSchwarzWeiß", [](frmMain &h) { h.FarbschemaWählen(SchemaSchwarzWeiß); }},
     {"mnuGraustufen", [](frmMain &h) { h.FarbschemaWählen(SchemaGraustufen); }},
     {"mnuFarbig", [](frmMain &h) { h.FarbschemaWählen(SchemaFarbig); }},
+    {"mnuSchriftart", [](frmMain &h) { h.FormÖffnen("frmSchrift"); }},
+    {"mnuAltersangabe", [](frmMain &h) { h.FormÖffnen("frmSymbGlobal"); }},
+    {"mnuSeiteEinrichten", [](frmMain &h) { h.FormÖffnen("frmSeiteEinrichten"); }},
+    {"mnuEinstellungen", [](frmMain &h) { h.FormÖffnen("frmEinstellungen"); }},
+    {"mnuInfo", [](frmMain &h) { h.FormÖffnen("frmInfo"); }},
     {"mnuSymbolKleiner", [](frmMain &h) { GrößeÄndern(h.werkbank, -GrößenSchritt); }},
     {"mnuSymbolGrößer", [](frmMain &h) { GrößeÄndern(h.werkbank, GrößenSchritt); }},
     {"btnBildGrößer", [](frmMain &h) { h.bereich.Vergrößern(); }},

@@ -1,6 +1,6 @@
 #include "app/Einzelbild.h"
 
-#include "app/Einstellungen.h"
+#include "document/Einstellungen.h"
 #include "document/Felder.h"
 #include "document/ProjektDatei.h"
 #include "rendering/Seite.h"

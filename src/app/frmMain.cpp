@@ -1,6 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/Befehle.h"
+#include "app/Formulare.h"
 #include "document/Dateien.h"
 #include "document/Papier.h"
 #include "document/Zahlen.h"
@@ -187,7 +188,22 @@ void frmMain::PopupÖffnen(std::string_view menü) {
     if (const auto gewählt = plattform.benutzer.PopupZeigen(menü)) BefehlAusführen(*gewählt);
 }
 
-bool frmMain::FormÖffnen(std::string_view form) { return plattform.benutzer.FormZeigen(form); }
+void frmMain::FormÖffnen(std::string_view name) {
+    Dialogumgebung umgebung{werkbank, einstellungen, start.IniDatei, plattform.uhr, plattform.drucker, *this};
+    const auto form = FormularErzeugen(name, umgebung);
+    plattform.benutzer.FormZeigen(*form);
+}
+
+void frmMain::LegendeZeigen(bool sichtbar) {
+    bedienung["btnLegende"].Checked = sichtbar;
+    Legende();
+}
+
+void frmMain::SeiteAnwenden() {
+    bedienung["btnBlattränder"].Checked = ansicht.bDruckrandAnzeigen;
+    SeiteAnzeigen();
+    bereich.Bildgrößenveränderung();
+}
 
 void frmMain::mnuBearbeiten_Öffnen() {
     bedienung["mnuAusschneiden"].Enabled = bedienung["mnuKopieren"].Enabled = auswahl.HatKopierbares();

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "app/Einstellungen.h"
+#include "document/Einstellungen.h"
 #include "app/Projekt.h"
 #include "commands/Menuetafel.h"
 #include "document/Auswahlliste.h"
 #include "document/Dokument.h"
 #include "document/UndoRing.h"
+#include "dialogs/Dialogumgebung.h"
 #include "editing/Leinwand.h"
 #include "output/basDruckVorschau.h"
 #include "platform/Benutzer.h"
@@ -35,7 +36,7 @@ struct Startangaben {
 
 /// The main window as a model: owns every part of the program and wires them. It keeps only what is truly
 /// its own: the order of starting, redrawing, closing. Routines stand with the state that they change.
-class frmMain : public Fensterdienste {
+class frmMain : public Fensterdienste, public Dialogdienste {
   public:
     /// `canvas` becomes `picVorschau`. Nothing happens before `Laden`.
     frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben startangaben);
@@ -60,7 +61,10 @@ class frmMain : public Fensterdienste {
     void UndoKnöpfeSperren();
     void AlsGeändertMerken() override { projekt.Geändert = true; }
     void PopupÖffnen(std::string_view menü) override;
-    bool FormÖffnen(std::string_view form) override;
+    void FormÖffnen(std::string_view name) override;
+    void LegendeZeigen(bool sichtbar) override;
+    void SeiteAnwenden() override;
+    void GenogrammDrucken() override {}
     /// One step back or forward in the ring; afterwards nothing is selected and no gesture runs.
     void cmdUndo();
     void cmdredo();

@@ -57,7 +57,7 @@ bool Leinwand::TextSetzen(const Ereignis &e) {
     if (lage.Aktion != AktionTextGesetzt) return false;
     lage.AuswahlX = RasterZehntel(e.X);
     lage.AuswahlY = RasterZehntel(e.Y);
-    if (!w.fenster.FormÖffnen("frmKommentar")) Aktion_Nichts(w);
+    w.fenster.FormÖffnen("frmKommentar");
     lage.Zeiger = Mauszeiger::Pfeil;
     return true;
 }
@@ -353,20 +353,20 @@ void Leinwand::DblClick(double x, double y) {
         TextboxAuswählen(w, text);
         lage.Aktion = AktionTextDialog;
         w.fenster.Vorschau();
-        if (!w.fenster.FormÖffnen("frmKommentar")) Aktion_Nichts(w);
+        w.fenster.FormÖffnen("frmKommentar");
         return;
     }
     if (LegendeUnterMaus()) {
         w.fenster.FormÖffnen("frmLegende");
         return;
     }
-    struct Formular {
+    struct Tür {
         int Aktion;
         const char *Form;
     };
     for (const auto &[aktion, form] :
-         {Formular{AktionBeziehungGewählt, "frmBezLinien"}, Formular{AktionPLinieGewählt, "frmPLinien"},
-          Formular{AktionKindlinieGewählt, nullptr}}) {
+         {Tür{AktionBeziehungGewählt, "frmBezLinien"}, Tür{AktionPLinieGewählt, "frmPLinien"},
+          Tür{AktionKindlinieGewählt, nullptr}}) {
         if (lage.Aktion != aktion) continue;
         if (form) w.fenster.FormÖffnen(form);
         else w.fenster.PopupÖffnen("mnuKindLinie");

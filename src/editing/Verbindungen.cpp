@@ -228,7 +228,16 @@ void BeziehungAnlegen(Werkbank &w) {
     w.lage.Aktion = AktionBeziehungGewählt;
     w.fenster.Vorschau();
     w.lage.Aktion = AktionBeziehungZiehen; // the form tells a new line by it
-    if (!w.fenster.FormÖffnen("frmBezLinien")) w.fenster.Sichern();
+    w.fenster.FormÖffnen("frmBezLinien");
+}
+
+void BezLAbbrechen(Werkbank &w) {
+    if (w.lage.Aktion != AktionBeziehungZiehen) return;
+    Satzliste &linien = w.dokument.cboBeziehungsLinien;
+    if (w.lage.BezAuswahl >= 0 && w.lage.BezAuswahl < linien.Anzahl()) linien.Entfernen(w.lage.BezAuswahl);
+    PositionenVergessen(w.lage);
+    Aktion_Nichts(w);
+    w.fenster.Vorschau();
 }
 
 } // namespace kw

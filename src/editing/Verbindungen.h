@@ -23,6 +23,9 @@ void mnuKindVon(Werkbank &w);
 void PartnerschaftAnlegen(Werkbank &w);
 /// A relationship line between link target and selected person, and its form. Nothing when they have one.
 void BeziehungAnlegen(Werkbank &w);
+/// Takes the line away again whose form has been left without OK, while `Aktion` 12 tells that it is new. No snapshot:
+/// there was none of it. A line that was there before stays.
+void BezLAbbrechen(Werkbank &w);
 
 /// The end of a link gesture, however it ends: rubber lines and marks of the target go.
 void LinkAufräumen(Werkbank &w);

@@ -28,8 +28,8 @@ class Fensterdienste {
     virtual void UndoKnöpfeSetzen() = 0;
     /// Shows a context menu at the pointer and runs what the user picks there, before it returns.
     virtual void PopupÖffnen(std::string_view menü) = 0;
-    /// Shows a form modally. False when there is no such form: nothing was asked.
-    virtual bool FormÖffnen(std::string_view form) = 0;
+    /// Shows a form modally; what it changes is changed when this returns.
+    virtual void FormÖffnen(std::string_view form) = 0;
 };
 
 /// All that the editing routines work on. Each routine stands with what it changes and gets the bench as its

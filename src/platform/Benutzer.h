@@ -28,6 +28,8 @@ struct Dateiwahl {
     std::string Ordner;
 };
 
+class Formular;
+
 /// What the model asks of the user and of the desktop. Boxes and dialogs are modal: the call returns when
 /// the user is done. Whatever closes a box without a choice is Abbrechen.
 class Benutzer {
@@ -40,8 +42,10 @@ class Benutzer {
     /// Shows context menu `menü` at the pointer; the name of the entry that the user picks, nothing when it is
     /// dismissed. Entries that are disabled or hidden can't be picked.
     virtual std::optional<std::string> PopupZeigen(std::string_view menü) = 0;
-    /// Shows a form and returns when it is closed. False when there is none of that name.
-    virtual bool FormZeigen(std::string_view /*form*/) { return false; }
+    /// Shows a form modally: loads it, hands it what the user does until it isn't open any more, unloads it.
+    virtual void FormZeigen(Formular &form) = 0;
+    /// The colour dialog: 0xBBGGRR, nothing when cancelled.
+    virtual std::optional<int> FarbeWählen(int farbe) = 0;
     /// Lets `frmMain::ZeitgeberAbgelaufen` be called with this name, once, after `ms` milliseconds.
     virtual void ZeitgeberStarten(std::string_view name, int ms) = 0;
     /// Does something as soon as the window has been painted for the first time.

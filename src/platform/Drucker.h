@@ -2,6 +2,8 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace kw {
 
@@ -23,6 +25,12 @@ class Drucker {
     virtual Druckränder Ränder() const = 0;
     /// 1 portrait, 2 landscape, as the current printer stands.
     virtual int Orientation() const = 0;
+    /// All installed printers, in the platform's order.
+    virtual std::vector<std::string> DeviceNames() const = 0;
+    /// Makes that printer the current one, as its own settings have it. An unknown name changes nothing.
+    virtual void Wählen(std::string_view deviceName) = 0;
+    /// Turns the current printer: 1 portrait, 2 landscape.
+    virtual void OrientationSetzen(int lage) = 0;
 };
 
 } // namespace kw

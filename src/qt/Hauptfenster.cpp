@@ -1,10 +1,12 @@
 #include "qt/Hauptfenster.h"
 
+#include "qt/Formularfenster.h"
 #include "qt/Palette.h"
 #include "qt/Text.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFontDatabase>
@@ -115,9 +117,15 @@ void Hauptfenster::NachVorn() {
     activateWindow();
 }
 
+QWidget *Hauptfenster::Vordergrund() {
+    QWidget *offen = QApplication::activeModalWidget();
+    return offen ? offen : this;
+}
+
 Antwort Hauptfenster::Fragen(const Nachfrage &nachfrage) {
     const auto &reihe = Knopfreihen[static_cast<int>(nachfrage.Auswahl)];
-    QMessageBox kasten(Bild(nachfrage.Bild), Text(nachfrage.Titel), Text(nachfrage.Text), reihe.Knöpfe_, this);
+    QMessageBox kasten(Bild(nachfrage.Bild), Text(nachfrage.Titel), Text(nachfrage.Text), reihe.Knöpfe_,
+                       Vordergrund());
     kasten.setTextFormat(Qt::PlainText);
     kasten.setDefaultButton(reihe.Vorgabe);
     switch (kasten.exec()) {
@@ -129,16 +137,25 @@ Antwort Hauptfenster::Fragen(const Nachfrage &nachfrage) {
 }
 
 std::optional<std::string> Hauptfenster::DateiÖffnen(const Dateiwahl &wahl) {
-    return DialogZeigen(this, wahl, QFileDialog::AcceptOpen);
+    return DialogZeigen(Vordergrund(), wahl, QFileDialog::AcceptOpen);
 }
 
 std::optional<std::string> Hauptfenster::DateiSpeichern(const Dateiwahl &wahl) {
-    return DialogZeigen(this, wahl, QFileDialog::AcceptSave);
+    return DialogZeigen(Vordergrund(), wahl, QFileDialog::AcceptSave);
 }
 
 std::optional<std::string> Hauptfenster::PopupZeigen(std::string_view menü) {
     const auto ort = palette_ ? palette_->Popuport() : std::nullopt;
     return menüs_.Popup(menü, ort.value_or(QCursor::pos()), *this);
+}
+
+void Hauptfenster::FormZeigen(Formular &form) { Formularfenster(form, Vordergrund()).Ausführen(); }
+
+std::optional<int> Hauptfenster::FarbeWählen(int farbe) {
+    const auto anteil = [&](int bits) { return farbe >> bits & 0xFF; };
+    const QColor gewählt = QColorDialog::getColor(QColor(anteil(0), anteil(8), anteil(16)), Vordergrund());
+    if (!gewählt.isValid()) return std::nullopt;
+    return gewählt.red() | gewählt.green() << 8 | gewählt.blue() << 16;
 }
 
 void Hauptfenster::ZeitgeberStarten(std::string_view name, int ms) {

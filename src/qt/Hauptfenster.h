@@ -24,6 +24,8 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) override;
     std::optional<std::string> DateiSpeichern(const Dateiwahl &wahl) override;
     std::optional<std::string> PopupZeigen(std::string_view menü) override;
+    void FormZeigen(Formular &form) override;
+    std::optional<int> FarbeWählen(int farbe) override;
     void ZeitgeberStarten(std::string_view name, int ms) override;
     void NachErstemBild(std::function<void()> arbeit) override;
     void AnzeigeAuffrischen() override;
@@ -41,6 +43,8 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     /// A command that the user has chosen in a menu, by a shortcut or on the palette.
     void Ausführen(std::string_view befehl);
     void Anzeigen();
+    /// What the next dialog stands over: the form that is open, else this window.
+    QWidget *Vordergrund();
 
     QtUhr uhr_;
     QtDrucker drucker_;

@@ -1,6 +1,6 @@
 #include "qt/QtPlattform.h"
 
-#include "app/Einstellungen.h"
+#include "document/Einstellungen.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -34,7 +34,7 @@ Datum QtUhr::Heute() const {
 namespace {
 
 /// The default printer; without one, the first of the list.
-QPrinterInfo Aktueller() {
+QPrinterInfo Vorgabe() {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (!info.isNull()) return info;
     const QStringList alle = QPrinterInfo::availablePrinterNames();
@@ -43,21 +43,41 @@ QPrinterInfo Aktueller() {
 
 } // namespace
 
+/// A chosen printer that has gone meanwhile leaves the default one.
+QPrinterInfo QtDrucker::Aktueller() const {
+    const QPrinterInfo info = gewählt_.isEmpty() ? QPrinterInfo() : QPrinterInfo::printerInfo(gewählt_);
+    return info.isNull() ? Vorgabe() : info;
+}
+
 std::optional<std::string> QtDrucker::DeviceName() const {
     const QPrinterInfo info = Aktueller();
     return info.isNull() ? std::nullopt : std::optional(info.printerName().toStdString());
 }
 
 Druckränder QtDrucker::Ränder() const {
-    const QPrinter drucker(Aktueller());
+    const QPrinter drucker(Vorgabe());
     constexpr double CmJePunkt = 2.54 / 72;
     const QMarginsF rand = drucker.pageLayout().minimumMargins() * CmJePunkt;
     return {rand.left(), rand.right(), rand.top(), rand.bottom()};
 }
 
 int QtDrucker::Orientation() const {
+    if (lage_) return *lage_;
     const QPrinter drucker(Aktueller());
     return drucker.pageLayout().orientation() == QPageLayout::Portrait ? 1 : 2;
+}
+
+std::vector<std::string> QtDrucker::DeviceNames() const {
+    std::vector<std::string> namen;
+    for (const QString &name : QPrinterInfo::availablePrinterNames()) namen.push_back(name.toStdString());
+    return namen;
+}
+
+void QtDrucker::Wählen(std::string_view deviceName) {
+    const QString name = QString::fromUtf8(deviceName.data(), static_cast<qsizetype>(deviceName.size()));
+    if (QPrinterInfo::printerInfo(name).isNull()) return;
+    gewählt_ = name;
+    lage_.reset();
 }
 
 std::string EinstellungsDateiDesBenutzers() {

@@ -3,8 +3,12 @@
 #include "platform/Drucker.h"
 #include "platform/Uhr.h"
 
+#include <QString>
+
 #include <ctime>
 #include <string>
+
+class QPrinterInfo;
 
 namespace kw {
 
@@ -28,6 +32,15 @@ class QtDrucker : public Drucker {
     std::optional<std::string> DeviceName() const override;
     Druckränder Ränder() const override;
     int Orientation() const override;
+    std::vector<std::string> DeviceNames() const override;
+    void Wählen(std::string_view deviceName) override;
+    void OrientationSetzen(int lage) override { lage_ = lage; }
+
+  private:
+    QPrinterInfo Aktueller() const;
+
+    QString gewählt_;         ///< empty until one is chosen
+    std::optional<int> lage_; ///< as the program has turned it
 };
 
 /// The order of day, month and year in a short date format of Qt's ("dd.MM.yy").

@@ -35,6 +35,20 @@ void MenüwahlVormerken(Wiedergabe &lauf, const std::string &name) {
     lauf.Läuft().benutzer.Menüwahlen.push_back(name);
 }
 
+/// Takes the lines up to `end`: what the user does in the next form of that name.
+void FormularVormerken(Wiedergabe &lauf, const std::string &name) {
+    Formularskript skript{name, {}};
+    std::string zeile;
+    while (lauf.NächsteZeile(zeile)) {
+        if (zeile == "end") {
+            lauf.Läuft().benutzer.Formulare.push_back(std::move(skript));
+            return;
+        }
+        skript.Zeilen.push_back(zeile);
+    }
+    throw Skriptfehler("form without end");
+}
+
 void Beantworten(Wiedergabe &lauf, const Wörter &w) {
     static const std::map<std::string_view, Antwort> Knopfwörter{
         {"yes", Antwort::Ja}, {"no", Antwort::Nein}, {"cancel", Antwort::Abbrechen}, {"ok", Antwort::Ok}};
@@ -103,6 +117,7 @@ constexpr Skriptbefehl Tabelle[] = {
     {"menu", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
     {"toolbar", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
     {"key", [](auto &lauf, auto &w, auto &) { TasteTippen(lauf, Wort(w, 1)); }},
+    {"form", [](auto &lauf, auto &w, auto &) { FormularVormerken(lauf, Wort(w, 1)); }},
     {"popup", [](auto &lauf, auto &w, auto &) { MenüwahlVormerken(lauf, Wort(w, 1)); }},
     {"answer", [](auto &lauf, auto &w, auto &) { Beantworten(lauf, w); }},
     {"pick", [](auto &lauf, auto &w, auto &) { Wählen(lauf, Wort(w, 1), Wort(w, 2)); }},

@@ -1,7 +1,9 @@
 #include "replay/Plattform.h"
 
+
 #include "app/Befehle.h"
 #include "commands/Menuetafel.h"
+#include "document/Zahlen.h"
 
 #include <algorithm>
 
@@ -89,6 +91,32 @@ std::optional<std::string> DrehbuchBenutzer::PopupZeigen(std::string_view menü)
 void DrehbuchBenutzer::ZeitgeberStarten(std::string_view name, int ms) {
     std::erase_if(ZeitgeberListe, [&](const Zeitgeber &z) { return z.Name == name; });
     ZeitgeberListe.push_back({std::string(name), Jetzt + ms});
+}
+
+void DrehbuchBenutzer::FormZeigen(Formular &form) {
+    const auto skript = std::find_if(Formulare.begin(), Formulare.end(),
+                                     [&](const Formularskript &f) { return f.Name == form.Name(); });
+    std::vector<std::string> zeilen;
+    if (skript == Formulare.end()) aus_ << "unanswered " << form.Caption << "\n";
+    else {
+        zeilen = std::move(skript->Zeilen);
+        Formulare.erase(skript);
+    }
+    FormularSpielen(form, zeilen);
+    for (auto &[name, wert] : Formularwerte(form)) Formularwerte_[name] = wert;
+}
+
+std::optional<int> DrehbuchBenutzer::FarbeWählen(int) {
+    const auto antwort = Nächste("colour", [](const Vorbereitet &v) { return v.Wofür == Vorbereitet::Art::Farbwert; });
+    if (!antwort || antwort->Abgebrochen) return std::nullopt;
+    return static_cast<int>(ZahlLesen(antwort->Wert));
+}
+
+void DrehbuchDrucker::Wählen(std::string_view deviceName) {
+    const auto i = std::find(Namen.begin(), Namen.end(), deviceName);
+    if (i == Namen.end()) return;
+    gewählt_ = static_cast<size_t>(i - Namen.begin());
+    lage_ = 1;
 }
 
 } // namespace kw

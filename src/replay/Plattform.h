@@ -4,8 +4,11 @@
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
 #include "platform/Uhr.h"
+#include "replay/Formularspiel.h"
 
 #include <deque>
+#include <functional>
+#include <map>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -36,11 +39,17 @@ class DrehbuchBenutzer : public Benutzer {
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
+    std::deque<Formularskript> Formulare; ///< what to do in the next forms, each waiting for its name
+    std::map<std::string, std::string> Formularwerte_; ///< of the forms that have closed, each as it was last
+    /// Plays the user in front of a form.
+    std::function<void(Formular &, const std::vector<std::string> &)> FormularSpielen;
 
     Antwort Fragen(const Nachfrage &nachfrage) override;
     std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) override { return DateiWählen(wahl); }
     std::optional<std::string> DateiSpeichern(const Dateiwahl &wahl) override { return DateiWählen(wahl); }
     std::optional<std::string> PopupZeigen(std::string_view menü) override;
+    void FormZeigen(Formular &form) override;
+    std::optional<int> FarbeWählen(int farbe) override;
     void ZeitgeberStarten(std::string_view name, int ms) override;
     void NachErstemBild(std::function<void()> arbeit) override { arbeit(); }
     void AnzeigeAuffrischen() override {}
@@ -73,10 +82,17 @@ class DrehbuchDrucker : public Drucker {
     Druckränder Rand{0.4, 0.4, 0.4, 0.4};
 
     std::optional<std::string> DeviceName() const override {
-        return Namen.empty() ? std::nullopt : std::optional(Namen.front());
+        return Namen.empty() ? std::nullopt : std::optional(Namen.at(gewählt_));
     }
     Druckränder Ränder() const override { return Rand; }
-    int Orientation() const override { return 1; }
+    int Orientation() const override { return lage_; }
+    std::vector<std::string> DeviceNames() const override { return Namen; }
+    void Wählen(std::string_view deviceName) override;
+    void OrientationSetzen(int lage) override { lage_ = lage; }
+
+  private:
+    size_t gewählt_ = 0;
+    int lage_ = 1;
 };
 
 } // namespace kw

@@ -127,6 +127,9 @@ void Wiedergabe::Starten(const Wörter &w) {
     start.BildschirmBreite = Zahl(Wort(bild, 0)) * TwipsJePixel;
     start.BildschirmHöhe = Zahl(Wort(bild, 1)) * TwipsJePixel;
     programm_ = std::make_unique<Programm>(aus, start);
+    programm_->benutzer.FormularSpielen = [this](Formular &form, const std::vector<std::string> &zeilen) {
+        Formularspiel(*this, form).Spielen(zeilen);
+    };
     PlattformEinrichten(*programm_, angaben);
     programm_->haupt.Laden();
 }
@@ -146,7 +149,8 @@ void Wiedergabe::AntwortenPrüfen() {
     const DrehbuchBenutzer &b = programm_->benutzer;
     if (!b.Antworten.empty()) aus << "answers left over: " << b.Antworten.size() << "\n";
     if (!b.Menüwahlen.empty()) aus << "popups left over: " << b.Menüwahlen.size() << "\n";
-    gescheitert_ = gescheitert_ || !b.Antworten.empty() || !b.Menüwahlen.empty();
+    if (!b.Formulare.empty()) aus << "forms left over: " << b.Formulare.size() << "\n";
+    gescheitert_ = gescheitert_ || !b.Antworten.empty() || !b.Menüwahlen.empty() || !b.Formulare.empty();
 }
 
 } // namespace kw

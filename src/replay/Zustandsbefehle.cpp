@@ -29,6 +29,8 @@ void Setzen(Programm &p, const Wörter &w) {
 std::string Wert(const Programm &p, const std::string &name) {
     if (const auto v = p.namen.Variablen.find(name); v != p.namen.Variablen.end()) return v->second.Lesen();
     if (const auto l = p.namen.Listen.find(name); l != p.namen.Listen.end()) return std::to_string(l->second->Anzahl());
+    const auto &formulare = p.benutzer.Formularwerte_;
+    if (const auto f = formulare.find(name); f != formulare.end()) return f->second;
     throw Skriptfehler("unknown name: " + name);
 }
 

@@ -1,4 +1,4 @@
-#include "app/Einstellungen.h"
+#include "document/Einstellungen.h"
 
 #include "document/Papier.h"
 #include "document/Zahlen.h"

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "document/Einstellungen.h"
+#include "editing/Werkbank.h"
+#include "platform/Drucker.h"
+#include "platform/Uhr.h"
+
+#include <string>
+
+namespace kw {
+
+/// What forms ask of the main window beside `Fensterdienste`.
+class Dialogdienste {
+  public:
+    virtual ~Dialogdienste() = default;
+    /// Puts the legend button into that state, rebuilds the legend and shows or hides it.
+    virtual void LegendeZeigen(bool sichtbar) = 0;
+    /// The document's paper, orientation or margins' frame have changed: toolbar and page follow.
+    virtual void SeiteAnwenden() = 0;
+    /// One print run on the current printer.
+    virtual void GenogrammDrucken() = 0;
+};
+
+/// All that the forms work on.
+struct Dialogumgebung {
+    Werkbank &werkbank;
+    Einstellungen &einstellungen;
+    std::string EinstellungsDatei; ///< path of the settings file
+    const Uhr &uhr;
+    Drucker &drucker;
+    Dialogdienste &dienste;
+
+    bool IstDeutsch() const { return werkbank.IstDeutsch(); }
+};
+
+} // namespace kw

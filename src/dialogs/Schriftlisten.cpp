@@ -1,0 +1,30 @@
+#include "dialogs/Schriftlisten.h"
+
+#include "document/Zahlen.h"
+
+#include <algorithm>
+
+namespace kw {
+
+namespace {
+
+constexpr double GrößteProbe = 100; ///< points
+
+} // namespace
+
+std::vector<std::string> AngeboteneSchriftarten() {
+    return {"Arial",          "Calibri",  "Courier New", "Franklin Gothic Medium", "Georgia", "Impact",
+            "Lucida Console", "Segoe UI", "Tahoma",      "Times New Roman",        "Verdana"};
+}
+
+std::vector<std::string> AngeboteneSchriftgrößen() {
+    return {"8", "9", "10", "11", "12", "14", "16", "18", "20", "22", "24", "26", "28", "36"};
+}
+
+void SchriftZeigen(Steuerelement &probe, std::string_view schriftart, std::string_view größe) {
+    probe.FontName = schriftart;
+    const double punkte = ZahlLesen(größe);
+    if (punkte > 0) probe.FontSize = std::min(punkte, GrößteProbe);
+}
+
+} // namespace kw

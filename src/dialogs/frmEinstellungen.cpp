@@ -1,0 +1,61 @@
+#include "dialogs/frmEinstellungen.h"
+
+#include "document/Profil.h"
+
+#include <filesystem>
+
+namespace kw {
+
+namespace {
+
+constexpr int Deutsch = 0;
+constexpr int Englisch = 1;
+
+} // namespace
+
+frmEinstellungen::frmEinstellungen(Dialogumgebung &umgebung)
+    : Formular("frmEinstellungen", "Einstellungen"), umgebung_(umgebung) {
+    const bool englisch = umgebung.werkbank.ansicht.Sprache == "en";
+    if (englisch) Caption = "Settings";
+    Anlegen("Label1", Art::Beschriftung, englisch ? "Language" : "Sprache / Language");
+    Anlegen("Combo1", Art::Liste).Einträge = {"Deutsch", "English"};
+    Anlegen("cmdOK", Art::Knopf, "OK");
+    Anlegen("cmdAbbrechen", Art::Knopf, englisch ? "Cancel" : "Abbrechen");
+    Vorgabeknopf = "cmdOK";
+    Abbruchknopf = "cmdAbbrechen";
+}
+
+void frmEinstellungen::Laden() {
+    const std::string &sprache = umgebung_.werkbank.ansicht.Sprache;
+    if (ErsterStart) Caption = "Please choose your language ...";
+    if (ErsterStart || sprache == "en") IndexSetzen("Combo1", Englisch);
+    else if (sprache == "de") IndexSetzen("Combo1", Deutsch);
+}
+
+void frmEinstellungen::Geklickt(std::string_view name) {
+    if (name == "cmdOK") Bestätigen();
+    if (name == "cmdAbbrechen") Schließen();
+}
+
+void frmEinstellungen::Bestätigen() {
+    if (const int i = (*this)["Combo1"].ListIndex; i >= 0) {
+        gewählt_ = i == Deutsch ? "de" : "en";
+        const std::string &datei = umgebung_.EinstellungsDatei;
+        std::error_code fehler; // a folder that can't be made loses the setting, as one without permission does
+        if (const auto ordner = std::filesystem::path(datei).parent_path(); !ordner.empty())
+            std::filesystem::create_directories(ordner, fehler);
+        ProfilSchreiben(datei, "DEFAULT", "language", gewählt_);
+    }
+    Schließen();
+}
+
+/// The box comes when the form has gone, and speaks the language that was chosen.
+void frmEinstellungen::Entladen() {
+    if (gewählt_.empty()) return;
+    umgebung_.werkbank.benutzer.Fragen({"Kinwright Information",
+                                        gewählt_ == "de" ? "Bitte starten Sie Kinwright neu um die Sprache zu wechseln"
+                                                         : "Please restart Kinwright to change the language",
+                                        Knöpfe::Ok, Zeichen::Information});
+}
+
+} // namespace kw

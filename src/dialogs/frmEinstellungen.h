@@ -1,0 +1,29 @@
+#pragma once
+
+#include "dialogs/Dialogumgebung.h"
+#include "dialogs/Formular.h"
+
+namespace kw {
+
+/// The program's language. It goes into the settings file at once and counts from the next start on.
+class frmEinstellungen : public Formular {
+  public:
+    explicit frmEinstellungen(Dialogumgebung &umgebung);
+
+    /// No language has been chosen yet: the form asks for it, with English chosen. Set before the form is shown.
+    bool ErsterStart = false;
+
+    void Laden() override;
+    void Entladen() override;
+
+  protected:
+    void Geklickt(std::string_view name) override;
+
+  private:
+    void Bestätigen();
+
+    Dialogumgebung &umgebung_;
+    std::string gewählt_; ///< the language that was confirmed
+};
+
+} // namespace kw

@@ -1,0 +1,246 @@
+#include "dialogs/frmKommentar.h"
+
+#include "dialogs/Schriftlisten.h"
+#include "dialogs/frmSchrift.h"
+#include "document/Felder.h"
+#include "document/Zahlen.h"
+#include "editing/Marker.h"
+#include "editing/Satzbau.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kw {
+
+namespace {
+
+constexpr std::string_view Absatz = "¶"; ///< stands for an underscore in stored texts
+constexpr int MittlereListenstelle = 2;
+constexpr int Mittel = 1;
+
+struct Größenknopf {
+    const char *Name;
+    std::string Einstellungen::*Wert;
+};
+constexpr std::array<Größenknopf, 3> Größen{{
+    {"btnSchriftgr_e(0)", &Einstellungen::stdfont_s},
+    {"btnSchriftgr_e(1)", &Einstellungen::stdfont_m},
+    {"btnSchriftgr_e(2)", &Einstellungen::stdfont_l},
+}};
+
+struct Stilknopf {
+    const char *Name;
+    bool Steuerelement::*Schrift;
+    int Feld;
+};
+constexpr std::array<Stilknopf, 3> Stile{{
+    {"btnStyle(0)", &Steuerelement::FontBold, TextFeld::Fett},
+    {"btnStyle(1)", &Steuerelement::FontItalic, TextFeld::Kursiv},
+    {"btnStyle(2)", &Steuerelement::FontUnderline, TextFeld::Unterstrichen},
+}};
+
+constexpr std::array<const char *, 3> Ausrichtungen{"btnLeft", "btnRight", "btnMid"}; ///< in the order of their codes
+
+/// What stands on a control and what its tool tip says, in both languages.
+struct Aufschrift {
+    const char *Name;
+    Art Kind;
+    const char *Deutsch;
+    const char *Englisch;
+    const char *TipDeutsch = "";
+    const char *TipEnglisch = "";
+};
+
+// The tip of cmdEigenschaften is the same in both languages. Meant.
+constexpr Aufschrift Aufschriften[] = {
+    {"Text1", Art::Textblock, "", ""},
+    {"lblSchriftart", Art::Beschriftung, "Schriftart", "Font"},
+    {"cboSchriftart", Art::Kombination, "", ""},
+    {"lblFontSize", Art::Beschriftung, "Schriftgröße", "Font Size"},
+    {"cboFontSize", Art::Kombination, "", ""},
+    {"btnSchriftgr_e(0)", Art::Umschalter, "A", "A", "Kleine Schriftgröße", "Small Font Size"},
+    {"btnSchriftgr_e(1)", Art::Umschalter, "A", "A", "Mittlere Schriftgröße", "Medium Font Size"},
+    {"btnSchriftgr_e(2)", Art::Umschalter, "A", "A", "Große Schriftgröße", "Large Font Size"},
+    {"imgColor", Art::Knopf, "A", "A", "Schriftfarbe", "Font Color"},
+    {"lblColor", Art::Farbfeld, "", "", "Schriftfarbe", "Font Color"},
+    {"btnStyle(0)", Art::Umschalter, "F", "B", "Fett", "Bold"},
+    {"btnStyle(1)", Art::Umschalter, "K", "I", "Kursiv", "Italic"},
+    {"btnStyle(2)", Art::Umschalter, "U", "U", "Unterstrichen", "Underlined"},
+    {"btnLeft", Art::Umschalter, "", "", "Linksbündig", "Left Aligned"},
+    {"btnMid", Art::Umschalter, "", "", "Zentriert", "Centered"},
+    {"btnRight", Art::Umschalter, "", "", "Rechtsbündig", "Right Aligned"},
+    {"cmdEigenschaften", Art::Knopf, "…", "…", "Einstellungen", "Einstellungen"},
+    {"Command2", Art::Knopf, "OK", "OK"},
+    {"Command3", Art::Knopf, "Abbrechen", "Cancel"},
+};
+
+std::string Ersetzt(std::string text, std::string_view alt, std::string_view neu) {
+    for (size_t i = text.find(alt); i != std::string::npos; i = text.find(alt, i + neu.size()))
+        text.replace(i, alt.size(), neu);
+    return text;
+}
+
+std::string Kodiert(std::string text) {
+    std::erase(text, '\r'); // pasted lines can end so
+    return Ersetzt(Ersetzt(Ersetzt(std::move(text), Absatz, ""), "\n", "#"), "_", Absatz);
+}
+
+std::string Dekodiert(std::string_view text) { return Ersetzt(Ersetzt(std::string(text), Absatz, "_"), "#", "\n"); }
+
+bool IstLeer(const std::string &text) {
+    return Ersetzt(text, Absatz, "").find_first_not_of(" \r\n") == std::string::npos;
+}
+
+/// A typed font or size, without what would be one field too many.
+std::string AlsFeld(std::string text) {
+    std::erase(text, '_');
+    return text;
+}
+
+} // namespace
+
+frmKommentar::frmKommentar(Dialogumgebung &umgebung)
+    : Formular("frmKommentar", umgebung.IstDeutsch() ? "Text einfügen" : "Insert Text"), umgebung_(umgebung) {
+    const bool deutsch = umgebung.IstDeutsch();
+    for (const auto &a : Aufschriften)
+        Anlegen(a.Name, a.Kind, deutsch ? a.Deutsch : a.Englisch).Tip = deutsch ? a.TipDeutsch : a.TipEnglisch;
+    for (const auto &stil : Stile) (*this)[stil.Name].*stil.Schrift = true; // each looks like what it does
+    for (size_t i = 0; i < Ausrichtungen.size(); ++i) (*this)[Ausrichtungen[i]].Alignment = static_cast<int>(i);
+    (*this)["cboSchriftart"].Einträge = AngeboteneSchriftarten();
+    (*this)["cboFontSize"].Einträge = AngeboteneSchriftgrößen();
+    Vorgabeknopf = "Command2";
+    Abbruchknopf = "Command3";
+}
+
+void frmKommentar::Laden() {
+    const Werkbank &w = umgebung_.werkbank;
+    const std::string &schriftart = umgebung_.einstellungen.stdfontname;
+    TextSetzen("cboSchriftart", schriftart.empty() ? Standardschrift : std::string_view(schriftart));
+    IndexSetzen("cboFontSize", MittlereListenstelle);
+    GrößenknopfDrücken(Mittel);
+    Ausrichten(0);
+    FarbeSetzen(Schwarz);
+
+    neu_ = w.lage.Aktion == AktionTextGesetzt;
+    textX_ = w.lage.AuswahlX;
+    textY_ = w.lage.AuswahlY;
+    if (neu_ || w.lage.TextAuswahl < 0 || w.lage.TextAuswahl >= w.dokument.cboTextboxen.Anzahl()) return;
+    position_ = w.lage.TextAuswahl;
+    TextboxAufnehmen(w.dokument.cboTextboxen.Satz(position_));
+}
+
+void frmKommentar::Entladen() { Aktion_Nichts(umgebung_.werkbank); }
+
+/// The box keeps its own place: the marker's is beside it.
+void frmKommentar::TextboxAufnehmen(std::string_view satz) {
+    const Felder feld(satz);
+    textX_ = ZahlLesen(feld.OderLeer(TextFeld::TextX));
+    textY_ = ZahlLesen(feld.OderLeer(TextFeld::TextY));
+    TextSetzen("cboSchriftart", feld.OderLeer(TextFeld::Schriftart));
+    TextSetzen("cboFontSize", feld.OderLeer(TextFeld::Schriftgroesse));
+    const double farbe = ZahlLesen(feld.OderLeer(TextFeld::Farbe));
+    FarbeSetzen(farbe >= 0 && farbe <= Weiß ? static_cast<Farbe>(farbe) : Schwarz);
+    TextSetzen("Text1", Dekodiert(feld.OderLeer(TextFeld::Text)));
+    for (const auto &stil : Stile) WertSetzen(stil.Name, feld.OderLeer(stil.Feld) == "1");
+    const std::string_view ausrichtung = feld.OderLeer(TextFeld::Ausrichtung);
+    Ausrichten(ausrichtung == "1" ? 1 : ausrichtung == "2" ? 2 : 0);
+}
+
+bool frmKommentar::TasteErlaubt(std::string_view name, std::string_view zeichen) const {
+    return name != "Text1" || (zeichen != "#" && zeichen != Absatz);
+}
+
+void frmKommentar::Geändert(std::string_view name) {
+    if (name == "cboSchriftart") SchriftAnwenden();
+    if (name != "cboFontSize") return;
+    if (Getrimmt((*this)[name].Text).empty()) return TextSetzen(name, KleinsteSchrift);
+    SchriftAnwenden();
+    GrößenknöpfeStellen();
+}
+
+void frmKommentar::Geklickt(std::string_view name) {
+    for (size_t i = 0; i < Größen.size(); ++i)
+        if (name == Größen[i].Name) return GrößenknopfDrücken(static_cast<int>(i));
+    for (size_t i = 0; i < Ausrichtungen.size(); ++i)
+        if (name == Ausrichtungen[i]) return Ausrichten(static_cast<int>(i));
+    if (name.starts_with("btnStyle")) StilZeigen();
+    else if (name == "imgColor" || name == "lblColor") FarbeFragen();
+    else if (name == "cmdEigenschaften") StandardschriftBearbeiten();
+    else if (name == "Command2") Command2_Click();
+    else if (name == "Command3") Schließen();
+}
+
+void frmKommentar::SchriftAnwenden() {
+    SchriftZeigen((*this)["Text1"], (*this)["cboSchriftart"].Text, (*this)["cboFontSize"].Text);
+}
+
+void frmKommentar::GrößenknöpfeStellen() {
+    const std::string &größe = (*this)["cboFontSize"].Text;
+    const auto passt = [&](const Größenknopf &knopf) { return umgebung_.einstellungen.*knopf.Wert == größe; };
+    // Two classes can have the same size: then the one that was pressed stays.
+    const auto unten = std::find_if(Größen.begin(), Größen.end(),
+                                    [&](const auto &knopf) { return (*this)[knopf.Name].Value && passt(knopf); });
+    const auto gilt = unten != Größen.end() ? unten : std::find_if(Größen.begin(), Größen.end(), passt);
+    for (auto knopf = Größen.begin(); knopf != Größen.end(); ++knopf) (*this)[knopf->Name].Value = knopf == gilt;
+}
+
+/// Also for one that is down already: it stays down, since the size is its size.
+void frmKommentar::GrößenknopfDrücken(int größe) {
+    const Größenknopf &gedrückt = Größen[static_cast<size_t>(größe)];
+    for (const auto &knopf : Größen) (*this)[knopf.Name].Value = &knopf == &gedrückt;
+    TextSetzen("cboFontSize", umgebung_.einstellungen.*gedrückt.Wert);
+}
+
+void frmKommentar::StilZeigen() {
+    for (const auto &stil : Stile) (*this)["Text1"].*stil.Schrift = (*this)[stil.Name].Value;
+}
+
+void frmKommentar::Ausrichten(int ausrichtung) {
+    (*this)["Text1"].Alignment = ausrichtung;
+    for (const char *name : Ausrichtungen) (*this)[name].Value = (*this)[name].Alignment == ausrichtung;
+}
+
+void frmKommentar::FarbeSetzen(Farbe farbe) { (*this)["lblColor"].Farbwert = (*this)["Text1"].Farbwert = farbe; }
+
+void frmKommentar::FarbeFragen() {
+    const auto gewählt = umgebung_.werkbank.benutzer.FarbeWählen(static_cast<int>((*this)["lblColor"].Farbwert));
+    if (gewählt) FarbeSetzen(static_cast<Farbe>(*gewählt));
+}
+
+/// The text under edit takes the new default font. Its size stays, whatever class that belongs to now.
+void frmKommentar::StandardschriftBearbeiten() {
+    frmSchrift schrift(umgebung_);
+    schrift.Caption = "Textbox";
+    schrift.SchriftÜbernehmen = [this](std::string_view schriftart) {
+        TextSetzen("cboSchriftart", schriftart);
+        GrößenknöpfeStellen();
+    };
+    umgebung_.werkbank.benutzer.FormZeigen(schrift);
+}
+
+std::string frmKommentar::Satz() const {
+    const auto text = [this](std::string_view name) { return Finden(name)->Text; };
+    Satzbau satz("", TextFeld::AnzahlUngemessen);
+    satz.Setzen(TextFeld::TextX, Gerundet(textX_, 1)).Setzen(TextFeld::TextY, Gerundet(textY_, 1));
+    satz.Setzen(TextFeld::Schriftart, AlsFeld(text("cboSchriftart")));
+    satz.Setzen(TextFeld::Schriftgroesse, AlsFeld(text("cboFontSize")));
+    satz.Setzen(TextFeld::Farbe, std::to_string(Finden("lblColor")->Farbwert));
+    for (const auto &stil : Stile) satz.Setzen(stil.Feld, Finden(stil.Name)->Value ? "1" : "0");
+    satz.Setzen(TextFeld::Ausrichtung, std::to_string(Finden("Text1")->Alignment));
+    return satz.Setzen(TextFeld::Text, Kodiert(text("Text1"))).Text();
+}
+
+void frmKommentar::Command2_Click() {
+    // Nothing written stores nothing: a box can't be emptied here.
+    if (IstLeer((*this)["Text1"].Text) || (!neu_ && position_ < 0)) return Schließen();
+    Werkbank &w = umgebung_.werkbank;
+    if (neu_) w.dokument.cboTextboxen.Anhängen(Satz());
+    else w.dokument.cboTextboxen.Ersetzen(position_, Satz());
+    MarkerEntfernen(w);
+    w.fenster.Sichern();
+    Schließen();
+    Entladen(); // before the last redraw, which looks at the gesture
+    w.fenster.Vorschau();
+}
+
+} // namespace kw

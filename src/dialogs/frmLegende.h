@@ -1,0 +1,26 @@
+#pragma once
+
+#include "dialogs/Dialogumgebung.h"
+#include "dialogs/Formular.h"
+
+namespace kw {
+
+/// The legend's options. Its preview is a small legend of a made-up family in the form that is ticked.
+class frmLegende : public Formular {
+  public:
+    explicit frmLegende(Dialogumgebung &umgebung);
+
+    void Laden() override;
+    void VorschauZeichnen(std::string_view name, Zeichenfläche &fläche) override;
+    std::pair<double, double> VorschauGröße(std::string_view name) const override;
+
+  protected:
+    void Geklickt(std::string_view name) override;
+
+  private:
+    void Bestätigen();
+
+    Dialogumgebung &umgebung_;
+};
+
+} // namespace kw

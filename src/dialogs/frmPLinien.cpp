@@ -1,0 +1,162 @@
+#include "dialogs/frmPLinien.h"
+
+#include "dialogs/Vorschautext.h"
+#include "document/Felder.h"
+#include "document/Zahlen.h"
+#include "editing/Bewegen.h"
+#include "rendering/Ebenen.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kw {
+
+namespace {
+
+constexpr int FokusVerzögerung = 200; ///< ms; the option's click ends before the focus moves on
+
+// The preview, in cm.
+constexpr double Breite = 6;
+constexpr double Höhe = 2;
+constexpr double Balken = 1.4;
+constexpr double Rand = 0.5; ///< of the line on three sides
+constexpr double DatumÜberBalken = 0.38;
+
+constexpr std::array<std::string_view, 4> Datumsfelder{"txtNichtEhelich", "txtGetrennt", "txtVerheiratet",
+                                                       "txtGeschieden"}; ///< in the record's order
+
+std::string OhneFeldtrenner(std::string text) {
+    std::erase(text, '_');
+    return text;
+}
+
+} // namespace
+
+/// One state, in the form's order. Its mark stands left of the date and is `Markenbreite` wide, 0 for none. Drawing
+/// begins a date by `Versatz` right of where it would be centred.
+struct frmPLinien::Stand {
+    std::string_view Option;
+    std::string_view Status;
+    std::string_view Deutsch;
+    std::string_view Englisch;
+    std::string_view Datumsfeld;
+    std::string_view Seit;
+    double Markenbreite;
+    double Versatz;
+};
+
+// clang-format off
+const frmPLinien::Stand frmPLinien::Stände[] = {
+    {"Option1", "0", "Nicht ehelich", "Unmarried",    "txtNichtEhelich", "Label1", 0,    0},
+    {"Option2", "2", "Verheiratet",   "Married",      "txtVerheiratet",  "Label2", 0.38, 0.2},
+    {"Option4", "1", "Getrennt",      "Disconnected", "txtGetrennt",     "Label3", 0.3,  0.2},
+    {"Option5", "3", "Geschieden",    "Divorced",     "txtGeschieden",   "Label4", 0.4,  0.3},
+};
+// clang-format on
+
+frmPLinien::frmPLinien(Dialogumgebung &umgebung) : Formular("frmPLinien", ""), umgebung_(umgebung) {
+    const bool deutsch = umgebung.IstDeutsch();
+    Caption = deutsch ? "Partnerschaft" : "Partnership";
+    for (const Stand &stand : Stände) {
+        Anlegen(stand.Option, Art::Option, deutsch ? stand.Deutsch : stand.Englisch);
+        Anlegen(stand.Seit, Art::Beschriftung, deutsch ? "seit" : "since");
+        Anlegen(stand.Datumsfeld, Art::Textfeld);
+    }
+    Anlegen("Check1", Art::Ankreuzfeld, deutsch ? "Distanziert" : "Distant");
+    Anlegen("Picture1", Art::Vorschau);
+    for (const auto *bild : {"imgLine", "imgStatus", "lblDatum"}) Anlegen(bild, Art::Beschriftung).Bei = "Picture1";
+    Steuerelement &datum = (*this)["lblDatum"];
+    datum.FontName = "Arial";
+    datum.FontSize = 8;
+    datum.Top = Balken - DatumÜberBalken;
+    Anlegen("Command1", Art::Knopf, "&OK");
+    Anlegen("Command2", Art::Knopf, deutsch ? "&Abbrechen" : "Cancel");
+    Vorgabeknopf = "Command1";
+    Abbruchknopf = "Command2";
+}
+
+void frmPLinien::Laden() {
+    OptionSetzen("Option1"); // a new line has no state yet
+    const Satzliste &linien = umgebung_.werkbank.dokument.cboPartnerschaftsLinien;
+    const int i = umgebung_.werkbank.lage.PLinieAuswahl;
+    if (i < 0 || i >= linien.Anzahl()) return;
+    const Felder feld(linien.Satz(i));
+    for (const Stand &stand : Stände)
+        if (feld.OderLeer(PLinieFeld::Status) == stand.Status) OptionSetzen(stand.Option);
+    WertSetzen("Check1", feld.OderLeer(PLinieFeld::Distanziert) == "1");
+    const Felder daten(feld.OderLeer(PLinieFeld::Daten), '#');
+    for (size_t d = 0; d < Datumsfelder.size(); ++d) TextSetzen(Datumsfelder[d], daten.OderLeer(static_cast<int>(d)));
+}
+
+const frmPLinien::Stand &frmPLinien::Gewählt() const {
+    return *std::find_if(std::begin(Stände), std::end(Stände),
+                         [this](const Stand &stand) { return Finden(stand.Option)->Value; });
+}
+
+void frmPLinien::StandZeigen() {
+    const Stand &gewählt = Gewählt();
+    Steuerelement &bild = (*this)["imgStatus"];
+    bild.Visible = gewählt.Markenbreite > 0;
+    bild.Width = gewählt.Markenbreite;
+    DatumZeigen();
+    for (const Stand &stand : Stände) {
+        Steuerelement &feld = (*this)[stand.Datumsfeld];
+        feld.Enabled = feld.Weiß = &stand == &gewählt;
+    }
+    ZeitgeberStellen("Timer1", FokusVerzögerung);
+}
+
+/// The date in the preview; it and the state's mark are centred as a pair.
+void frmPLinien::DatumZeigen() {
+    Steuerelement &datum = (*this)["lblDatum"];
+    Steuerelement &bild = (*this)["imgStatus"];
+    datum.Caption = (*this)[Gewählt().Datumsfeld].Text;
+    datum.Width = Vorschaubreite(umgebung_.werkbank.picVorschau, datum);
+    bild.Left = Breite / 2 - (bild.Width + datum.Width) / 2;
+    datum.Left = bild.Left + bild.Width;
+}
+
+void frmPLinien::Zeitgeber(std::string_view name) {
+    if (name == "Timer1") FokusGeben(Gewählt().Datumsfeld);
+}
+
+bool frmPLinien::TasteErlaubt(std::string_view, std::string_view zeichen) const {
+    return zeichen != "#" && zeichen != "_";
+}
+
+void frmPLinien::Geändert(std::string_view name) {
+    if (name == Gewählt().Datumsfeld) DatumZeigen();
+}
+
+void frmPLinien::Geklickt(std::string_view name) {
+    if (name == "Command1") return Bestätigen();
+    if (name == "Command2") return Schließen();
+    if (name != "Check1") StandZeigen();
+}
+
+void frmPLinien::Bestätigen() {
+    std::string daten = (*this)[Datumsfelder[0]].Text;
+    for (size_t d = 1; d < Datumsfelder.size(); ++d) daten += "#" + (*this)[Datumsfelder[d]].Text;
+    P_LinieAnpassen(umgebung_.werkbank, (*this)["Check1"].Value ? "1" : "0", Gewählt().Status, OhneFeldtrenner(daten));
+    Schließen();
+}
+
+std::pair<double, double> frmPLinien::VorschauGröße(std::string_view) const { return {Breite, Höhe}; }
+
+/// The line as the page draws it, without a state; then the mark, at its own place.
+void frmPLinien::VorschauZeichnen(std::string_view, Zeichenfläche &f) {
+    Werkbank &w = umgebung_.werkbank;
+    Dokument muster;
+    const auto z = [](double zahl) { return "_" + ZahlSchreiben(zahl); };
+    const double rechts = Breite - Rand;
+    muster.cboPartnerschaftsLinien.Anhängen("001_" + z(Rand) + z(Balken) + z(rechts) + z(Balken) + "_001_002" +
+                                            z(Rand) + z(Rand) + z(Rand) + z(rechts) +
+                                            ((*this)["Check1"].Value ? "_1_" : "_0_"));
+    f.DrawWidth = 1;
+    PartnerschaftslinienZeichnen(f, {muster, w.ansicht, w.auswahl, w.lage, w.legende, umgebung_.uhr}, f.Faktor());
+    const Stand &stand = Gewählt();
+    if (stand.Markenbreite == 0) return;
+    PartnerstandZeichnen(f, stand.Status, "", (*this)["lblDatum"].Left - stand.Versatz, Balken, f.Faktor());
+}
+
+} // namespace kw

@@ -1,0 +1,70 @@
+#include "dialogs/frmSeiteEinrichten.h"
+
+#include "document/Papier.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kw {
+
+namespace {
+
+constexpr int Hochformat = 1;
+constexpr int Querformat = 2;
+
+constexpr std::array Papierfolge{DinA4, 11, 1}; ///< the list's order: DIN A4, DIN A5, US Letter
+
+std::string Papiername(int code) {
+    const auto *papier = std::find_if(Papiere.begin(), Papiere.end(), [&](const Papier &p) { return p.Code == code; });
+    return std::string(papier->Name);
+}
+
+} // namespace
+
+frmSeiteEinrichten::frmSeiteEinrichten(Dialogumgebung &umgebung)
+    : Formular("frmSeiteEinrichten", ""), umgebung_(umgebung) {
+    const bool deutsch = umgebung.IstDeutsch();
+    Caption = deutsch ? "Seite einrichten" : "Page Setup";
+    Anlegen("Frame1", Art::Rahmen, deutsch ? "Papierformat" : "Paper Size");
+    auto &papiere = Anlegen("cboPapierformat", Art::Liste).Einträge;
+    for (const int code : Papierfolge) papiere.push_back(Papiername(code));
+    Anlegen("Frame2", Art::Rahmen, deutsch ? "Ausrichtung" : "Alignment");
+    Anlegen("Option1", Art::Option, deutsch ? "Hochformat" : "Portrait");
+    Anlegen("Option2", Art::Option, deutsch ? "Querformat" : "Landscape");
+    Anlegen("Check1", Art::Ankreuzfeld, deutsch ? "Druckrand anzeigen" : "Show Print Margins");
+    Anlegen("cmdOK", Art::Knopf, "OK");
+    Anlegen("cmdAbbrechen", Art::Knopf, deutsch ? "Abbrechen" : "Cancel");
+    Vorgabeknopf = "cmdOK";
+    Abbruchknopf = "cmdAbbrechen";
+}
+
+void frmSeiteEinrichten::Laden() {
+    const Werkbank &w = umgebung_.werkbank;
+    WertSetzen("Check1", w.ansicht.bDruckrandAnzeigen);
+    const bool hatDrucker = umgebung_.drucker.DeviceName().has_value();
+    const int lage = hatDrucker ? umgebung_.drucker.Orientation() : w.dokument.Seitenlage;
+    OptionSetzen(lage == Hochformat ? "Option1" : "Option2");
+    const int code = w.dokument.Papiercode < 1 ? DinA4 : w.dokument.Papiercode;
+    const auto *papier = std::find(Papierfolge.begin(), Papierfolge.end(), code);
+    IndexSetzen("cboPapierformat", papier == Papierfolge.end() ? -1 : static_cast<int>(papier - Papierfolge.begin()));
+}
+
+void frmSeiteEinrichten::Geklickt(std::string_view name) {
+    if (name == "cmdOK") Bestätigen();
+    if (name == "cmdAbbrechen") Schließen();
+}
+
+void frmSeiteEinrichten::Bestätigen() {
+    Werkbank &w = umgebung_.werkbank;
+    w.ansicht.bDruckrandAnzeigen = (*this)["Check1"].Value;
+    if (const int i = (*this)["cboPapierformat"].ListIndex; i >= 0)
+        w.dokument.Papiercode = Papierfolge.at(static_cast<size_t>(i));
+    const int lage = (*this)["Option1"].Value ? Hochformat : Querformat;
+    if (umgebung_.drucker.DeviceName()) umgebung_.drucker.OrientationSetzen(lage);
+    w.dokument.Seitenlage = lage;
+    umgebung_.dienste.SeiteAnwenden();
+    w.fenster.Vorschau();
+    Schließen();
+}
+
+} // namespace kw

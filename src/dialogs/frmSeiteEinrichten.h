@@ -1,0 +1,24 @@
+#pragma once
+
+#include "dialogs/Dialogumgebung.h"
+#include "dialogs/Formular.h"
+
+namespace kw {
+
+/// Paper, orientation, and whether the printable area is shown. The orientation shown is the printer's.
+class frmSeiteEinrichten : public Formular {
+  public:
+    explicit frmSeiteEinrichten(Dialogumgebung &umgebung);
+
+    void Laden() override;
+
+  protected:
+    void Geklickt(std::string_view name) override;
+
+  private:
+    void Bestätigen();
+
+    Dialogumgebung &umgebung_;
+};
+
+} // namespace kw

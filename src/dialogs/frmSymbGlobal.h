@@ -1,0 +1,29 @@
+#pragma once
+
+#include "dialogs/Dialogumgebung.h"
+#include "dialogs/Formular.h"
+
+namespace kw {
+
+/// How the age of persons is shown at their symbols.
+class frmSymbGlobal : public Formular {
+  public:
+    explicit frmSymbGlobal(Dialogumgebung &umgebung);
+
+    void Laden() override;
+    void VorschauZeichnen(std::string_view name, Zeichenfläche &fläche) override;
+    std::pair<double, double> VorschauGröße(std::string_view name) const override;
+
+  protected:
+    void Geklickt(std::string_view name) override;
+
+  private:
+    /// The ticked option, -1 none.
+    int Gewählt() const;
+    void BeschriftungStellen();
+    void cmdOK_Click();
+
+    Dialogumgebung &umgebung_;
+};
+
+} // namespace kw

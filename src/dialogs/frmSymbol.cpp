@@ -1,0 +1,361 @@
+#include "dialogs/frmSymbol.h"
+
+#include "dialogs/SymbolVorschau.h"
+#include "editing/Loeschen.h"
+#include "editing/Marker.h"
+#include "editing/Satzbau.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kw {
+
+namespace {
+
+constexpr int ErsterKleiner = 5; ///< list position; kinds from here on are small and have no properties
+
+/// The list of kinds, in its order, which isn't that of the numbers.
+struct Symboltyp {
+    int Kennzahl;
+    std::string_view Deutsch;
+    std::string_view Englisch;
+};
+constexpr std::array<Symboltyp, 10> Symboltypen{{
+    {1, "Männlich", "Male"},
+    {2, "Weiblich", "Female"},
+    {10, "Transgender - weiblich zu männlich", "Transgender - Female to Male"},
+    {11, "Transgender - männlich zu weiblich", "Transgender - Male to Female"},
+    {12, "Divers", "Gender Nonconforming"},
+    {3, "Schwangerschaft", "Pregnancy"},
+    {4, "Fehlgeburt", "Miscarriage"},
+    {5, "Totgeburt männlich", "Stillbirth Male"},
+    {6, "Totgeburt weiblich", "Stillbirth Female"},
+    {7, "Abtreibung", "Abortion"},
+}};
+
+/// Which of the two faces a control belongs to.
+enum class Gesicht { Person, Institution, Beide };
+
+struct Bauteil {
+    std::string_view Name;
+    Art Kind;
+    Gesicht Auf;
+    std::string_view Deutsch = {};
+    std::string_view Englisch = {};
+};
+constexpr Bauteil Bauteile[] = {
+    {"Label1", Art::Beschriftung, Gesicht::Person, "Vorname", "First Name"},
+    {"txtVorname", Art::Textfeld, Gesicht::Person},
+    {"Label2", Art::Beschriftung, Gesicht::Person, "Nachname", "Family Name"},
+    {"txtNachname", Art::Textfeld, Gesicht::Person},
+    {"Label3", Art::Beschriftung, Gesicht::Person, "Symboltyp", "Icon Type"},
+    {"cboSymbol", Art::Liste, Gesicht::Person},
+    {"Label4", Art::Beschriftung, Gesicht::Person, "Geboren", "Born"},
+    {"txtGeburtsdatum", Art::Textfeld, Gesicht::Person},
+    {"shpFalsch", Art::Warnrahmen, Gesicht::Person},
+    {"Label6", Art::Beschriftung, Gesicht::Person, "Aktuelles Alter", "Current Age"},
+    {"imgVergleich", Art::Beschriftung, Gesicht::Person},
+    {"txtAlter", Art::Textfeld, Gesicht::Person},
+    {"shpFalsch2", Art::Warnrahmen, Gesicht::Person},
+    {"chkVerstorben", Art::Ankreuzfeld, Gesicht::Person, "verstorben", "Deceased"},
+    {"Label5", Art::Beschriftung, Gesicht::Person, "Gestorben", "Died"},
+    {"txtSterbealter", Art::Textfeld, Gesicht::Person},
+    {"chkIndexPerson", Art::Ankreuzfeld, Gesicht::Person, "Indexperson", "Index Person"},
+    {"chkSucht", Art::Ankreuzfeld, Gesicht::Person, "Alkohol- oder Drogensucht", "Alcohol or Drug Addiction"},
+    {"chkErkrankung", Art::Ankreuzfeld, Gesicht::Person, "Körperliche oder psychische Erkrankung",
+     "Physical or Mental Illness"},
+    {"Label8", Art::Beschriftung, Gesicht::Institution, "Institution / Einrichtung / Behörde etc.",
+     "Institution / Facility / Authority"},
+    {"txtInstitution", Art::Textfeld, Gesicht::Institution},
+    {"Label9", Art::Beschriftung, Gesicht::Institution, "Institution / Einrichtung / Behörde etc.",
+     "Institution / Facility / Authority"},
+    {"Label7", Art::Beschriftung, Gesicht::Beide, "Vorschau", "Preview"},
+    {"picBack", Art::Vorschau, Gesicht::Person},
+    {"lblVorname", Art::Beschriftung, Gesicht::Person},
+    {"lblNachname", Art::Beschriftung, Gesicht::Person},
+    {"lblAlter", Art::Beschriftung, Gesicht::Person},
+    {"lblGebDat", Art::Beschriftung, Gesicht::Person},
+    {"lblGestorben", Art::Beschriftung, Gesicht::Person},
+    {"picBack2", Art::Vorschau, Gesicht::Institution},
+    {"lblInstitution", Art::Beschriftung, Gesicht::Institution},
+    {"cmdOK", Art::Knopf, Gesicht::Beide, "OK", "OK"},
+    {"CancelButton", Art::Knopf, Gesicht::Beide, "Abbrechen", "Cancel"},
+    {"cmdLöschen", Art::Knopf, Gesicht::Beide, "Löschen", "Delete"},
+};
+
+/// What is open for living kinds only.
+constexpr std::string_view Eigenschaften[] = {"chkIndexPerson",  "chkErkrankung", "chkSucht",
+                                              "chkVerstorben",   "txtVorname",    "txtNachname",
+                                              "txtGeburtsdatum", "txtAlter",      "txtSterbealter"};
+
+/// The labels of the pictures. Names are as bold as on the page.
+struct Vorschautext {
+    std::string_view Name;
+    std::string_view Bild;
+    double Punkt;
+    bool Fett;
+};
+constexpr Vorschautext Vorschautexte[] = {
+    {"lblVorname", "picBack", 8, true}, {"lblNachname", "picBack", 8, true},   {"lblAlter", "picBack", 11, false},
+    {"lblGebDat", "picBack", 8, false}, {"lblGestorben", "picBack", 8, false}, {"lblInstitution", "picBack2", 8, true},
+};
+
+struct Tastenfilter {
+    std::string_view Feld;
+    std::string_view Erlaubt;
+};
+constexpr Tastenfilter Ziffernfelder[] = {
+    {"txtGeburtsdatum", "0123456789.-/"},
+    {"txtAlter", "0123456789"},
+    {"txtSterbealter", "0123456789."},
+};
+
+int ListenplatzVon(int kennzahl) {
+    const auto i = std::find_if(Symboltypen.begin(), Symboltypen.end(),
+                                [&](const Symboltyp &typ) { return typ.Kennzahl == kennzahl; });
+    return i == Symboltypen.end() ? -1 : static_cast<int>(i - Symboltypen.begin());
+}
+
+std::string Ohne(std::string_view text, char zeichen) {
+    std::string rest(text);
+    std::erase(rest, zeichen);
+    return rest;
+}
+
+} // namespace
+
+frmSymbol::frmSymbol(Dialogumgebung &umgebung)
+    : Formular("frmSymbol", umgebung.IstDeutsch() ? "Person > Eigenschaften" : "Person > Characteristics"),
+      umgebung_(umgebung), alter_(umgebung.uhr) {
+    const bool deutsch = umgebung.IstDeutsch();
+    for (const Bauteil &teil : Bauteile) Anlegen(teil.Name, teil.Kind, deutsch ? teil.Deutsch : teil.Englisch);
+    for (const Symboltyp &typ : Symboltypen)
+        Das("cboSymbol").Einträge.emplace_back(deutsch ? typ.Deutsch : typ.Englisch);
+    for (const Vorschautext &text : Vorschautexte) {
+        Steuerelement &label = Das(text.Name);
+        label.Bei = text.Bild;
+        label.Width = frmSymbol::VorschauGröße(text.Bild).first;
+        label.Alignment = 2;
+        label.FontName = "Arial";
+        label.FontSize = text.Punkt;
+        label.FontBold = text.Fett;
+    }
+    Das("lblInstitution").Top = InstitutionZeile();
+    Das("shpFalsch").Bei = "txtGeburtsdatum";
+    Das("shpFalsch2").Bei = "txtAlter";
+    Vorgabeknopf = "cmdOK";
+    Abbruchknopf = "CancelButton";
+}
+
+void frmSymbol::Laden() {
+    const Leinwandlage &lage = umgebung_.werkbank.lage;
+    satz_ = lage.PersRecord;
+    position_ = lage.PersAuswahl - 1;
+    typ_ = SymbolKennzahl(Felder(satz_).OderLeer(PersonFeld::Symboltyp));
+    institution_ = typ_ == TypInstitution;
+    GesichtZeigen();
+    ZeitgeberStellen("Timer2", 100);
+    if (institution_) {
+        TextSetzen("txtInstitution", Felder(satz_).OderLeer(PersonFeld::Vorname));
+        return;
+    }
+    PersonLaden();
+    ZeitgeberStellen("Timer1", 60);
+    AlterAnzeigen();
+}
+
+void frmSymbol::GesichtZeigen() {
+    const Gesicht verborgen = institution_ ? Gesicht::Person : Gesicht::Institution;
+    for (const Bauteil &teil : Bauteile) Das(teil.Name).Visible = teil.Auf != verborgen;
+    // Label9 says the same as Label8: one of them is seen.
+    for (const char *name : {"shpFalsch", "shpFalsch2", "Label5", "Label9", "lblGestorben"}) Das(name).Visible = false;
+    if (!institution_) VorschauOrdnen();
+}
+
+void frmSymbol::PersonLaden() {
+    const Felder feld(satz_);
+    const std::string_view sterbealter = feld.OderLeer(PersonFeld::Sterbealter);
+    TextSetzen("txtVorname", feld.OderLeer(PersonFeld::Vorname));
+    TextSetzen("txtNachname", feld.OderLeer(PersonFeld::Nachname));
+    TextSetzen("txtGeburtsdatum", feld.OderLeer(PersonFeld::Geburtsdatum));
+    WertSetzen("chkIndexPerson", feld.OderLeer(PersonFeld::IndexPerson) == "1");
+    WertSetzen("chkVerstorben", sterbealter.starts_with('$'));
+    TextSetzen("txtSterbealter", Ohne(sterbealter, '$'));
+    WertSetzen("chkSucht", feld.OderLeer(PersonFeld::Sucht) == "1");
+    WertSetzen("chkErkrankung", feld.OderLeer(PersonFeld::Erkrankung) == "1");
+}
+
+void frmSymbol::Entladen() {
+    MarkierungsListBoxenLöschen(umgebung_.werkbank);
+    KeineAktion(umgebung_.werkbank);
+}
+
+void frmSymbol::Zeitgeber(std::string_view name) {
+    if (name == "Timer1") IndexSetzen("cboSymbol", ListenplatzVon(typ_));
+    if (name == "Timer2") {
+        PersonEingabeGesperrt = false;
+        // An old record with a refused date opens without a frame.
+        Das("shpFalsch").Visible = Das("shpFalsch2").Visible = false;
+        if (institution_) ZeitgeberStellen("Timer4", 300);
+    }
+    if (name == "Timer3") {
+        TextSetzen("txtGeburtsdatum", "");
+        TextSetzen("txtAlter", "");
+    }
+    if (name == "Timer4") FokusGeben("txtInstitution");
+}
+
+// What the user does.
+
+bool frmSymbol::TasteErlaubt(std::string_view name, std::string_view zeichen) const {
+    if (name == "txtVorname" || name == "txtNachname") return zeichen != "_";
+    for (const Tastenfilter &filter : Ziffernfelder)
+        if (filter.Feld == name) return filter.Erlaubt.find(zeichen) != std::string_view::npos;
+    return true; // an institution's "_" too, though it parts the fields of the record. Meant.
+}
+
+void frmSymbol::Geändert(std::string_view name) {
+    if (name == "txtVorname") Das("lblVorname").Caption = Text(name);
+    if (name == "txtNachname") Das("lblNachname").Caption = Text(name);
+    if (name == "txtInstitution") Das("lblInstitution").Caption = Das("lblVorname").Caption = Text(name);
+    if (name == "txtSterbealter") SterbealterGeändert();
+    if (name == "txtGeburtsdatum") GeburtsdatumGeändert();
+    if (name == "txtAlter") AlterGeändert();
+}
+
+void frmSymbol::Geklickt(std::string_view name) {
+    if (name == "cmdOK") return Übernehmen();
+    if (name == "CancelButton") return Schließen();
+    if (name == "cmdLöschen") return Löschen();
+    if (name == "cboSymbol") return TypGewählt();
+    if (name == "chkVerstorben") return VerstorbenGewählt();
+    if (name.starts_with("chk")) VorschauOrdnen();
+}
+
+void frmSymbol::MausGedrückt(std::string_view name) {
+    const bool datum = name == "txtGeburtsdatum" || name == "txtAlter";
+    if (datum && Getrimmt(Text(name)).empty()) ZeitgeberStellen("Timer3", 60); // a box of stray blanks cleans itself
+}
+
+void frmSymbol::Fokussiert(std::string_view name) {
+    if (name == "txtGeburtsdatum") AktivesDatumsfeld = Feld::Geburtsdatum;
+    if (name == "txtAlter") AktivesDatumsfeld = Feld::Alter;
+}
+
+void frmSymbol::FokusVerloren(std::string_view name) {
+    if (name == "txtAlter" && Text(name).empty()) AlterUnbekannt();
+}
+
+/// Small kinds keep the values of their boxes, and OK writes them. Any other kind opens all boxes, that of the age
+/// at death of a living person too. Meant.
+void frmSymbol::TypGewählt() {
+    VorschauOrdnen();
+    const bool offen = Das("cboSymbol").ListIndex < ErsterKleiner;
+    for (const auto name : Eigenschaften) {
+        Das(name).Enabled = offen;
+        Das(name).Weiß = offen;
+    }
+    Das("lblVorname").Visible = Das("lblNachname").Visible = offen;
+    if (!offen)
+        for (const char *name : {"lblAlter", "lblGebDat", "lblGestorben"}) Das(name).Visible = false;
+    if (!Getrimmt(Text("txtGeburtsdatum")).empty()) return;
+    AlterBeschriften("");
+    Das("lblGebDat").Caption.clear();
+}
+
+void frmSymbol::VerstorbenGewählt() {
+    const bool verstorben = Das("chkVerstorben").Value;
+    Steuerelement &sterbealter = Das("txtSterbealter"); // its text stays when the tick goes
+    sterbealter.Enabled = sterbealter.Weiß = verstorben;
+    Das("Label5").Visible = verstorben;
+    VorschauOrdnen();
+}
+
+void frmSymbol::SterbealterGeändert() {
+    const std::string &text = Text("txtSterbealter");
+    Steuerelement &label = Das("lblGestorben");
+    label.Visible = !Getrimmt(text).empty();
+    label.Caption = label.Visible ? "+ " + text + (text.size() == 2 ? "    " : "") : ""; // keeps two digits aligned
+}
+
+// The preview.
+
+/// Puts the labels in their places; the picture itself is drawn whenever it is shown.
+void frmSymbol::VorschauOrdnen() {
+    const bool verstorben = Das("chkVerstorben").Value;
+    const VorschauZeilen zeilen = VorschauZeilenFür(umgebung_.werkbank.ansicht.Altersanzeige, verstorben);
+    Das("lblVorname").Top = zeilen.Vorname;
+    Das("lblNachname").Top = zeilen.Nachname;
+    Das("lblGestorben").Top = zeilen.Gestorben;
+    Das("lblGestorben").Visible = verstorben;
+    for (const auto &[name, oben] : {std::pair{"lblAlter", zeilen.Alter}, std::pair{"lblGebDat", zeilen.GebDat}}) {
+        Das(name).Visible = oben != VorschauZeilen::Nirgends;
+        Das(name).Top = oben;
+    }
+    if (verstorben) Das("txtSterbealter").Enabled = true;
+}
+
+std::pair<double, double> frmSymbol::VorschauGröße(std::string_view name) const {
+    return name == "picBack2" ? InstitutionVorschauGröße() : PersonVorschauGröße();
+}
+
+void frmSymbol::VorschauZeichnen(std::string_view name, Zeichenfläche &fläche) {
+    if (name == "picBack2") return InstitutionVorschauZeichnen(fläche);
+    const Marken marken{Ja("chkIndexPerson"), Das("chkVerstorben").Value, Das("chkSucht").Value,
+                        Das("chkErkrankung").Value};
+    PersonVorschauZeichnen(fläche, Symbolkennzahl(), marken, umgebung_.werkbank.ansicht.Farbschema);
+}
+
+int frmSymbol::Symbolkennzahl() {
+    const int index = Das("cboSymbol").ListIndex;
+    return index < 0 ? 0 : Symboltypen[static_cast<size_t>(index)].Kennzahl;
+}
+
+// The ends.
+
+void frmSymbol::Übernehmen() {
+    if (Text("txtAlter").empty()) TextSetzen("txtGeburtsdatum", ""); // an age removed by hand removes the date
+    if (Das("shpFalsch").Visible || Das("shpFalsch2").Visible || alter_.bDatumUngueltig) return;
+    Werkbank &w = umgebung_.werkbank;
+    Satzliste &personen = w.dokument.cboPersonen;
+    if (position_ >= 0 && position_ < personen.Anzahl()) {
+        personen.Ersetzen(position_, NeuerSatz());
+        w.fenster.Sichern();
+        w.fenster.Vorschau();
+    }
+    Schließen();
+}
+
+std::string frmSymbol::NeuerSatz() {
+    Satzbau satz(satz_, PersonFeld::Anzahl);
+    satz.Setzen(PersonFeld::Groesse, satz.Zahl(PersonFeld::Groesse));
+    if (institution_) {
+        satz.Setzen(PersonFeld::Symboltyp, TypInstitution);
+        for (int i = PersonFeld::IndexPerson; i < PersonFeld::Anzahl; ++i) satz.Setzen(i, "");
+        return satz.Setzen(PersonFeld::Vorname, Text("txtInstitution")).Text();
+    }
+    const int kennzahl = Symbolkennzahl(); // none while the list is empty: kind and size stay
+    if (kennzahl != 0) satz.Setzen(PersonFeld::Symboltyp, kennzahl);
+    if (kennzahl != 0 && kennzahl != typ_)
+        satz.Setzen(PersonFeld::Groesse, Das("cboSymbol").ListIndex < ErsterKleiner ? GrößeNormal : GrößeKlein);
+    const std::string sterbealter(Getrimmt(Ohne(Text("txtSterbealter"), '_')));
+    satz.Setzen(PersonFeld::IndexPerson, Ja("chkIndexPerson"))
+        .Setzen(PersonFeld::Sterbealter, (Das("chkVerstorben").Value ? "$" : "") + sterbealter)
+        .Setzen(PersonFeld::Sucht, Ja("chkSucht"))
+        .Setzen(PersonFeld::Erkrankung, Ja("chkErkrankung"))
+        .Setzen(PersonFeld::Vorname, Ohne(Text("txtVorname"), '_'))
+        .Setzen(PersonFeld::Nachname, Ohne(Text("txtNachname"), '_'))
+        .Setzen(PersonFeld::Geburtsdatum, Ohne(Text("txtGeburtsdatum"), '_'));
+    return satz.Text();
+}
+
+/// The snapshot comes before, so that it holds the person whatever the deletion itself keeps.
+void frmSymbol::Löschen() {
+    Werkbank &w = umgebung_.werkbank;
+    w.fenster.Sichern();
+    mnuSymbolLöschen(w);
+    KeineAktion(w);
+    Schließen();
+}
+
+} // namespace kw

@@ -1,0 +1,87 @@
+#include "dialogs/frmSymbol.h"
+#include "document/Felder.h"
+#include "document/Zahlen.h"
+
+// The date of birth and the age: the one that has the focus sets the other.
+namespace kw {
+
+namespace {
+
+constexpr int HöchstesAlter = 120;
+
+bool Zwischen(std::string_view zahl, int von, int bis) {
+    const int wert = Ganzzahl16(ZahlLesen(zahl));
+    return wert >= von && wert <= bis;
+}
+
+/// Whether a date in three numbers is one that the form takes for exact; looser than the calendar, which has
+/// been asked before.
+bool IstMöglich(const Felder &teile) {
+    return Zwischen(teile[0], 1, 31) && Zwischen(teile[1], 1, 12) && Zwischen(teile[2], 1800, 3000);
+}
+
+} // namespace
+
+void frmSymbol::GeburtsdatumGeändert() {
+    if (AktivesDatumsfeld == Feld::Alter) return;
+    const std::string &datum = Text("txtGeburtsdatum");
+    Das("shpFalsch").Visible = false;
+    if (datum.size() < 4) TextSetzen("txtAlter", "");
+    else AlterAnzeigen();
+    if (datum.empty()) {
+        Das("shpFalsch").Visible = false;
+        AlterBeschriften("");
+        Das("lblGebDat").Caption.clear();
+    }
+    const bool zukunft = ZahlLesen(Text("txtAlter")) < -1;
+    Das("shpFalsch2").Visible = zukunft;
+    if (zukunft) AlterUnbekannt();
+}
+
+void frmSymbol::AlterGeändert() {
+    if (PersonEingabeGesperrt || AktivesDatumsfeld == Feld::Geburtsdatum) return;
+    const double alter = ZahlLesen(Text("txtAlter"));
+    Das("shpFalsch2").Visible = alter > HöchstesAlter;
+    if (alter > HöchstesAlter) {
+        AlterUnbekannt();
+        TextSetzen("txtGeburtsdatum", "");
+        return;
+    }
+    const bool leer = Text("txtAlter").empty();
+    TextSetzen("txtGeburtsdatum", leer ? "" : std::to_string(umgebung_.uhr.Heute().Jahr - Ganzzahl16(alter)));
+    if (leer) AlterUnbekannt();
+    else AlterAnzeigen();
+}
+
+void frmSymbol::AlterAnzeigen() {
+    alter_.AlterAusDatum(Text("txtGeburtsdatum"));
+    AlterBeschriften(alter_.strAlterText);
+    TextSetzen("txtAlter", alter_.strAlterText);
+    Das("lblGebDat").Caption = "* " + alter_.strGebJahrText;
+    Das("shpFalsch").Visible = alter_.bDatumUngueltig;
+    if (!alter_.bDatumUngueltig) return DatumsgenauigkeitAnzeigen();
+    AlterUnbekannt();
+    TextSetzen("txtAlter", "");
+}
+
+void frmSymbol::DatumsgenauigkeitAnzeigen() {
+    Steuerelement &vergleich = Das("imgVergleich");
+    vergleich.Caption = "~";
+    const Felder teile(Text("txtGeburtsdatum"), '.');
+    if (teile.Anzahl() != 3) return; // accepted, but not for exact
+    const bool möglich = IstMöglich(teile);
+    Das("shpFalsch").Visible = !möglich;
+    if (möglich) vergleich.Caption = "=";
+}
+
+void frmSymbol::AlterBeschriften(std::string_view text) {
+    Das("lblAlter").Caption = text;
+    Das("imgVergleich").Visible = text != "?";
+}
+
+void frmSymbol::AlterUnbekannt() {
+    AlterBeschriften("?");
+    Das("lblGebDat").Caption.clear();
+}
+
+} // namespace kw
