@@ -142,6 +142,7 @@ constexpr Befehl Tabelle[] = {
     {"mnuSchriftart", [](frmMain &h) { h.FormÖffnen("frmSchrift"); }},
     {"mnuAltersangabe", [](frmMain &h) { h.FormÖffnen("frmSymbGlobal"); }},
     {"mnuSeiteEinrichten", [](frmMain &h) { h.FormÖffnen("frmSeiteEinrichten"); }},
+    {"mnuDrucken", [](frmMain &h) { h.FormÖffnen("frmDrucken"); }},
     {"mnuEinstellungen", [](frmMain &h) { h.FormÖffnen("frmEinstellungen"); }},
     {"mnuInfo", [](frmMain &h) { h.FormÖffnen("frmInfo"); }},
     {"mnuSymbolKleiner", [](frmMain &h) { GrößeÄndern(h.werkbank, -GrößenSchritt); }},

@@ -205,6 +205,14 @@ void frmMain::SeiteAnwenden() {
     bereich.Bildgrößenveränderung();
 }
 
+void frmMain::GenogrammDrucken() {
+    plattform.drucker.OrientationSetzen(bedienung["btnQuerformat"].Checked ? 2 : 1);
+    Zeichnung bild = DasBild();
+    plattform.drucker.Drucken({NameOhneKennung(DateiName(projekt.Projektdatei)), ansicht.Farbschema == SchemaFarbig,
+                               ansicht.SeitenBreite, ansicht.SeitenHöhe,
+                               [&](Zeichenfläche &papier) { DruckZeichnen(papier, bild); }});
+}
+
 void frmMain::mnuBearbeiten_Öffnen() {
     bedienung["mnuAusschneiden"].Enabled = bedienung["mnuKopieren"].Enabled = auswahl.HatKopierbares();
     bedienung["mnuEinfügen"].Enabled = ablage.HatEtwas();

@@ -64,7 +64,7 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void FormÖffnen(std::string_view name) override;
     void LegendeZeigen(bool sichtbar) override;
     void SeiteAnwenden() override;
-    void GenogrammDrucken() override {}
+    void GenogrammDrucken() override;
     /// One step back or forward in the ring; afterwards nothing is selected and no gesture runs.
     void cmdUndo();
     void cmdredo();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +14,18 @@ struct Druckränder {
     double Rechts = 0;
     double Oben = 0;
     double Unten = 0;
+};
+
+class Zeichenfläche;
+
+/// One job: one sheet.
+struct Druckauftrag {
+    std::string Titel;
+    bool Farbig = true;
+    double SeitenBreite = 0; ///< of the document, cm; the sheet is the printer's own
+    double SeitenHöhe = 0;
+    /// Draws the page on a surface whose user units are centimetres from the corner of the printable area.
+    std::function<void(Zeichenfläche &)> Zeichnen;
 };
 
 /// The printers of the platform.
@@ -31,6 +44,8 @@ class Drucker {
     virtual void Wählen(std::string_view deviceName) = 0;
     /// Turns the current printer: 1 portrait, 2 landscape.
     virtual void OrientationSetzen(int lage) = 0;
+    /// Prints one job on the current printer. A failure shows nothing and leaves no half job behind.
+    virtual void Drucken(const Druckauftrag &auftrag) = 0;
 };
 
 } // namespace kw

@@ -22,6 +22,7 @@ namespace kw {
 namespace {
 
 constexpr int Abstand = 18; ///< between the parts of a form, pixels
+constexpr int Zeilenabstand = 8;
 
 /// Hands out a form's widgets, and remembers which have found a place.
 class Baukasten {
@@ -67,6 +68,12 @@ class Baukasten {
         text->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         return text;
     }
+    QGridLayout *Tafel() const {
+        auto *tafel = new QGridLayout;
+        tafel->setVerticalSpacing(Zeilenabstand);
+        tafel->setHorizontalSpacing(Abstand * 2 / 3);
+        return tafel;
+    }
     /// A titled frame, with a layout for what stands in it.
     template <typename Layout> Layout *Rahmen(std::string_view name, QBoxLayout &wohin) {
         QWidget *rahmen = Teil(name);
@@ -98,8 +105,8 @@ void PersonStellen(Baukasten &k, QGridLayout &tafel) {
         int Reihe, Spalte, Spalten;
     };
     constexpr Feld Felder[] = {
-        {"Label1", "txtVorname", 0, 0, 3},      {"Label2", "txtNachname", 1, 0, 3}, {"Label3", "cboSymbol", 2, 0, 3},
-        {"Label4", "txtGeburtsdatum", 3, 0, 1}, {"Label6", "txtAlter", 3, 2, 1},    {"Label5", "txtSterbealter", 4, 2, 1},
+        {"Label1", "txtVorname", 0, 0, 4},      {"Label2", "txtNachname", 1, 0, 4}, {"Label3", "cboSymbol", 2, 0, 4},
+        {"Label4", "txtGeburtsdatum", 3, 0, 1}, {"Label6", "txtAlter", 3, 3, 1},    {"Label5", "txtSterbealter", 4, 3, 1},
     };
     for (const Feld &feld : Felder) {
         tafel.addWidget(k.Platzhalter(k.Schild(feld.Schild, feld.Box)), feld.Reihe, feld.Spalte);
@@ -107,13 +114,14 @@ void PersonStellen(Baukasten &k, QGridLayout &tafel) {
     }
     k.Mindestens(k.Teil("txtGeburtsdatum"), 14);
     for (const char *kurz : {"txtAlter", "txtSterbealter"}) k.Mindestens(k.Teil(kurz), 8);
-    tafel.addWidget(k.Teil("imgVergleich"), 3, 2); // says nothing yet, and takes no room
+    QWidget *vergleich = k.Platzhalter(k.Mindestens(k.Teil("imgVergleich"), 2)); // date and age: exact or about
+    tafel.addWidget(vergleich, 3, 2, Qt::AlignHCenter);
     tafel.addWidget(k.Teil("chkVerstorben"), 4, 1);
     int reihe = 5;
     for (const char *name : {"chkIndexPerson", "chkSucht", "chkErkrankung"})
-        tafel.addWidget(k.Teil(name), reihe++, 1, 1, 3);
+        tafel.addWidget(k.Teil(name), reihe++, 1, 1, 4);
     tafel.setColumnStretch(1, 2);
-    tafel.setColumnStretch(3, 1);
+    tafel.setColumnStretch(4, 1);
     tafel.setRowStretch(reihe, 1);
 }
 
@@ -127,7 +135,7 @@ void SymbolStellen(Baukasten &k, QBoxLayout &spalte) {
     const bool person = k.Form.Finden("picBack")->Visible;
     auto *seite = new QHBoxLayout;
     seite->setSpacing(Abstand);
-    auto *tafel = new QGridLayout;
+    auto *tafel = k.Tafel();
     seite->addLayout(tafel, 1);
     if (person) PersonStellen(k, *tafel);
     else InstitutionStellen(k, *tafel);
@@ -144,7 +152,7 @@ void PLinienStellen(Baukasten &k, QBoxLayout &spalte) {
                                          {"Option2", "Label2", "txtVerheiratet"},
                                          {"Option4", "Label3", "txtGetrennt"},
                                          {"Option5", "Label4", "txtGeschieden"}};
-    auto *tafel = new QGridLayout;
+    auto *tafel = k.Tafel();
     int reihe = 0;
     for (const auto &[option, schild, box] : Stände) {
         tafel->addWidget(k.Teil(option), reihe, 0);
@@ -159,8 +167,7 @@ void PLinienStellen(Baukasten &k, QBoxLayout &spalte) {
 
 /// Plain kinds on the left, those with a conflict on the right.
 void BezLinienStellen(Baukasten &k, QBoxLayout &spalte) {
-    auto *tafel = new QGridLayout;
-    tafel->setHorizontalSpacing(Abstand);
+    auto *tafel = k.Tafel();
     int reihe = 0;
     for (const char *name : {"optNormal", "optEng", "optVerschmolzen", "optDistanziert", "optAbbruch"})
         tafel->addWidget(k.Teil(name), reihe++, 0);
@@ -234,7 +241,7 @@ QScrollArea *Beispielblatt(Baukasten &k) {
 }
 
 void SchriftStellen(Baukasten &k, QBoxLayout &spalte) {
-    auto *tafel = new QGridLayout;
+    auto *tafel = k.Tafel();
     tafel->addWidget(k.Schild("lblSchriftart", "cboSchriftart"), 0, 0);
     tafel->addWidget(k.Teil("cboSchriftart"), 0, 1);
     for (int i = 1; i <= 3; ++i) {
@@ -302,7 +309,7 @@ void InfoStellen(Baukasten &k, QBoxLayout &spalte) {
 
 /// Two columns: a label in front of the box that follows it; what needs no label goes through both.
 void ReihumStellen(Baukasten &k, QBoxLayout &spalte) {
-    auto *tafel = new QGridLayout;
+    auto *tafel = k.Tafel();
     const auto &namen = k.Form.Reihenfolge();
     int reihe = 0;
     for (size_t i = 0; i < namen.size(); ++i) {

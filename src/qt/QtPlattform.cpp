@@ -1,6 +1,7 @@
 #include "qt/QtPlattform.h"
 
 #include "document/Einstellungen.h"
+#include "qt/QtFlaeche.h"
 
 #include <QCoreApplication>
 #include <QDate>
@@ -9,6 +10,8 @@
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QStandardPaths>
+
+#include <cmath>
 
 namespace kw {
 
@@ -78,6 +81,27 @@ void QtDrucker::Wählen(std::string_view deviceName) {
     if (QPrinterInfo::printerInfo(name).isNull()) return;
     gewählt_ = name;
     lage_.reset();
+}
+
+/// The origin is the corner of the printable area, as of every job; the paper is what the printer is set to.
+void QtDrucker::Drucken(const Druckauftrag &auftrag) {
+    constexpr int Dpi = 600;
+    const QPrinterInfo info = Aktueller();
+    if (info.isNull()) return;
+    QPrinter drucker(info, QPrinter::HighResolution);
+    drucker.setResolution(Dpi);
+    drucker.setFullPage(false);
+    drucker.setPageMargins(QMarginsF(), QPageLayout::Millimeter); // no narrower than the printer can
+    drucker.setPageOrientation(Orientation() == 1 ? QPageLayout::Portrait : QPageLayout::Landscape);
+    drucker.setColorMode(auftrag.Farbig ? QPrinter::Color : QPrinter::GrayScale);
+    drucker.setDocName(QString::fromStdString(auftrag.Titel));
+    const auto twips = [](double cm) { return static_cast<int>(std::lround(cm * TwipsJeCm)); };
+    QtFläche papier;
+    papier.GrößeSetzen(twips(auftrag.SeitenBreite), twips(auftrag.SeitenHöhe));
+    papier.Scale(auftrag.SeitenBreite, auftrag.SeitenHöhe, 1);
+    if (!papier.Beginnen(drucker, Dpi / 2.54, DruckPixelJeCm)) return;
+    auftrag.Zeichnen(papier);
+    if (!papier.Beenden()) drucker.abort();
 }
 
 std::string EinstellungsDateiDesBenutzers() {

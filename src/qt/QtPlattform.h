@@ -35,6 +35,7 @@ class QtDrucker : public Drucker {
     std::vector<std::string> DeviceNames() const override;
     void Wählen(std::string_view deviceName) override;
     void OrientationSetzen(int lage) override { lage_ = lage; }
+    void Drucken(const Druckauftrag &auftrag) override;
 
   private:
     QPrinterInfo Aktueller() const;

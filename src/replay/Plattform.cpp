@@ -4,6 +4,7 @@
 #include "app/Befehle.h"
 #include "commands/Menuetafel.h"
 #include "document/Zahlen.h"
+#include "replay/Aufzeichnung.h"
 
 #include <algorithm>
 
@@ -117,6 +118,14 @@ void DrehbuchDrucker::Wählen(std::string_view deviceName) {
     if (i == Namen.end()) return;
     gewählt_ = static_cast<size_t>(i - Namen.begin());
     lage_ = 1;
+}
+
+void DrehbuchDrucker::Drucken(const Druckauftrag &auftrag) {
+    const auto name = DeviceName();
+    if (!name) return;
+    Aufzeichnung papier;
+    auftrag.Zeichnen(papier);
+    Wirkungen += "job " + *name + (lage_ == 1 ? " | portrait | " : " | landscape | ") + (auftrag.Farbig ? "colour" : "mono") + "\n";
 }
 
 } // namespace kw

@@ -89,6 +89,9 @@ class DrehbuchDrucker : public Drucker {
     std::vector<std::string> DeviceNames() const override { return Namen; }
     void Wählen(std::string_view deviceName) override;
     void OrientationSetzen(int lage) override { lage_ = lage; }
+    void Drucken(const Druckauftrag &auftrag) override;
+
+    std::string Wirkungen; ///< jobs since they were last asked for, a line each
 
   private:
     size_t gewählt_ = 0;

@@ -71,6 +71,10 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
         lauf.aus << std::exchange(p.benutzer.Kästen, {});
         return;
     }
+    if (name == "effects") {
+        lauf.aus << std::exchange(p.drucker.Wirkungen, {});
+        return;
+    }
     if (name == "shape") {
         lauf.aus << FormText(p, Wort(w, 2)) << "\n";
         return;
