@@ -41,7 +41,8 @@ constexpr Bauplan Baupläne[] = {
     {"frmDrucken", Bauen<frmDrucken>},
     {"frmSeiteEinrichten", Bauen<frmSeiteEinrichten>},
     {"frmEinstellungen", Bauen<frmEinstellungen>},
-    {"frmInfo", [](Dialogumgebung &u) -> std::unique_ptr<Formular> {
+    {"frmInfo",
+     [](Dialogumgebung &u) -> std::unique_ptr<Formular> {
          return std::make_unique<frmInfo>(u, frmMain::Programmversion);
      }},
 };
@@ -49,8 +50,8 @@ constexpr Bauplan Baupläne[] = {
 } // namespace
 
 std::unique_ptr<Formular> FormularErzeugen(std::string_view name, Dialogumgebung &umgebung) {
-    const auto *plan = std::find_if(std::begin(Baupläne), std::end(Baupläne),
-                                    [&](const Bauplan &b) { return b.Name == name; });
+    const auto *plan =
+        std::find_if(std::begin(Baupläne), std::end(Baupläne), [&](const Bauplan &b) { return b.Name == name; });
     if (plan == std::end(Baupläne)) throw std::out_of_range("no form " + std::string(name));
     return plan->Bauen(umgebung);
 }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "document/Einstellungen.h"
 #include "app/Projekt.h"
 #include "commands/Menuetafel.h"
+#include "dialogs/Dialogumgebung.h"
 #include "document/Auswahlliste.h"
 #include "document/Dokument.h"
+#include "document/Einstellungen.h"
 #include "document/UndoRing.h"
-#include "dialogs/Dialogumgebung.h"
 #include "editing/Leinwand.h"
 #include "output/basDruckVorschau.h"
 #include "platform/Benutzer.h"

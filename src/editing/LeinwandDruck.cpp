@@ -364,9 +364,8 @@ void Leinwand::DblClick(double x, double y) {
         int Aktion;
         const char *Form;
     };
-    for (const auto &[aktion, form] :
-         {Tür{AktionBeziehungGewählt, "frmBezLinien"}, Tür{AktionPLinieGewählt, "frmPLinien"},
-          Tür{AktionKindlinieGewählt, nullptr}}) {
+    for (const auto &[aktion, form] : {Tür{AktionBeziehungGewählt, "frmBezLinien"},
+                                       Tür{AktionPLinieGewählt, "frmPLinien"}, Tür{AktionKindlinieGewählt, nullptr}}) {
         if (lage.Aktion != aktion) continue;
         if (form) w.fenster.FormÖffnen(form);
         else w.fenster.PopupÖffnen("mnuKindLinie");

@@ -205,7 +205,8 @@ void RahmenUm(Auflagenform &rahmen, const Zwischenablage &za) {
         u.Aufnehmen(p.Zahl(PfeilFeld::PfeilX2), p.Zahl(PfeilFeld::PfeilY2));
     }
     constexpr double Rand = 0.3;
-    if (!u.Leer) rahmen.Legen(u.Links - Rand, u.Oben - Rand, u.Rechts - u.Links + 2 * Rand, u.Unten - u.Oben + 2 * Rand);
+    if (!u.Leer)
+        rahmen.Legen(u.Links - Rand, u.Oben - Rand, u.Rechts - u.Links + 2 * Rand, u.Unten - u.Oben + 2 * Rand);
 }
 
 /// What was pasted is selected: a single element as if clicked, anything else as a group in its frame.

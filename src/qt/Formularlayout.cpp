@@ -96,6 +96,16 @@ QHBoxLayout *Nebeneinander(std::initializer_list<QWidget *> teile) {
     return reihe;
 }
 
+/// A preview below its title.
+QVBoxLayout *Vorschauspalte(Baukasten &k, std::string_view schild, std::string_view bild) {
+    auto *spalte = new QVBoxLayout;
+    spalte->setSpacing(Zeilenabstand / 2);
+    spalte->addWidget(k.Schild(schild, bild));
+    spalte->addWidget(k.Teil(bild));
+    spalte->addStretch();
+    return spalte;
+}
+
 // One routine a form; each fills a column that the buttons' row ends.
 
 void PersonStellen(Baukasten &k, QGridLayout &tafel) {
@@ -105,8 +115,9 @@ void PersonStellen(Baukasten &k, QGridLayout &tafel) {
         int Reihe, Spalte, Spalten;
     };
     constexpr Feld Felder[] = {
-        {"Label1", "txtVorname", 0, 0, 4},      {"Label2", "txtNachname", 1, 0, 4}, {"Label3", "cboSymbol", 2, 0, 4},
-        {"Label4", "txtGeburtsdatum", 3, 0, 1}, {"Label6", "txtAlter", 3, 3, 1},    {"Label5", "txtSterbealter", 4, 3, 1},
+        {"Label1", "txtVorname", 0, 0, 4}, {"Label2", "txtNachname", 1, 0, 4},
+        {"Label3", "cboSymbol", 2, 0, 4},  {"Label4", "txtGeburtsdatum", 3, 0, 1},
+        {"Label6", "txtAlter", 3, 3, 1},   {"Label5", "txtSterbealter", 4, 3, 1},
     };
     for (const Feld &feld : Felder) {
         tafel.addWidget(k.Platzhalter(k.Schild(feld.Schild, feld.Box)), feld.Reihe, feld.Spalte);
@@ -139,11 +150,7 @@ void SymbolStellen(Baukasten &k, QBoxLayout &spalte) {
     seite->addLayout(tafel, 1);
     if (person) PersonStellen(k, *tafel);
     else InstitutionStellen(k, *tafel);
-    auto *vorschau = new QVBoxLayout;
-    vorschau->addWidget(k.Teil("Label7"));
-    vorschau->addWidget(k.Teil(person ? "picBack" : "picBack2"));
-    vorschau->addStretch();
-    seite->addLayout(vorschau);
+    seite->addLayout(Vorschauspalte(k, "Label7", person ? "picBack" : "picBack2"));
     spalte.addLayout(seite);
 }
 
@@ -261,10 +268,7 @@ void SymbGlobalStellen(Baukasten &k, QBoxLayout &spalte) {
     for (int i = 0; i < 3; ++i) wahl->addWidget(k.Teil("optAltersanzeige(" + std::to_string(i) + ")"));
     wahl->addStretch();
     seite->addLayout(wahl, 1);
-    auto *vorschau = new QVBoxLayout;
-    vorschau->addWidget(k.Teil("lblVorschau"));
-    vorschau->addWidget(k.Teil("picAltersanzeige"));
-    seite->addLayout(vorschau);
+    seite->addLayout(Vorschauspalte(k, "lblVorschau", "picAltersanzeige"));
     spalte.addLayout(seite);
 }
 
@@ -335,9 +339,9 @@ void KnopfreiheStellen(Baukasten &k, const Formularteile &teile, QBoxLayout &spa
         const auto teil = teile.find(name);
         auto *knopf = teil == teile.end() ? nullptr : dynamic_cast<QPushButton *>(teil->second);
         if (!knopf) continue;
-        const auto rolle = name == k.Form.Vorgabeknopf    ? QDialogButtonBox::AcceptRole
+        const auto rolle = name == k.Form.Vorgabeknopf   ? QDialogButtonBox::AcceptRole
                            : name == k.Form.Abbruchknopf ? QDialogButtonBox::RejectRole
-                                                          : QDialogButtonBox::ResetRole;
+                                                         : QDialogButtonBox::ResetRole;
         reihe->addButton(knopf, rolle);
     }
     spalte.addWidget(reihe);

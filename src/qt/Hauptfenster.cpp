@@ -124,8 +124,7 @@ QWidget *Hauptfenster::Vordergrund() {
 
 Antwort Hauptfenster::Fragen(const Nachfrage &nachfrage) {
     const auto &reihe = Knopfreihen[static_cast<int>(nachfrage.Auswahl)];
-    QMessageBox kasten(Bild(nachfrage.Bild), Text(nachfrage.Titel), Text(nachfrage.Text), reihe.Knöpfe_,
-                       Vordergrund());
+    QMessageBox kasten(Bild(nachfrage.Bild), Text(nachfrage.Titel), Text(nachfrage.Text), reihe.Knöpfe_, Vordergrund());
     kasten.setTextFormat(Qt::PlainText);
     kasten.setDefaultButton(reihe.Vorgabe);
     switch (kasten.exec()) {

@@ -31,8 +31,25 @@ QSize Zeichenknopf::sizeHint() const {
 
 void Zeichenknopf::paintEvent(QPaintEvent *ereignis) {
     QToolButton::paintEvent(ereignis);
-    if (!text().isEmpty()) return;
     QPainter p(this);
+    if (isChecked()) UntenZeigen(p);
+    if (text().isEmpty()) LinienZeigen(p);
+}
+
+/// Dark themes hardly tell by themselves which buttons are down.
+void Zeichenknopf::UntenZeigen(QPainter &p) const {
+    constexpr double Rundung = 3;
+    constexpr double Schleier = 0.25;
+    QColor farbe = palette().color(QPalette::Highlight);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(farbe, 1.5));
+    farbe.setAlphaF(Schleier);
+    p.setBrush(farbe);
+    p.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Rundung, Rundung);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void Zeichenknopf::LinienZeigen(QPainter &p) const {
     const auto gruppe = isEnabled() ? QPalette::Active : QPalette::Disabled;
     const QColor farbe = palette().color(gruppe, QPalette::ButtonText);
     constexpr double Längen[] = {1, 0.6, 1, 0.6}; // of the longest line

@@ -23,6 +23,9 @@ class Zeichenknopf : public QToolButton {
     void keyPressEvent(QKeyEvent *ereignis) override;
 
   private:
+    void UntenZeigen(QPainter &p) const;
+    void LinienZeigen(QPainter &p) const;
+
     int ausrichtung_ = 0;
 };
 

@@ -1,6 +1,5 @@
 #include "replay/Plattform.h"
 
-
 #include "app/Befehle.h"
 #include "commands/Menuetafel.h"
 #include "document/Zahlen.h"
@@ -125,7 +124,8 @@ void DrehbuchDrucker::Drucken(const Druckauftrag &auftrag) {
     if (!name) return;
     Aufzeichnung papier;
     auftrag.Zeichnen(papier);
-    Wirkungen += "job " + *name + (lage_ == 1 ? " | portrait | " : " | landscape | ") + (auftrag.Farbig ? "colour" : "mono") + "\n";
+    Wirkungen += "job " + *name + (lage_ == 1 ? " | portrait | " : " | landscape | ") +
+                 (auftrag.Farbig ? "colour" : "mono") + "\n";
 }
 
 } // namespace kw

@@ -39,7 +39,7 @@ class DrehbuchBenutzer : public Benutzer {
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
-    std::deque<Formularskript> Formulare; ///< what to do in the next forms, each waiting for its name
+    std::deque<Formularskript> Formulare;              ///< what to do in the next forms, each waiting for its name
     std::map<std::string, std::string> Formularwerte_; ///< of the forms that have closed, each as it was last
     /// Plays the user in front of a form.
     std::function<void(Formular &, const std::vector<std::string> &)> FormularSpielen;
