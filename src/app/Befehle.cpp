@@ -1,6 +1,7 @@
 #include "app/Befehle.h"
 
 #include "app/frmMain.h"
+#include "document/Zahlen.h"
 #include "editing/Bewegen.h"
 #include "editing/Kinder.h"
 #include "editing/Loeschen.h"
@@ -31,6 +32,10 @@ void EinfügenImKontext(frmMain &h) {
 void AuswahlLöschenImKontext(frmMain &h) {
     AuswahlLöschen(h.werkbank);
     MarkierungsListBoxenLöschen(h.werkbank);
+}
+
+void SymbolBearbeiten(frmMain &h) {
+    if (!Getrimmt(h.lage.PersRecord).empty()) h.FormÖffnen("frmSymbol");
 }
 
 void PLinieBearbeiten(frmMain &h) {
@@ -112,7 +117,7 @@ constexpr Befehl Tabelle[] = {
     {"mnuTwinszweiiig", [](frmMain &h) { ZwillingeErklären(h.werkbank, "2E"); }},
     {"mnuTwinsEineiig", [](frmMain &h) { ZwillingeErklären(h.werkbank, "1E"); }},
 
-    {"mnuSymbolBearbeiten", [](frmMain &h) { h.FormÖffnen("frmSymbol"); }},
+    {"mnuSymbolBearbeiten", SymbolBearbeiten},
     {"mnuBeziehungErstellen2", Auf<mnuBeziehungErstellen2>},
     {"mnuPartnerschaftsLinie", Auf<mnuPartnerschaftsLinie>},
     {"mnuKindVon", Auf<mnuKindVon>},

@@ -52,6 +52,10 @@ void Formular::OptionSetzen(std::string_view name) {
     Geklickt(name);
 }
 
+void Formular::TextEingeben(std::string_view name, std::string_view text) {
+    TextSetzen(name, (*this)[name].Kind == Art::Textblock ? text : text.substr(0, text.find_first_of("\r\n")));
+}
+
 void Formular::Tippen(std::string_view name, std::string_view zeichen) {
     const Steuerelement &element = (*this)[name];
     if (!element.Enabled || !element.Visible) return;

@@ -103,8 +103,9 @@ class Formular {
 
     /// Whether the key may come into the box. `zeichen` is one UTF-8 character, "\n" for Enter; Backspace always may.
     virtual bool TasteErlaubt(std::string_view /*name*/, std::string_view /*zeichen*/) const { return true; }
-    /// The text of a box is another now: typed, pasted, deleted.
-    void TextEingeben(std::string_view name, std::string_view text) { TextSetzen(name, text); }
+    /// The text of a box is another now: typed, pasted, deleted. A box of one line takes what stands before the
+    /// first line break.
+    void TextEingeben(std::string_view name, std::string_view text);
     /// Types one character at the end of a box: filter first, then the change. "\b" takes the last one away.
     void Tippen(std::string_view name, std::string_view zeichen);
     /// A button, check box, option, toggle or swatch is pressed; in a box, the mouse goes down.

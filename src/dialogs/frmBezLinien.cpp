@@ -73,7 +73,9 @@ void frmBezLinien::Geklickt(std::string_view name) {
     if (name == "Command1") return Bestätigen();
     if (name == "Command2") return Schließkreuz();
     if (name == "Command3") {
-        BezLinieLöschen(umgebung_.werkbank);
+        // A line that was drawn a moment ago is in no snapshot yet: it goes as if cancelled.
+        if (umgebung_.werkbank.lage.Aktion == AktionBeziehungZiehen) BezLAbbrechen(umgebung_.werkbank);
+        else BezLinieLöschen(umgebung_.werkbank);
         return Schließen();
     }
     const Beziehungsart &art = Arten.at(static_cast<size_t>(Gewählt()));

@@ -60,13 +60,13 @@ void frmDrucken::Geklickt(std::string_view name) {
 
 void frmDrucken::Bestätigen() {
     const std::string name = (*this)["cboDrucker"].Text;
-    if (Getrimmt(name).empty()) {
+    // A printer that has gone meanwhile is none: nothing must come out of one that nobody chose.
+    if (Getrimmt(name).empty() || !umgebung_.drucker.Wählen(name)) {
         umgebung_.werkbank.benutzer.Fragen(
             {"Kinwright", umgebung_.IstDeutsch() ? "Es wurde kein Drucker ausgewählt! " : "No printer was selected! ",
              Knöpfe::Ok, Zeichen::Warnung});
         return;
     }
-    umgebung_.drucker.Wählen(name);
     for (int i = 0; i < exemplare_; ++i) umgebung_.dienste.GenogrammDrucken();
     Schließen();
 }

@@ -207,12 +207,14 @@ void frmKommentar::FarbeFragen() {
     if (gewählt) FarbeSetzen(static_cast<Farbe>(*gewählt));
 }
 
-/// The text under edit takes the new default font. Its size stays, whatever class that belongs to now.
+/// The text under edit takes the new default font, and the new size of its class if it has one.
 void frmKommentar::StandardschriftBearbeiten() {
     frmSchrift schrift(umgebung_);
     schrift.Caption = "Textbox";
     schrift.SchriftÜbernehmen = [this](std::string_view schriftart) {
         TextSetzen("cboSchriftart", schriftart);
+        for (size_t i = 0; i < Größen.size(); ++i)
+            if ((*this)[Größen[i].Name].Value) return GrößenknopfDrücken(static_cast<int>(i));
         GrößenknöpfeStellen();
     };
     umgebung_.werkbank.benutzer.FormZeigen(schrift);
@@ -222,8 +224,8 @@ std::string frmKommentar::Satz() const {
     const auto text = [this](std::string_view name) { return Finden(name)->Text; };
     Satzbau satz("", TextFeld::AnzahlUngemessen);
     satz.Setzen(TextFeld::TextX, Gerundet(textX_, 1)).Setzen(TextFeld::TextY, Gerundet(textY_, 1));
-    satz.Setzen(TextFeld::Schriftart, AlsFeld(text("cboSchriftart")));
-    satz.Setzen(TextFeld::Schriftgroesse, AlsFeld(text("cboFontSize")));
+    satz.Setzen(TextFeld::Schriftart, AlsFeld(GültigeSchriftart(text("cboSchriftart"))));
+    satz.Setzen(TextFeld::Schriftgroesse, AlsFeld(GültigeSchriftgröße(text("cboFontSize"))));
     satz.Setzen(TextFeld::Farbe, std::to_string(Finden("lblColor")->Farbwert));
     for (const auto &stil : Stile) satz.Setzen(stil.Feld, Finden(stil.Name)->Value ? "1" : "0");
     satz.Setzen(TextFeld::Ausrichtung, std::to_string(Finden("Text1")->Alignment));

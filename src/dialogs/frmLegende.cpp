@@ -53,6 +53,10 @@ void frmLegende::Geklickt(std::string_view name) {
 
 void frmLegende::Bestätigen() {
     Werkbank &w = umgebung_.werkbank;
+    const bool anders = w.dokument.OhneStandardsymbole == (*this)["chkAlleSymbole"].Value ||
+                        w.dokument.LegendeQuer != (*this)["optQuer"].Value ||
+                        w.dokument.LegendeSichtbar != (*this)["chkLegendeAnzeigen"].Value;
+    if (anders) w.fenster.AlsGeändertMerken(); // the project holds them, no snapshot does
     w.dokument.OhneStandardsymbole = !(*this)["chkAlleSymbole"].Value;
     w.dokument.LegendeQuer = (*this)["optQuer"].Value;
     LegendeAufbauen(w.dokument, w.legende);

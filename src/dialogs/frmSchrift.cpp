@@ -90,8 +90,8 @@ void frmSchrift::StandardwerteSetzen() {
 
 void frmSchrift::cmdOK_Click() {
     Einstellungen &e = umgebung_.einstellungen;
-    e.stdfontname = (*this)["cboSchriftart"].Text;
-    for (const auto &größe : Größen) e.*größe.Wert = (*this)[größe.Liste].Text;
+    e.stdfontname = GültigeSchriftart((*this)["cboSchriftart"].Text);
+    for (const auto &größe : Größen) e.*größe.Wert = GültigeSchriftgröße((*this)[größe.Liste].Text);
     if (SchriftÜbernehmen) SchriftÜbernehmen(e.stdfontname);
     Schließen();
 }

@@ -57,11 +57,13 @@ void frmSeiteEinrichten::Geklickt(std::string_view name) {
 void frmSeiteEinrichten::Bestätigen() {
     Werkbank &w = umgebung_.werkbank;
     w.ansicht.bDruckrandAnzeigen = (*this)["Check1"].Value;
+    const auto vorher = std::pair(w.dokument.Papiercode, w.dokument.Seitenlage);
     if (const int i = (*this)["cboPapierformat"].ListIndex; i >= 0)
         w.dokument.Papiercode = Papierfolge.at(static_cast<size_t>(i));
     const int lage = (*this)["Option1"].Value ? Hochformat : Querformat;
     if (umgebung_.drucker.DeviceName()) umgebung_.drucker.OrientationSetzen(lage);
     w.dokument.Seitenlage = lage;
+    if (vorher != std::pair(w.dokument.Papiercode, lage)) w.fenster.AlsGeändertMerken(); // the project holds the page
     umgebung_.dienste.SeiteAnwenden();
     w.fenster.Vorschau();
     Schließen();

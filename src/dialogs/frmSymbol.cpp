@@ -149,8 +149,13 @@ frmSymbol::frmSymbol(Dialogumgebung &umgebung)
 
 void frmSymbol::Laden() {
     const Leinwandlage &lage = umgebung_.werkbank.lage;
+    const Satzliste &personen = umgebung_.werkbank.dokument.cboPersonen;
     satz_ = lage.PersRecord;
     position_ = lage.PersAuswahl - 1;
+    // The record may have been rewritten since the person was selected: by a link, or by this form.
+    const bool dieselbe =
+        position_ >= 0 && position_ < personen.Anzahl() && personen.Satz(position_).substr(0, 3) == satz_.substr(0, 3);
+    if (dieselbe) satz_ = personen.Satz(position_);
     typ_ = SymbolKennzahl(Felder(satz_).OderLeer(PersonFeld::Symboltyp));
     institution_ = typ_ == TypInstitution;
     GesichtZeigen();
@@ -188,6 +193,7 @@ void frmSymbol::PersonLaden() {
 void frmSymbol::Entladen() {
     MarkierungsListBoxenLöschen(umgebung_.werkbank);
     KeineAktion(umgebung_.werkbank);
+    umgebung_.werkbank.bedienung["mnuLöschen1"].Enabled = false;
 }
 
 void frmSymbol::Zeitgeber(std::string_view name) {
@@ -201,6 +207,7 @@ void frmSymbol::Zeitgeber(std::string_view name) {
     if (name == "Timer3") {
         TextSetzen("txtGeburtsdatum", "");
         TextSetzen("txtAlter", "");
+        Das("shpFalsch").Visible = false; // there is no date any more that it could stand for
     }
     if (name == "Timer4") FokusGeben("txtInstitution");
 }
@@ -255,6 +262,7 @@ void frmSymbol::TypGewählt() {
         Das(name).Enabled = offen;
         Das(name).Weiß = offen;
     }
+    Das("Label5").Visible = offen; // no box without its label
     Das("lblVorname").Visible = Das("lblNachname").Visible = offen;
     if (!offen)
         for (const char *name : {"lblAlter", "lblGebDat", "lblGestorben"}) Das(name).Visible = false;
@@ -275,7 +283,8 @@ void frmSymbol::SterbealterGeändert() {
     const std::string &text = Text("txtSterbealter");
     Steuerelement &label = Das("lblGestorben");
     label.Visible = !Getrimmt(text).empty();
-    label.Caption = label.Visible ? "+ " + text + (text.size() == 2 ? "    " : "") : ""; // keeps two digits aligned
+    label.Caption =
+        label.Visible ? "+ " + text + (Zeichenzahl(text) == 2 ? "    " : "") : ""; // keeps two digits aligned
 }
 
 // The preview.
@@ -315,7 +324,9 @@ int frmSymbol::Symbolkennzahl() {
 
 void frmSymbol::Übernehmen() {
     if (Text("txtAlter").empty()) TextSetzen("txtGeburtsdatum", ""); // an age removed by hand removes the date
-    if (Das("shpFalsch").Visible || Das("shpFalsch2").Visible || alter_.bDatumUngueltig) return;
+    if (alter_.bDatumUngueltig && !Das("shpFalsch2").Visible)
+        Das("shpFalsch").Visible = true; // tells why nothing happens
+    if (Das("shpFalsch").Visible || Das("shpFalsch2").Visible) return;
     Werkbank &w = umgebung_.werkbank;
     Satzliste &personen = w.dokument.cboPersonen;
     if (position_ >= 0 && position_ < personen.Anzahl()) {
@@ -338,7 +349,8 @@ std::string frmSymbol::NeuerSatz() {
     if (kennzahl != 0) satz.Setzen(PersonFeld::Symboltyp, kennzahl);
     if (kennzahl != 0 && kennzahl != typ_)
         satz.Setzen(PersonFeld::Groesse, Das("cboSymbol").ListIndex < ErsterKleiner ? GrößeNormal : GrößeKlein);
-    const std::string sterbealter(Getrimmt(Ohne(Text("txtSterbealter"), '_')));
+    // The mark is the tick's alone, however it came into the box.
+    const std::string sterbealter(Getrimmt(Ohne(Ohne(Text("txtSterbealter"), '_'), '$')));
     satz.Setzen(PersonFeld::IndexPerson, Ja("chkIndexPerson"))
         .Setzen(PersonFeld::Sterbealter, (Das("chkVerstorben").Value ? "$" : "") + sterbealter)
         .Setzen(PersonFeld::Sucht, Ja("chkSucht"))
@@ -353,6 +365,7 @@ std::string frmSymbol::NeuerSatz() {
 void frmSymbol::Löschen() {
     Werkbank &w = umgebung_.werkbank;
     w.fenster.Sichern();
+    w.lage.Aktion = AktionNichts; // no group: the deletion takes its own snapshot behind it
     mnuSymbolLöschen(w);
     KeineAktion(w);
     Schließen();

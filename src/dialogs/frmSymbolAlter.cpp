@@ -26,7 +26,7 @@ void frmSymbol::GeburtsdatumGeändert() {
     if (AktivesDatumsfeld == Feld::Alter) return;
     const std::string &datum = Text("txtGeburtsdatum");
     Das("shpFalsch").Visible = false;
-    if (datum.size() < 4) TextSetzen("txtAlter", "");
+    if (Zeichenzahl(datum) < 4) TextSetzen("txtAlter", "");
     else AlterAnzeigen();
     if (datum.empty()) {
         Das("shpFalsch").Visible = false;
@@ -54,6 +54,10 @@ void frmSymbol::AlterGeändert() {
 }
 
 void frmSymbol::AlterAnzeigen() {
+    if (Getrimmt(Text("txtGeburtsdatum")).empty()) { // the calculation leaves what it had
+        alter_.strAlterText.clear();
+        alter_.strGebJahrText.clear();
+    }
     alter_.AlterAusDatum(Text("txtGeburtsdatum"));
     AlterBeschriften(alter_.strAlterText);
     TextSetzen("txtAlter", alter_.strAlterText);

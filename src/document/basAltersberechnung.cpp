@@ -70,11 +70,6 @@ std::vector<Anordnung> Anordnungen(bool jahrVorn, Datumsfolge folge) {
     return {};
 }
 
-/// Characters, not bytes: the bytes that continue one are passed over.
-long Zeichenzahl(std::string_view text) {
-    return std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; });
-}
-
 std::string Vierstellig(int jahr) {
     const auto ziffern = std::to_string(jahr);
     return std::string(4 - std::min<size_t>(ziffern.size(), 4), '0') + ziffern;

@@ -168,6 +168,7 @@ bool Leinwand::KindLinkBeenden(const Ereignis &) {
     const bool angelegt = lage.PLinieUnterMaus && KindLinieAnlegen(w);
     lage.Aktion = AktionNichts; // before the redraw, which marks the bar under the pointer
     lage.PLinieUnterMaus = false;
+    lage.PersRecord.clear();
     LinkAufräumen(w);
     w.auswahl.lstMovedPLines.Leeren();
     MarkerEntfernen(w);
@@ -179,6 +180,7 @@ bool Leinwand::MenüWarOffen(const Ereignis &) {
     const bool ende = lage.Aktion == AktionMenüOffen;
     if (ende || lage.Aktion == AktionNichts) Gummi1Parken(w);
     if (ende) lage.Aktion = AktionNichts;
+    if (ende) lage.PersRecord.clear(); // a double click that begins so isn't meant for that person
     return ende;
 }
 
@@ -186,6 +188,7 @@ bool Leinwand::MenüWarOffen(const Ereignis &) {
 bool Leinwand::LinkBeenden(const Ereignis &) {
     if (lage.Aktion != AktionBeziehungZiehen && lage.Aktion != AktionPartnerschaftZiehen) return false;
     LinkAufräumen(w);
+    lage.PersRecord.clear();
     MarkierungsListBoxenLöschen(w);
     if (lage.Aktion == AktionBeziehungZiehen) BeziehungAnlegen(w);
     else PartnerschaftAnlegen(w);
@@ -360,6 +363,9 @@ void Leinwand::DblClick(double x, double y) {
         w.fenster.FormÖffnen("frmLegende");
         return;
     }
+    // A press on a selected line has just unselected it: the double click means the line all the same.
+    if (lage.Aktion == AktionNichts && Getrimmt(lage.PersRecord).empty())
+        BezLinieTreffer(x, y) || PLinieTreffer(x, y) || KindLinieTreffer(x, y);
     struct Tür {
         int Aktion;
         const char *Form;

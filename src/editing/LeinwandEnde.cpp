@@ -26,7 +26,7 @@ std::vector<std::pair<double, double>> Lückenpunkte(std::pair<double, double> l
     const double dx = erster.first - letzter.first;
     const double dy = erster.second - letzter.second;
     const double länge = std::hypot(dx, dy);
-    const int anzahl = static_cast<int>(länge / LückenSchritt + 0.5);
+    const int anzahl = static_cast<int>(std::floor(länge / LückenSchritt + 0.5));
     for (int i = 1; i <= anzahl; ++i)
         punkte.emplace_back(Gerundet(letzter.first + i * LückenSchritt * dx / länge, 2),
                             Gerundet(letzter.second + i * LückenSchritt * dy / länge, 2));

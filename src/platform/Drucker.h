@@ -40,8 +40,9 @@ class Drucker {
     virtual int Orientation() const = 0;
     /// All installed printers, in the platform's order.
     virtual std::vector<std::string> DeviceNames() const = 0;
-    /// Makes that printer the current one, as its own settings have it. An unknown name changes nothing.
-    virtual void Wählen(std::string_view deviceName) = 0;
+    /// Makes that printer the current one, as its own settings have it. False, and nothing changed, when there is none
+    /// of that name (any more).
+    virtual bool Wählen(std::string_view deviceName) = 0;
     /// Turns the current printer: 1 portrait, 2 landscape.
     virtual void OrientationSetzen(int lage) = 0;
     /// Prints one job on the current printer. A failure shows nothing and leaves no half job behind.

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QCloseEvent>
+#include <QGroupBox>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -98,7 +99,9 @@ void Formularfenster::RahmenBauen() {
     for (const auto &name : form_.Reihenfolge()) {
         const Steuerelement &element = form_[name];
         const auto ziel = teile_.find(element.Bei);
-        if (element.Kind == Art::Warnrahmen && ziel != teile_.end()) teile_[name] = new Warnrahmen(*ziel->second);
+        if (element.Kind != Art::Warnrahmen || ziel == teile_.end()) continue;
+        teile_[name] = new Warnrahmen(*ziel->second);
+        teile_[name]->setObjectName(Text(name));
     }
 }
 
@@ -146,14 +149,17 @@ void Formularfenster::Auffrischen() {
     Benennen();
 }
 
-/// A box is called what its label says, what has neither label nor caption what its tool tip says.
+/// A box is called what its label says, without one what its frame does; what has no caption as its tool tip says.
 void Formularfenster::Benennen() {
     for (const auto &[name, teil] : teile_) {
         const Steuerelement &element = form_[name];
+        const auto *rahmen = dynamic_cast<QGroupBox *>(teil->parentWidget());
         if (!element.Tip.empty()) teil->setAccessibleName(Text(element.Tip));
-        const auto *schild = dynamic_cast<QLabel *>(teil);
-        if (schild && schild->buddy()) schild->buddy()->setAccessibleName(Vorlesbar(schild->text()));
+        else if (IstBox(element.Kind) || element.Kind == Art::Liste)
+            teil->setAccessibleName(Vorlesbar(rahmen ? rahmen->title() : windowTitle()));
     }
+    for (const auto *schild : findChildren<QLabel *>())
+        if (schild->buddy()) schild->buddy()->setAccessibleName(Vorlesbar(schild->text()));
 }
 
 void Formularfenster::ZeitgeberStellen(std::string_view name, int ms) {

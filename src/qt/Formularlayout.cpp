@@ -165,6 +165,7 @@ void PLinienStellen(Baukasten &k, QBoxLayout &spalte) {
         tafel->addWidget(k.Teil(option), reihe, 0);
         tafel->addWidget(k.Schild(schild, box), reihe, 1);
         tafel->addWidget(k.Mindestens(k.Teil(box), 18), reihe++, 2);
+        k.Teil(box)->setAccessibleDescription(Text(k.Form.Finden(option)->Caption)); // the labels all read alike
     }
     tafel->setColumnStretch(2, 1);
     spalte.addLayout(tafel);
@@ -178,16 +179,21 @@ void BezLinienStellen(Baukasten &k, QBoxLayout &spalte) {
     int reihe = 0;
     for (const char *name : {"optNormal", "optEng", "optVerschmolzen", "optDistanziert", "optAbbruch"})
         tafel->addWidget(k.Teil(name), reihe++, 0);
-    reihe = 0;
-    for (const char *name : {"optKonflikthaft", "optEng_Konflikt", "optVerschm_Konflikthaft"})
-        tafel->addWidget(k.Teil(name), reihe++, 1);
-    // The last caption's second line stands below its first.
+    tafel->addWidget(k.Teil("optKonflikthaft"), 0, 1);
+    tafel->addWidget(k.Teil("optEng_Konflikt"), 1, 1);
+    // The last caption's second line stands close below its first.
+    auto *letzte = new QVBoxLayout;
+    letzte->setSpacing(0);
+    QWidget *option = k.Teil("optVerschm_Konflikthaft");
     QWidget *zweite = k.Teil("Label1");
-    const QStyle &stil = *zweite->style();
+    const QStyle &stil = *option->style();
     zweite->setContentsMargins(stil.pixelMetric(QStyle::PM_ExclusiveIndicatorWidth) +
                                    stil.pixelMetric(QStyle::PM_RadioButtonLabelSpacing),
                                0, 0, 0);
-    tafel->addWidget(zweite, reihe, 1, Qt::AlignTop);
+    option->setAccessibleDescription(Text(k.Form.Finden("Label1")->Caption));
+    for (QWidget *zeile : {option, zweite}) letzte->addWidget(zeile);
+    letzte->addStretch();
+    tafel->addLayout(letzte, 2, 1, 3, 1);
     spalte.addLayout(tafel);
     spalte.addWidget(k.Teil("Picture1"), 0, Qt::AlignHCenter);
 }
@@ -212,9 +218,9 @@ void KommentarStellen(Baukasten &k, QBoxLayout &spalte) {
     schrift->setStretch(1, 1);
     spalte.addLayout(schrift);
     auto *knöpfe = leiste({{"btnSchriftgr_e(0)", "btnSchriftgr_e(1)", "btnSchriftgr_e(2)"},
+                           {"imgColor", "lblColor"},
                            {"btnStyle(0)", "btnStyle(1)", "btnStyle(2)"},
-                           {"btnLeft", "btnMid", "btnRight"},
-                           {"imgColor", "lblColor"}});
+                           {"btnLeft", "btnMid", "btnRight"}});
     knöpfe->addWidget(k.Teil("cmdEigenschaften"));
     spalte.addLayout(knöpfe);
     constexpr double Größen[] = {0.75, 1, 1.3}; // of the letters on the three buttons

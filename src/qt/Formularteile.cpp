@@ -113,11 +113,14 @@ void ListeZeigen(QComboBox &liste, const Steuerelement &element) {
     // The entry that reads like the text is the current one: else the widget would pick it by itself later.
     const QString text = Text(element.Text);
     const int index = static_cast<int>(einträge.indexOf(text));
-    const int stelle = liste.lineEdit()->cursorPosition();
-    const bool gleich = liste.lineEdit()->text() == text;
-    if (liste.currentIndex() != index) liste.setCurrentIndex(index);
-    liste.lineEdit()->setText(text);
-    if (gleich) liste.lineEdit()->setCursorPosition(stelle);
+    QLineEdit &zeile = *liste.lineEdit();
+    const bool gleich = zeile.text() == text;
+    if (gleich && liste.currentIndex() == index) return; // keeps selection and edit history
+    const int stelle = zeile.cursorPosition();
+    liste.setCurrentIndex(index);
+    zeile.setText(text);
+    if (gleich) zeile.setCursorPosition(stelle);
+    else if (zeile.hasFocus()) zeile.selectAll(); // the form has put it there itself: the next key replaces it
 }
 
 QFont SchriftVon(const Steuerelement &element) {

@@ -76,11 +76,12 @@ std::vector<std::string> QtDrucker::DeviceNames() const {
     return namen;
 }
 
-void QtDrucker::Wählen(std::string_view deviceName) {
+bool QtDrucker::Wählen(std::string_view deviceName) {
     const QString name = QString::fromUtf8(deviceName.data(), static_cast<qsizetype>(deviceName.size()));
-    if (QPrinterInfo::printerInfo(name).isNull()) return;
+    if (QPrinterInfo::printerInfo(name).isNull()) return false;
     gewählt_ = name;
     lage_.reset();
+    return true;
 }
 
 /// The origin is the corner of the printable area, as of every job; the paper is what the printer is set to.

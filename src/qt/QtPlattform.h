@@ -33,7 +33,7 @@ class QtDrucker : public Drucker {
     Druckränder Ränder() const override;
     int Orientation() const override;
     std::vector<std::string> DeviceNames() const override;
-    void Wählen(std::string_view deviceName) override;
+    bool Wählen(std::string_view deviceName) override;
     void OrientationSetzen(int lage) override { lage_ = lage; }
     void Drucken(const Druckauftrag &auftrag) override;
 

@@ -45,7 +45,13 @@ void Zeichenknopf::UntenZeigen(QPainter &p) const {
     p.setPen(QPen(farbe, 1.5));
     farbe.setAlphaF(Schleier);
     p.setBrush(farbe);
-    p.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), Rundung, Rundung);
+    const QRectF außen = QRectF(rect()).adjusted(1, 1, -1, -1);
+    p.drawRoundedRect(außen, Rundung, Rundung);
+    if (hasFocus()) { // else the ring of the focus would be that of the button that is down
+        p.setPen(QPen(palette().color(QPalette::Base), 1));
+        p.setBrush(Qt::NoBrush);
+        p.drawRoundedRect(außen.adjusted(1.5, 1.5, -1.5, -1.5), Rundung / 2, Rundung / 2);
+    }
     p.setRenderHint(QPainter::Antialiasing, false);
 }
 

@@ -112,11 +112,12 @@ std::optional<int> DrehbuchBenutzer::FarbeWählen(int) {
     return static_cast<int>(ZahlLesen(antwort->Wert));
 }
 
-void DrehbuchDrucker::Wählen(std::string_view deviceName) {
+bool DrehbuchDrucker::Wählen(std::string_view deviceName) {
     const auto i = std::find(Namen.begin(), Namen.end(), deviceName);
-    if (i == Namen.end()) return;
+    if (i == Namen.end()) return false;
     gewählt_ = static_cast<size_t>(i - Namen.begin());
     lage_ = 1;
+    return true;
 }
 
 void DrehbuchDrucker::Drucken(const Druckauftrag &auftrag) {

@@ -87,7 +87,7 @@ class DrehbuchDrucker : public Drucker {
     Druckränder Ränder() const override { return Rand; }
     int Orientation() const override { return lage_; }
     std::vector<std::string> DeviceNames() const override { return Namen; }
-    void Wählen(std::string_view deviceName) override;
+    bool Wählen(std::string_view deviceName) override;
     void OrientationSetzen(int lage) override { lage_ = lage; }
     void Drucken(const Druckauftrag &auftrag) override;
 

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
+#include <iterator>
 
 namespace kw {
 
@@ -19,7 +21,7 @@ constexpr std::pair<Satzliste Dokument::*, std::string_view> Satzformen[] = {
     {&Dokument::cboKindlinien, "NkNzzzz"},
     {&Dokument::cboBeziehungsLinien, "ebzzzzNN"},
     {&Dokument::cboPfeile, "pzzzz"},
-    {&Dokument::cboTextboxen, "zz*zzfffk*|zz"},
+    {&Dokument::cboTextboxen, "zz**zfffk*|zz"},
 };
 
 bool IstNummer(std::string_view t) {
@@ -32,8 +34,8 @@ bool Passt(char art, std::string_view t) {
     case 'N': return IstNummer(t);
     case 'n': return t.empty() || IstNummer(t);
     case 'w': return t.empty() || ((t.starts_with("1E") || t.starts_with("2E")) && IstNummer(t.substr(2)));
-    // As the program itself writes it, and no farther away than this user goes.
-    case 'z': return ZahlSchreiben(ZahlLesen(t)) == t && std::abs(ZahlLesen(t)) < 1000;
+    // As the program itself writes it, and no larger than this user makes it.
+    case 'z': return ZahlSchreiben(ZahlLesen(t)) == t && std::abs(ZahlLesen(t)) < 100000;
     case 'e': return t.empty();
     case 'f': return t.empty() || unter("01");
     case 's': return t.empty() || unter("0123");
@@ -150,23 +152,12 @@ struct Sammler {
             if (!IstNummer(e)) Stelle(was, e, ab, speicher.Anzahl() - 1 + ab);
             else Soll(Finden(speicher, e), "out of range", {was, e});
     }
-    /// A single position counts only while `Aktion` says that it is selected.
     void Auswahlen() {
         Gewählt("text", s.auswahl.lstMovedText, d.cboTextboxen, 0);
         Gewählt("circle", s.auswahl.lstMovedKreisLinien, d.cboFreehandlines, 1);
         Gewählt("arrow", s.auswahl.lstMovedPfeile, d.cboPfeile, 0);
         Gewählt("person", s.auswahl.lstMovedPers, d.cboPersonen, 1);
         Gewählt("line", s.auswahl.lstMovedPLines, d.cboPartnerschaftsLinien, 1);
-        const auto einzeln = [&](const char *was, int wert, const Satzliste &speicher, int ab, std::set<int> aktionen) {
-            if (aktionen.contains(s.lage.Aktion)) Stelle(was, std::to_string(wert), ab, speicher.Anzahl() - 1 + ab);
-        };
-        einzeln("PersAuswahl", s.lage.PersAuswahl, d.cboPersonen, 1, {3, 12, 13, 15});
-        einzeln("BezAuswahl", s.lage.BezAuswahl, d.cboBeziehungsLinien, 0, {4});
-        einzeln("PLinieAuswahl", s.lage.PLinieAuswahl, d.cboPartnerschaftsLinien, 0, {5, 8});
-        einzeln("KindAuswahl", s.lage.KindAuswahl, d.cboKindlinien, 0, {6});
-        einzeln("TextAuswahl", s.lage.TextAuswahl, d.cboTextboxen, 0, {10, 11, 20});
-        einzeln("KreisAuswahl", s.lage.KreisAuswahl, d.cboFreehandlines, 1, {19});
-        einzeln("PfeilAuswahl", s.lage.PfeilAuswahl, d.cboPfeile, 0, {26, 27, 28, 29});
     }
     void Lagen() {
         static const std::set<int> keine{2, 7, 21, 22, 23}; // 23 lasts within one command only
@@ -204,9 +195,16 @@ std::string Unterschied(const Dokument &a, const Dokument &b) {
 struct Schritt {
     const Stand &Alt, &Neu;
     const std::string &Zeile;
+    const std::set<std::string> &Entschuldigt;
 
-    bool OhneSicherung() const { return Alt.ring.UndoPos() == Neu.ring.UndoPos(); }
+    /// A paste leaves the copies selected.
+    bool Eingefügt(const std::string &wer) const;
 };
+
+/// A circle line or a person just placed waits for its snapshot until the next click.
+bool InDerHand(const Stand &stand) {
+    return stand.lage.Aktion == AktionKreisGewählt || stand.lage.Aktion == AktionPersonSetzen;
+}
 
 /// Whether the list has the number of `wer` as an entry.
 bool Enthält(const Satzliste &liste, const std::string &wer) {
@@ -219,32 +217,36 @@ std::string FeldVon(const Dokument &d, const std::string &wer, int feld) {
     return satz ? std::string(Felder(*satz)[feld]) : "";
 }
 
-/// Counted numbers begin behind `ab`; as many as that are given in one line.
-bool Gezählt(const Verstoß &v, int ab, int viele) {
-    const int zähler = std::stoi(v.Wer[0].substr(1)) - ab;
-    return zähler >= 1 && zähler <= viele;
+bool Schritt::Eingefügt(const std::string &wer) const {
+    return Neu.dokument.cboPersonen.Anzahl() > Alt.dokument.cboPersonen.Anzahl() &&
+           Enthält(wer[0] == 'P' ? Neu.auswahl.lstMovedPers : Neu.auswahl.lstMovedPLines, wer);
 }
 
-/// A rule that the program breaks by its own rules: the kinds of faults, and when it does.
+/// A rule that the program breaks by its own rules: the kinds of faults, all when none is named, and when it does.
 struct Macke {
     std::string_view Name, Arten;
     bool (*Gilt)(const Schritt &, const Verstoß &);
 };
 const Macke Macken[] = {
-    {"numbers are counted where too few free ones are listed", "double number",
+    {"numbers are counted where too few free ones are listed, by a paste from the last record's", "double number",
      [](const Schritt &s, const Verstoß &v) { // a couple takes two
-         const Dokument &d = s.Alt.dokument;
-         if (v.Wer[0][0] == 'L')
-             return d.lstGelöschtePLinien.Leer() && Gezählt(v, d.cboPartnerschaftsLinien.Anzahl(), 1);
-         return d.lstGelöschtePersNr.Anzahl() < 2 && Gezählt(v, d.cboPersonen.Anzahl(), 2);
-     }},
-    {"a paste counts on from the last record's number", "double number",
-     [](const Schritt &s, const Verstoß &v) {
          const bool person = v.Wer[0][0] == 'P';
-         const Satzliste &alte = person ? s.Alt.dokument.cboPersonen : s.Alt.dokument.cboPartnerschaftsLinien;
-         const Satzliste &neue = person ? s.Neu.ablage.ZA_Personen : s.Neu.ablage.ZA_PLines;
-         return Enthält(person ? s.Neu.auswahl.lstMovedPers : s.Neu.auswahl.lstMovedPLines, v.Wer[0]) &&
-                Gezählt(v, alte.Leer() ? 0 : std::stoi(alte.Letzter()), neue.Anzahl());
+         const Dokument &d = s.Alt.dokument;
+         const Satzliste &alte = person ? d.cboPersonen : d.cboPartnerschaftsLinien;
+         const int frei = (person ? d.lstGelöschtePersNr : d.lstGelöschtePLinien).Anzahl();
+         const int kopien = (person ? s.Neu.ablage.ZA_Personen : s.Neu.ablage.ZA_PLines).Anzahl();
+         const auto gezählt = [&](int ab, int viele) {
+             const int nr = std::stoi(v.Wer[0].substr(1)) - ab;
+             return nr >= 1 && nr <= viele;
+         };
+         return (frei < (person ? 2 : 1) && gezählt(alte.Anzahl(), person ? 2 : 1)) ||
+                (s.Eingefügt(v.Wer[0]) && gezählt(alte.Leer() ? 0 : std::stoi(alte.Letzter()), kopien));
+     }},
+    {"a copy has the faults of what was copied", "",
+     [](const Schritt &s, const Verstoß &v) {
+         return std::any_of(v.Wer.begin(), v.Wer.end(), [&](const auto &wer) { return s.Eingefügt(wer); }) &&
+                std::any_of(s.Entschuldigt.begin(), s.Entschuldigt.end(),
+                            [&](const auto &text) { return text.starts_with(v.Art); });
      }},
     {"cmdDelete takes lines but does not free their children", "parents without child line",
      [](const Schritt &s, const Verstoß &v) {
@@ -262,10 +264,6 @@ const Macke Macken[] = {
          return FeldVon(s.Alt.dokument, v.Wer[0], PersonFeld::ElternLinie) !=
                 FeldVon(s.Alt.dokument, v.Wer[1], PersonFeld::ElternLinie);
      }},
-    {"a circle line in hand waits for its snapshot", "change without snapshot in cboFreehandlines",
-     [](const Schritt &s, const Verstoß &) { return s.Neu.lage.Aktion == AktionKreisGewählt; }},
-    {"a person just placed waits for its snapshot", "change without snapshot in cboPersonen",
-     [](const Schritt &s, const Verstoß &) { return s.Neu.lage.Aktion == AktionPersonSetzen; }},
 };
 
 } // namespace
@@ -294,9 +292,32 @@ std::vector<Verstoß> Verstöße(const Stand &stand) {
     return sammler.Liste;
 }
 
-bool Prüfung::AntwortOffen() {
-    const auto &benutzer = wiedergabe_.Läuft().benutzer;
-    return !benutzer.Antworten.empty() || !benutzer.Menüwahlen.empty();
+/// What the user doesn't confirm, or is refused by a warning, changes nothing. Only a relationship line that was drawn
+/// a moment ago goes with its form.
+void Prüfung::BeiFormularenZusehen() {
+    Programm &p = wiedergabe_.Läuft();
+    const auto übriges = [&p] {
+        const UndoRing &ring = p.haupt.ring;
+        std::ifstream datei(p.haupt.start.IniDatei);
+        return std::tuple(ring.UndoPos(), ring.UndoSchritte(), ring.RedoSchritte(),
+                          std::string(std::istreambuf_iterator(datei), {}));
+    };
+    auto &spielen = p.benutzer.FormularSpielen;
+    spielen = [=, this, &p, vorige = spielen](Formular &form, const std::vector<std::string> &zeilen) {
+        Dokument vorher = p.haupt.dokument;
+        if (form.Name() == "frmBezLinien" && p.haupt.lage.Aktion == AktionBeziehungZiehen)
+            vorher.cboBeziehungsLinien.Entfernen(p.haupt.lage.BezAuswahl);
+        const auto sonst = übriges();
+        vorige(form, zeilen);
+        const auto sieht = [&](const char *name) { return form.Finden(name) && form.Finden(name)->Visible; };
+        const std::string ende = zeilen.empty() ? "" : zeilen.back();
+        const bool weg = ende == "press cmdLöschen" || (ende == "press Command3" && form.Name() == "frmBezLinien");
+        const bool bestätigt = ende == "press " + form.Vorgabeknopf && !sieht("shpFalsch") && !sieht("shpFalsch2");
+        if (bestätigt || weg) return;
+        std::string falsch = Unterschied(vorher, p.haupt.dokument);
+        if (sonst != übriges()) falsch += " in undo ring or settings file";
+        if (!falsch.empty()) verworfen_.push_back({"dismissed form changes something" + falsch, {form.Name()}});
+    };
 }
 
 /// A number that two records share excuses whatever else is wrong with it, for the rest of the document's life.
@@ -304,42 +325,35 @@ std::string Prüfung::Zeile(const std::string &zeile) {
     const bool loslassen = zeile.starts_with("up"); // only where the pointer is, as every face does
     if (loslassen && (wiedergabe_.Läuft().Taste == TasteKeine || zeile_ != "move" + zeile.substr(2))) return "";
     vorige_ = std::exchange(zeile_, zeile);
-    wiedergabe_.Zeile(zeile);
+    verworfen_.clear();
     aus_.str({});
-    const frmMain &h = wiedergabe_.Läuft().haupt;
+    std::istringstream zeilen(zeile);
+    if (wiedergabe_.Ausführen(zeilen) == 2) return "script " + aus_.str();
+    Programm &p = wiedergabe_.Läuft();
+    p.benutzer.Formulare.clear();
+    p.benutzer.Antworten.clear();
+    p.benutzer.Menüwahlen.clear();
+    if (zeile.starts_with("start")) {
+        BeiFormularenZusehen();
+        entschuldigt_.clear();
+    }
+    const frmMain &h = p.haupt;
     alt_ = std::exchange(Jetzt, {h.dokument, h.lage, h.auflagen, h.auswahl, h.ablage, h.ring});
-    if (zeile.starts_with("start")) entschuldigt_.clear();
-    EntschuldigungenEinfügen();
     auto verstöße = Verstöße(Jetzt);
-    for (auto &v : Übergang()) verstöße.push_back(std::move(v));
-    const Schritt schritt{alt_, Jetzt, zeile_};
+    for (const auto &mehr : {verworfen_, Übergang()}) verstöße.insert(verstöße.end(), mehr.begin(), mehr.end());
+    const Schritt schritt{alt_, Jetzt, zeile_, entschuldigt_};
     for (const auto &v : verstöße) {
         if (entschuldigt_.contains(v.Text())) continue;
         const auto doppelt = [&](const auto &wer) { return entschuldigt_.contains("double number: " + wer); };
         const auto *macke = std::find_if(std::begin(Macken), std::end(Macken), [&](const Macke &m) {
-            return m.Arten.find(v.Art) != std::string_view::npos && m.Gilt(schritt, v);
+            return (m.Arten.empty() || m.Arten.find(v.Art) != std::string_view::npos) && m.Gilt(schritt, v);
         });
         const bool folgt = std::any_of(v.Wer.begin(), v.Wer.end(), doppelt);
         if (macke == std::end(Macken) && !folgt) return v.Text();
         ++Entschuldigt[macke == std::end(Macken) ? "follows from a double number" : std::string(macke->Name)];
-        if (!v.Wer.empty()) entschuldigt_.insert(v.Text());
+        entschuldigt_.insert(v.Text());
     }
-    const bool offen = Jetzt.lage.Aktion == AktionKreisGewählt || Jetzt.lage.Aktion == AktionPersonSetzen;
-    if (!offen || !schritt.OhneSicherung()) bekannt_ = Jetzt.dokument;
     return "";
-}
-
-/// What is excused in a record that was copied is so in the copy, too, under its new number.
-void Prüfung::EntschuldigungenEinfügen() {
-    if (Jetzt.dokument.cboPersonen.Anzahl() <= alt_.dokument.cboPersonen.Anzahl()) return;
-    for (const auto &[art, liste] :
-         {std::pair(" P", &Zwischenablage::ZA_Personen), {" L", &Zwischenablage::ZA_PLines}}) {
-        const Satzliste &alte = alt_.ablage.*liste, &neue = Jetzt.ablage.*liste;
-        for (int i = 0; alte.Anzahl() == neue.Anzahl() && i < alte.Anzahl(); ++i)
-            for (std::string text : std::set(entschuldigt_))
-                if (const auto stelle = text.find(art + alte.Satz(i).substr(0, 3)); stelle != std::string::npos)
-                    entschuldigt_.insert(text.replace(stelle, 5, art + neue.Satz(i).substr(0, 3)));
-    }
 }
 
 /// What is wrong with how the document came from the state before.
@@ -358,8 +372,10 @@ std::vector<Verstoß> Prüfung::Übergang() {
         return {};
     }
     for (int p = vorher; p != platz; p = p % UndoRing::UndoTiefe + 1) plätze_.erase(p % UndoRing::UndoTiefe + 1);
+    if (zeile_.find("press cmdLöschen") != std::string::npos) return {}; // deletes behind its snapshot
     if (platz != vorher || lädt) plätze_[platz] = Jetzt.dokument;
-    else falsch = zeile_.starts_with("store") ? "" : Unterschied(bekannt_, Jetzt.dokument);
+    else if (!zeile_.starts_with("store") && !InDerHand(alt_) && !InDerHand(Jetzt))
+        falsch = Unterschied(alt_.dokument, Jetzt.dokument);
     if (!falsch.empty()) return {{"change without snapshot" + falsch, {}}};
     return {};
 }

@@ -31,19 +31,20 @@ struct Verstoß {
 /// All that is wrong with a state. Broken records end the search, since the other rules count on their form.
 std::vector<Verstoß> Verstöße(const Stand &stand);
 
-/// Runs a script line by line and holds each state against the rules of the records. Where the program breaks one
-/// by its own rules this is excused at the line where it arises, for these elements only, and counted.
+/// Runs a script step by step and holds each state against the rules of the records. Where the program breaks one
+/// by its own rules this is excused at the step where it arises, for these elements only, and counted.
 class Prüfung {
   public:
-    /// Runs the line. The first fault as "kind: whom", empty when all is well.
+    Prüfung() { BeiFormularenZusehen(); }
+    /// Runs a line, or several that are one deed: what is left of their forms and answers goes behind them. The first
+    /// fault as "kind: whom", empty when all is well.
     std::string Zeile(const std::string &zeile);
-    bool AntwortOffen();
 
     Stand Jetzt;
     std::map<std::string, int> Entschuldigt; ///< by which rule, and how often
 
   private:
-    void EntschuldigungenEinfügen();
+    void BeiFormularenZusehen();
     std::vector<Verstoß> Übergang();
 
     std::ostringstream aus_;
@@ -51,16 +52,16 @@ class Prüfung {
     std::string zeile_, vorige_;
     Stand alt_;
     std::map<int, Dokument> plätze_;     ///< what the undo ring should hold
-    Dokument bekannt_;                   ///< when it last had its snapshot, or was excused for having none
     std::set<std::string> entschuldigt_; ///< texts of faults
+    std::vector<Verstoß> verworfen_;     ///< what forms did in this step without being confirmed
 };
 
 /// A user who draws families at random, in lines of the replay language. The same seed gives the same user.
 class Zufallsnutzer {
   public:
     explicit Zufallsnutzer(unsigned saat) : zufall_(saat) {}
-    /// What he does next, a few lines that belong together. While an answer waits he prepares no other.
-    std::vector<std::string> Nächstes(const Stand &stand, bool antwortOffen);
+    /// What he does next, a few steps that belong together. A step is a line, or lines that only work as one.
+    std::vector<std::string> Nächstes(const Stand &stand);
 
   private:
     struct Ort {
@@ -72,8 +73,11 @@ class Zufallsnutzer {
     void Umsehen(const Stand &stand);
     void Merken(std::vector<Ort> &orte, const Satzliste &speicher, std::string_view menü, int x1, int x2, int y1 = 0);
     const Ort &Wählen(const std::vector<Ort> &orte);
+    std::string_view Eines(std::string_view liste);
     std::string Eintrag(std::string_view menü);
+    std::string Formularzeilen(std::string_view name);
     std::string Eingesetzt(char platzhalter);
+    std::string Ausgefüllt(std::string_view muster);
 
     std::mt19937_64 zufall_;
     const bool genau_ = Würfel(2) == 0; ///< leaves out what can give a number twice, so that all rules are kept

@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <functional>
 #include <iostream>
 
@@ -14,78 +15,86 @@ namespace {
 using Skript = std::vector<std::string>;
 
 struct Lauf {
-    Skript Zeilen;
+    Skript Schritte;
     std::string Fehler; ///< empty when all went well
     std::map<std::string, int> Entschuldigt;
 
     std::string Art() const { return Fehler.substr(0, Fehler.find(':')); }
 };
 
-/// Runs what `weiter` gives, `höchstens` that many lines, in a process of its own: it may crash or hang. Each line is
-/// told before it runs, so that the script is known whatever comes.
+/// Runs what `weiter` gives, `höchstens` that many steps, in a process of its own: it may crash or hang. Each step is
+/// written down before it runs, so that the script is known whatever comes.
 Lauf Laufen(const std::function<Skript(kw::Prüfung &)> &weiter, size_t höchstens) {
-    constexpr unsigned Geduld = 3; // s for a line
-    int rohr[2];
-    if (::pipe(rohr) != 0) std::abort();
+    constexpr unsigned Geduld = 3; // s for a step
+    constexpr auto Protokoll = "zufall.log";
     const pid_t kind = ::fork();
-    FILE *strom = ::fdopen(rohr[kind == 0 ? 1 : 0], kind == 0 ? "w" : "r");
-    ::close(rohr[kind == 0 ? 0 : 1]);
     if (kind == 0) {
-        const auto melden = [&](const char *art, const std::string &text) {
-            std::fprintf(strom, "%s%s\n", art, text.c_str());
-            std::fflush(strom);
-        };
+        std::ofstream strom(Protokoll);
+        const auto melden = [&](char art, const std::string &text) { strom << art << text << '\0' << std::flush; };
         std::string fehler;
         std::filesystem::remove("zufall.kwp"); // no run sees what another one saved
         try {
             kw::Prüfung prüfung;
             for (size_t getan = 0; getan < höchstens && fehler.empty();)
-                for (const auto &zeile : weiter(prüfung)) {
-                    melden(">", zeile);
+                for (const auto &schritt : weiter(prüfung)) {
+                    melden('>', schritt);
                     ::alarm(Geduld);
                     ++getan;
-                    if (!(fehler = prüfung.Zeile(zeile)).empty()) break;
+                    if (!(fehler = prüfung.Zeile(schritt)).empty()) break;
                 }
             for (const auto &[name, zahl] : prüfung.Entschuldigt)
-                for (int i = 0; i < zahl; ++i) melden("~", name);
+                for (int i = 0; i < zahl; ++i) melden('~', name);
         } catch (const std::exception &ausnahme) {
-            fehler = std::string("exception: ") + ausnahme.what();
+            fehler = std::string("exception ") + ausnahme.what();
         }
-        if (!fehler.empty()) melden("!", fehler);
+        if (!fehler.empty()) melden('!', fehler);
         ::_exit(0);
     }
-    Lauf lauf;
-    char *puffer = nullptr;
-    size_t größe = 0;
-    while (::getline(&puffer, &größe, strom) > 0) {
-        std::string text = puffer + 1;
-        text.pop_back();
-        if (*puffer == '>') lauf.Zeilen.push_back(text);
-        else if (*puffer == '~') ++lauf.Entschuldigt[text];
-        else lauf.Fehler = text;
-    }
-    std::free(puffer);
-    std::fclose(strom);
     int ende = 0;
     ::waitpid(kind, &ende, 0);
+    Lauf lauf;
+    std::ifstream strom(Protokoll);
+    for (std::string text; std::getline(strom, text, '\0');) {
+        if (text[0] == '>') lauf.Schritte.push_back(text.substr(1));
+        else if (text[0] == '~') ++lauf.Entschuldigt[text.substr(1)];
+        else lauf.Fehler = text.substr(1);
+    }
     if (WIFSIGNALED(ende)) lauf.Fehler = WTERMSIG(ende) == SIGALRM ? "hangs" : "crashes";
     else if (WEXITSTATUS(ende) != 0) lauf.Fehler = "stopped by a sanitizer";
     return lauf;
 }
 
-/// Drops from a script what its fault doesn't need: halves, then ever smaller pieces, single lines until none can go.
+/// Takes the script without something if that still fails in the same way.
+bool Genügt(Lauf &lauf, const Skript &ohne) {
+    Lauf neu = ohne.empty() ? Lauf() : Laufen([&](auto &) { return ohne; }, ohne.size());
+    if (neu.Art() != lauf.Art()) return false;
+    lauf = std::move(neu);
+    return true;
+}
+
+/// Drops from a script what its fault doesn't need: halves, then ever smaller pieces, single steps until none can go,
+/// then forms and lines within steps.
 Lauf Gekürzt(Lauf lauf) {
-    for (size_t stück = lauf.Zeilen.size() / 2; stück > 0;) {
-        const size_t vorher = lauf.Zeilen.size();
-        for (size_t von = 0; von < lauf.Zeilen.size();) {
-            Skript ohne(lauf.Zeilen.begin(), lauf.Zeilen.begin() + static_cast<std::ptrdiff_t>(von));
-            for (size_t i = von + stück; i < lauf.Zeilen.size(); ++i) ohne.push_back(lauf.Zeilen[i]);
-            Lauf neu = ohne.empty() ? Lauf() : Laufen([&](auto &) { return ohne; }, ohne.size());
-            if (neu.Art() == lauf.Art()) lauf = std::move(neu);
-            else von += stück;
+    for (size_t stück = lauf.Schritte.size() / 2; stück > 0;) {
+        const size_t vorher = lauf.Schritte.size();
+        for (size_t von = 0; von < lauf.Schritte.size();) {
+            Skript ohne = lauf.Schritte;
+            const auto anfang = ohne.begin() + static_cast<std::ptrdiff_t>(von);
+            ohne.erase(anfang, anfang + static_cast<std::ptrdiff_t>(std::min(stück, ohne.size() - von)));
+            if (!Genügt(lauf, ohne)) von += stück;
         }
-        if (stück > 1 || lauf.Zeilen.size() == vorher) stück /= 2;
+        if (stück > 1 || lauf.Schritte.size() == vorher) stück /= 2;
     }
+    for (size_t i = 0; i < lauf.Schritte.size(); ++i)
+        for (size_t von = 0, bis = 0; bis != std::string::npos;) {
+            Skript ohne = lauf.Schritte;
+            const bool form = ohne[i].compare(von, 5, "form ") == 0;
+            const size_t zeile = ohne[i].find('\n', von);
+            bis = form ? ohne[i].find('\n', ohne[i].find("\nend\n", von) + 1) : zeile;
+            if (bis == std::string::npos) continue; // what the step does in the end stays
+            ohne[i].erase(von, bis + 1 - von);
+            if (!Genügt(lauf, ohne)) von = zeile + 1;
+        }
     return lauf;
 }
 
@@ -103,19 +112,19 @@ int main(int argc, char **argv) {
     size_t schritte = 0;
     for (int saat = angaben["--seed"]; saat < angaben["--seed"] + angaben["--scripts"]; ++saat) {
         kw::Zufallsnutzer nutzer(static_cast<unsigned>(saat));
-        const Lauf lauf = Laufen([&](kw::Prüfung &p) { return nutzer.Nächstes(p.Jetzt, p.AntwortOffen()); },
-                                 static_cast<size_t>(angaben["--steps"]));
-        schritte += lauf.Zeilen.size();
+        const Lauf lauf =
+            Laufen([&](kw::Prüfung &p) { return nutzer.Nächstes(p.Jetzt); }, static_cast<size_t>(angaben["--steps"]));
+        schritte += lauf.Schritte.size();
         for (const auto &[name, zahl] : lauf.Entschuldigt) entschuldigt[name] += zahl;
         if (lauf.Fehler.empty() || ++fehler[lauf.Art()] > 1) continue;
         const Lauf kurz = Gekürzt(lauf);
         std::cout << "# seed " << saat << ", " << kurz.Fehler << "\n";
-        for (const auto &zeile : kurz.Zeilen) std::cout << zeile << "\n";
+        for (const auto &zeile : kurz.Schritte) std::cout << zeile << "\n";
         std::cout << std::endl;
     }
     std::filesystem::current_path("/");
     std::filesystem::remove_all(ordner);
-    std::cout << schritte << " lines run\n";
+    std::cout << schritte << " steps run\n";
     for (const auto &[name, zahl] : entschuldigt) std::cout << "  excused " << zahl << " times: " << name << "\n";
     for (const auto &[art, zahl] : fehler) std::cout << "  FAULT in " << zahl << " scripts: " << art << "\n";
     return fehler.empty() ? 0 : 1;

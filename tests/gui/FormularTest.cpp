@@ -1,0 +1,120 @@
+// A form with a control of each kind, driven by keys and mouse: what the model hears, what shows of its state.
+#include "qt/Formularfenster.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QTimer>
+#include <QtEvents>
+
+#include <gtest/gtest.h>
+
+using namespace kw;
+
+namespace {
+
+struct Probe : Formular {
+    Probe() : Formular("Probe", "Probe") {
+        Anlegen("Label1", Art::Beschriftung, "&Name:");
+        Anlegen("txt", Art::Textfeld);
+        Anlegen("shp", Art::Warnrahmen).Bei = "txt";
+        Anlegen("block", Art::Textblock);
+        Anlegen("lst", Art::Liste).Einträge = Anlegen("cbo", Art::Kombination).Einträge = {"eins", "zwei"};
+        Anlegen("btn", Art::Umschalter, "F").Tip = "Fett";
+        Anlegen("chk", Art::Ankreuzfeld, "Haken");
+        for (const char *name : {"opt1", "opt2"}) Anlegen(name, Art::Option, name);
+        Anlegen("farbe", Art::Farbfeld), Anlegen("pic", Art::Vorschau);
+        Anlegen("Frame1", Art::Rahmen, "Rahmen");
+        for (const char *name : {"cmdOK", "cmdNein"}) Anlegen(name, Art::Knopf, name);
+        Vorgabeknopf = "cmdOK";
+        Abbruchknopf = "cmdNein";
+    }
+    void Laden() override { BeimLaden(); }
+    void Entladen() override { Spur += "weg"; }
+    void Schließkreuz() override { Spur += "kreuz ", Schließen(); }
+    void Zeitgeber(std::string_view name) override { Spur.append(name) += ' '; }
+    bool TasteErlaubt(std::string_view, std::string_view z) const override { return z != "#" && z != "ß"; }
+    void Geändert(std::string_view name) override { (*this)["shp"].Visible = (*this)[name].Text.size() > 5; }
+    void MausGedrückt(std::string_view name) override { Spur.append("maus:").append(name) += ' '; }
+    void Fokussiert(std::string_view name) override { Spur.append("+").append(name) += ' '; }
+    void FokusVerloren(std::string_view name) override { Spur.append("-").append(name) += ' '; }
+    void Geklickt(std::string_view name) override {
+        Spur.append(name) += ' ';
+        if (name == "farbe") BeimFarbfeld();
+        if (name.starts_with("cmd")) Schließen();
+    }
+    std::string Spur; ///< what the model has heard
+    std::function<void()> BeimLaden = [] {}, BeimFarbfeld = [] {};
+};
+
+QWidget *Teil(const char *name) { return QApplication::activeModalWidget()->findChild<QWidget *>(name); }
+void Taste(QWidget *ziel, int taste, const QString &text = {}) {
+    QKeyEvent ereignis(QEvent::KeyPress, taste, Qt::NoModifier, text);
+    QApplication::sendEvent(ziel, &ereignis);
+}
+void Tippen(QWidget *ziel, const QString &text) {
+    for (const QChar c : text) c == '\n' ? Taste(ziel, Qt::Key_Return, "\r") : Taste(ziel, 0, c);
+}
+void Klicken(QWidget *ziel) {
+    for (const auto art : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent ereignis(art, QPointF(6, 6), ziel->mapToGlobal(QPointF(6, 6)), Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(ziel, &ereignis);
+    }
+}
+/// Shows the form; after `ms`, `tun` is the user. What then is still open is closed by its close box.
+void Zeigen(Probe &form, int ms, const std::function<void()> &tun) {
+    Formularfenster fenster(form, nullptr);
+    QTimer::singleShot(ms, &fenster, [&] { QApplication::processEvents(), tun(), form.Offen() && fenster.close(); });
+    fenster.Ausführen();
+}
+
+TEST(Formularfenster, JedeArtMeldetUndZeigt) {
+    Probe form, innen;
+    form.BeimFarbfeld = [&] {
+        Zeigen(innen, 0, [] { Klicken(Teil("chk")); });
+    }; // a form that opens a form waits for it
+    Zeigen(form, 0, [&] {
+        auto *zeile = dynamic_cast<QLineEdit *>(Teil("txt"));
+        EXPECT_EQ(zeile->accessibleName() + Teil("btn")->accessibleName(), "NameFett");
+        Tippen(zeile, "a#cß"); // what is refused is swallowed, also when it is composed
+        QInputMethodEvent komponiert;
+        komponiert.setCommitString("ßé");
+        QApplication::sendEvent(zeile, &komponiert);
+        zeile->setCursorPosition(1);
+        Tippen(zeile, "b"); // in the middle, and the caret stays there
+        EXPECT_FALSE(Teil("shp")->isVisible());
+        zeile->insert("#"); // as pasting does, which isn't filtered
+        EXPECT_EQ(form["txt"].Text, "ab#cé");
+        EXPECT_TRUE(Teil("shp")->isVisible() && Teil("shp")->geometry().contains(zeile->geometry()));
+        Tippen(Teil("block"), "x\ny#");
+        Tippen(Teil("cbo"), "zwei");
+        Taste(Teil("lst"), Qt::Key_Down);
+        EXPECT_EQ(form["block"].Text + form["cbo"].Text + form["lst"].Text, "x\nyzweieins");
+        for (const char *name : {"txt", "chk", "opt1", "opt1", "opt2", "btn", "farbe"}) Klicken(Teil(name));
+        EXPECT_TRUE(form["chk"].Value && form["opt2"].Value && form["btn"].Value && !form["opt1"].Value);
+        EXPECT_FALSE(Teil("opt1")->property("checked").toBool());
+    });
+    EXPECT_EQ(form.Spur, "+txt lst maus:txt chk opt1 opt1 opt2 btn farbe kreuz weg");
+    EXPECT_EQ(innen.Spur, "+txt chk kreuz weg");
+}
+
+/// The model gives the focus to what it has just enabled; of timers the last start counts; keys press their buttons.
+TEST(Formularfenster, FokusZeitgeberUndTasten) {
+    for (const auto &[taste, knopf] : {std::pair{Qt::Key_Return, "cmdOK "}, std::pair{Qt::Key_Escape, "cmdNein "}}) {
+        Probe form;
+        form.BeimLaden = [&] {
+            form["txt"].Enabled = false;
+            for (const int ms : {1, 40}) form.Wirt->ZeitgeberStellen("T1", ms);
+            for (const int ms : {1, 0}) form.Wirt->ZeitgeberStellen("T2", ms);
+        };
+        Zeigen(form, 120, [&, gedrückt = taste] {
+            form["txt"].Enabled = true;
+            form.Wirt->FokusGeben("txt");
+            for (int i = 0; i < 3; ++i) Taste(QApplication::focusWidget(), Qt::Key_Tab);
+            EXPECT_EQ(QApplication::focusWidget(), Teil("lst"));
+            Taste(Teil("lst"), gedrückt);
+        });
+        EXPECT_EQ(form.Spur, std::string("+block T1 -block +txt -txt +block -block +cbo -cbo +lst ") + knopf + "weg");
+    }
+}
+
+} // namespace
