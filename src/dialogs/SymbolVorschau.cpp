@@ -24,7 +24,7 @@ constexpr double ZeilenAbstand = 0.32;
 void Zeichnen(Zeichenfläche &f, int kennzahl, double x, double y, double größe, const Marken &marken, int schema) {
     f.DrawStyle = StilDurchgezogen;
     f.FillColor = SymbolFüllfarbe(schema);
-    Symbol symbol(f, {x - größe / 2, y - größe / 2, x, y, größe}, BildschirmPixelJeCm, 1, schema);
+    Symbol symbol(f, {x - größe / 2, y - größe / 2, x, y, größe}, BildschirmPixelJeCm * f.Faktor(), 1, schema);
     symbol.Zeichnen(kennzahl, marken, {});
 }
 
