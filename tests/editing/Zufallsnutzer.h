@@ -15,9 +15,7 @@ namespace kw {
 struct Stand {
     Dokument dokument;
     Leinwandlage lage;
-    Auflagen auflagen;
     Auswahl auswahl;
-    Zwischenablage ablage;
     UndoRing ring;
 };
 
@@ -25,11 +23,13 @@ struct Stand {
 struct Verstoß {
     std::string Art;
     std::vector<std::string> Wer;
-    std::string Text() const;
-};
 
-/// All that is wrong with a state. Broken records end the search, since the other rules count on their form.
-std::vector<Verstoß> Verstöße(const Stand &stand);
+    std::string Text() const {
+        std::string text = Art + ":";
+        for (const auto &wer : Wer) text += " " + wer;
+        return text;
+    }
+};
 
 /// Runs a script step by step and holds each state against the rules of the records. Where the program breaks one
 /// by its own rules this is excused at the step where it arises, for these elements only, and counted.
@@ -39,21 +39,20 @@ class Prüfung {
     /// Runs a line, or several that are one deed: what is left of their forms and answers goes behind them. The first
     /// fault as "kind: whom", empty when all is well.
     std::string Zeile(const std::string &zeile);
-
-    Stand Jetzt;
+    frmMain &Haupt() { return wiedergabe_.Läuft().haupt; }
     std::map<std::string, int> Entschuldigt; ///< by which rule, and how often
 
   private:
     void BeiFormularenZusehen();
-    std::vector<Verstoß> Übergang();
+    std::string Übergang();
 
     std::ostringstream aus_;
     Wiedergabe wiedergabe_{aus_};
     std::string zeile_, vorige_;
-    Stand alt_;
+    Stand jetzt_, alt_;
     std::map<int, Dokument> plätze_;     ///< what the undo ring should hold
     std::set<std::string> entschuldigt_; ///< texts of faults
-    std::vector<Verstoß> verworfen_;     ///< what forms did in this step without being confirmed
+    std::string verworfen_;              ///< what forms did in this step without being confirmed
 };
 
 /// A user who draws families at random, in lines of the replay language. The same seed gives the same user.
@@ -61,7 +60,7 @@ class Zufallsnutzer {
   public:
     explicit Zufallsnutzer(unsigned saat) : zufall_(saat) {}
     /// What he does next, a few steps that belong together. A step is a line, or lines that only work as one.
-    std::vector<std::string> Nächstes(const Stand &stand);
+    std::vector<std::string> Nächstes(frmMain &haupt);
 
   private:
     struct Ort {
@@ -70,16 +69,15 @@ class Zufallsnutzer {
         std::string_view Menü = "mnuSymbolEinfügen"; ///< of what stands there
     };
     int Würfel(size_t seiten) { return static_cast<int>(zufall_() % seiten); }
-    void Umsehen(const Stand &stand);
+    void Umsehen();
     void Merken(std::vector<Ort> &orte, const Satzliste &speicher, std::string_view menü, int x1, int x2, int y1 = 0);
     const Ort &Wählen(const std::vector<Ort> &orte);
-    std::string_view Eines(std::string_view liste);
     std::string Eintrag(std::string_view menü);
     std::string Formularzeilen(std::string_view name);
     std::string Eingesetzt(char platzhalter);
-    std::string Ausgefüllt(std::string_view muster);
 
     std::mt19937_64 zufall_;
+    frmMain *haupt_ = nullptr;
     const bool genau_ = Würfel(2) == 0; ///< leaves out what can give a number twice, so that all rules are kept
     bool neu_ = true;
     std::vector<Ort> personen_, balken_, alle_; ///< what a pointer can hit

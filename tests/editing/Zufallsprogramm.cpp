@@ -15,7 +15,7 @@ namespace {
 using Skript = std::vector<std::string>;
 
 struct Lauf {
-    Skript Schritte;
+    Skript Zeilen;      ///< one with a line break at its end belongs to the step of the next
     std::string Fehler; ///< empty when all went well
     std::map<std::string, int> Entschuldigt;
 
@@ -31,16 +31,17 @@ Lauf Laufen(const std::function<Skript(kw::Prüfung &)> &weiter, size_t höchste
     if (kind == 0) {
         std::ofstream strom(Protokoll);
         const auto melden = [&](char art, const std::string &text) { strom << art << text << '\0' << std::flush; };
-        std::string fehler;
+        std::string fehler, schritt;
         std::filesystem::remove("zufall.kwp"); // no run sees what another one saved
         try {
             kw::Prüfung prüfung;
             for (size_t getan = 0; getan < höchstens && fehler.empty();)
-                for (const auto &schritt : weiter(prüfung)) {
+                for (const auto &zeile : weiter(prüfung)) {
+                    ++getan;
+                    if ((schritt += zeile).ends_with('\n')) continue;
                     melden('>', schritt);
                     ::alarm(Geduld);
-                    ++getan;
-                    if (!(fehler = prüfung.Zeile(schritt)).empty()) break;
+                    if (!(fehler = prüfung.Zeile(std::exchange(schritt, ""))).empty()) break;
                 }
             for (const auto &[name, zahl] : prüfung.Entschuldigt)
                 for (int i = 0; i < zahl; ++i) melden('~', name);
@@ -55,7 +56,10 @@ Lauf Laufen(const std::function<Skript(kw::Prüfung &)> &weiter, size_t höchste
     Lauf lauf;
     std::ifstream strom(Protokoll);
     for (std::string text; std::getline(strom, text, '\0');) {
-        if (text[0] == '>') lauf.Schritte.push_back(text.substr(1));
+        if (text[0] == '>')
+            for (size_t bis = 0, von = 1; von < text.size(); von = bis)
+                lauf.Zeilen.push_back(
+                    text.substr(von, (bis = std::min(text.find('\n', von), text.size() - 1) + 1) - von));
         else if (text[0] == '~') ++lauf.Entschuldigt[text.substr(1)];
         else lauf.Fehler = text.substr(1);
     }
@@ -64,37 +68,20 @@ Lauf Laufen(const std::function<Skript(kw::Prüfung &)> &weiter, size_t höchste
     return lauf;
 }
 
-/// Takes the script without something if that still fails in the same way.
-bool Genügt(Lauf &lauf, const Skript &ohne) {
-    Lauf neu = ohne.empty() ? Lauf() : Laufen([&](auto &) { return ohne; }, ohne.size());
-    if (neu.Art() != lauf.Art()) return false;
-    lauf = std::move(neu);
-    return true;
-}
-
-/// Drops from a script what its fault doesn't need: halves, then ever smaller pieces, single steps until none can go,
-/// then forms and lines within steps.
+/// Drops from a script what its fault doesn't need, in smaller and smaller pieces until no line can go.
 Lauf Gekürzt(Lauf lauf) {
-    for (size_t stück = lauf.Schritte.size() / 2; stück > 0;) {
-        const size_t vorher = lauf.Schritte.size();
-        for (size_t von = 0; von < lauf.Schritte.size();) {
-            Skript ohne = lauf.Schritte;
-            const auto anfang = ohne.begin() + static_cast<std::ptrdiff_t>(von);
-            ohne.erase(anfang, anfang + static_cast<std::ptrdiff_t>(std::min(stück, ohne.size() - von)));
-            if (!Genügt(lauf, ohne)) von += stück;
-        }
-        if (stück > 1 || lauf.Schritte.size() == vorher) stück /= 2;
+    for (size_t vorher = 0; vorher != lauf.Zeilen.size();) {
+        vorher = lauf.Zeilen.size();
+        for (size_t stück = vorher / 2; stück > 0; stück /= 2)
+            for (size_t von = 0; von + stück <= lauf.Zeilen.size();) {
+                Skript ohne = lauf.Zeilen;
+                const auto anfang = ohne.begin() + static_cast<std::ptrdiff_t>(von);
+                ohne.erase(anfang, anfang + static_cast<std::ptrdiff_t>(stück));
+                Lauf neu = ohne.empty() ? Lauf() : Laufen([&](auto &) { return ohne; }, 1);
+                if (neu.Art() == lauf.Art()) lauf = std::move(neu);
+                else von += (stück + 1) / 2;
+            }
     }
-    for (size_t i = 0; i < lauf.Schritte.size(); ++i)
-        for (size_t von = 0, bis = 0; bis != std::string::npos;) {
-            Skript ohne = lauf.Schritte;
-            const bool form = ohne[i].compare(von, 5, "form ") == 0;
-            const size_t zeile = ohne[i].find('\n', von);
-            bis = form ? ohne[i].find('\n', ohne[i].find("\nend\n", von) + 1) : zeile;
-            if (bis == std::string::npos) continue; // what the step does in the end stays
-            ohne[i].erase(von, bis + 1 - von);
-            if (!Genügt(lauf, ohne)) von = zeile + 1;
-        }
     return lauf;
 }
 
@@ -109,22 +96,22 @@ int main(int argc, char **argv) {
     ::setenv("TMPDIR", ordner.c_str(), 1); // what a crashed run leaves goes with it
 
     std::map<std::string, int> fehler, entschuldigt;
-    size_t schritte = 0;
+    size_t zeilen = 0;
     for (int saat = angaben["--seed"]; saat < angaben["--seed"] + angaben["--scripts"]; ++saat) {
         kw::Zufallsnutzer nutzer(static_cast<unsigned>(saat));
         const Lauf lauf =
-            Laufen([&](kw::Prüfung &p) { return nutzer.Nächstes(p.Jetzt); }, static_cast<size_t>(angaben["--steps"]));
-        schritte += lauf.Schritte.size();
+            Laufen([&](kw::Prüfung &p) { return nutzer.Nächstes(p.Haupt()); }, static_cast<size_t>(angaben["--steps"]));
+        zeilen += lauf.Zeilen.size();
         for (const auto &[name, zahl] : lauf.Entschuldigt) entschuldigt[name] += zahl;
         if (lauf.Fehler.empty() || ++fehler[lauf.Art()] > 1) continue;
         const Lauf kurz = Gekürzt(lauf);
         std::cout << "# seed " << saat << ", " << kurz.Fehler << "\n";
-        for (const auto &zeile : kurz.Schritte) std::cout << zeile << "\n";
+        for (const auto &zeile : kurz.Zeilen) std::cout << zeile << (zeile.ends_with('\n') ? "" : "\n");
         std::cout << std::endl;
     }
     std::filesystem::current_path("/");
     std::filesystem::remove_all(ordner);
-    std::cout << schritte << " steps run\n";
+    std::cout << zeilen << " lines run\n";
     for (const auto &[name, zahl] : entschuldigt) std::cout << "  excused " << zahl << " times: " << name << "\n";
     for (const auto &[art, zahl] : fehler) std::cout << "  FAULT in " << zahl << " scripts: " << art << "\n";
     return fehler.empty() ? 0 : 1;
