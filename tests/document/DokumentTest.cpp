@@ -1,7 +1,6 @@
 #include "document/Dokument.h"
 #include "document/Chronik.h"
 #include "document/Codepage.h"
-#include "document/UndoRing.h"
 #include "document/Zahlen.h"
 
 #include <gtest/gtest.h>
@@ -63,16 +62,6 @@ TEST(Codepage, jedesByteÜbersteht) {
     EXPECT_EQ(NachCodepage("\xC2\x80"), "?") << "byte 80 is the euro";
 }
 
-TEST(Dokument, vergibtFreieNummernZuerst) {
-    Dokument d;
-    EXPECT_EQ(d.NeuePersNr(), "001");
-    d.cboPersonen = {"001_", "003_"};
-    d.lstGelöschtePersNr = {"007", "002"};
-    for (const auto *const nr : {"007", "002", "003"}) EXPECT_EQ(d.NeuePersNr(), nr) << "list order, then count plus 1";
-    for (int i = 0; i < 999; ++i) d.cboPartnerschaftsLinien.Anhängen("");
-    EXPECT_EQ(d.NeuePLinienNr(), "1000");
-}
-
 TEST(Dokument, freieNummernEndenBeimLetztenSatz) {
     Dokument d;
     d.lstGelöschtePersNr = {"009"};
@@ -91,42 +80,6 @@ TEST(Dokument, freieNummernEndenBeimLetztenSatz) {
     EXPECT_EQ(verzeichnis.Position("001"), 1);
     EXPECT_EQ(verzeichnis.Position("4"), 3);
     EXPECT_EQ(verzeichnis.Position("003"), -1);
-}
-
-TEST(UndoRing, fasstFünfSchritte) {
-    UndoRing ring;
-    Dokument d;
-    const auto personen = [&d] { return d.cboPersonen.Anzahl(); };
-    EXPECT_FALSE(ring.Rückgängig(d));
-    for (int i = 0; i < 9; ++i) { // more than once round
-        d.cboPersonen.Anhängen("p");
-        d.cboPfeile.Anhängen("e");
-        ring.Sichern(d);
-        EXPECT_EQ(ring.UndoSchritte(), std::min(i, 5));
-        EXPECT_EQ(ring.UndoFüllung(), std::min(i + 1, 6));
-    }
-    EXPECT_EQ(ring.UndoPos(), 3);
-    d.lstGelöschtePersNr = d.lstGelöschtePLinien = {"002"};
-    d.Papiercode = 11;
-    for (int i = 8; i >= 4; --i) {
-        EXPECT_TRUE(ring.Rückgängig(d));
-        EXPECT_EQ(personen(), i);
-        EXPECT_EQ(d.cboPfeile.Anzahl(), i);
-    }
-    EXPECT_TRUE(d.lstGelöschtePersNr.Leer() && d.lstGelöschtePLinien.Leer());
-    EXPECT_EQ(d.Papiercode, 11) << "the page is in no snapshot";
-    EXPECT_FALSE(ring.Rückgängig(d));
-    EXPECT_EQ(personen(), 4);
-    for (int i = 5; i <= 9; ++i) {
-        EXPECT_TRUE(ring.Wiederholen(d));
-        EXPECT_EQ(personen(), i);
-    }
-    EXPECT_FALSE(ring.Wiederholen(d));
-
-    ring.Leeren();
-    ring.Sichern(d);
-    EXPECT_EQ(ring.UndoPos(), 1);
-    EXPECT_FALSE(ring.Rückgängig(d)) << "the first snapshot is no step";
 }
 
 TEST(Chronik, behältDieVierNeuesten) {
