@@ -45,6 +45,7 @@ void PersonInfoAnzeigen(Werkbank &w, const Felder &feld) {
 void MarkierungsListBoxenLöschen(Werkbank &w) {
     w.auswahl = {};
     w.bedienung["mnuMakeTwins"].Visible = false; // it was offered for what the lists held
+    w.lage.Info.Visible = false;                 // and the panel told of whom they held
 }
 
 void MarkerParken(Werkbank &w) {

@@ -85,7 +85,6 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
     }
     Leinwandlage &lage = w.lage;
     MarkierungsListBoxenLöschen(w);
-    lage.Info.Visible = false;
     lage.PersRecord.clear();
     lage.Aktion = AktionPersonSetzen;
     AuswahlrahmenParken(w);

@@ -219,7 +219,6 @@ void EingefügtesAuswählen(Werkbank &w) {
     const bool eins = personen + texte + kreise == 1 && za.ZA_Pfeile.Leer() && za.ZA_PLines.Leer();
     PositionenVergessen(w.lage);
     MarkerParken(w);
-    w.lage.Info.Visible = false;
     ZwillingeBereit(w);
     w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
     if (eins && personen) {
