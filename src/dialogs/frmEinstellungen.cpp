@@ -1,9 +1,5 @@
 #include "dialogs/frmEinstellungen.h"
 
-#include "document/Profil.h"
-
-#include <filesystem>
-
 namespace kw {
 
 namespace {
@@ -40,11 +36,7 @@ void frmEinstellungen::Geklickt(std::string_view name) {
 void frmEinstellungen::Bestätigen() {
     if (const int i = (*this)["Combo1"].ListIndex; i >= 0) {
         gewählt_ = i == Deutsch ? "de" : "en";
-        const std::string &datei = umgebung_.EinstellungsDatei;
-        std::error_code fehler; // a folder that can't be made loses the setting, as one without permission does
-        if (const auto ordner = std::filesystem::path(datei).parent_path(); !ordner.empty())
-            std::filesystem::create_directories(ordner, fehler);
-        ProfilSchreiben(datei, "DEFAULT", "language", gewählt_);
+        EinstellungFesthalten(umgebung_.EinstellungsDatei, "language", gewählt_);
     }
     Schließen();
 }

@@ -1,11 +1,9 @@
 #include "dialogs/frmSymbGlobal.h"
 
-#include "document/Profil.h"
 #include "rendering/Beschriftung.h"
 #include "rendering/Symbole.h"
 
 #include <array>
-#include <filesystem>
 
 namespace kw {
 
@@ -72,13 +70,6 @@ class Beschriftungsfläche : public Zeichenfläche {
     Zeichenfläche &maß_;
     Formular &form_;
 };
-
-/// Puts one setting into the file now, not when the program ends.
-void EinstellungFesthalten(const std::string &datei, std::string_view schlüssel, const std::string &wert) {
-    std::error_code fehler; // a folder that can't be made loses the setting, as everywhere
-    std::filesystem::create_directories(std::filesystem::path(datei).parent_path(), fehler);
-    ProfilSchreiben(datei, "DEFAULT", schlüssel, wert);
-}
 
 } // namespace
 

@@ -25,6 +25,12 @@ bool IstSystemordner(const std::string &ordner) {
     return false;
 }
 
+/// A folder that can't be made loses the settings, as one without permission does.
+void OrdnerAnlegen(const std::string &datei) {
+    std::error_code fehler;
+    std::filesystem::create_directories(std::filesystem::path(datei).parent_path(), fehler);
+}
+
 } // namespace
 
 Einstellungen EinstellungenLesen(const Profil &profil) {
@@ -79,11 +85,15 @@ Einstellungen EinstellungenAus(const std::string &datei) {
 void EinstellungenSchreiben(const Einstellungen &e, const std::string &datei) {
     std::string inhalt;
     if (DateiVorhanden(datei) && !DateiLesen(datei, inhalt).Gelungen()) return;
-    std::error_code fehler; // a folder that can't be made loses the settings, as one without permission does
-    std::filesystem::create_directories(std::filesystem::path(datei).parent_path(), fehler);
+    OrdnerAnlegen(datei);
     Profil profil(std::move(inhalt));
     EinstellungenEintragen(e, profil);
     DateiSchreiben(datei, profil.Inhalt());
+}
+
+void EinstellungFesthalten(const std::string &datei, std::string_view schlüssel, const std::string &wert) {
+    OrdnerAnlegen(datei);
+    ProfilSchreiben(datei, Abschnitt, schlüssel, wert);
 }
 
 std::string EinstellungsDatei(const std::string &programmordner, const std::string &konfigordner) {

@@ -4,6 +4,7 @@
 #include "document/Profil.h"
 
 #include <string>
+#include <string_view>
 
 namespace kw {
 
@@ -38,6 +39,10 @@ Einstellungen EinstellungenAus(const std::string &datei);
 /// Writes them into that file, whose foreign keys stay; its folder is made. A folder without permission
 /// loses the settings silently.
 void EinstellungenSchreiben(const Einstellungen &e, const std::string &datei);
+
+/// Writes one key at once, for the forms that don't wait for the program's end. A folder without permission loses it
+/// silently.
+void EinstellungFesthalten(const std::string &datei, std::string_view schlüssel, const std::string &wert);
 
 /// Where the settings file lives: in the program's folder when it is there already or that folder is
 /// writable and no system folder, else in `konfigordner`. Both without a closing "/".
