@@ -17,61 +17,84 @@ namespace kw {
 namespace {
 
 /// An editing routine as a command.
-template <void (*Routine)(Werkbank &)> void Auf(frmMain &h) { Routine(h.werkbank); }
+template <void (*Routine)(Werkbank &)> void Auf(frmMain &h, int) { Routine(h.werkbank); }
 
-template <int Nummer> void Werkzeug(frmMain &h) { WerkzeugDrücken(h.werkbank, Nummer); }
+void Werkzeug(frmMain &h, int nummer) { WerkzeugDrücken(h.werkbank, nummer); }
 
-template <int Art> void Zwillinge(frmMain &h) { ZwillingeEinfügen(h.werkbank, Art); }
+void Zwillinge(frmMain &h, int art) { ZwillingeEinfügen(h.werkbank, art); }
+
+void Bildauswahl(frmMain &h, int inDatei) { BildauswahlBeginnen(h.werkbank, inDatei != 0); }
+
+void Farbschema(frmMain &h, int schema) { h.anzeige.FarbschemaWählen(schema); }
+
+void Papier(frmMain &h, int code) { h.anzeige.PapierWählen(code); }
+
+void Lage(frmMain &h, int seitenlage) { h.anzeige.LageWählen(seitenlage); }
 
 /// The paste entries of the context menus go when they have been used.
-void EinfügenImKontext(frmMain &h) {
+void EinfügenImKontext(frmMain &h, int) {
     h.bedienung["mnuEinfügen8"].Visible = h.bedienung["mnustr15"].Visible = false;
     Einfügen(h.werkbank);
 }
 
-void AuswahlLöschenImKontext(frmMain &h) {
+void AuswahlLöschenImKontext(frmMain &h, int) {
     AuswahlLöschen(h.werkbank);
     MarkierungsListBoxenLöschen(h.werkbank);
 }
 
-void SymbolBearbeiten(frmMain &h) {
+void SymbolBearbeiten(frmMain &h, int) {
     if (!Getrimmt(h.lage.PersRecord).empty()) h.FormÖffnen("frmSymbol");
 }
 
-void PLinieBearbeiten(frmMain &h) {
+void PLinieBearbeiten(frmMain &h, int) {
     h.FormÖffnen("frmPLinien");
     h.lage.Aktion = AktionPLinieBearbeitet;
 }
 
-void TextBearbeiten(frmMain &h) {
+void TextBearbeiten(frmMain &h, int) {
     h.lage.Aktion = AktionTextDialog;
     h.FormÖffnen("frmKommentar");
 }
 
-void LegendeAktualisieren(frmMain &h) {
+void LegendeAktualisieren(frmMain &h, int) {
     LegendeAufbauen(h.dokument, h.legende);
     h.Vorschau();
 }
 
-void LegendeUmschalten(frmMain &h) {
+void DruckränderUmschalten(frmMain &h, int) {
+    if (h.druck.RänderUmschalten()) h.Vorschau();
+}
+
+void LegendeUmschalten(frmMain &h, int) {
     h.bedienung["btnLegende"].Checked = !h.bedienung["btnLegende"].Checked;
     h.Legende();
 }
 
-constexpr Befehl Tabelle[] = {
-    {"mnuÖffnen", [](frmMain &h) { h.projekt.mnuÖffnen(); }},
-    {"btnÖffnen", [](frmMain &h) { h.projekt.mnuÖffnen(); }},
-    {"btnSpeichern", [](frmMain &h) { h.projekt.Speichern(); }},
-    {"mnuSpeichern", [](frmMain &h) { h.projekt.Speichern(); }},
-    {"mnuSichernUnter", [](frmMain &h) { h.projekt.SpeichernUnter(); }},
-    {"mnuBeenden", [](frmMain &h) { h.plattform.benutzer.FensterSchließen(); }},
+struct Zeile {
+    std::string_view Name;
+    void (*Ausführen)(frmMain &, int wert);
+    int Wert = 0;
+};
+constexpr Zeile Tabelle[] = {
+    {"mnuNeu", [](frmMain &h, int) { h.projekt.mnuNeu(); }},
+    {"btnNeuesProjekt", [](frmMain &h, int) { h.projekt.mnuNeu(); }},
+    {"mnuÖffnen", [](frmMain &h, int) { h.projekt.mnuÖffnen(); }},
+    {"btnÖffnen", [](frmMain &h, int) { h.projekt.mnuÖffnen(); }},
+    {"btnSpeichern", [](frmMain &h, int) { h.projekt.Speichern(); }},
+    {"mnuSpeichern", [](frmMain &h, int) { h.projekt.Speichern(); }},
+    {"mnuSichernUnter", [](frmMain &h, int) { h.projekt.SpeichernUnter(); }},
+    {"mnuExportieren", [](frmMain &h, int) { h.bildexport.SeiteExportieren(h.projekt.Projektdatei); }},
+    {"mnuPDF_Export", [](frmMain &h, int) { h.PdfErzeugen(); }},
+    {"btnClipboard", Bildauswahl, false},
+    {"btnAuswahlZuBild", Bildauswahl, true},
+    {"mnuBeenden", [](frmMain &h, int) { h.plattform.benutzer.FensterSchließen(); }},
 
-    {"mnuRückgängig", [](frmMain &h) { h.cmdUndo(); }},
-    {"mnuWiederholen", [](frmMain &h) { h.cmdredo(); }},
-    {"cmdUndo", [](frmMain &h) { h.cmdUndo(); }},
-    {"cmdredo", [](frmMain &h) { h.cmdredo(); }},
-    {"btnUndo", [](frmMain &h) { h.cmdUndo(); }},
-    {"btnRedo", [](frmMain &h) { h.cmdredo(); }},
+    {"mnuRückgängig", [](frmMain &h, int) { h.cmdUndo(); }},
+    {"mnuWiederholen", [](frmMain &h, int) { h.cmdredo(); }},
+    {"cmdUndo", [](frmMain &h, int) { h.cmdUndo(); }},
+    {"cmdredo", [](frmMain &h, int) { h.cmdredo(); }},
+    {"btnUndo", [](frmMain &h, int) { h.cmdUndo(); }},
+    {"btnRedo", [](frmMain &h, int) { h.cmdredo(); }},
     {"mnuAusschneiden", Auf<Ausschneiden>},
     {"mnuAusschneiden2", Auf<Ausschneiden>},
     {"mnuAusschneiden4", Auf<Ausschneiden>},
@@ -87,35 +110,35 @@ constexpr Befehl Tabelle[] = {
     {"mnuLöschen4", AuswahlLöschenImKontext},
     {"cmdDelete", Auf<cmdDelete>},
 
-    {"mnuEinfügenMännlich", Werkzeug<1>},
-    {"mnuEinfügenWeiblich", Werkzeug<2>},
-    {"mnuEinfügenSchwanger", Werkzeug<3>},
-    {"mnuEinfügenFehlgeburt", Werkzeug<4>},
-    {"mnuEinfügenTotgeburtMännlich", Werkzeug<5>},
-    {"mnuEinfügenTotgeburtWeiblich", Werkzeug<6>},
-    {"mnuEinfügenAbtreibung", Werkzeug<7>},
-    {"mnuEinfügenKreislinie", Werkzeug<WerkzeugKreislinie>},
-    {"mnuEinfügenTextfeld", Werkzeug<WerkzeugText>},
-    {"mnuEinfügenEltern", Werkzeug<WerkzeugEltern>},
-    {"mnuPfeil", Werkzeug<WerkzeugPfeil>},
-    {"mnuDoppelpfeil", Werkzeug<WerkzeugDoppelpfeil>},
-    {"mnuWeiblichZuMännlich", Werkzeug<18>},
-    {"mnuMännlichZuWeiblich", Werkzeug<19>},
-    {"mnuDivers", Werkzeug<20>},
-    {"mnuEinfügen_mw1", Zwillinge<1>},
-    {"mnuEinfügen_ww1", Zwillinge<2>},
-    {"mnuEinfügen_mm1", Zwillinge<3>},
-    {"mnuEinfügen_mw2", Zwillinge<4>},
-    {"mnuEinfügen_ww2", Zwillinge<5>},
-    {"mnuEinfügen_mm2", Zwillinge<6>},
-    {"mnuZwillinge_männlich_weiblich", Zwillinge<1>},
-    {"mnuZwillinge_weiblich_weiblich", Zwillinge<2>},
-    {"mnuZwilling_Männlich_Männlich", Zwillinge<3>},
-    {"mnuZwillingeEineiig_männlich_weiblich", Zwillinge<4>},
-    {"mnuZwillingeEineiig_weiblich_weiblich", Zwillinge<5>},
-    {"mnuZwillingeeineiig_männlich_männlich", Zwillinge<6>},
-    {"mnuTwinszweiiig", [](frmMain &h) { ZwillingeErklären(h.werkbank, "2E"); }},
-    {"mnuTwinsEineiig", [](frmMain &h) { ZwillingeErklären(h.werkbank, "1E"); }},
+    {"mnuEinfügenMännlich", Werkzeug, 1},
+    {"mnuEinfügenWeiblich", Werkzeug, 2},
+    {"mnuEinfügenSchwanger", Werkzeug, 3},
+    {"mnuEinfügenFehlgeburt", Werkzeug, 4},
+    {"mnuEinfügenTotgeburtMännlich", Werkzeug, 5},
+    {"mnuEinfügenTotgeburtWeiblich", Werkzeug, 6},
+    {"mnuEinfügenAbtreibung", Werkzeug, 7},
+    {"mnuEinfügenKreislinie", Werkzeug, WerkzeugKreislinie},
+    {"mnuEinfügenTextfeld", Werkzeug, WerkzeugText},
+    {"mnuEinfügenEltern", Werkzeug, WerkzeugEltern},
+    {"mnuPfeil", Werkzeug, WerkzeugPfeil},
+    {"mnuDoppelpfeil", Werkzeug, WerkzeugDoppelpfeil},
+    {"mnuWeiblichZuMännlich", Werkzeug, 18},
+    {"mnuMännlichZuWeiblich", Werkzeug, 19},
+    {"mnuDivers", Werkzeug, 20},
+    {"mnuEinfügen_mw1", Zwillinge, 1},
+    {"mnuEinfügen_ww1", Zwillinge, 2},
+    {"mnuEinfügen_mm1", Zwillinge, 3},
+    {"mnuEinfügen_mw2", Zwillinge, 4},
+    {"mnuEinfügen_ww2", Zwillinge, 5},
+    {"mnuEinfügen_mm2", Zwillinge, 6},
+    {"mnuZwillinge_männlich_weiblich", Zwillinge, 1},
+    {"mnuZwillinge_weiblich_weiblich", Zwillinge, 2},
+    {"mnuZwilling_Männlich_Männlich", Zwillinge, 3},
+    {"mnuZwillingeEineiig_männlich_weiblich", Zwillinge, 4},
+    {"mnuZwillingeEineiig_weiblich_weiblich", Zwillinge, 5},
+    {"mnuZwillingeeineiig_männlich_männlich", Zwillinge, 6},
+    {"mnuTwinszweiiig", [](frmMain &h, int) { ZwillingeErklären(h.werkbank, "2E"); }},
+    {"mnuTwinsEineiig", [](frmMain &h, int) { ZwillingeErklären(h.werkbank, "1E"); }},
 
     {"mnuSymbolBearbeiten", SymbolBearbeiten},
     {"mnuBeziehungErstellen2", Auf<mnuBeziehungErstellen2>},
@@ -124,68 +147,87 @@ constexpr Befehl Tabelle[] = {
     {"mnuSymbolVergrößern", Auf<mnuSymbolVergrößern>},
     {"mnuSymbolVerkleinern", Auf<mnuSymbolVerkleinern>},
     {"mnuSymbolLöschen", Auf<mnuSymbolLöschen>},
-    {"mnuBLinieBearbeiten", [](frmMain &h) { h.FormÖffnen("frmBezLinien"); }},
+    {"mnuBLinieBearbeiten", [](frmMain &h, int) { h.FormÖffnen("frmBezLinien"); }},
     {"mnuBezLinieLöschen", Auf<BezLinieLöschen>},
     {"mnuPLiniebearbeiten", PLinieBearbeiten},
     {"mnuPLineLöschen", Auf<PLinieLöschen>},
-    {"mnuLeiblichesKind", [](frmMain &h) { KindArtSetzen(h.werkbank, ""); }},
-    {"mnuAdoptiert", [](frmMain &h) { KindArtSetzen(h.werkbank, "A"); }},
-    {"mnuPflegekind", [](frmMain &h) { KindArtSetzen(h.werkbank, "P"); }},
+    {"mnuLeiblichesKind", [](frmMain &h, int) { KindArtSetzen(h.werkbank, ""); }},
+    {"mnuAdoptiert", [](frmMain &h, int) { KindArtSetzen(h.werkbank, "A"); }},
+    {"mnuPflegekind", [](frmMain &h, int) { KindArtSetzen(h.werkbank, "P"); }},
     {"mnuKindLinieLöschen", Auf<KindLinieEntfernen>},
     {"mnuPfeilLöschen", Auf<PfeilLöschen>},
     {"mnuKreisLinieLöschen", Auf<KreisLinieLöschen>},
     {"mnuTextbearbeiten", TextBearbeiten},
     {"mnuTextboxLöschen", Auf<TextLöschen>},
 
-    {"mnuWerkzeugleiste", [](frmMain &h) { h.WerkzeugleisteUmschalten(); }},
-    {"mnuLegendeEinstellungen", [](frmMain &h) { h.FormÖffnen("frmLegende"); }},
+    {"mnuWerkzeugleiste", [](frmMain &h, int) { h.anzeige.WerkzeugleisteUmschalten(); }},
+    {"btnWerkzeugleiste", [](frmMain &h, int) { h.anzeige.WerkzeugleisteUmschalten(); }},
+    {"mnuRasterAnzeigen", [](frmMain &h, int) { h.anzeige.RasterUmschalten(); }},
+    {"btnGitterZeichnen", [](frmMain &h, int) { h.anzeige.RasterUmschalten(); }},
+    {"mnuRasterKlein", [](frmMain &h, int) { h.anzeige.RasterWählen(0); }},
+    {"mnuRasterGroß", [](frmMain &h, int) { h.anzeige.RasterWählen(1); }},
+    {"mnuLegendeEinstellungen", [](frmMain &h, int) { h.FormÖffnen("frmLegende"); }},
     {"mnuLegendeAktualisieren", LegendeAktualisieren},
     {"mnuLegendeAnzeigen", LegendeUmschalten},
-    {"mnuSchwarzWeiß", [](frmMain &h) { h.FarbschemaWählen(SchemaSchwarzWeiß); }},
-    {"mnuGraustufen", [](frmMain &h) { h.FarbschemaWählen(SchemaGraustufen); }},
-    {"mnuFarbig", [](frmMain &h) { h.FarbschemaWählen(SchemaFarbig); }},
-    {"mnuSchriftart", [](frmMain &h) { h.FormÖffnen("frmSchrift"); }},
-    {"mnuAltersangabe", [](frmMain &h) { h.FormÖffnen("frmSymbGlobal"); }},
-    {"mnuSeiteEinrichten", [](frmMain &h) { h.FormÖffnen("frmSeiteEinrichten"); }},
-    {"mnuDrucken", [](frmMain &h) { h.FormÖffnen("frmDrucken"); }},
-    {"mnuEinstellungen", [](frmMain &h) { h.FormÖffnen("frmEinstellungen"); }},
-    {"mnuInfo", [](frmMain &h) { h.FormÖffnen("frmInfo"); }},
-    {"mnuSymbolKleiner", [](frmMain &h) { GrößeÄndern(h.werkbank, -GrößenSchritt); }},
-    {"mnuSymbolGrößer", [](frmMain &h) { GrößeÄndern(h.werkbank, GrößenSchritt); }},
-    {"btnBildGrößer", [](frmMain &h) { h.bereich.Vergrößern(); }},
-    {"btnBildKleiner", [](frmMain &h) { h.bereich.Verkleinern(); }},
+    {"btnLegende", LegendeUmschalten},
+    {"mnuSchwarzWeiß", Farbschema, SchemaSchwarzWeiß},
+    {"mnuGraustufen", Farbschema, SchemaGraustufen},
+    {"mnuFarbig", Farbschema, SchemaFarbig},
+    {"keySchwarzweiß", Farbschema, SchemaSchwarzWeiß},
+    {"keyGraustufen", Farbschema, SchemaGraustufen},
+    {"keyFarbig", Farbschema, SchemaFarbig},
+    {"mnuSchriftart", [](frmMain &h, int) { h.FormÖffnen("frmSchrift"); }},
+    {"mnuAltersangabe", [](frmMain &h, int) { h.FormÖffnen("frmSymbGlobal"); }},
+    {"mnuSeiteEinrichten", [](frmMain &h, int) { h.FormÖffnen("frmSeiteEinrichten"); }},
+    {"btnHochformat", Lage, 1},
+    {"btnQuerformat", Lage, 2},
+    {"keyDINA4", Papier, 9},
+    {"keyDINA5", Papier, 11},
+    {"keyUSLetter", Papier, 1},
+    {"btnBlattränder", DruckränderUmschalten},
+    {"cmdRänder", [](frmMain &h, int) { h.druck.DruckrandBericht(); }},
+    {"btnDrucken", [](frmMain &h, int) { h.FormÖffnen("frmDrucken"); }},
+    {"mnuDrucken", [](frmMain &h, int) { h.FormÖffnen("frmDrucken"); }},
+    {"mnuEinstellungen", [](frmMain &h, int) { h.FormÖffnen("frmEinstellungen"); }},
+    {"mnuHilfethemen", [](frmMain &h, int) { h.HilfeÖffnen(); }},
+    {"mnuUpdate", [](frmMain &h, int) { h.plattform.benutzer.ProgrammStarten("kw_update"); }},
+    {"btnImport", [](frmMain &h, int) { h.import.ListeUmschalten(); }},
+    {"mnuInfo", [](frmMain &h, int) { h.FormÖffnen("frmInfo"); }},
+    {"mnuSymbolKleiner", [](frmMain &h, int) { GrößeÄndern(h.werkbank, -GrößenSchritt); }},
+    {"mnuSymbolGrößer", [](frmMain &h, int) { GrößeÄndern(h.werkbank, GrößenSchritt); }},
+    {"btnBildGrößer", [](frmMain &h, int) { h.bereich.Vergrößern(); }},
+    {"btnBildKleiner", [](frmMain &h, int) { h.bereich.Verkleinern(); }},
 
-    {"cmdSymb(1)", Werkzeug<1>},
-    {"cmdSymb(2)", Werkzeug<2>},
-    {"cmdSymb(3)", Werkzeug<3>},
-    {"cmdSymb(4)", Werkzeug<4>},
-    {"cmdSymb(5)", Werkzeug<5>},
-    {"cmdSymb(6)", Werkzeug<6>},
-    {"cmdSymb(7)", Werkzeug<7>},
-    {"cmdSymb(8)", Werkzeug<8>},
-    {"cmdSymb(9)", Werkzeug<9>},
-    {"cmdSymb(10)", Werkzeug<10>},
-    {"cmdSymb(11)", Werkzeug<11>},
-    {"cmdSymb(12)", Werkzeug<12>},
-    {"cmdSymb(13)", Werkzeug<13>},
-    {"cmdSymb(14)", Werkzeug<14>},
-    {"cmdSymb(15)", Werkzeug<15>},
-    {"cmdSymb(16)", Werkzeug<16>},
-    {"cmdSymb(17)", Werkzeug<17>},
-    {"cmdSymb(18)", Werkzeug<18>},
-    {"cmdSymb(19)", Werkzeug<19>},
-    {"cmdSymb(20)", Werkzeug<20>},
     {"cmdZwillinge", Auf<cmdZwillinge>},
 };
 
+/// Rows that differ in a number only.
+struct Reihe {
+    std::string_view Anfang, Ende; ///< of the name, around the number
+    int Von, Bis;
+    void (*Ausführen)(frmMain &, int nummer);
+};
+constexpr Reihe Reihen[] = {
+    {"cmdSymb(", ")", 1, WerkzeugAnzahl, [](frmMain &h, int nummer) { WerkzeugDrücken(h.werkbank, nummer); }},
+    {"mnuRecent(", ")", 1, Chronik::Plätze, [](frmMain &h, int nummer) { h.projekt.mnuRecent(nummer); }},
+    {"keyZoom", "", 80, 250, [](frmMain &h, int nummer) { h.bereich.ZoomWählen((nummer - 80) / 10); }},
+};
+
+Befehl AusReihe(std::string_view name) {
+    for (const Reihe &reihe : Reihen) {
+        if (!name.starts_with(reihe.Anfang) || !name.ends_with(reihe.Ende)) continue;
+        const int nummer = Ganzzahl16(ZahlLesen(name.substr(reihe.Anfang.size())));
+        if (nummer >= reihe.Von && nummer <= reihe.Bis) return {reihe.Ausführen, nummer};
+    }
+    return {};
+}
+
 } // namespace
 
-std::span<const Befehl> BefehlsTabelle() { return Tabelle; }
-
-const Befehl *BefehlFinden(std::string_view name) {
+Befehl BefehlFinden(std::string_view name) {
     const auto i =
-        std::find_if(std::begin(Tabelle), std::end(Tabelle), [&](const Befehl &b) { return b.Name == name; });
-    return i == std::end(Tabelle) ? nullptr : &*i;
+        std::find_if(std::begin(Tabelle), std::end(Tabelle), [&](const Zeile &zeile) { return zeile.Name == name; });
+    return i == std::end(Tabelle) ? AusReihe(name) : Befehl{i->Ausführen, i->Wert};
 }
 
 } // namespace kw

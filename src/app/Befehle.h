@@ -1,21 +1,20 @@
 #pragma once
 
-#include <span>
 #include <string_view>
 
 namespace kw {
 
 class frmMain;
 
-/// What a row of the commands' table does, under the row's name.
+/// What a row of the commands' table does.
 struct Befehl {
-    std::string_view Name;
-    void (*Ausführen)(frmMain &);
+    void (*Ausführen)(frmMain &, int nummer) = nullptr;
+    int Nummer = 0; ///< of a row that has one in its name: 7 of "cmdSymb(7)"
+
+    explicit operator bool() const { return Ausführen != nullptr; }
 };
 
-std::span<const Befehl> BefehlsTabelle();
-
-/// The command of that name, or nothing.
-const Befehl *BefehlFinden(std::string_view name);
+/// The command under that name; an empty one when there is none.
+Befehl BefehlFinden(std::string_view name);
 
 } // namespace kw

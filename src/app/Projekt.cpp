@@ -4,6 +4,8 @@
 #include "document/Felder.h"
 #include "document/ProjektDatei.h"
 
+#include <filesystem>
+
 namespace kw {
 
 void Projekt::ProjektLaden() {
@@ -11,9 +13,9 @@ void Projekt::ProjektLaden() {
     h.bedienung["btnLegende"].Checked = false;
     h.dokument.LegendeSichtbar = false;
     h.legende.lstLegende.Leeren();
-    h.LegendenknopfBeschriften();
+    h.anzeige.LegendenknopfBeschriften();
     h.einstellungen.Zuletzt.Aktualisieren(Projektdatei);
-    h.ChronikAnzeigen();
+    h.anzeige.ChronikZeigen();
     h.IniDatei = Projektdatei;
     Titel = "Kinwright  " + Projektdatei;
     InhaltLesen();
@@ -32,14 +34,14 @@ void Projekt::InhaltLesen() {
     const Profil profil(std::move(inhalt));
 
     SeiteLesen(profil, h.dokument);
-    h.SeiteAnzeigen();
+    h.anzeige.SeiteZeigen();
     h.bereich.Bildgrößenveränderung();
     try {
         SpeicherLesen(profil, h.dokument);
         LegendeLesen(profil, h.dokument);
         h.bedienung["btnLegende"].Checked = h.dokument.LegendeSichtbar;
         h.bedienung["btnSpeichern"].Enabled = true;
-        h.LegendenknopfBeschriften();
+        h.anzeige.LegendenknopfBeschriften();
         LegendeAufbauen(h.dokument, h.legende);
         h.dokument.FreieNummernAufbauen();
     } catch (const FeldFehlt &) { // a damaged project, or an old one without a legend
@@ -64,12 +66,14 @@ void Projekt::ProjektSchreiben() {
     }
     Geändert = false;
     haupt_.einstellungen.Zuletzt.Eintragen(Projektdatei);
-    haupt_.ChronikAnzeigen();
+    haupt_.anzeige.ChronikZeigen();
     haupt_.plattform.benutzer.AnzeigeAuffrischen();
 }
 
 void Projekt::Speichern() {
-    if (Projektdatei.empty()) SpeichernUnter();
+    std::error_code fehler; // a folder that can't be made loses the file, as one that can't be written does
+    if (ImportModus) std::filesystem::create_directories(Pfad(Projektdatei), fehler);
+    if (Projektdatei.empty() && !ImportModus) SpeichernUnter();
     else ProjektSchreiben();
 }
 
@@ -128,7 +132,61 @@ void Projekt::mnuÖffnen() {
     if (!DateiVorhanden(Projektdatei)) return;
     Öffnen(Projektdatei);
     haupt_.einstellungen.Zuletzt.Eintragen(Projektdatei);
-    haupt_.ChronikAnzeigen();
+    haupt_.anzeige.ChronikZeigen();
+}
+
+void Projekt::DokumentLeeren() {
+    haupt_.ring.Leeren();
+    haupt_.UndoKnöpfeSetzen();
+    haupt_.dokument.SpeicherLeeren();
+    haupt_.dokument.lstGelöschtePersNr.Leeren();
+    haupt_.dokument.lstGelöschtePLinien.Leeren();
+}
+
+bool Projekt::ProjektNeu() {
+    frmMain &h = haupt_;
+    SpeichernAbgebrochen = false;
+    const bool gefragt = Geändert;
+    if (!NachÄnderungenFragen()) return false;
+    if (gefragt) h.UndoKnöpfeSperren();
+    DokumentLeeren();
+    Projektdatei.clear();
+    Titel = "Kinwright";
+    h.AuswahlUndRingLeeren();
+    for (Satzliste *liste : {&h.ablage.ZA_PLines, &h.ablage.ZA_Personen, &h.ablage.ZA_KindLinien, &h.ablage.ZA_Pfeile,
+                             &h.legende.lstLegende})
+        liste->Leeren();
+    h.dokument.LegendeX = LegendeStartX;
+    h.dokument.LegendeY = LegendeStartY;
+    Geändert = ImportModus = false;
+    h.Vorschau();
+    return true;
+}
+
+void Projekt::mnuNeu() {
+    if (!ProjektNeu()) return;
+    haupt_.Sichern();
+    haupt_.LegendeZeigen(false);
+    Geändert = false;
+}
+
+void Projekt::mnuRecent(int platz) {
+    if (platz < 1 || platz > Chronik::Plätze) return;
+    const std::string datei = haupt_.einstellungen.Zuletzt[platz];
+    if (Titel == datei) return; // so only just after a save under that name
+    if (!DateiVorhanden(datei)) {
+        const bool deutsch = haupt_.IstDeutsch();
+        haupt_.plattform.benutzer.Fragen(
+            {deutsch ? "Fehler" : "Error",
+             deutsch ? "Datei konnte nicht gefunden werden!" : "The file could not be found!", Knöpfe::Ok,
+             Zeichen::Warnung});
+        return;
+    }
+    haupt_.dokument.lstGelöschtePersNr.Leeren();
+    haupt_.dokument.lstGelöschtePLinien.Leeren();
+    Öffnen(datei);
+    haupt_.einstellungen.Zuletzt.Vorziehen(platz);
+    haupt_.anzeige.ChronikZeigen();
 }
 
 } // namespace kw

@@ -2,6 +2,8 @@
 
 #include "app/Befehle.h"
 #include "app/Formulare.h"
+#include "commands/basLanguage.h"
+#include "dialogs/frmEinstellungen.h"
 #include "document/Dateien.h"
 #include "document/Papier.h"
 #include "document/Zahlen.h"
@@ -13,22 +15,9 @@ namespace kw {
 
 namespace {
 
-constexpr int OeffnenVerzögerung = 200; ///< ms; lets the window finish painting first
+constexpr int StartVerzögerung = 200;   ///< ms; lets the window finish painting first
+constexpr int SpracheVerzögerung = 300; ///< ms
 constexpr int ZoomBeimStart = 2;        ///< "100 %", whatever the settings say
-
-struct Schema {
-    const char *Menü;
-    const char *Knopf;
-};
-constexpr Schema Schemata[] = {
-    {"mnuSchwarzWeiß", "keySchwarzweiß"}, {"mnuGraustufen", "keyGraustufen"}, {"mnuFarbig", "keyFarbig"}};
-
-/// The toolbar's key of a paper: "keyDINA4".
-std::string Papierschlüssel(const Papier &papier) {
-    std::string schlüssel = "key" + std::string(papier.Name);
-    std::erase(schlüssel, ' ');
-    return schlüssel;
-}
 
 } // namespace
 
@@ -41,7 +30,9 @@ std::string Entpackt(std::string_view kommandozeile) {
 frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben startangaben)
     : plattform(plattform_), start(std::move(startangaben)), picVorschau(canvas),
       bereich(canvas, ansicht, start.BildschirmBreite, start.BildschirmHöhe,
-              {[this] { Vorschau(); }, [this] { ZoomAnzeigen(); }}),
+              {[this] { Vorschau(); }, [this] { anzeige.ZoomZeigen(); }}),
+      anzeige(*this), druck(plattform.drucker, plattform.benutzer, ansicht, bedienung),
+      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht), import(*this),
       projekt(*this), werkbank{dokument, ansicht, auswahl,   lage,        auflagen,
                                ablage,   legende, bedienung, picVorschau, plattform.benutzer,
                                *this},
@@ -54,31 +45,40 @@ void frmMain::Laden() {
     // Asking for printers or fonts can take longer than all the rest of the start.
     plattform.benutzer.NachErstemBild([this] {
         SchriftlisteFüllen();
-        DruckerErmitteln();
+        druck.Ermitteln();
+        RänderknopfBeschriften(bedienung, ansicht.Sprache, druck.DefaultPrinter);
     });
     ansicht.StrichFaktor = 1;
     SeiteBestimmen(dokument, ansicht);
     ListenFüllen();
     ZweiteStufe();
-    LinienfarbenSetzen();
-    FarbschemaAnzeigen();
+    anzeige.LinienfarbenSetzen();
+    anzeige.FarbschemaZeigen();
     // Every start begins in landscape and in colour. The ticks and the colours of the lines can still
     // follow the scheme of the last run: that mismatch is meant.
     dokument.Seitenlage = 2;
     ansicht.Farbschema = SchemaFarbig;
-    SeiteAnzeigen();
+    anzeige.SeiteZeigen();
     bereich.GrößeÄndern(start.BildschirmBreite, start.BildschirmHöhe);
-    if (!einstellungen.Werkzeugleiste) WerkzeugleisteUmschalten();
+    if (!einstellungen.Werkzeugleiste) anzeige.WerkzeugleisteUmschalten();
     Sichern();
     bereich.Bildgrößenveränderung();
-    if (!Getrimmt(Kommandozeile).empty()) plattform.benutzer.ZeitgeberStarten("Timer2", OeffnenVerzögerung);
+    ZeitgeberStellen();
     projekt.Geändert = false;
     NachEreignis();
 }
 
+/// What the start leaves for when the window has been painted.
+void frmMain::ZeitgeberStellen() {
+    const auto stellen = [this](const char *name, int ms) { plattform.benutzer.ZeitgeberStarten(name, ms); };
+    if (Datenimport::IstVerlangt(start.Kommandozeile)) stellen("Timer5", StartVerzögerung);
+    else if (!Getrimmt(Kommandozeile).empty()) stellen("Timer2", StartVerzögerung);
+    if (einstellungen.OhneSprache) stellen("tmrLanguage", SpracheVerzögerung);
+}
+
 void frmMain::ListenFüllen() {
     cboRaster.Einträge = {"3", "6", "9"};
-    RasterWählen(0);
+    anzeige.RasterSetzen(0);
     Combo2.Einträge = {"8", "9", "10", "11", "12", "14", "16", "18", "20", "22", "24", "26", "28", "36"};
     Combo3.Einträge = {"Standard", "Fett", "Kursiv", "Fett-Kursiv"};
     for (const Papier &papier : Papiere) cboPaperSize.Einträge.Anhängen(std::string(papier.Name));
@@ -96,10 +96,10 @@ void frmMain::ZweiteStufe() {
     ansicht.Altersanzeige = einstellungen.Altersanzeige;
     ansicht.Sprache = einstellungen.Sprache;
     dokument.Seitenlage = einstellungen.Orientation;
-    Beschriften(bedienung, ansicht.Sprache);
-    RasterWählen(einstellungen.Raster);
+    anzeige.Beschriften();
+    anzeige.RasterSetzen(einstellungen.Raster);
     bereich.cboBildGröße.ListIndex = ZoomBeimStart;
-    ChronikAnzeigen();
+    anzeige.ChronikZeigen();
     dokument.Papiercode = einstellungen.Papiercode;
 }
 
@@ -109,16 +109,6 @@ void frmMain::SchriftlisteFüllen() {
     Combo1.ListIndex = Combo1.Einträge.Leer() ? -1 : 0;
     Combo2.ListIndex = 2;
     Combo3.ListIndex = 0;
-}
-
-void frmMain::DruckerErmitteln() {
-    DruckerVorhanden = plattform.drucker.DeviceName().has_value();
-    if (!DruckerVorhanden) return;
-    const Druckränder ränder = plattform.drucker.Ränder();
-    ansicht.DruckrandLinks = ränder.Links;
-    ansicht.DruckrandRechts = ränder.Rechts;
-    ansicht.DruckrandOben = ränder.Oben;
-    ansicht.DruckrandUnten = ränder.Unten;
 }
 
 bool frmMain::Schließen() {
@@ -132,7 +122,7 @@ bool frmMain::Schließen() {
 
 void frmMain::EinstellungenSichern() {
     IniDatei = start.IniDatei; // it may still name a project
-    einstellungen.Orientation = DruckerVorhanden ? plattform.drucker.Orientation() : dokument.Seitenlage;
+    einstellungen.Orientation = plattform.drucker.DeviceName() ? plattform.drucker.Orientation() : dokument.Seitenlage;
     einstellungen.LetzterPfad = Pfad(projekt.Projektdatei);
     einstellungen.Zoom = bereich.cboBildGröße.ListIndex;
     einstellungen.Farbschema = ansicht.Farbschema;
@@ -146,6 +136,9 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "Timer2" && !Getrimmt(Kommandozeile).empty()) projekt.Öffnen(Kommandozeile);
     if (name == "Timer3" && !Getrimmt(lage.PersRecord).empty()) FormÖffnen("frmSymbol");
     if (name == "Timer4") Vorschau();
+    if (name == "Timer5") import.Startaufruf();
+    if (name == "tmrLanguage") SpracheErfragen();
+    if (name == "tmrToolTipp") anzeige.PalettenhinweisZeigen();
     NachEreignis();
 }
 
@@ -160,7 +153,10 @@ void frmMain::MouseDown(int taste, double x, double y) {
     NachEreignis();
 }
 
-void frmMain::MouseMove(int taste, double x, double y) { leinwand.MouseMove(taste, x, y); }
+void frmMain::MouseMove(int taste, double x, double y) {
+    anzeige.PaletteBerührt(0);
+    leinwand.MouseMove(taste, x, y);
+}
 
 void frmMain::MouseUp(int taste, double x, double y) {
     leinwand.MouseUp(taste, x, y);
@@ -172,14 +168,19 @@ void frmMain::DblClick(double x, double y) {
     NachEreignis();
 }
 
+void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
+    import.Ablegen(zeile, x, y);
+    NachEreignis();
+}
+
 bool frmMain::BefehlAusführen(std::string_view name) {
-    const Befehl *befehl = BefehlFinden(name);
+    const Befehl befehl = BefehlFinden(name);
     if (!befehl) return false;
     if (GehörtZu(name, "mnuBearbeiten")) mnuBearbeiten_Öffnen();
     for (const Menüzeile *zeile = MenüzeileFinden(name); zeile; zeile = MenüzeileFinden(zeile->Menü))
         if (const Bedienelement &element = bedienung[zeile->Name]; !element.Enabled || !element.Visible) return false;
     leinwand.GesteAbbrechen();
-    befehl->Ausführen(*this);
+    befehl.Ausführen(*this, befehl.Nummer);
     NachEreignis();
     return true;
 }
@@ -189,9 +190,20 @@ void frmMain::PopupÖffnen(std::string_view menü) {
 }
 
 void frmMain::FormÖffnen(std::string_view name) {
-    Dialogumgebung umgebung{werkbank, einstellungen, start.IniDatei, plattform.uhr, plattform.drucker, *this};
+    Dialogumgebung umgebung = Umgebung();
     const auto form = FormularErzeugen(name, umgebung);
     plattform.benutzer.FormZeigen(*form);
+}
+
+Dialogumgebung frmMain::Umgebung() {
+    return {werkbank, einstellungen, start.IniDatei, plattform.uhr, plattform.drucker, *this};
+}
+
+/// At the very first start, and until one has been chosen.
+void frmMain::SpracheErfragen() {
+    Dialogumgebung umgebung = Umgebung();
+    frmEinstellungen form(umgebung, true);
+    plattform.benutzer.FormZeigen(form);
 }
 
 void frmMain::LegendeZeigen(bool sichtbar) {
@@ -201,16 +213,28 @@ void frmMain::LegendeZeigen(bool sichtbar) {
 
 void frmMain::SeiteAnwenden() {
     bedienung["btnBlattränder"].Checked = ansicht.bDruckrandAnzeigen;
-    SeiteAnzeigen();
+    anzeige.SeiteZeigen();
     bereich.Bildgrößenveränderung();
 }
 
 void frmMain::GenogrammDrucken() {
-    plattform.drucker.OrientationSetzen(bedienung["btnQuerformat"].Checked ? 2 : 1);
-    Zeichnung bild = DasBild();
-    plattform.drucker.Drucken({NameOhneKennung(DateiName(projekt.Projektdatei)), ansicht.Farbschema == SchemaFarbig,
-                               ansicht.SeitenBreite, ansicht.SeitenHöhe,
-                               [&](Zeichenfläche &papier) { DruckZeichnen(papier, bild); }});
+    druck.GenogrammDrucken(DasBild(), NameOhneKennung(DateiName(projekt.Projektdatei)));
+}
+
+void frmMain::PdfErzeugen() {
+    if (druck.PdfDruckerWählen()) GenogrammDrucken();
+}
+
+void frmMain::AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) {
+    if (inDatei) bildexport.AusschnittSpeichern(cm, projekt.Projektdatei);
+    else bildexport.AusschnittKopieren(cm);
+}
+
+/// The caption of the menu bar tells the language, whatever the settings say. Meant.
+void frmMain::HilfeÖffnen() {
+    const std::string &datei = bedienung["mnuDatei"].Caption;
+    const char *sprache = datei == "Datei" ? "de" : datei == "File" ? "en" : nullptr;
+    if (sprache) plattform.benutzer.AdresseÖffnen("file://" + start.Hilfeordner + "/" + sprache + "/index.htm");
 }
 
 void frmMain::mnuBearbeiten_Öffnen() {
@@ -265,79 +289,9 @@ void frmMain::AuswahlUndRingLeeren() {
 
 void frmMain::Legende() {
     dokument.LegendeSichtbar = bedienung["btnLegende"].Checked;
-    LegendenknopfBeschriften();
+    anzeige.LegendenknopfBeschriften();
     if (dokument.LegendeSichtbar) LegendeAufbauen(dokument, legende);
     Vorschau();
-}
-
-void frmMain::LegendenknopfBeschriften() {
-    const bool sichtbar = dokument.LegendeSichtbar;
-    bedienung["btnLegende"].Caption = IstDeutsch() ? sichtbar ? "Legende ausblenden" : "Legende anzeigen"
-                                      : sichtbar   ? "Hide Legend"
-                                                   : "Show Legend";
-}
-
-void frmMain::WerkzeugleisteUmschalten() {
-    const bool zeigen = !bereich.WerkzeugleisteSichtbar();
-    if (zeigen) bereich.WerkzeugleisteZeigen();
-    else bereich.WerkzeugleisteVerbergen();
-    bedienung["mnuWerkzeugleiste"].Caption = IstDeutsch()
-                                                 ? zeigen ? "Werkzeugleiste ausblenden" : "Werkzeugleiste einblenden"
-                                             : zeigen ? "Hide Toolbar"
-                                                      : "Show Toolbar";
-}
-
-void frmMain::FarbschemaWählen(int schema) {
-    ansicht.Farbschema = schema;
-    FarbschemaAnzeigen();
-    LinienfarbenSetzen();
-    Vorschau();
-}
-
-void frmMain::LinienfarbenSetzen() { ansicht.Linienfarben = LinienfarbenFür(ansicht.Farbschema); }
-
-void frmMain::FarbschemaAnzeigen() {
-    for (int i = 0; i < 3; ++i)
-        bedienung[Schemata[i].Menü].Checked = bedienung[Schemata[i].Knopf].Checked = i == ansicht.Farbschema;
-}
-
-void frmMain::SeiteAnzeigen() {
-    for (int i = 0; i < static_cast<int>(Papiere.size()); ++i) {
-        const Papier &papier = Papiere[static_cast<size_t>(i)];
-        const bool gilt = papier.Code == dokument.Papiercode;
-        bedienung[Papierschlüssel(papier)].Checked = gilt;
-        if (!gilt) continue;
-        bedienung["btnPapier"].Caption = papier.Name;
-        cboPaperSize.ListIndex = i;
-    }
-    bedienung["btnHochformat"].Checked = dokument.Seitenlage == 1;
-    bedienung["btnQuerformat"].Checked = dokument.Seitenlage != 1;
-}
-
-void frmMain::ZoomAnzeigen() {
-    const std::string zoom = ZahlSchreiben(ZahlLesen(bereich.cboBildGröße.Text())) + "%";
-    bedienung["btnZoom"].Caption = zoom;
-    bedienung.NurAnkreuzen("keyZoom", "keyZoom" + zoom.substr(0, zoom.size() - 1));
-    bedienung["btnBildGrößer"].Enabled = bereich.KannVergrößern();
-    bedienung["btnBildKleiner"].Enabled = bereich.KannVerkleinern();
-}
-
-void frmMain::RasterWählen(int listIndex) {
-    cboRaster.ListIndex = listIndex;
-    ansicht.Rasterweite = ZahlLesen(cboRaster.Text()) / 10;
-}
-
-void frmMain::ChronikAnzeigen() {
-    bool einer = false;
-    for (int i = 1; i <= Chronik::Plätze; ++i) {
-        const std::string &pfad = einstellungen.Zuletzt[i];
-        Bedienelement &eintrag = bedienung["mnuRecent(" + std::to_string(i) + ")"];
-        eintrag.Caption = "  " + std::to_string(i) + " " + DateiName(pfad);
-        eintrag.Visible = !pfad.empty();
-        einer = einer || eintrag.Visible;
-    }
-    bedienung["mnuZuletztGeöffnet"].Visible = bedienung["mnuStr3"].Visible = einer;
-    bedienung["mnuZuletztGeöffnet"].Enabled = einer;
 }
 
 } // namespace kw

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/Anzeige.h"
+#include "app/Datenimport.h"
 #include "app/Projekt.h"
 #include "commands/Menuetafel.h"
 #include "dialogs/Dialogumgebung.h"
@@ -8,8 +10,11 @@
 #include "document/Einstellungen.h"
 #include "document/UndoRing.h"
 #include "editing/Leinwand.h"
+#include "output/Druckwerk.h"
+#include "output/basBildExport.h"
 #include "output/basDruckVorschau.h"
 #include "platform/Benutzer.h"
+#include "platform/Bilder.h"
 #include "platform/Drucker.h"
 #include "platform/Uhr.h"
 #include "rendering/Zeichnung.h"
@@ -23,14 +28,17 @@ namespace kw {
 struct Plattform {
     Benutzer &benutzer;
     Drucker &drucker;
+    Bilder &bilder;
     const Uhr &uhr;
 };
 
 /// What the process was started with.
 struct Startangaben {
-    std::string Kommandozeile; ///< raw, quotes and all
-    std::string IniDatei;      ///< path of the settings file
-    int BildschirmBreite = 0;  ///< twips
+    std::string Kommandozeile;  ///< raw, quotes and all
+    std::string IniDatei;       ///< path of the settings file
+    std::string Programmordner; ///< without a closing "/"; import files and the update program stand there
+    std::string Hilfeordner;    ///< the same; of the manual
+    int BildschirmBreite = 0;   ///< twips
     int BildschirmHöhe = 0;
 };
 
@@ -65,6 +73,11 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void LegendeZeigen(bool sichtbar) override;
     void SeiteAnwenden() override;
     void GenogrammDrucken() override;
+    void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
+    /// The page as a PDF file, by the printer that writes such; it stays the current one.
+    void PdfErzeugen();
+    /// The manual, in the default browser.
+    void HilfeÖffnen();
     /// One step back or forward in the ring; afterwards nothing is selected and no gesture runs.
     void cmdUndo();
     void cmdredo();
@@ -76,6 +89,11 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void MouseUp(int taste, double x, double y);
     void DblClick(double x, double y);
 
+    /// A line of the import list, from 0, has been dragged onto the page.
+    void ImportzeileAblegen(int zeile, double x, double y);
+    /// The pointer has come over the palette's button `werkzeug`, or is over none (0).
+    void PaletteBerührt(int werkzeug) { anzeige.PaletteBerührt(werkzeug); }
+
     /// Runs the command `name` as a user's choice: its menu opens first, with the states that this refreshes.
     /// False, and nothing done, when there is none or it is disabled or hidden.
     bool BefehlAusführen(std::string_view name);
@@ -86,21 +104,6 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void AuswahlUndRingLeeren();
     /// Shows or hides the legend as its button stands.
     void Legende();
-    /// Caption of the legend button, as the legend is shown or not.
-    void LegendenknopfBeschriften();
-    /// Shows or hides the tool palette.
-    void WerkzeugleisteUmschalten();
-    void FarbschemaWählen(int schema);
-    /// Sets the colours of the lines from the scheme in force.
-    void LinienfarbenSetzen();
-    /// Shows the document's paper and orientation on the toolbar.
-    void SeiteAnzeigen();
-    /// Shows the zoom in force on the toolbar.
-    void ZoomAnzeigen();
-    void RasterWählen(int listIndex);
-    /// Captions of the recent files.
-    void ChronikAnzeigen();
-
     bool IstDeutsch() const { return ansicht.Sprache == "de"; }
     /// What a draw routine looks at.
     Zeichnung DasBild() { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
@@ -121,6 +124,10 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     Arbeitsbereich bereich;
     Bedienelemente bedienung;
     Einstellungen einstellungen;
+    Anzeige anzeige;
+    Druckwerk druck;
+    Bildexport bildexport;
+    Datenimport import;
     Projekt projekt;
     Werkbank werkbank;
     Leinwand leinwand;
@@ -128,8 +135,7 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     std::string Kommandozeile; ///< trimmed and unquoted
     std::string IniDatei;      ///< settings or project, whichever was read or written last
     std::string Textvorlage;   ///< what a new text box starts from
-    bool DruckerVorhanden = false;
-    Auswahlliste cboRaster; ///< millimetres
+    Auswahlliste cboRaster;    ///< millimetres
     Auswahlliste cboPaperSize;
     Auswahlliste Combo1; ///< fonts
     Auswahlliste Combo2; ///< font sizes
@@ -142,9 +148,10 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void ZweiteStufe();
     void ListenFüllen();
     void SchriftlisteFüllen();
-    void DruckerErmitteln();
+    void ZeitgeberStellen();
+    void SpracheErfragen();
     void EinstellungenSichern();
-    void FarbschemaAnzeigen();
+    Dialogumgebung Umgebung();
 };
 
 /// The command line as the program takes it: trimmed, one pair of enclosing quotation marks removed.

@@ -181,6 +181,24 @@ constexpr Menüzeile Tafel[] = {
     {"keyDINA5", "btnPapier", "DIN A5", "DIN A5"},
     {"keyUSLetter", "btnPapier", "US Letter", "US Letter"},
     {"btnZoom", Werkzeugband, "", ""},
+    {"keyZoom80", "btnZoom", "80%", "80%"},
+    {"keyZoom90", "btnZoom", "90%", "90%"},
+    {"keyZoom100", "btnZoom", "100%", "100%"},
+    {"keyZoom110", "btnZoom", "110%", "110%"},
+    {"keyZoom120", "btnZoom", "120%", "120%"},
+    {"keyZoom130", "btnZoom", "130%", "130%"},
+    {"keyZoom140", "btnZoom", "140%", "140%"},
+    {"keyZoom150", "btnZoom", "150%", "150%"},
+    {"keyZoom160", "btnZoom", "160%", "160%"},
+    {"keyZoom170", "btnZoom", "170%", "170%"},
+    {"keyZoom180", "btnZoom", "180%", "180%"},
+    {"keyZoom190", "btnZoom", "190%", "190%"},
+    {"keyZoom200", "btnZoom", "200%", "200%"},
+    {"keyZoom210", "btnZoom", "210%", "210%"},
+    {"keyZoom220", "btnZoom", "220%", "220%"},
+    {"keyZoom230", "btnZoom", "230%", "230%"},
+    {"keyZoom240", "btnZoom", "240%", "240%"},
+    {"keyZoom250", "btnZoom", "250%", "250%"},
     {"btnBildGrößer", Werkzeugband, "Vergrößern", "Zoom In"},
     {"btnBildKleiner", Werkzeugband, "Verkleinern", "Zoom Out"},
     {"btnWerkzeugleiste", Werkzeugband, "Werkzeugleiste", "Toolbar"},
@@ -192,7 +210,7 @@ constexpr Menüzeile Tafel[] = {
     {"btnClipboard", Werkzeugband, "Auswahl als Bild in Zwischenablage kopieren",
      "Copy selection as image to clipboard"},
     {"btnAuswahlZuBild", Werkzeugband, "Auswahl als Bild speichern", "Save selection as image"},
-    {"btnImport", Werkzeugband, "", ""},
+    {"btnImport", Werkzeugband, "Importierte Personen", "Imported Persons", "", Gesperrt, Versteckt},
 
     {"cmdSymb(1)", Palette, "Männlich", "Male"},
     {"cmdSymb(2)", Palette, "Weiblich", "Female"},
@@ -216,6 +234,11 @@ constexpr Menüzeile Tafel[] = {
     {"cmdSymb(20)", Palette, "Divers", "Gender Nonconforming"},
     {"cmdZwillinge", Palette, "Zwillinge", "Twins"},
     {"cmdDelete", Palette, "Löschen", "Delete", "", Gesperrt},
+
+    {"cmdRänder", Fensterteile, "Druckränder ...", "Print Margins ..."},
+    {"lblTool", Fensterteile, "", ""},
+    {"picToolTipp", Fensterteile, "", "", "", true, Versteckt},
+    {"imgVariable", Fensterteile, "", "", "", true, Versteckt},
 };
 
 } // namespace
@@ -236,12 +259,6 @@ bool GehörtZu(std::string_view name, std::string_view menü) {
 
 void BedienelementeAnlegen(Bedienelemente &elemente) {
     for (const Menüzeile &z : Tafel) elemente.Anlegen(z.Name, {std::string(z.Englisch), z.Enabled, z.Visible, false});
-    for (int zoom = 80; zoom <= 250; zoom += 10)
-        elemente.Anlegen("keyZoom" + std::to_string(zoom), {std::to_string(zoom) + "%"});
-}
-
-void Beschriften(Bedienelemente &elemente, std::string_view sprache) {
-    for (const Menüzeile &z : Tafel) elemente[z.Name].Caption = sprache == "de" ? z.Deutsch : z.Englisch;
 }
 
 } // namespace kw

@@ -25,6 +25,7 @@ inline constexpr std::string_view Menüleiste = "Menüleiste";   ///< top entrie
 inline constexpr std::string_view Kontextmenü = "Kontextmenü"; ///< popups; no caption
 inline constexpr std::string_view Werkzeugband = "Coolbar1";   ///< toolbar items, caption is the tool tip
 inline constexpr std::string_view Palette = "frmToolbar";      ///< palette buttons, caption is the tool's name
+inline constexpr std::string_view Fensterteile = "frmMain";    ///< what else stands in the window
 
 /// A caption of a line between entries.
 inline constexpr std::string_view Trennstrich = "-";
@@ -38,8 +39,5 @@ bool GehörtZu(std::string_view name, std::string_view menü);
 
 /// Creates the states of all rows, as at start, in English.
 void BedienelementeAnlegen(Bedienelemente &elemente);
-/// "de" gives the German captions, anything else the English ones. Captions that show a state are set by
-/// the routines that own the state.
-void Beschriften(Bedienelemente &elemente, std::string_view sprache);
 
 } // namespace kw

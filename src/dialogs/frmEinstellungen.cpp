@@ -9,10 +9,11 @@ constexpr int Englisch = 1;
 
 } // namespace
 
-frmEinstellungen::frmEinstellungen(Dialogumgebung &umgebung)
-    : Formular("frmEinstellungen", "Einstellungen"), umgebung_(umgebung) {
+frmEinstellungen::frmEinstellungen(Dialogumgebung &umgebung, bool ersterStart)
+    : Formular("frmEinstellungen", "Einstellungen"), umgebung_(umgebung), ersterStart_(ersterStart) {
     const bool englisch = umgebung.werkbank.ansicht.Sprache == "en";
     if (englisch) Caption = "Settings";
+    if (ersterStart) Caption = "Please choose your language ...";
     Anlegen("Label1", Art::Beschriftung, englisch ? "Language" : "Sprache / Language");
     Anlegen("Combo1", Art::Liste).Einträge = {"Deutsch", "English"};
     Anlegen("cmdOK", Art::Knopf, "OK");
@@ -23,8 +24,7 @@ frmEinstellungen::frmEinstellungen(Dialogumgebung &umgebung)
 
 void frmEinstellungen::Laden() {
     const std::string &sprache = umgebung_.werkbank.ansicht.Sprache;
-    if (ErsterStart) Caption = "Please choose your language ...";
-    if (ErsterStart || sprache == "en") IndexSetzen("Combo1", Englisch);
+    if (ersterStart_ || sprache == "en") IndexSetzen("Combo1", Englisch);
     else if (sprache == "de") IndexSetzen("Combo1", Deutsch);
 }
 

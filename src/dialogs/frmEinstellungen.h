@@ -8,10 +8,8 @@ namespace kw {
 /// The program's language. It goes into the settings file at once and counts from the next start on.
 class frmEinstellungen : public Formular {
   public:
-    explicit frmEinstellungen(Dialogumgebung &umgebung);
-
-    /// No language has been chosen yet: the form asks for it, with English chosen. Set before the form is shown.
-    bool ErsterStart = false;
+    /// `ersterStart`: no language has been chosen yet; the form asks for it, with English chosen.
+    explicit frmEinstellungen(Dialogumgebung &umgebung, bool ersterStart = false);
 
     void Laden() override;
     void Entladen() override;
@@ -23,6 +21,7 @@ class frmEinstellungen : public Formular {
     void Bestätigen();
 
     Dialogumgebung &umgebung_;
+    bool ersterStart_;
     std::string gewählt_; ///< the language that was confirmed
 };
 

@@ -36,6 +36,9 @@ constexpr int AnzahlUngemessen = TextBreite;
 }
 // clang-format on
 
+constexpr double LegendeStartX = 25; ///< cm; where a new project has its legend
+constexpr double LegendeStartY = 2;
+
 /// The genogram: seven stores of text records, which are its only representation, the lists of free
 /// numbers, and the page and legend settings that are saved with it. Owned by the main window; knows
 /// nothing of files, drawing or gestures.
@@ -55,8 +58,8 @@ struct Dokument {
     int Seitenlage = 2; ///< 1 portrait, everything else landscape
 
     bool LegendeSichtbar = false;
-    double LegendeX = 25; ///< cm
-    double LegendeY = 2;  ///< cm
+    double LegendeX = LegendeStartX; ///< cm
+    double LegendeY = LegendeStartY;
     bool LegendeQuer = false;
     bool OhneStandardsymbole = false;
 

@@ -23,6 +23,7 @@ struct Einstellungen {
     bool Werkzeugleiste = false;
     int Zoom = 2; ///< list position, written only
     std::string Sprache = "en";
+    bool OhneSprache = true; ///< none has been chosen yet
     Chronik Zuletzt;
 };
 

@@ -36,6 +36,7 @@ class Leinwand {
     // Steps of a press (LeinwandDruck.cpp). Each says whether the event ends with it.
     using Schritt = bool (Leinwand::*)(const Ereignis &);
     bool Zurücksetzen(const Ereignis &e);
+    bool BildBeginnen(const Ereignis &e);
     bool PfeilBeginnen(const Ereignis &e);
     bool TextSetzen(const Ereignis &e);
     bool OrtMerken(const Ereignis &e);
@@ -86,6 +87,7 @@ class Leinwand {
     void BezLinieLoslassen(const Ereignis &e);
     void KindLinieLoslassen(const Ereignis &e);
     void RahmenLoslassen(const Ereignis &e);
+    void BildLoslassen();
     void GruppeLoslassen(const Ereignis &e);
     void LegendeLoslassen(const Ereignis &e);
     void KreisLoslassen(const Ereignis &e);

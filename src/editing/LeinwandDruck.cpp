@@ -23,11 +23,11 @@ void Leinwand::PopupÖffnen(std::string_view menü) {
 /// of that circle lines come first, then persons, lines, arrows, text boxes.
 void Leinwand::MouseDown(int taste, double x, double y) {
     static constexpr Schritt Schritte[] = {
-        &Leinwand::Zurücksetzen,  &Leinwand::PfeilBeginnen,  &Leinwand::TextSetzen,      &Leinwand::OrtMerken,
-        &Leinwand::KreisBeginnen, &Leinwand::LegendeFassen,  &Leinwand::KreisTreffen,    &Leinwand::KreisGewählt,
-        &Leinwand::GruppeFassen,  &Leinwand::TextWarGefasst, &Leinwand::KindLinkBeenden, &Leinwand::MenüWarOffen,
-        &Leinwand::LinkBeenden,   &Leinwand::Setzen,         &Leinwand::PersonTreffen,   &Leinwand::LinieWarGewählt,
-        &Leinwand::LinieTreffen,  &Leinwand::TextTreffen,    &Leinwand::RahmenBeginnen};
+        &Leinwand::Zurücksetzen,    &Leinwand::BildBeginnen,  &Leinwand::PfeilBeginnen,  &Leinwand::TextSetzen,
+        &Leinwand::OrtMerken,       &Leinwand::KreisBeginnen, &Leinwand::LegendeFassen,  &Leinwand::KreisTreffen,
+        &Leinwand::KreisGewählt,    &Leinwand::GruppeFassen,  &Leinwand::TextWarGefasst, &Leinwand::KindLinkBeenden,
+        &Leinwand::MenüWarOffen,    &Leinwand::LinkBeenden,   &Leinwand::Setzen,         &Leinwand::PersonTreffen,
+        &Leinwand::LinieWarGewählt, &Leinwand::LinieTreffen,  &Leinwand::TextTreffen,    &Leinwand::RahmenBeginnen};
     const Ereignis e{taste, x, y};
     for (const Schritt schritt : Schritte)
         if ((this->*schritt)(e)) return;
@@ -42,6 +42,15 @@ bool Leinwand::Zurücksetzen(const Ereignis &e) {
     lage.Info.Visible = false;
     w.bedienung["mnustr14"].Visible = false;
     return false;
+}
+
+/// A region of the picture can begin anywhere, whatever lies there.
+bool Leinwand::BildBeginnen(const Ereignis &e) {
+    if (!lage.BildAuswahl) return false;
+    lage.Aktion = AktionRahmenZiehen;
+    lage.AnkerX = Raster(e.X);
+    lage.AnkerY = Raster(e.Y);
+    return true;
 }
 
 bool Leinwand::PfeilBeginnen(const Ereignis &e) {

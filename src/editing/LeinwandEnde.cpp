@@ -52,11 +52,7 @@ void Leinwand::MouseUp(int taste, double x, double y) {
     };
     if (!std::exchange(lage.Gedrückt, false)) return;
     for (Auflagenlinie &linie : auflagen.MarkLine) linie.Visible = false;
-    if (std::exchange(lage.BildAuswahl, false)) {
-        AuswahlrahmenParken(w);
-        lage.Aktion = AktionNichts;
-        return;
-    }
+    if (lage.BildAuswahl) return BildLoslassen();
     auflagen.Line1.Visible = auflagen.Line5.Visible = false;
     lage.Zeiger = Mauszeiger::Pfeil;
     Gummi2Parken(w);
@@ -67,6 +63,19 @@ void Leinwand::MouseUp(int taste, double x, double y) {
         (this->*ende.Loslassen)(e);
         return;
     }
+}
+
+/// A click, or a frame not much larger than one, is no region: it only puts the tool away.
+void Leinwand::BildLoslassen() {
+    constexpr double Kleinstes = 1.2; // cm, on both axes
+    const Auflagenform &box = auflagen.shpBox;
+    const Bildausschnitt region{box.Left, box.Top, box.Width, box.Height};
+    if (Kleiner(Kleinstes, region.Width) && Kleiner(Kleinstes, region.Height))
+        w.fenster.AusschnittAusgeben(region, lage.bAuswahlInDatei);
+    AuswahlrahmenParken(w);
+    lage.BildAuswahl = false;
+    lage.Zeiger = Mauszeiger::Pfeil;
+    lage.Aktion = AktionNichts;
 }
 
 void Leinwand::GesteAbbrechen() {

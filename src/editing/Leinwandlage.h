@@ -44,7 +44,7 @@ constexpr int TypWeiblichZuMännlich = 10;
 constexpr int TypMännlichZuWeiblich = 11;
 constexpr int TypDivers = 12;
 
-enum class Mauszeiger { Pfeil, Verschieben, Person, Textfeld };
+enum class Mauszeiger { Pfeil, Verschieben, Person, Textfeld, Kreuz };
 
 /// What the panel `Frame1(0)` tells of the selected person.
 struct Personeninfo {
@@ -90,9 +90,10 @@ struct Leinwandlage : Gestenlage {
     double NeuY = 0;
 
     bool LinieVerschoben = false;
-    bool BildAuswahl = false; ///< the next marquee is a region of the picture
-    bool Gedrückt = false;    ///< a press runs a gesture; false again when something else came between
-    int PfeilArt = 1;         ///< 1 arrow, 2 double arrow
+    bool BildAuswahl = false;     ///< the next marquee is a region of the picture
+    bool bAuswahlInDatei = false; ///< that region goes to a file, otherwise to the clipboard
+    bool Gedrückt = false;        ///< a press runs a gesture; false again when something else came between
+    int PfeilArt = 1;             ///< 1 arrow, 2 double arrow
     double PfeilEndeX = 0;
     double PfeilEndeY = 0;
     std::string PunktListe;                             ///< circle line in the making

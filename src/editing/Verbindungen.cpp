@@ -106,10 +106,13 @@ void ZielAnzeigen(Werkbank &w) {
 
 } // namespace
 
-void PersonAnlegen(Werkbank &w) {
+void PersonAnlegen(Werkbank &w, const Importperson *import) {
     if (w.lage.Aktion != AktionPersonSetzen) return;
     const double raster = w.ansicht.Rasterweite;
-    PersonAnhängen(w, w.lage.SymbolTyp, GerastertZehntel(w.lage.MausX, raster), GerastertZehntel(w.lage.MausY, raster));
+    const double x = GerastertZehntel(w.lage.MausX, raster);
+    const double y = GerastertZehntel(w.lage.MausY, raster);
+    if (import) w.dokument.cboPersonen.Anhängen(ImportSatz(*import, w.dokument.NeuePersNr(), x, y, GrößeNormal));
+    else PersonAnhängen(w, w.lage.SymbolTyp, x, y);
     MarkierungsListBoxenLöschen(w);
     w.fenster.Vorschau();
 }

@@ -6,6 +6,7 @@
 #include "editing/Zwischenablage.h"
 #include "platform/Bedienelemente.h"
 #include "platform/Benutzer.h"
+#include "platform/Bilder.h"
 #include "rendering/Ansicht.h"
 #include "rendering/Auswahl.h"
 #include "rendering/Legende.h"
@@ -30,6 +31,8 @@ class Fensterdienste {
     virtual void PopupÖffnen(std::string_view menü) = 0;
     /// Shows a form modally; what it changes is changed when this returns.
     virtual void FormÖffnen(std::string_view form) = 0;
+    /// Puts a region of the canvas's picture, in its centimetres, where the tool says: on the clipboard or in a file.
+    virtual void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) = 0;
 };
 
 /// All that the editing routines work on. Each routine stands with what it changes and gets the bench as its

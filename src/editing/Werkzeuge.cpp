@@ -74,6 +74,16 @@ bool IstGedrückt(const Leinwandlage &lage, const Werkzeug &werkzeug) {
     return lage.Aktion != AktionPersonSetzen || werkzeug.Typ == lage.SymbolTyp;
 }
 
+/// What a tool begins with. Also redraws, without what was selected.
+void AuswahlAufgeben(Werkbank &w) {
+    w.lage.BildAuswahl = false;
+    MarkierungsListBoxenLöschen(w);
+    w.lage.PersRecord.clear();
+    AuswahlrahmenParken(w);
+    LinkAufräumen(w);
+    MarkerEntfernen(w);
+}
+
 } // namespace
 
 std::string WerkzeugName(int nummer) { return "cmdSymb(" + std::to_string(nummer) + ")"; }
@@ -84,12 +94,8 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
         return;
     }
     Leinwandlage &lage = w.lage;
-    MarkierungsListBoxenLöschen(w);
-    lage.PersRecord.clear();
     lage.Aktion = AktionPersonSetzen;
-    AuswahlrahmenParken(w);
-    LinkAufräumen(w);
-    MarkerEntfernen(w); // also redraws, without what was selected
+    AuswahlAufgeben(w);
     lage.Zeiger = nummer < WerkzeugZwillinge ? Mauszeiger::Person : Mauszeiger::Pfeil;
     if (LinkBeginnen(w, nummer)) return;
     const auto werkzeug =
@@ -102,6 +108,15 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
     }
     if (werkzeug->PfeilArt) lage.PfeilArt = werkzeug->PfeilArt;
     if (nummer == WerkzeugKreislinie) lage.KreisAuswahl = 0;
+}
+
+void BildauswahlBeginnen(Werkbank &w, bool inDatei) {
+    w.lage.Aktion = AktionNichts;
+    AuswahlAufgeben(w);
+    PositionenVergessen(w.lage);
+    w.lage.Zeiger = Mauszeiger::Kreuz;
+    w.lage.BildAuswahl = true;
+    w.lage.bAuswahlInDatei = inDatei;
 }
 
 void cmdZwillinge(Werkbank &w) {
@@ -125,6 +140,7 @@ void PaletteAuffrischen(Werkbank &w) {
         knopf.Enabled = Brauchbar(w, werkzeug.Nummer);
     }
     w.bedienung["cmdDelete"].Enabled = w.lage.Aktion == AktionGruppeGewählt;
+    w.bedienung["btnAuswahlZuBild"].Checked = w.lage.BildAuswahl && w.lage.bAuswahlInDatei;
 }
 
 } // namespace kw

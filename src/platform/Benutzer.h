@@ -46,7 +46,8 @@ class Benutzer {
     virtual void FormZeigen(Formular &form) = 0;
     /// The colour dialog: 0xBBGGRR, nothing when cancelled.
     virtual std::optional<int> FarbeWählen(int farbe) = 0;
-    /// Lets `frmMain::ZeitgeberAbgelaufen` be called with this name, once, after `ms` milliseconds.
+    /// Lets `frmMain::ZeitgeberAbgelaufen` be called with this name, once, after `ms` milliseconds. A timer of that
+    /// name that still runs starts anew.
     virtual void ZeitgeberStarten(std::string_view name, int ms) = 0;
     /// Does something as soon as the window has been painted for the first time.
     virtual void NachErstemBild(std::function<void()> arbeit) = 0;
@@ -54,6 +55,13 @@ class Benutzer {
     virtual void AnzeigeAuffrischen() = 0;
     /// Requests the main window's closing, as its close box does.
     virtual void FensterSchließen() = 0;
+    /// Opens a file or a web page in the default browser. Without one nothing shows.
+    virtual void AdresseÖffnen(const std::string &adresse) = 0;
+    /// Starts the program of that name from the program's own folder with the rights of the system's keeper, and goes
+    /// on. When it isn't there nothing happens.
+    virtual void ProgrammStarten(const std::string &name) = 0;
+    /// Gives the canvas the keyboard again.
+    virtual void FokusAufLeinwand() = 0;
     virtual std::string Desktopordner() const = 0;
     virtual std::vector<std::string> Schriftarten() const = 0;
 };

@@ -1,5 +1,6 @@
 #include "qt/Hauptfenster.h"
 
+#include "document/Dateien.h"
 #include "qt/Formularfenster.h"
 #include "qt/Palette.h"
 #include "qt/Text.h"
@@ -7,14 +8,18 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QColorDialog>
+#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
+#include <QUrl>
 
 #include <utility>
 
@@ -22,10 +27,10 @@ namespace kw {
 
 namespace {
 
-Startangaben Angaben(const std::string &projektdatei) {
+Startangaben Angaben(const std::string &kommandozeile) {
     const QSize bildschirm = QGuiApplication::primaryScreen()->size();
-    return {projektdatei, EinstellungsDateiDesBenutzers(), bildschirm.width() * TwipsJePixel,
-            bildschirm.height() * TwipsJePixel};
+    return {kommandozeile, EinstellungsDateiDesBenutzers(),   QCoreApplication::applicationDirPath().toStdString(),
+            Hilfeordner(), bildschirm.width() * TwipsJePixel, bildschirm.height() * TwipsJePixel};
 }
 
 struct Knopfreihe {
@@ -59,7 +64,7 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
     dialog.setFileMode(art == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     // As the platform's dialogs do for a name typed without one; the question about replacing then names it whole.
-    if (art == QFileDialog::AcceptSave) dialog.setDefaultSuffix(QStringLiteral("kwp"));
+    if (art == QFileDialog::AcceptSave) dialog.setDefaultSuffix(Text(Kennung(wahl.Filter)));
     if (!wahl.Vorschlag.empty()) dialog.selectFile(Text(wahl.Vorschlag));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
     return dialog.selectedFiles().first().toStdString();
@@ -67,8 +72,8 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
 
 } // namespace
 
-Hauptfenster::Hauptfenster(const std::string &projektdatei)
-    : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, uhr_}, leinwand_, Angaben(projektdatei)),
+Hauptfenster::Hauptfenster(const std::string &kommandozeile)
+    : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
       fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     setCentralWidget(fläche_);
     setMinimumSize(Arbeitsbereich::KleinsteBreite / TwipsJePixel, Arbeitsbereich::KleinsteHöhe / TwipsJePixel);
@@ -158,10 +163,26 @@ std::optional<int> Hauptfenster::FarbeWählen(int farbe) {
 }
 
 void Hauptfenster::ZeitgeberStarten(std::string_view name, int ms) {
-    QTimer::singleShot(ms, this, [this, eigenerName = std::string(name)] { haupt_.ZeitgeberAbgelaufen(eigenerName); });
+    QTimer *&zeitgeber = zeitgeber_[std::string(name)];
+    if (!zeitgeber) {
+        zeitgeber = new QTimer(this);
+        zeitgeber->setSingleShot(true);
+        connect(zeitgeber, &QTimer::timeout, this,
+                [this, eigenerName = std::string(name)] { haupt_.ZeitgeberAbgelaufen(eigenerName); });
+    }
+    zeitgeber->start(ms);
 }
 
 void Hauptfenster::NachErstemBild(std::function<void()> arbeit) { nachErstemBild_.push_back(std::move(arbeit)); }
+
+void Hauptfenster::AdresseÖffnen(const std::string &adresse) { QDesktopServices::openUrl(QUrl(Text(adresse))); }
+
+void Hauptfenster::ProgrammStarten(const std::string &name) {
+    const QString programm = QCoreApplication::applicationDirPath() + u'/' + Text(name);
+    if (QFileInfo(programm).isExecutable()) QProcess::startDetached(QStringLiteral("pkexec"), {programm});
+}
+
+void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }
 
 std::string Hauptfenster::Desktopordner() const {
     const QString ordner = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);

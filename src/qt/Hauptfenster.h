@@ -4,11 +4,15 @@
 #include "qt/Arbeitsflaeche.h"
 #include "qt/LeinwandFlaeche.h"
 #include "qt/Menues.h"
+#include "qt/QtBilder.h"
 #include "qt/QtPlattform.h"
 
 #include <QMainWindow>
 
+#include <map>
 #include <vector>
+
+class QTimer;
 
 namespace kw {
 
@@ -18,7 +22,8 @@ class Werkzeugpalette;
 /// sees it: boxes, dialogs, popups and timers.
 class Hauptfenster : public QMainWindow, public Benutzer {
   public:
-    explicit Hauptfenster(const std::string &projektdatei);
+    /// `kommandozeile` is raw, as the model takes it.
+    explicit Hauptfenster(const std::string &kommandozeile);
 
     Antwort Fragen(const Nachfrage &nachfrage) override;
     std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) override;
@@ -30,6 +35,9 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void NachErstemBild(std::function<void()> arbeit) override;
     void AnzeigeAuffrischen() override;
     void FensterSchließen() override { close(); }
+    void AdresseÖffnen(const std::string &adresse) override;
+    void ProgrammStarten(const std::string &name) override;
+    void FokusAufLeinwand() override;
     std::string Desktopordner() const override;
     std::vector<std::string> Schriftarten() const override;
 
@@ -49,11 +57,13 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     QtUhr uhr_;
     QtDrucker drucker_;
     LeinwandFläche leinwand_;
+    QtBilder bilder_{leinwand_};
     frmMain haupt_;
     Arbeitsflaeche *fläche_;
     Menüs menüs_;
     Werkzeugpalette *palette_ = nullptr; ///< not before the first picture
     std::vector<std::function<void()>> nachErstemBild_;
+    std::map<std::string, QTimer *> zeitgeber_;
     bool auffrischungSteht_ = false; ///< a refresh waits for the end of the event
 };
 

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDate>
+#include <QDir>
 #include <QLocale>
 #include <QPageLayout>
 #include <QPrinter>
@@ -108,6 +109,13 @@ void QtDrucker::Drucken(const Druckauftrag &auftrag) {
 std::string EinstellungsDateiDesBenutzers() {
     const QString konfig = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
     return EinstellungsDatei(QCoreApplication::applicationDirPath().toStdString(), konfig.toStdString() + "/kinwright");
+}
+
+std::string Hilfeordner() {
+    const QDir programm(QCoreApplication::applicationDirPath());
+    const QString daneben = programm.filePath(QStringLiteral("help"));
+    if (QDir(daneben).exists()) return daneben.toStdString();
+    return QDir::cleanPath(programm.filePath(QStringLiteral("../share/kinwright/help"))).toStdString();
 }
 
 } // namespace kw

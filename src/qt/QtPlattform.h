@@ -50,4 +50,7 @@ Datumsfolge FolgeAus(const std::string &datumsformat);
 /// The settings file of this user on this machine.
 std::string EinstellungsDateiDesBenutzers();
 
+/// Where the manual stands: beside the program, or where an installation puts it. Without a closing "/".
+std::string Hilfeordner();
+
 } // namespace kw

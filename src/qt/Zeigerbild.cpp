@@ -69,6 +69,7 @@ QCursor Zeigerbild(Mauszeiger zeiger, double pixelverhältnis) {
     case Mauszeiger::Verschieben: return Qt::SizeAllCursor;
     case Mauszeiger::Person: return Gezeichnet(Büste(), pixelverhältnis);
     case Mauszeiger::Textfeld: return Gezeichnet(Textkasten(), pixelverhältnis);
+    case Mauszeiger::Kreuz: return Qt::CrossCursor;
     default: return Qt::ArrowCursor;
     }
 }

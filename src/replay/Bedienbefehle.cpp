@@ -77,7 +77,7 @@ constexpr Wahlliste Wahllisten[] = {
     {"cboBildGröße", [](frmMain &h) -> const Auswahlliste & { return h.bereich.cboBildGröße; },
      [](frmMain &h, int i) { h.bereich.ZoomWählen(i); }},
     {"cboRaster", [](frmMain &h) -> const Auswahlliste & { return h.cboRaster; },
-     [](frmMain &h, int i) { h.RasterWählen(i); }},
+     [](frmMain &h, int i) { h.anzeige.RasterWählen(i); }},
 };
 
 void Wählen(Wiedergabe &lauf, const std::string &name, const std::string &index) {
@@ -91,7 +91,7 @@ void Wählen(Wiedergabe &lauf, const std::string &name, const std::string &index
 }
 
 void ZeitgeberAuslösen(Programm &p, const std::string &name) {
-    constexpr std::string_view Bekannt[] = {"Timer2", "Timer3", "Timer4"};
+    constexpr std::string_view Bekannt[] = {"Timer2", "Timer3", "Timer4", "Timer5", "tmrLanguage", "tmrToolTipp"};
     const auto gestartet = std::erase_if(p.benutzer.ZeitgeberListe, [&](const auto &z) { return z.Name == name; });
     if (gestartet == 0 && std::find(std::begin(Bekannt), std::end(Bekannt), name) == std::end(Bekannt))
         throw Skriptfehler("unknown timer: " + name);
@@ -111,6 +111,14 @@ void Warten(Programm &p, int ms) {
     b.Jetzt = ende;
 }
 
+void Ablegen(Wiedergabe &lauf, const Wörter &w) {
+    frmMain &haupt = lauf.Läuft().haupt;
+    const int zeile = Zahl(Wort(w, 1));
+    if (zeile < 0 || zeile >= static_cast<int>(haupt.import.Listenzeilen.size()))
+        throw Skriptfehler("no such row: " + w[1]);
+    haupt.ImportzeileAblegen(zeile, Dezimalzahl(Wort(w, 2)), Dezimalzahl(Wort(w, 3)));
+}
+
 constexpr Skriptbefehl Tabelle[] = {
     {"tool", [](auto &lauf, auto &w, auto &) { WerkzeugWählen(lauf, Wort(w, 1)); }},
     {"press", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
@@ -121,6 +129,8 @@ constexpr Skriptbefehl Tabelle[] = {
     {"popup", [](auto &lauf, auto &w, auto &) { MenüwahlVormerken(lauf, Wort(w, 1)); }},
     {"answer", [](auto &lauf, auto &w, auto &) { Beantworten(lauf, w); }},
     {"pick", [](auto &lauf, auto &w, auto &) { Wählen(lauf, Wort(w, 1), Wort(w, 2)); }},
+    {"hover", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt.PaletteBerührt(Zahl(Wort(w, 1))); }},
+    {"drop", [](auto &lauf, auto &w, auto &) { Ablegen(lauf, w); }},
     {"resize",
      [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
     {"close", [](auto &lauf, auto &, auto &) { lauf.aus << (lauf.Läuft().haupt.Schließen() ? "closed\n" : "open\n"); }},

@@ -42,6 +42,8 @@ void Namen::Leinwandnamen(Leinwandlage &l) {
         {"NeuY", Von(l.NeuY)},
         {"LinieVerschoben", Von(l.LinieVerschoben)},
         {"BildAuswahl", Von(l.BildAuswahl)},
+        {"bAuswahlBildAktiv", Von(l.BildAuswahl)},
+        {"bAuswahlInDatei", Von(l.bAuswahlInDatei)},
         {"Gedrückt", Von(l.Gedrückt)},
         {"PfeilArt", Von(l.PfeilArt)},
         {"PfeilEndeX", Von(l.PfeilEndeX)},

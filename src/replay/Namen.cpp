@@ -26,8 +26,9 @@ void Namen::Programmnamen(frmMain &h) {
         {"Kommandozeile", Von(h.Kommandozeile)},
         {"title", Von(h.projekt.Titel)},
         {"Geändert", Von(h.projekt.Geändert)},
+        {"ImportModus", Von(h.projekt.ImportModus)},
         {"SpeichernAbgebrochen", Von(h.projekt.SpeichernAbgebrochen)},
-        {"DruckerVorhanden", Von(h.DruckerVorhanden)},
+        {"DruckerVorhanden", Von(h.druck.DruckerVorhanden)},
         {"LetzterPfad", Von(h.einstellungen.LetzterPfad)},
         {"stdfontname", Von(h.einstellungen.stdfontname)},
         {"stdfont_s", Von(h.einstellungen.stdfont_s)},
@@ -76,6 +77,7 @@ void Namen::Dokumentnamen(frmMain &h) {
                    {"lstMovedText", &h.auswahl.lstMovedText},
                    {"lstMovedKreisLinien", &h.auswahl.lstMovedKreisLinien},
                    {"lstMovedPfeile", &h.auswahl.lstMovedPfeile},
+                   {"cboTextDateizeilen", &h.import.cboTextDateizeilen},
                    {"lstLegende", &h.legende.lstLegende},
                    {"ZA_Personen", &h.ablage.ZA_Personen},
                    {"ZA_PLines", &h.ablage.ZA_PLines},
@@ -123,7 +125,7 @@ void Namen::Auswahllisten(frmMain &h) {
     }
     // These two apply a choice at once.
     Variablen["cboBildGröße.index"].Setzen = [&h](const std::string &text) { h.bereich.ZoomWählen(Ganzzahl(text)); };
-    Variablen["cboRaster.index"].Setzen = [&h](const std::string &text) { h.RasterWählen(Ganzzahl(text)); };
+    Variablen["cboRaster.index"].Setzen = [&h](const std::string &text) { h.anzeige.RasterWählen(Ganzzahl(text)); };
     Listen["cboBildGr_e"] = Listen["cboBildGröße"];
     Variablen["cboBildGr_e.index"] = Variablen["cboBildGröße.index"];
 }

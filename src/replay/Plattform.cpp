@@ -2,10 +2,12 @@
 
 #include "app/Befehle.h"
 #include "commands/Menuetafel.h"
+#include "document/Dateien.h"
 #include "document/Zahlen.h"
 #include "replay/Aufzeichnung.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace kw {
 
@@ -125,8 +127,29 @@ void DrehbuchDrucker::Drucken(const Druckauftrag &auftrag) {
     if (!name) return;
     Aufzeichnung papier;
     auftrag.Zeichnen(papier);
-    Wirkungen += "job " + *name + (lage_ == 1 ? " | portrait | " : " | landscape | ") +
-                 (auftrag.Farbig ? "colour" : "mono") + "\n";
+    wirkungen_ += "job " + *name + (lage_ == 1 ? " | portrait | " : " | landscape | ") +
+                  (auftrag.Farbig ? "colour" : "mono") + "\n";
 }
+
+bool DrehbuchBilder::Schreiben(const std::string &datei, const std::string &art,
+                               const std::optional<Bildausschnitt> &ausschnitt) {
+    const auto pixel = [](double twips) { return std::to_string(std::lround(twips / TwipsJePixel)); };
+    const std::string größe = pixel(ausschnitt ? ausschnitt->Width : canvas_.Width()) + "x" +
+                              pixel(ausschnitt ? ausschnitt->Height : canvas_.Height());
+    if (datei != "clipboard" && !DateiSchreiben(datei, art + " " + größe).Gelungen()) return false;
+    wirkungen_ += "image " + datei + " | " + art + " | " + größe + "\n";
+    return true;
+}
+
+bool DrehbuchBilder::SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) {
+    return Schreiben(datei, "bmp", ausschnitt);
+}
+
+int DrehbuchBilder::AlsJpeg(const std::string &datei, unsigned char quality) {
+    constexpr int AllgemeinerFehler = 1;
+    return Schreiben(datei, "jpeg " + std::to_string(quality), std::nullopt) ? 0 : AllgemeinerFehler;
+}
+
+void DrehbuchBilder::InZwischenablage(const Bildausschnitt &ausschnitt) { Schreiben("clipboard", "bmp", ausschnitt); }
 
 } // namespace kw

@@ -2,13 +2,16 @@
 
 #include "platform/Bedienelemente.h"
 #include "platform/Benutzer.h"
+#include "platform/Bilder.h"
 #include "platform/Drucker.h"
 #include "platform/Uhr.h"
+#include "rendering/Zeichenflaeche.h"
 #include "replay/Formularspiel.h"
 
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -18,7 +21,7 @@ namespace kw {
 /// A user who does what the script says: answers wait in a strict queue.
 class DrehbuchBenutzer : public Benutzer {
   public:
-    explicit DrehbuchBenutzer(std::ostream &aus) : aus_(aus) {}
+    DrehbuchBenutzer(std::ostream &aus, std::string &wirkungen) : aus_(aus), wirkungen_(wirkungen) {}
 
     struct Vorbereitet {
         enum class Art { Knopf, Datei, Farbwert }; ///< of a box, a file dialog, a colour dialog
@@ -54,6 +57,9 @@ class DrehbuchBenutzer : public Benutzer {
     void NachErstemBild(std::function<void()> arbeit) override { arbeit(); }
     void AnzeigeAuffrischen() override {}
     void FensterSchließen() override { SchließenVerlangt = true; }
+    void AdresseÖffnen(const std::string &adresse) override { wirkungen_ += "address " + adresse + "\n"; }
+    void ProgrammStarten(const std::string &name) override { wirkungen_ += "program " + name + "\n"; }
+    void FokusAufLeinwand() override {}
     std::string Desktopordner() const override { return "/home/user/Desktop/"; }
     std::vector<std::string> Schriftarten() const override { return {"Arial", "Courier New", "Times New Roman"}; }
 
@@ -65,6 +71,7 @@ class DrehbuchBenutzer : public Benutzer {
     template <typename Passt> std::optional<Vorbereitet> Nächste(const std::string &titel, Passt passt);
 
     std::ostream &aus_;
+    std::string &wirkungen_;
 };
 
 class DrehbuchUhr : public Uhr {
@@ -78,6 +85,8 @@ class DrehbuchUhr : public Uhr {
 
 class DrehbuchDrucker : public Drucker {
   public:
+    explicit DrehbuchDrucker(std::string &wirkungen) : wirkungen_(wirkungen) {}
+
     std::vector<std::string> Namen;
     Druckränder Rand{0.4, 0.4, 0.4, 0.4};
 
@@ -91,11 +100,26 @@ class DrehbuchDrucker : public Drucker {
     void OrientationSetzen(int lage) override { lage_ = lage; }
     void Drucken(const Druckauftrag &auftrag) override;
 
-    std::string Wirkungen; ///< jobs since they were last asked for, a line each
-
   private:
+    std::string &wirkungen_;
     size_t gewählt_ = 0;
     int lage_ = 1;
+};
+
+/// Pictures of the canvas, of which only what becomes of them is told. Files are written, without a picture in them.
+class DrehbuchBilder : public Bilder {
+  public:
+    DrehbuchBilder(const Zeichenfläche &canvas, std::string &wirkungen) : canvas_(canvas), wirkungen_(wirkungen) {}
+
+    bool SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) override;
+    int AlsJpeg(const std::string &datei, unsigned char quality) override;
+    void InZwischenablage(const Bildausschnitt &ausschnitt) override;
+
+  private:
+    bool Schreiben(const std::string &datei, const std::string &art, const std::optional<Bildausschnitt> &ausschnitt);
+
+    const Zeichenfläche &canvas_;
+    std::string &wirkungen_;
 };
 
 } // namespace kw

@@ -67,7 +67,7 @@ void PlattformEinrichten(Programm &p, Angaben &angaben) {
 } // namespace
 
 Programm::Programm(std::ostream &aus, const Startangaben &start)
-    : benutzer(aus), haupt({benutzer, drucker, uhr}, leinwand, start) {
+    : benutzer(aus, wirkungen), haupt({benutzer, drucker, bilder, uhr}, leinwand, start) {
     benutzer.bedienung = &haupt.bedienung;
 }
 
@@ -124,6 +124,10 @@ void Wiedergabe::Starten(const Wörter &w) {
     Startangaben start;
     start.Kommandozeile = angaben["cmd"];
     start.IniDatei = angaben.contains("ini") ? angaben["ini"] : ordner_ + "/prog" + std::to_string(++starts_) + ".ini";
+    // The program stands beside settings that a script names, else where the script runs.
+    start.Programmordner = std::filesystem::path(angaben["ini"]).parent_path().string();
+    if (start.Programmordner.empty()) start.Programmordner = ".";
+    start.Hilfeordner = "/usr/share/kinwright/help";
     start.BildschirmBreite = Zahl(Wort(bild, 0)) * TwipsJePixel;
     start.BildschirmHöhe = Zahl(Wort(bild, 1)) * TwipsJePixel;
     programm_ = std::make_unique<Programm>(aus, start);

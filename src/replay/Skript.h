@@ -18,10 +18,12 @@ namespace kw {
 struct Programm {
     Programm(std::ostream &aus, const Startangaben &start);
 
+    std::string wirkungen; ///< what went outside since it was last asked for, a line each
     DrehbuchBenutzer benutzer;
-    DrehbuchDrucker drucker;
+    DrehbuchDrucker drucker{wirkungen};
     DrehbuchUhr uhr;
     Aufzeichnung leinwand;
+    DrehbuchBilder bilder{leinwand, wirkungen};
     frmMain haupt;
     Namen namen{haupt};
     Altersberechnung alter{uhr};

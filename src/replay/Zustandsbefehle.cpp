@@ -72,7 +72,7 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
         return;
     }
     if (name == "effects") {
-        lauf.aus << std::exchange(p.drucker.Wirkungen, {});
+        lauf.aus << std::exchange(p.wirkungen, {});
         return;
     }
     if (name == "shape") {

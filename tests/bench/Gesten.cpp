@@ -18,7 +18,8 @@ namespace {
 
 /// A window with a document of `n` persons.
 struct Sitzung {
-    explicit Sitzung(benchmark::State &lauf) : haupt({benutzer, drucker, uhr}, leinwand, {"", "", 28800, 16200}) {
+    explicit Sitzung(benchmark::State &lauf)
+        : haupt({benutzer, drucker, bilder, uhr}, leinwand, {"", "", "", "", 28800, 16200}) {
         haupt.Laden();
         haupt.dokument = Familien(static_cast<int>(lauf.range(0)));
         haupt.Vorschau();
@@ -33,10 +34,12 @@ struct Sitzung {
     void HälfteWählen() { Ziehen(0.2, 0.2, 14.8, 20.8); }
 
     std::ostringstream aus;
-    DrehbuchBenutzer benutzer{aus};
-    DrehbuchDrucker drucker;
+    std::string wirkungen;
+    DrehbuchBenutzer benutzer{aus, wirkungen};
+    DrehbuchDrucker drucker{wirkungen};
     DrehbuchUhr uhr;
     Aufzeichnung leinwand;
+    DrehbuchBilder bilder{leinwand, wirkungen};
     frmMain haupt;
 };
 

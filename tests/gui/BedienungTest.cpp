@@ -81,11 +81,14 @@ class Bedienung : public testing::Test {
     double Person(int feld) { return ZahlLesen(Felder(haupt.dokument.cboPersonen.Satz(0))[feld]); }
 
     std::ostringstream aus;
-    DrehbuchBenutzer benutzer{aus};
-    DrehbuchDrucker drucker;
+    std::string wirkungen;
+    DrehbuchBenutzer benutzer{aus, wirkungen};
+    DrehbuchDrucker drucker{wirkungen};
     DrehbuchUhr uhr;
     Zählleinwand leinwand;
-    frmMain haupt{{benutzer, drucker, uhr}, leinwand, {"", "/nonexistent/prog.ini", 1920 * 15, 1080 * 15}};
+    DrehbuchBilder dateien{leinwand, wirkungen};
+    frmMain haupt{
+        {benutzer, drucker, dateien, uhr}, leinwand, {"", "/nonexistent/prog.ini", "", "", 1920 * 15, 1080 * 15}};
     Arbeitsflaeche fläche{leinwand};
 };
 
@@ -256,7 +259,7 @@ TEST_F(Bedienung, MenüsZeigenNurWasGeht) {
     while (!offen.isEmpty()) {
         QAction *aktion = offen.takeFirst();
         if (aktion->menu()) offen += aktion->menu()->actions();
-        const bool bekannt = BefehlFinden(aktion->data().toString().toStdString()) != nullptr;
+        const auto bekannt = static_cast<bool>(BefehlFinden(aktion->data().toString().toStdString()));
         EXPECT_TRUE(aktion->menu() || aktion->isSeparator() || bekannt) << aktion->text().toStdString();
         if (aktion->shortcut() == QKeySequence(Qt::Key_Delete)) löschen = aktion;
     }

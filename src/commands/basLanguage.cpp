@@ -1,0 +1,38 @@
+#include "commands/basLanguage.h"
+
+#include "commands/Menuetafel.h"
+
+#include <string>
+
+namespace kw {
+
+namespace {
+
+constexpr std::string_view Rändertipp = "btnBlattränder";
+
+void Beschriften(Bedienelemente &elemente, std::string_view Menüzeile::*sprache, std::string_view deviceName) {
+    for (const Menüzeile &zeile : Menütafel()) elemente[zeile.Name].Caption = zeile.*sprache;
+    elemente[Rändertipp].Caption += deviceName;
+}
+
+} // namespace
+
+void MenuesDeutsch(Bedienelemente &elemente, std::string_view deviceName) {
+    Beschriften(elemente, &Menüzeile::Deutsch, deviceName);
+}
+
+void MenuesEnglisch(Bedienelemente &elemente, std::string_view deviceName) {
+    Beschriften(elemente, &Menüzeile::Englisch, deviceName);
+}
+
+void MenuesBeschriften(Bedienelemente &elemente, std::string_view sprache, std::string_view deviceName) {
+    if (sprache == "de") MenuesDeutsch(elemente, deviceName);
+    else MenuesEnglisch(elemente, deviceName);
+}
+
+void RänderknopfBeschriften(Bedienelemente &elemente, std::string_view sprache, std::string_view deviceName) {
+    const Menüzeile &zeile = *MenüzeileFinden(Rändertipp);
+    elemente[Rändertipp].Caption = std::string(sprache == "de" ? zeile.Deutsch : zeile.Englisch).append(deviceName);
+}
+
+} // namespace kw

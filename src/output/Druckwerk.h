@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/Bedienelemente.h"
+#include "platform/Benutzer.h"
+#include "platform/Drucker.h"
+#include "rendering/Zeichnung.h"
+
+#include <string>
+
+namespace kw {
+
+/// Printing, and the frame of what the printer can't reach. Owned by the main window; knows nothing of files.
+class Druckwerk {
+  public:
+    Druckwerk(Drucker &drucker, Benutzer &benutzer, Ansicht &ansicht, Bedienelemente &bedienung)
+        : drucker_(drucker), benutzer_(benutzer), ansicht_(ansicht), bedienung_(bedienung) {}
+
+    /// Whether printer data could be read at the start.
+    bool DruckerVorhanden = false;
+    std::string DefaultPrinter; ///< its name, whose margins are meant; empty without one
+
+    /// Asks for the default printer, and for its margins when there is one.
+    void Ermitteln();
+    /// Shows or hides the margins' frame; without printer data it says why it can't. True when the canvas is to be
+    /// drawn anew.
+    bool RänderUmschalten();
+    /// Tells the four margins in millimetres. In German in both languages. Meant.
+    void DruckrandBericht();
+
+    /// One print run of the document on the current printer: one job, of that title. What fails ends the run silently.
+    void GenogrammDrucken(Zeichnung bild, const std::string &titel);
+    /// Makes the printer that writes PDF the current one, which it stays; says so when there is none. False then.
+    bool PdfDruckerWählen();
+
+  private:
+    bool IstDeutsch() const { return ansicht_.Sprache == "de"; }
+    void Druck_Raender();
+    void Warnen(const std::string &titel, const std::string &text);
+
+    Drucker &drucker_;
+    Benutzer &benutzer_;
+    Ansicht &ansicht_;
+    Bedienelemente &bedienung_;
+};
+
+} // namespace kw

@@ -1,0 +1,67 @@
+#include "output/basBildExport.h"
+
+#include "document/Dateien.h"
+
+namespace kw {
+
+namespace {
+
+constexpr unsigned char BesteQualität = 100;
+
+} // namespace
+
+void JpegSpeichern(Bilder &bilder, const std::string &datei, unsigned char quality) {
+    if (const int status = bilder.AlsJpeg(datei, quality); status != 0)
+        throw Bildfehler("Speicherung des Bildes fehlgeschlagen. GDI+ Error:" + std::to_string(status));
+}
+
+std::optional<std::string> Bildexport::DateiWählen(const std::string &titel, const std::string &projektdatei) {
+    std::string ordner = Pfad(projektdatei);
+    if (ordner.empty()) ordner = benutzer_.Desktopordner();
+    const Dateiwahl wahl{titel, NameOhneKennung(DateiName(projektdatei)), "Bitmap  (*.bmp)|*.bmp", ordner};
+    while (true) {
+        const auto datei = benutzer_.DateiSpeichern(wahl);
+        if (!datei || !DateiVorhanden(*datei)) return datei;
+        const std::string frage = IstDeutsch()
+                                      ? "Die Datei " + *datei + " besteht bereits. \nMöchten Sie sie ersetzen ?"
+                                      : "The file " + *datei + " already exists. \nDo you want to replace it?";
+        if (benutzer_.Fragen({"Kinwright", frage, Knöpfe::JaNein, Zeichen::Warnung}) == Antwort::Ja) return datei;
+    }
+}
+
+void Bildexport::SeiteExportieren(const std::string &projektdatei) {
+    const auto datei = DateiWählen(IstDeutsch() ? "Genogramm als Bilddatei speichern unter ..."
+                                                : "Export genogram as image file as ...",
+                                   projektdatei);
+    if (!datei) return;
+    const int zoom = bereich_.cboBildGröße.ListIndex;
+    bereich_.ZoomWählen(bereich_.cboBildGröße.Anzahl() - 1);
+    try {
+        if (Kennung(DateiName(*datei)) != "bmp") JpegSpeichern(bilder_, *datei, BesteQualität);
+        else if (!bilder_.SavePicture(*datei, std::nullopt)) return;
+    } catch (const Bildfehler &) {
+        return;
+    }
+    bereich_.ZoomWählen(zoom);
+}
+
+Bildausschnitt Bildexport::InTwips(const Bildausschnitt &cm) const {
+    const double twips = ansicht_.Skalierung * TwipsJeCm;
+    return {cm.Left * twips, cm.Top * twips, cm.Width * twips, cm.Height * twips};
+}
+
+void Bildexport::AusschnittSpeichern(const Bildausschnitt &cm, const std::string &projektdatei) {
+    const auto datei =
+        DateiWählen(IstDeutsch() ? "Auswahl als Bilddatei speichern" : "Export selection as image file", projektdatei);
+    if (datei) bilder_.SavePicture(*datei, InTwips(cm));
+}
+
+void Bildexport::AusschnittKopieren(const Bildausschnitt &cm) {
+    bilder_.InZwischenablage(InTwips(cm));
+    benutzer_.Fragen({"Info",
+                      IstDeutsch() ? "Der gewählte Bildausschnitt wurde in die Zwischnablage kopiert!"
+                                   : "The selected image section has been copied to the clipboard!",
+                      Knöpfe::Ok, Zeichen::Information});
+}
+
+} // namespace kw

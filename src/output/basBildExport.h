@@ -1,0 +1,49 @@
+#pragma once
+
+#include "output/basDruckVorschau.h"
+#include "platform/Benutzer.h"
+#include "platform/Bilder.h"
+
+#include <stdexcept>
+#include <string>
+
+namespace kw {
+
+/// The encoder couldn't write a picture.
+class Bildfehler : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Writes the canvas's picture as JPEG, `quality` 0 to 100. Throws `Bildfehler`, whose text is German in both
+/// languages.
+void JpegSpeichern(Bilder &bilder, const std::string &datei, unsigned char quality);
+
+/// The page, or a part of it, as a picture: the very pixels of the canvas. Owned by the main window.
+class Bildexport {
+  public:
+    Bildexport(Benutzer &benutzer, Bilder &bilder, Arbeitsbereich &bereich, const Ansicht &ansicht)
+        : benutzer_(benutzer), bilder_(bilder), bereich_(bereich), ansicht_(ansicht) {}
+
+    /// Asks for a file and writes the page as it looks at the greatest zoom. A name that ends in ".bmp", in small
+    /// letters, gives a bitmap, any other a JPEG whatever it says. Meant. Says nothing when the picture can't be
+    /// written; the zoom then stays where it is. Meant.
+    void SeiteExportieren(const std::string &projektdatei);
+    /// Asks for a file and writes a region of the page, in the canvas's centimetres, as it looks now: always a
+    /// bitmap, whatever the name says. Meant.
+    void AusschnittSpeichern(const Bildausschnitt &cm, const std::string &projektdatei);
+    /// Puts the region on the clipboard and says so.
+    void AusschnittKopieren(const Bildausschnitt &cm);
+
+  private:
+    bool IstDeutsch() const { return ansicht_.Sprache == "de"; }
+    Bildausschnitt InTwips(const Bildausschnitt &cm) const;
+    std::optional<std::string> DateiWählen(const std::string &titel, const std::string &projektdatei);
+
+    Benutzer &benutzer_;
+    Bilder &bilder_;
+    Arbeitsbereich &bereich_;
+    const Ansicht &ansicht_;
+};
+
+} // namespace kw

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace kw {
+
+/// A part of the canvas's picture, in twips from its corner.
+struct Bildausschnitt {
+    double Left = 0;
+    double Top = 0;
+    double Width = 0;
+    double Height = 0;
+};
+
+/// What the program does with the picture that the canvas keeps, in the resolution in which it is kept. No file is
+/// touched unless the whole picture could be written.
+class Bilder {
+  public:
+    virtual ~Bilder() = default;
+    /// Writes the picture, or a part of it, as an uncompressed bitmap. False when it can't be written.
+    virtual bool SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) = 0;
+    /// Writes the picture as JPEG. `quality` is 0 to 100. 0 on success, else a status of the encoder's.
+    virtual int AlsJpeg(const std::string &datei, unsigned char quality) = 0;
+    /// Replaces what is on the clipboard by that part of the picture.
+    virtual void InZwischenablage(const Bildausschnitt &ausschnitt) = 0;
+};
+
+} // namespace kw

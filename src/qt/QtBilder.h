@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/Bilder.h"
+
+#include <QImage>
+
+namespace kw {
+
+class LeinwandFläche;
+
+/// The canvas's kept picture as files and on the clipboard, in the resolution that it is kept in.
+class QtBilder : public Bilder {
+  public:
+    explicit QtBilder(const LeinwandFläche &leinwand) : leinwand_(leinwand) {}
+
+    bool SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) override;
+    int AlsJpeg(const std::string &datei, unsigned char quality) override;
+    /// Offered as PNG and as bitmap.
+    void InZwischenablage(const Bildausschnitt &ausschnitt) override;
+
+  private:
+    QImage Ausschnitt(const Bildausschnitt &ausschnitt) const;
+
+    const LeinwandFläche &leinwand_;
+};
+
+} // namespace kw
