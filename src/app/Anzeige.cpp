@@ -83,9 +83,9 @@ void Anzeige::SeiteZeigen() {
 
 void Anzeige::ZoomZeigen() {
     frmMain &h = haupt_;
-    const std::string zoom = ZahlSchreiben(ZahlLesen(h.bereich.cboBildGröße.Text())) + "%";
+    const std::string zoom = h.bereich.cboBildGröße.Text();
     h.bedienung["btnZoom"].Caption = zoom;
-    h.bedienung.NurAnkreuzen("keyZoom", "keyZoom" + zoom.substr(0, zoom.size() - 1));
+    h.bedienung.NurAnkreuzen("keyZoom", "keyZoom" + ZahlSchreiben(ZahlLesen(zoom)));
     h.bedienung["btnBildGrößer"].Enabled = h.bereich.KannVergrößern();
     h.bedienung["btnBildKleiner"].Enabled = h.bereich.KannVerkleinern();
 }

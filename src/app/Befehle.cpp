@@ -214,6 +214,7 @@ constexpr Reihe Reihen[] = {
 };
 
 Befehl AusReihe(std::string_view name) {
+    if (!MenüzeileFinden(name)) return {};
     for (const Reihe &reihe : Reihen) {
         if (!name.starts_with(reihe.Anfang) || !name.ends_with(reihe.Ende)) continue;
         const int nummer = Ganzzahl16(ZahlLesen(name.substr(reihe.Anfang.size())));

@@ -66,8 +66,7 @@ void Datenimport::Startaufruf() {
         std::string datei = h.start.Kommandozeile;
         std::erase(datei, '"');
         h.projekt.DokumentLeeren();
-        h.projekt.Projektdatei = datei;
-        h.projekt.ProjektLaden();
+        h.projekt.Öffnen(datei);
     }
 }
 
@@ -114,7 +113,6 @@ void Datenimport::ListeUmschalten() {
 
 void Datenimport::Ablegen(int zeile, double x, double y) {
     if (zeile < 0 || zeile >= static_cast<int>(Listenzeilen.size())) return;
-    haupt_.leinwand.GesteAbbrechen();
     haupt_.lage.MausX = x;
     haupt_.lage.MausY = y;
     haupt_.lage.Aktion = AktionPersonSetzen;

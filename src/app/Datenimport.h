@@ -30,7 +30,8 @@ class Datenimport {
     /// Fills the list from the lines and shows its panel.
     void ListeFüllen();
     void ListeUmschalten();
-    /// A line of the list, from 0, dropped on the page: one person there. Other rows do nothing.
+    /// A line of the list, from 0, dropped on the page, where nothing is selected: one person there. Other rows do
+    /// nothing.
     void Ablegen(int zeile, double x, double y);
 
   private:

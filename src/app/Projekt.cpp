@@ -147,7 +147,7 @@ bool Projekt::ProjektNeu() {
     frmMain &h = haupt_;
     SpeichernAbgebrochen = false;
     const bool gefragt = Geändert;
-    if (!NachÄnderungenFragen()) return false;
+    if (!NachÄnderungenFragen()) return false; // also when the saving was given up: nothing has happened then
     if (gefragt) h.UndoKnöpfeSperren();
     DokumentLeeren();
     Projektdatei.clear();

@@ -169,6 +169,8 @@ void frmMain::DblClick(double x, double y) {
 }
 
 void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
+    leinwand.GesteAbbrechen();
+    NichtsAuswählen();
     import.Ablegen(zeile, x, y);
     NachEreignis();
 }
@@ -226,7 +228,7 @@ void frmMain::PdfErzeugen() {
 }
 
 void frmMain::AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) {
-    if (inDatei) bildexport.AusschnittSpeichern(cm, projekt.Projektdatei);
+    if (inDatei) bildexport.AuswahlAlsBildSpeichern(cm, projekt.Projektdatei);
     else bildexport.AusschnittKopieren(cm);
 }
 

@@ -11,7 +11,7 @@ namespace {
 constexpr bool Gesperrt = false;  // as Enabled
 constexpr bool Versteckt = false; // as Visible
 
-// Captions are as they were given, with their blanks and mnemonics.
+// Blanks at the ends of captions are part of them; menus show them trimmed.
 constexpr Menüzeile Tafel[] = {
     {"mnuDatei", Menüleiste, "Datei", "File"},
     {"mnuNeu", "mnuDatei", "&Neu", "New", "Ctrl+N"},
@@ -180,7 +180,7 @@ constexpr Menüzeile Tafel[] = {
     {"keyDINA4", "btnPapier", "DIN A4", "DIN A4"},
     {"keyDINA5", "btnPapier", "DIN A5", "DIN A5"},
     {"keyUSLetter", "btnPapier", "US Letter", "US Letter"},
-    {"btnZoom", Werkzeugband, "", ""},
+    {"btnZoom", Werkzeugband, "Zoom", "Zoom"},
     {"keyZoom80", "btnZoom", "80%", "80%"},
     {"keyZoom90", "btnZoom", "90%", "90%"},
     {"keyZoom100", "btnZoom", "100%", "100%"},
@@ -202,7 +202,7 @@ constexpr Menüzeile Tafel[] = {
     {"btnBildGrößer", Werkzeugband, "Vergrößern", "Zoom In"},
     {"btnBildKleiner", Werkzeugband, "Verkleinern", "Zoom Out"},
     {"btnWerkzeugleiste", Werkzeugband, "Werkzeugleiste", "Toolbar"},
-    {"btnLegende", Werkzeugband, "Legende anzeigen", "Show Legend"},
+    {"btnLegende", Werkzeugband, "Legende", "Legend"},
     {"btnFarbschema", Werkzeugband, "Farbschema", "Color Scheme"},
     {"keySchwarzweiß", "btnFarbschema", "Monochrom", "Monochrome"},
     {"keyGraustufen", "btnFarbschema", "Graustufen", "Grayscale"},
@@ -251,6 +251,10 @@ const Menüzeile *MenüzeileFinden(std::string_view name) {
     return zeile == std::end(Tafel) ? nullptr : &*zeile;
 }
 
+bool IstMenü(const Menüzeile &zeile) {
+    return std::any_of(std::begin(Tafel), std::end(Tafel), [&](const Menüzeile &z) { return z.Menü == zeile.Name; });
+}
+
 bool GehörtZu(std::string_view name, std::string_view menü) {
     for (const Menüzeile *z = MenüzeileFinden(name); z; z = MenüzeileFinden(z->Menü))
         if (z->Menü == menü) return true;
@@ -258,7 +262,8 @@ bool GehörtZu(std::string_view name, std::string_view menü) {
 }
 
 void BedienelementeAnlegen(Bedienelemente &elemente) {
-    for (const Menüzeile &z : Tafel) elemente.Anlegen(z.Name, {std::string(z.Englisch), z.Enabled, z.Visible, false});
+    for (const Menüzeile &z : Tafel)
+        elemente.Anlegen(z.Name, {std::string(z.Englisch), "", z.Enabled, z.Visible, false});
 }
 
 } // namespace kw

@@ -23,7 +23,7 @@ struct Menüzeile {
 /// Groups of rows that are no menus.
 inline constexpr std::string_view Menüleiste = "Menüleiste";   ///< top entries, in their order
 inline constexpr std::string_view Kontextmenü = "Kontextmenü"; ///< popups; no caption
-inline constexpr std::string_view Werkzeugband = "Coolbar1";   ///< toolbar items, caption is the tool tip
+inline constexpr std::string_view Werkzeugband = "Coolbar1";   ///< toolbar items, caption the tool tip, at first
 inline constexpr std::string_view Palette = "frmToolbar";      ///< palette buttons, caption is the tool's name
 inline constexpr std::string_view Fensterteile = "frmMain";    ///< what else stands in the window
 
@@ -34,6 +34,8 @@ inline constexpr std::string_view Trennstrich = "-";
 std::span<const Menüzeile> Menütafel();
 /// The row of that name, or nothing.
 const Menüzeile *MenüzeileFinden(std::string_view name);
+/// Whether other rows stand in this one.
+bool IstMenü(const Menüzeile &zeile);
 /// Whether the row `name` stands in `menü` or in a menu below it.
 bool GehörtZu(std::string_view name, std::string_view menü);
 

@@ -11,8 +11,13 @@ namespace {
 constexpr std::string_view Rändertipp = "btnBlattränder";
 
 void Beschriften(Bedienelemente &elemente, std::string_view Menüzeile::*sprache, std::string_view deviceName) {
-    for (const Menüzeile &zeile : Menütafel()) elemente[zeile.Name].Caption = zeile.*sprache;
-    elemente[Rändertipp].Caption += deviceName;
+    for (const Menüzeile &zeile : Menütafel()) {
+        Bedienelement &element = elemente[zeile.Name];
+        element.Caption = zeile.*sprache;
+        element.Tipp = zeile.Menü == Werkzeugband ? zeile.*sprache : std::string_view();
+    }
+    Bedienelement &ränder = elemente[Rändertipp];
+    ränder.Tipp = ränder.Caption.append(deviceName);
 }
 
 } // namespace
@@ -32,7 +37,9 @@ void MenuesBeschriften(Bedienelemente &elemente, std::string_view sprache, std::
 
 void RänderknopfBeschriften(Bedienelemente &elemente, std::string_view sprache, std::string_view deviceName) {
     const Menüzeile &zeile = *MenüzeileFinden(Rändertipp);
-    elemente[Rändertipp].Caption = std::string(sprache == "de" ? zeile.Deutsch : zeile.Englisch).append(deviceName);
+    Bedienelement &ränder = elemente[Rändertipp];
+    ränder.Caption = sprache == "de" ? zeile.Deutsch : zeile.Englisch;
+    ränder.Tipp = ränder.Caption.append(deviceName);
 }
 
 } // namespace kw

@@ -111,6 +111,7 @@ void Leinwand::ZugAbbrechen() {
     case AktionLegendeGefasst:
         AuswahlrahmenParken(w);
         lage.PunktListe.clear();
+        lage.BildAuswahl = false;
         lage.Aktion = AktionNichts;
         break;
     default: break;

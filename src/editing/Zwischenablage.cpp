@@ -280,6 +280,8 @@ void Einfügen(Werkbank &w) {
     if (!za.HatEtwas()) return;
     AllesUmnummern(w);
     MarkierungsListBoxenLöschen(w);
+    w.lage.BildAuswahl = false; // the copies are what is in hand now
+    w.lage.Zeiger = Mauszeiger::Pfeil;
     AuswahlrahmenParken(w);
     if (za.KopierModus == "Kopieren") AllesVersetzen(za);
     Anhängen(za.ZA_Personen, d.cboPersonen, &a.lstMovedPers, nullptr);

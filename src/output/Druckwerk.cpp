@@ -1,12 +1,12 @@
 #include "output/Druckwerk.h"
 
+#include <cmath>
 #include <cstdio>
+#include <cstdlib>
 
 namespace kw {
 
 namespace {
-
-constexpr std::string_view PdfDrucker = "Microsoft Print to PDF";
 
 constexpr const char *KeineRänderDeutsch = "Der bedruckbare Bereich kann nicht angezeigt werden,\n"
                                            "da keine Druckerinformationen vorliegen.\n"
@@ -30,10 +30,11 @@ constexpr const char *KeinPdfEnglisch =
 
 /// "4.00 mm"; below one there is no zero before the point.
 std::string InMillimetern(double cm) {
+    const long hundertstel = std::lround(cm * 1000);
+    const long ganze = std::labs(hundertstel) / 100;
     char text[32];
-    std::snprintf(text, sizeof text, "%.2f", cm * 10);
-    const std::string zahl = text;
-    return (zahl.starts_with("0.") ? zahl.substr(1) : zahl) + " mm";
+    std::snprintf(text, sizeof text, ".%02ld mm", std::labs(hundertstel) % 100);
+    return (hundertstel < 0 ? "-" : "") + (ganze ? std::to_string(ganze) : "") + text;
 }
 
 } // namespace
@@ -82,14 +83,14 @@ void Druckwerk::DruckrandBericht() {
 /// The page's orientation overrules the printer's own; its paper stays what the printer is set to.
 void Druckwerk::GenogrammDrucken(Zeichnung bild, const std::string &titel) {
     drucker_.OrientationSetzen(bedienung_["btnQuerformat"].Checked ? 2 : 1);
-    drucker_.Drucken({titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite, ansicht_.SeitenHöhe,
-                      [&](Zeichenfläche &papier) { DruckZeichnen(papier, bild); }});
+    drucker_.Drucken({titel.empty() ? "Kinwright" : titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite,
+                      ansicht_.SeitenHöhe, [&](Zeichenfläche &papier) { DruckZeichnen(papier, bild); }});
 }
 
 bool Druckwerk::PdfDruckerWählen() {
     bool gefunden = false;
     for (const std::string &name : drucker_.DeviceNames())
-        if (name == PdfDrucker) gefunden = drucker_.Wählen(name);
+        if (name == PdfDruckerName) gefunden = drucker_.Wählen(name);
     if (!gefunden)
         Warnen(IstDeutsch() ? "PDF kann nicht erstellt werden" : "PDF cannot be created",
                IstDeutsch() ? KeinPdfDeutsch : KeinPdfEnglisch);

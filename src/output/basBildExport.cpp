@@ -50,7 +50,7 @@ Bildausschnitt Bildexport::InTwips(const Bildausschnitt &cm) const {
     return {cm.Left * twips, cm.Top * twips, cm.Width * twips, cm.Height * twips};
 }
 
-void Bildexport::AusschnittSpeichern(const Bildausschnitt &cm, const std::string &projektdatei) {
+void Bildexport::AuswahlAlsBildSpeichern(const Bildausschnitt &cm, const std::string &projektdatei) {
     const auto datei =
         DateiWählen(IstDeutsch() ? "Auswahl als Bilddatei speichern" : "Export selection as image file", projektdatei);
     if (datei) bilder_.SavePicture(*datei, InTwips(cm));

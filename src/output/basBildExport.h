@@ -31,7 +31,7 @@ class Bildexport {
     void SeiteExportieren(const std::string &projektdatei);
     /// Asks for a file and writes a region of the page, in the canvas's centimetres, as it looks now: always a
     /// bitmap, whatever the name says. Meant.
-    void AusschnittSpeichern(const Bildausschnitt &cm, const std::string &projektdatei);
+    void AuswahlAlsBildSpeichern(const Bildausschnitt &cm, const std::string &projektdatei);
     /// Puts the region on the clipboard and says so.
     void AusschnittKopieren(const Bildausschnitt &cm);
 

@@ -8,6 +8,9 @@
 
 namespace kw {
 
+/// The printer that writes its page into a PDF file, for which it asks itself.
+constexpr std::string_view PdfDruckerName = "Microsoft Print to PDF";
+
 /// What of a sheet a printer can't reach, in cm.
 struct Druckränder {
     double Links = 0;
@@ -22,7 +25,7 @@ class Zeichenfläche;
 struct Druckauftrag {
     std::string Titel;
     bool Farbig = true;
-    double SeitenBreite = 0; ///< of the document, cm; the sheet is the printer's own
+    double SeitenBreite = 0; ///< of the document, cm; a printer's sheet is its own, that of a PDF is the page
     double SeitenHöhe = 0;
     /// Draws the page on a surface whose user units are centimetres from the corner of the printable area.
     std::function<void(Zeichenfläche &)> Zeichnen;
@@ -32,13 +35,14 @@ struct Druckauftrag {
 class Drucker {
   public:
     virtual ~Drucker() = default;
-    /// Name of the current printer, at first the default one; nothing when there is no printer.
+    /// Name of the current printer, at first the default one; nothing when there is none. The one that writes PDF
+    /// is never the default.
     virtual std::optional<std::string> DeviceName() const = 0;
     /// Margins of the default printer, in its own orientation.
     virtual Druckränder Ränder() const = 0;
     /// 1 portrait, 2 landscape, as the current printer stands.
     virtual int Orientation() const = 0;
-    /// All installed printers, in the platform's order.
+    /// All installed printers, in the platform's order, and the one that writes PDF as the last.
     virtual std::vector<std::string> DeviceNames() const = 0;
     /// Makes that printer the current one, as its own settings have it. False, and nothing changed, when there is none
     /// of that name (any more).

@@ -2,8 +2,10 @@
 
 #include "app/frmMain.h"
 #include "qt/Auflagenmaler.h"
+#include "qt/Importliste.h"
 #include "qt/Zeigerbild.h"
 
+#include <QDropEvent>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
@@ -51,6 +53,7 @@ Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand) 
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true); // rubber lines follow the pointer without a button
+    setAcceptDrops(true);
     setAccessibleName(QStringLiteral("Genogramm"));
     for (QScrollBar *leiste : {&vScroll_, &hScroll_}) {
         leiste->setFocusPolicy(Qt::NoFocus); // the keyboard keeps working on the canvas
@@ -58,6 +61,9 @@ Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand) 
         leiste->hide();
         connect(leiste, &QScrollBar::valueChanged, this, [this] { Scrollen(); });
     }
+    // Below the model's least size frame and bars would stand outside.
+    const QSize fehlt = QSize(Arbeitsbereich::KleinsteBreite, Arbeitsbereich::KleinsteHöhe) - Innengröße();
+    setMinimumSize(size() + (fehlt + QSize(TwipsJePixel - 1, TwipsJePixel - 1)) / TwipsJePixel);
 }
 
 void Arbeitsflaeche::Verbinden(frmMain &haupt, std::function<void()> erstesBild) {
@@ -108,6 +114,10 @@ QRectF Arbeitsflaeche::Seite() const {
 QPointF Arbeitsflaeche::InCm(QPointF ort) const {
     const QRectF seite = Seite();
     return (ort - seite.topLeft()) * (haupt_->ansicht.SeitenBreite / seite.width());
+}
+
+bool Arbeitsflaeche::AufSeite(QPointF ort) const {
+    return Seite().contains(ort) && ort.x() >= Pixel(haupt_->bereich.picBack.Left);
 }
 
 void Arbeitsflaeche::Scrollen() {
@@ -210,10 +220,27 @@ bool Arbeitsflaeche::Loslassen() {
     return Melden([&] { haupt_->MouseUp(Tastencode(taste), cm.x(), cm.y()); });
 }
 
+/// Every place is asked for anew, so that the pointer tells where a row of the import list can be dropped.
+void Arbeitsflaeche::dragEnterEvent(QDragEnterEvent *ereignis) {
+    if (haupt_ && GezogeneZeile(*ereignis->mimeData())) ereignis->accept();
+}
+
+void Arbeitsflaeche::dragMoveEvent(QDragMoveEvent *ereignis) {
+    const QPointF ort = ereignis->position();
+    ereignis->setAccepted(haupt_ && AufSeite(ort) && !childAt(ort.toPoint()));
+}
+
+void Arbeitsflaeche::dropEvent(QDropEvent *ereignis) {
+    const auto zeile = GezogeneZeile(*ereignis->mimeData());
+    if (!zeile || imModell_) return;
+    ereignis->accept();
+    setFocus(Qt::OtherFocusReason);
+    const QPointF cm = InCm(ereignis->position());
+    Melden([&] { haupt_->ImportzeileAblegen(*zeile, cm.x(), cm.y()); });
+}
+
 void Arbeitsflaeche::ZeigerSetzen() {
-    const QRectF rahmen = Fläche(haupt_->bereich.picBack).translated(0, -Pixel(FrameOben));
-    const bool aufSeite = Seite().contains(ort_) && ort_.x() >= rahmen.left();
-    const Mauszeiger zeiger = aufSeite ? haupt_->lage.Zeiger : Mauszeiger::Pfeil;
+    const Mauszeiger zeiger = AufSeite(ort_) ? haupt_->lage.Zeiger : Mauszeiger::Pfeil;
     if (zeiger == zeiger_ && zeigerverhältnis_ == devicePixelRatioF()) return;
     zeiger_ = zeiger;
     zeigerverhältnis_ = devicePixelRatioF();

@@ -34,11 +34,16 @@ class Arbeitsflaeche : public QWidget {
     void mouseMoveEvent(QMouseEvent *ereignis) override;
     void mouseReleaseEvent(QMouseEvent *ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent *ereignis) override;
+    void dragEnterEvent(QDragEnterEvent *ereignis) override;
+    void dragMoveEvent(QDragMoveEvent *ereignis) override;
+    void dropEvent(QDropEvent *ereignis) override;
 
   private:
     /// The page on this widget, logical pixels.
     QRectF Seite() const;
     QPointF InCm(QPointF ort) const;
+    /// Whether the page is what shows there.
+    bool AufSeite(QPointF ort) const;
     void Drücken(QMouseEvent &ereignis, const std::function<void(QPointF cm)> &melden);
     bool Loslassen();
     bool Melden(const std::function<void()> &ereignis);

@@ -1,5 +1,6 @@
 #include "qt/Aufruf.h"
 
+#include "app/Datenimport.h"
 #include "qt/Ausgabe.h"
 
 #include <charconv>
@@ -40,6 +41,10 @@ Aufruf Geprüft(Aufruf a, bool mitDpi) {
 
 Aufruf AufrufLesen(const std::vector<std::string> &worte) {
     Aufruf a;
+    if (!worte.empty() && Datenimport::IstVerlangt(worte.front())) {
+        for (const std::string &wort : worte) a.Import += (a.Import.empty() ? "" : " ") + wort;
+        return a;
+    }
     bool optionen = true;
     bool mitDpi = false;
     for (size_t i = 0; i < worte.size(); ++i) {
@@ -76,12 +81,15 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
 const char *Hilfetext() {
     return "Usage: kinwright [FILE]\n"
            "       kinwright --export OUT [--dpi N] FILE\n"
+           "       kinwright /dataimport NAME\n"
            "\n"
            "Opens the genogram editor, with the project FILE (.kwp) if one is given.\n"
            "\n"
            "  --export OUT  write the page of FILE to OUT and end; the ending of OUT says as what:\n"
            "                .pdf, .svg, .png, .jpg or .bmp. Needs no display.\n"
            "  --dpi N       dots per inch of a picture, 300 if not given\n"
+           "  /dataimport   lay out the case of the file NAME.xyz and list the persons of muster.txt, both in the\n"
+           "                program's folder; \\dataimport is the same\n"
            "  --help        show this text\n"
            "  --version     show the version\n"
            "\n"

@@ -2,6 +2,7 @@
 
 #include "document/Dateien.h"
 #include "qt/QtFlaeche.h"
+#include "qt/Text.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Seite.h"
 
@@ -19,39 +20,29 @@ namespace kw {
 
 namespace {
 
-constexpr double CmJeZoll = 2.54;
 constexpr int VektorDpi = 1200;
 constexpr double HöchstzahlPixel = 200e6; ///< 800 MB of picture; A4 at 1400 dpi
 
 /// One export: what to draw and where the bytes go.
 struct Auftrag {
-    Zeichnung &zeichnung;
+    const Druckauftrag &seite;
     int dpi;
-    QString titel;
     QByteArray inhalt;
 
-    QSizeF Millimeter() const { return QSizeF(zeichnung.ansicht.SeitenBreite, zeichnung.ansicht.SeitenHöhe) * 10; }
+    QString Titel() const { return Text(seite.Titel); }
+    QSizeF Millimeter() const { return QSizeF(seite.SeitenBreite, seite.SeitenHöhe) * 10; }
 };
 
-/// A print run on `gerät`. Empty on success.
-std::string Drucken(Auftrag &a, QPaintDevice &gerät, double geräteJeCm) {
-    QtFläche fläche;
-    const Ansicht &ansicht = a.zeichnung.ansicht;
-    const auto twips = [](double cm) { return static_cast<int>(std::lround(cm * TwipsJeCm)); };
-    fläche.GrößeSetzen(twips(ansicht.SeitenBreite), twips(ansicht.SeitenHöhe));
-    fläche.Scale(ansicht.SeitenBreite, ansicht.SeitenHöhe, 1);
-    if (!fläche.Beginnen(gerät, geräteJeCm, DruckPixelJeCm)) return "cannot draw the page";
-    // Viewers show an SVG on whatever ground they have themselves, dark ones too.
-    if (gerät.paintEngine()->type() == QPaintEngine::SVG) fläche.Cls();
-    DruckZeichnen(fläche, a.zeichnung);
-    return fläche.Beenden() ? "" : "cannot finish the page";
+/// Empty on success.
+std::string Drucken(const Auftrag &a, QPaintDevice &gerät, double geräteJeCm) {
+    return SeiteDrucken(a.seite, gerät, geräteJeCm) ? "" : "cannot draw the page";
 }
 
 std::string AlsPdf(Auftrag &a) {
     QBuffer puffer(&a.inhalt);
     puffer.open(QIODevice::WriteOnly);
     QPdfWriter pdf(&puffer);
-    pdf.setTitle(a.titel);
+    pdf.setTitle(a.Titel());
     pdf.setCreator(QStringLiteral("Kinwright"));
     pdf.setResolution(VektorDpi);
     const QPageSize papier(a.Millimeter(), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
@@ -64,7 +55,7 @@ std::string AlsSvg(Auftrag &a) {
     puffer.open(QIODevice::WriteOnly);
     QSvgGenerator svg;
     svg.setOutputDevice(&puffer);
-    svg.setTitle(a.titel);
+    svg.setTitle(a.Titel());
     svg.setDescription(QStringLiteral("Kinwright"));
     // The size goes into the file as whole units of this resolution: tenths of a millimetre lose nothing.
     constexpr int ZehntelmillimeterDpi = 254;
@@ -115,6 +106,13 @@ const Format *FormatFür(std::string_view ziel) {
     return i == ende ? nullptr : i;
 }
 
+std::string Schreiben(const Format &format, Auftrag auftrag, const std::string &ziel) {
+    if (auto fehler = format.Erzeugen(auftrag); !fehler.empty()) return fehler;
+    const QByteArray &inhalt = auftrag.inhalt;
+    if (inhalt.isEmpty()) return "the page came out empty";
+    return DateiSchreiben(ziel, {inhalt.constData(), static_cast<std::size_t>(inhalt.size())}).Meldung;
+}
+
 } // namespace
 
 bool IstAusgabeformat(std::string_view ziel) { return FormatFür(ziel) != nullptr; }
@@ -124,15 +122,30 @@ std::string Exportieren(Zeichnung &zeichnung, const std::string &ziel, int dpi, 
     if (!format) return "unknown kind of file";
     if (dpi < KleinsteDpi || dpi > GrößteDpi) return "the resolution is out of range";
     SeiteBestimmen(zeichnung.dokument, zeichnung.ansicht);
+    const Druckauftrag seite{titel, true, zeichnung.ansicht.SeitenBreite, zeichnung.ansicht.SeitenHöhe,
+                             [&](Zeichenfläche &papier) { DruckZeichnen(papier, zeichnung); }};
     if (HatUngemesseneTextboxen(zeichnung.dokument)) {
         QImage probe(1, 1, QImage::Format_RGB32);
-        Auftrag messung{zeichnung, dpi, {}, {}};
-        Drucken(messung, probe, 1);
+        SeiteDrucken(seite, probe, 1);
     }
-    Auftrag auftrag{zeichnung, dpi, QString::fromStdString(titel), {}};
-    if (auto fehler = format->Erzeugen(auftrag); !fehler.empty()) return fehler;
-    if (auftrag.inhalt.isEmpty()) return "the page came out empty";
-    return DateiSchreiben(ziel, {auftrag.inhalt.constData(), static_cast<std::size_t>(auftrag.inhalt.size())}).Meldung;
+    return Schreiben(*format, {seite, dpi, {}}, ziel);
+}
+
+bool SeiteDrucken(const Druckauftrag &seite, QPaintDevice &gerät, double geräteJeCm, const QTransform &aufGerät) {
+    const auto twips = [](double cm) { return static_cast<int>(std::lround(cm * TwipsJeCm)); };
+    QtFläche papier;
+    papier.GrößeSetzen(twips(seite.SeitenBreite), twips(seite.SeitenHöhe));
+    papier.Scale(seite.SeitenBreite, seite.SeitenHöhe, 1);
+    if (!seite.Farbig) papier.InGrau();
+    if (!papier.Beginnen(gerät, geräteJeCm, DruckPixelJeCm, aufGerät)) return false;
+    // Viewers show an SVG on whatever ground they have themselves, dark ones too.
+    if (gerät.paintEngine()->type() == QPaintEngine::SVG) papier.Cls();
+    seite.Zeichnen(papier);
+    return papier.Beenden();
+}
+
+std::string PdfSchreiben(const Druckauftrag &seite, const std::string &ziel) {
+    return Schreiben({"pdf", AlsPdf}, {seite, VektorDpi, {}}, ziel);
 }
 
 } // namespace kw

@@ -1,13 +1,19 @@
 #pragma once
 
+#include "platform/Drucker.h"
 #include "rendering/Zeichnung.h"
+
+#include <QTransform>
 
 #include <string>
 #include <string_view>
 
-// Export of the page to a file, by the file's ending.
+class QPaintDevice;
+
+// The page on paper and in files.
 namespace kw {
 
+constexpr double CmJeZoll = 2.54;
 constexpr int KleinsteDpi = 10;
 constexpr int GrößteDpi = 2400;
 
@@ -18,5 +24,12 @@ bool IstAusgabeformat(std::string_view ziel);
 /// pictures have `dpi` dots an inch. Empty on success, else one plain line; then nothing was written.
 /// Needs a QGuiApplication, no display.
 std::string Exportieren(Zeichnung &zeichnung, const std::string &ziel, int dpi, const std::string &titel);
+
+/// Draws a job on `gerät`, `geräteJeCm` of whose units are a centimetre, as `aufGerät` puts it there. False when the
+/// device can't be painted or reports a failure.
+bool SeiteDrucken(const Druckauftrag &seite, QPaintDevice &gerät, double geräteJeCm, const QTransform &aufGerät = {});
+
+/// Writes a job as a PDF of the page's size. Empty on success, else one plain line; then nothing was written.
+std::string PdfSchreiben(const Druckauftrag &seite, const std::string &ziel);
 
 } // namespace kw

@@ -379,6 +379,8 @@ void FormularAnordnen(const Formular &form, const Formularteile &teile, QWidget 
     auto *spalte = new QVBoxLayout(&fenster);
     spalte->setSpacing(Abstand * 2 / 3);
     spalte->setContentsMargins(Abstand, Abstand, Abstand, Abstand * 2 / 3);
+    constexpr int Titelbeiwerk = 120; // the window manager's buttons beside the title
+    spalte->addStrut(QFontMetrics(fenster.font()).horizontalAdvance(Text(form.Caption)) + Titelbeiwerk);
     bool ziehbar = false;
     for (const Formularplan &plan : Pläne) {
         if (plan.Form != form.Name()) continue;

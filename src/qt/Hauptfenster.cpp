@@ -2,8 +2,11 @@
 
 #include "document/Dateien.h"
 #include "qt/Formularfenster.h"
+#include "qt/Importliste.h"
 #include "qt/Palette.h"
+#include "qt/Statuszeile.h"
 #include "qt/Text.h"
+#include "qt/Werkzeugband.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -13,6 +16,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QLayout>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QProcess>
@@ -73,20 +77,39 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
 } // namespace
 
 Hauptfenster::Hauptfenster(const std::string &kommandozeile)
-    : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
-      fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
+    : drucker_(PdfDialoge([this] { return Vordergrund(); }, [this] { return haupt_.ansicht.Sprache == "de"; })),
+      leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
+      fläche_(new Arbeitsflaeche(leinwand_)), status_(new Statuszeile),
+      menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     setCentralWidget(fläche_);
-    setMinimumSize(Arbeitsbereich::KleinsteBreite / TwipsJePixel, Arbeitsbereich::KleinsteHöhe / TwipsJePixel);
+    setAnimated(false);
+    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide toolbar and panels
+    setContentsMargins(0, Menüs::Höhe() + Symbolleiste::Höhe(), 0,
+                       0); // until these come, so that the page doesn't jump
+    setStatusBar(status_);
     resize(QGuiApplication::primaryScreen()->availableSize() * 0.9);
     fläche_->Verbinden(haupt_, [this] {
         // Not before: the first word on the window costs the loading of the system's fonts.
-        menüs_.Bauen(*menuBar());
+        LeistenBauen();
         palette_ = new Werkzeugpalette(fläche_, haupt_, [this](std::string_view name) { Ausführen(name); });
+        status_->Bauen([this](std::string_view name) { Ausführen(name); });
         Anzeigen();
         for (const auto &arbeit : std::exchange(nachErstemBild_, {})) arbeit();
     });
     haupt_.Laden();
     Anzeigen();
+}
+
+void Hauptfenster::LeistenBauen() {
+    layout()->setEnabled(false); // else the page is laid out anew for each of the following
+    setContentsMargins(0, 0, 0, 0);
+    menüs_.Bauen(*menuBar());
+    menuBar()->show();
+    band_ = new Symbolleiste(haupt_, *fläche_, [this](std::string_view name) { Ausführen(name); });
+    addToolBar(band_);
+    band_->show();
+    layout()->setEnabled(true);
+    layout()->activate();
 }
 
 void Hauptfenster::Ausführen(std::string_view befehl) {
@@ -104,8 +127,13 @@ void Hauptfenster::Anzeigen() {
     auffrischungSteht_ = false;
     setWindowTitle(Text(haupt_.projekt.Titel));
     menüs_.Auffrischen();
+    if (band_) band_->Auffrischen();
     fläche_->Auffrischen();
     if (palette_) palette_->Auffrischen();
+    status_->Auffrischen(haupt_);
+    if (!importliste_ && Importliste::IstVerlangt(haupt_))
+        addDockWidget(Qt::RightDockWidgetArea, importliste_ = new Importliste(haupt_));
+    if (importliste_) importliste_->Auffrischen();
 }
 
 void Hauptfenster::closeEvent(QCloseEvent *ereignis) {
@@ -175,7 +203,12 @@ void Hauptfenster::ZeitgeberStarten(std::string_view name, int ms) {
 
 void Hauptfenster::NachErstemBild(std::function<void()> arbeit) { nachErstemBild_.push_back(std::move(arbeit)); }
 
-void Hauptfenster::AdresseÖffnen(const std::string &adresse) { QDesktopServices::openUrl(QUrl(Text(adresse))); }
+/// A file's name may hold what an address would be cut at ("#", "?").
+void Hauptfenster::AdresseÖffnen(const std::string &adresse) {
+    const QString ziel = Text(adresse);
+    const QString datei = QStringLiteral("file://");
+    QDesktopServices::openUrl(ziel.startsWith(datei) ? QUrl::fromLocalFile(ziel.mid(datei.size())) : QUrl(ziel));
+}
 
 void Hauptfenster::ProgrammStarten(const std::string &name) {
     const QString programm = QCoreApplication::applicationDirPath() + u'/' + Text(name);

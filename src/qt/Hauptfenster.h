@@ -5,6 +5,7 @@
 #include "qt/LeinwandFlaeche.h"
 #include "qt/Menues.h"
 #include "qt/QtBilder.h"
+#include "qt/QtDrucker.h"
 #include "qt/QtPlattform.h"
 
 #include <QMainWindow>
@@ -16,6 +17,9 @@ class QTimer;
 
 namespace kw {
 
+class Symbolleiste;
+class Importliste;
+class Statuszeile;
 class Werkzeugpalette;
 
 /// The main window's face: shows the model's state and hands it events. It is also the user as the model
@@ -51,6 +55,8 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     /// A command that the user has chosen in a menu, by a shortcut or on the palette.
     void Ausführen(std::string_view befehl);
     void Anzeigen();
+    /// Menus and toolbar, where their place was kept free.
+    void LeistenBauen();
     /// What the next dialog stands over: the form that is open, else this window.
     QWidget *Vordergrund();
 
@@ -60,8 +66,11 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     QtBilder bilder_{leinwand_};
     frmMain haupt_;
     Arbeitsflaeche *fläche_;
+    Statuszeile *status_;
     Menüs menüs_;
+    Symbolleiste *band_ = nullptr;       ///< not before the first picture, as the palette
     Werkzeugpalette *palette_ = nullptr; ///< not before the first picture
+    Importliste *importliste_ = nullptr; ///< not before it is to be seen
     std::vector<std::function<void()>> nachErstemBild_;
     std::map<std::string, QTimer *> zeitgeber_;
     bool auffrischungSteht_ = false; ///< a refresh waits for the end of the event

@@ -1,8 +1,8 @@
 #include "qt/Menues.h"
 
-#include "app/Befehle.h"
 #include "app/frmMain.h"
 #include "qt/Text.h"
+#include "qt/Zeilenbild.h"
 
 #include <QAction>
 #include <QApplication>
@@ -10,8 +10,10 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScreen>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace kw {
@@ -19,19 +21,6 @@ namespace kw {
 namespace {
 
 bool IstTrennstrich(const Menüzeile &zeile) { return zeile.Englisch == Trennstrich; }
-
-bool IstMenü(const Menüzeile &zeile) {
-    const auto tafel = Menütafel();
-    return std::any_of(tafel.begin(), tafel.end(), [&](const Menüzeile &z) { return z.Menü == zeile.Name; });
-}
-
-/// Whether there is a command behind the row, or behind a row of its menu.
-bool FührtZuBefehl(const Menüzeile &zeile) {
-    if (!IstMenü(zeile)) return BefehlFinden(zeile.Name) != nullptr;
-    const auto tafel = Menütafel();
-    return std::any_of(tafel.begin(), tafel.end(),
-                       [&](const Menüzeile &z) { return z.Menü == zeile.Name && FührtZuBefehl(z); });
-}
 
 /// The caption without the blanks that once aligned columns, and without the key's name behind it: the menu
 /// shows the shortcut itself. What isn't from the table (a file's name) has no mnemonics.
@@ -79,6 +68,14 @@ class Danebenklick : public QObject {
 
 } // namespace
 
+int Zeilenhöhe() {
+    constexpr double Zeile = 1.4; // of the font's size: enough for the usual fonts
+    const QFont schrift = QApplication::font();
+    const double punkt = QGuiApplication::primaryScreen()->logicalDotsPerInchY() / 72;
+    const double größe = schrift.pixelSize() > 0 ? schrift.pixelSize() : schrift.pointSizeF() * punkt;
+    return static_cast<int>(std::ceil(größe * Zeile));
+}
+
 Menüs::Menüs(frmMain &haupt, std::function<void(std::string_view)> ausführen)
     : haupt_(haupt), ausführen_(std::move(ausführen)) {}
 
@@ -87,23 +84,28 @@ void Menüs::Füllen(QMenu &menü, std::string_view name, std::vector<Eintrag> &
         if (zeile.Menü != name) continue;
         if (IstTrennstrich(zeile)) {
             einträge.push_back({&zeile, menü.addSeparator()});
-        } else if (!FührtZuBefehl(zeile)) {
-            continue;
         } else if (IstMenü(zeile)) {
             QMenu *unter = menü.addMenu(QString());
+            unter->setIcon(Menübild(zeile.Name, haupt_.plattform.uhr));
             einträge.push_back({&zeile, unter->menuAction()});
             Füllen(*unter, zeile.Name, einträge);
         } else {
-            QAction *aktion = menü.addAction(QString());
+            QAction *aktion = menü.addAction(Menübild(zeile.Name, haupt_.plattform.uhr), QString());
             aktion->setData(Text(zeile.Name));
             einträge.push_back({&zeile, aktion});
         }
     }
 }
 
+int Menüs::Höhe() {
+    constexpr int Luft = 6; // above and below the words
+    return Zeilenhöhe() + Luft;
+}
+
 void Menüs::Bauen(QMenuBar &leiste) {
+    leiste.setMinimumHeight(Höhe());
     for (const Menüzeile &zeile : Menütafel()) {
-        if (zeile.Menü != Menüleiste || !IstMenü(zeile) || !FührtZuBefehl(zeile)) continue;
+        if (zeile.Menü != Menüleiste) continue;
         QMenu *menü = leiste.addMenu(QString());
         einträge_.push_back({&zeile, menü->menuAction()});
         Füllen(*menü, zeile.Name, einträge_);

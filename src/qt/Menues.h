@@ -19,13 +19,19 @@ namespace kw {
 
 class frmMain;
 
-/// The menus of the table, as far as the program has commands for them. Captions and states are the model's.
+/// A line of text in the program's font with room to spare, pixels. Reckoned, for to measure a font is to load the
+/// fonts of the system.
+int Zeilenhöhe();
+
+/// The menus of the table. Captions and states are the model's.
 class Menüs {
   public:
     /// `ausführen` runs the command that the user has picked in the menu bar, or by its shortcut.
     Menüs(frmMain &haupt, std::function<void(std::string_view)> ausführen);
 
     void Bauen(QMenuBar &leiste);
+    /// How high the menu bar will be: for who keeps its place free until it is built.
+    static int Höhe();
     /// Copies captions and states. After every event too, for shortcuts obey them without any menu.
     void Auffrischen();
 

@@ -3,15 +3,11 @@
 #include "app/frmMain.h"
 #include "editing/Werkzeuge.h"
 #include "qt/Palettenknopf.h"
-#include "qt/QtFlaeche.h"
 #include "qt/Text.h"
-#include "rendering/Sinnbilder.h"
-
-#include <QImage>
+#include "qt/Zeilenbild.h"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <utility>
 
 namespace kw {
@@ -59,24 +55,9 @@ std::string Elementname(int werkzeug) { return werkzeug == Löschen ? "cmdDelete
 
 std::string Befehlsname(int werkzeug) { return werkzeug == WerkzeugZwillinge ? "cmdZwillinge" : Elementname(werkzeug); }
 
-/// At the size of the icon lines are as wide as on the page at 100 %, one pixel.
-QPixmap Gezeichnet(Sinnbild sinnbild, const Uhr &uhr, int kante, double pixelverhältnis) {
-    const int pixel = static_cast<int>(std::lround(kante * pixelverhältnis));
-    QImage bild(pixel, pixel, QImage::Format_ARGB32_Premultiplied);
-    bild.fill(Qt::transparent);
-    const double pixelJeCm = kante / sinnbild.Kante;
-    QtFläche fläche;
-    fläche.AnPixelnAusrichten();
-    fläche.Scale(sinnbild.Kante, sinnbild.Kante, pixelJeCm / BildschirmPixelJeCm);
-    if (fläche.Beginnen(bild, pixelJeCm * pixelverhältnis, pixelJeCm)) SinnbildZeichnen(fläche, sinnbild, uhr);
-    fläche.Beenden();
-    bild.setDevicePixelRatio(pixelverhältnis);
-    return QPixmap::fromImage(bild);
-}
-
 Bildmacher BildVon(Sinnbild sinnbild, const Uhr &uhr) {
     return [sinnbild = std::move(sinnbild), &uhr](int kante, double verhältnis) {
-        return Gezeichnet(sinnbild, uhr, kante, verhältnis);
+        return Symbolbild(sinnbild, uhr, kante, verhältnis);
     };
 }
 
@@ -101,6 +82,7 @@ void Werkzeugpalette::KnöpfeAnlegen() {
             werkzeug == Löschen ? Bildmacher(Papierkorb) : BildVon(WerkzeugSinnbild(werkzeug), haupt_.plattform.uhr);
         auto *knopf = new Palettenknopf(bild, this);
         knopf->TasteWeitergeben = [this, i](int taste) { return Gehen(i, taste); };
+        if (werkzeug != Löschen) knopf->Berührt = [this, i](bool darauf) { Berühren(i, darauf); };
         connect(knopf, &QAbstractButton::clicked, this, [this, name = Befehlsname(werkzeug)] { ausführen_(name); });
         knöpfe_.push_back(knopf);
     }
@@ -115,8 +97,8 @@ void Werkzeugpalette::Auffrischen() {
         if (!element) continue;
         const QString name = Text(element->Caption).trimmed();
         Palettenknopf &knopf = *knöpfe_[static_cast<size_t>(i)];
-        knopf.setToolTip(name);
         knopf.setAccessibleName(name);
+        if (!knopf.Berührt) knopf.setToolTip(name); // no other place shows it
         knopf.setEnabled(element->Enabled);
         knopf.setChecked(element->Checked);
     }
@@ -126,6 +108,24 @@ void Werkzeugpalette::Auffrischen() {
         merkmale_[i]->setVisible(haupt_.lage.Info.Visible);
     }
     TabstoppSetzen();
+    HinweisZeigen();
+}
+
+void Werkzeugpalette::Berühren(int stelle, bool darauf) {
+    if (darauf) berührt_ = stelle;
+    haupt_.PaletteBerührt(darauf ? Werkzeuge[static_cast<size_t>(stelle)] : 0);
+}
+
+/// Beside the button, over the page.
+void Werkzeugpalette::HinweisZeigen() {
+    const Bedienelement &element = *haupt_.bedienung.Finden("picToolTipp");
+    if (!hinweis_ && element.Visible) hinweis_ = new Palettenhinweis(parentWidget());
+    if (!hinweis_) return;
+    hinweis_->setVisible(element.Visible && isVisible());
+    hinweis_->setText(Text(element.Caption).trimmed());
+    hinweis_->adjustSize();
+    const QRect knopf = knöpfe_[static_cast<size_t>(berührt_)]->geometry();
+    hinweis_->move(width() + Lücke, knopf.center().y() - hinweis_->height() / 2);
 }
 
 /// Two columns from the top; in a low window the buttons become smaller, so that all stay within reach.

@@ -11,6 +11,7 @@ namespace kw {
 
 class frmMain;
 class Merkmalfeld;
+class Palettenhinweis;
 class Palettenknopf;
 
 /// The tool palette at the left of the page: the tools in two columns, the delete button, and below them what
@@ -34,12 +35,16 @@ class Werkzeugpalette : public QWidget {
     void Anordnen();
     void TabstoppSetzen();
     bool Gehen(int von, int taste);
+    void Berühren(int stelle, bool darauf);
+    void HinweisZeigen();
 
     frmMain &haupt_;
     std::function<void(std::string_view)> ausführen_;
     std::vector<Palettenknopf *> knöpfe_; ///< by their places
     std::vector<Merkmalfeld *> merkmale_;
-    int aktuell_ = 0; ///< the button that Tab reaches
+    int aktuell_ = 0;                    ///< the button that Tab reaches
+    int berührt_ = 0;                    ///< the button that was last pointed at
+    Palettenhinweis *hinweis_ = nullptr; ///< its name, over the page
 };
 
 } // namespace kw

@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -78,6 +79,11 @@ void Palettenknopf::keyPressEvent(QKeyEvent *ereignis) {
     ereignis->ignore();
 }
 
+void Palettenknopf::Berühren(bool darauf) {
+    update();
+    if (Berührt) Berührt(darauf);
+}
+
 Merkmalfeld::Merkmalfeld(Bildmacher bild, QWidget *palette) : QLabel(palette), bild_(std::move(bild)) {}
 
 void Merkmalfeld::Zeigen(const QString &name, bool gilt) {
@@ -98,6 +104,18 @@ void Merkmalfeld::paintEvent(QPaintEvent *) {
     }
     if (!gilt_) p.setOpacity(Blass);
     BildMalen(p, pixmap_, size());
+}
+
+Palettenhinweis::Palettenhinweis(QWidget *fläche) : QLabel(fläche) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setTextFormat(Qt::PlainText);
+    setPalette(QToolTip::palette());
+    setFont(QToolTip::font());
+    setForegroundRole(QPalette::ToolTipText);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setAutoFillBackground(true);
+    setFrameStyle(QFrame::Box);
+    setMargin(Luft);
 }
 
 QPixmap Papierkorb(int kante, double pixelverhältnis) {

@@ -19,16 +19,28 @@ class Palettenknopf : public QAbstractButton {
 
     /// A key that isn't the button's own, arrows first of all. True when it was used.
     std::function<bool(int taste)> TasteWeitergeben;
+    /// The pointer, or the keyboard's focus, comes to the button or leaves it.
+    std::function<void(bool darauf)> Berührt;
 
   protected:
     void paintEvent(QPaintEvent *) override;
     void keyPressEvent(QKeyEvent *ereignis) override;
-    void enterEvent(QEnterEvent *) override { update(); }
-    void leaveEvent(QEvent *) override { update(); }
+    void enterEvent(QEnterEvent *) override { Berühren(true); }
+    void leaveEvent(QEvent *) override { Berühren(false); }
+    void focusInEvent(QFocusEvent *ereignis) override {
+        QAbstractButton::focusInEvent(ereignis);
+        Berühren(true);
+    }
+    void focusOutEvent(QFocusEvent *ereignis) override {
+        QAbstractButton::focusOutEvent(ereignis);
+        Berühren(false);
+    }
     /// Whether the button shows pressed is the model's word, not the click's.
     void nextCheckState() override {}
 
   private:
+    void Berühren(bool darauf);
+
     Bildmacher bild_;
     QPixmap pixmap_;
 };
@@ -46,6 +58,12 @@ class Merkmalfeld : public QLabel {
     Bildmacher bild_;
     QPixmap pixmap_;
     bool gilt_ = false;
+};
+
+/// The name of the button under the pointer. Looks like a tool tip, but stands still and lets presses through.
+class Palettenhinweis : public QLabel {
+  public:
+    explicit Palettenhinweis(QWidget *fläche);
 };
 
 /// A bin.

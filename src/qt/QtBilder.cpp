@@ -11,6 +11,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <string_view>
 
 namespace kw {
 
@@ -19,17 +20,28 @@ namespace {
 /// The status of an encoder, or of a disk, that had an error of no special kind.
 constexpr int AllgemeinerFehler = 1;
 
-/// The picture without a resolution, which would say nothing true about the page.
+/// Where a format keeps the resolution, and what says there that none is known.
+struct Auflösungsfeld {
+    const char *Format;
+    qsizetype Stelle;
+    std::string_view Unbekannt;
+};
+constexpr Auflösungsfeld Auflösungsfelder[] = {{"bmp", 38, {"\0\0\0\0\0\0\0\0", 8}}, {"jpeg", 13, {"\0\0\1\0\1", 5}}};
+
+/// The picture without a resolution, which would say nothing true about the page. The toolkit writes the screen's.
 QByteArray Kodiert(QImage bild, const char *format, int qualität = -1) {
     QByteArray inhalt;
     QBuffer puffer(&inhalt);
     puffer.open(QIODevice::WriteOnly);
     bild.setDevicePixelRatio(1);
-    bild.setDotsPerMeterX(0);
-    bild.setDotsPerMeterY(0);
     QImageWriter schreiber(&puffer, format);
     if (qualität >= 0) schreiber.setQuality(qualität);
-    return schreiber.write(bild) ? inhalt : QByteArray();
+    if (!schreiber.write(bild)) return {};
+    for (const auto &[name, stelle, unbekannt] : Auflösungsfelder)
+        if (std::string_view(name) == format)
+            inhalt.replace(stelle, static_cast<qsizetype>(unbekannt.size()),
+                           QByteArray(unbekannt.data(), static_cast<qsizetype>(unbekannt.size())));
+    return inhalt;
 }
 
 /// Nothing is written but a whole picture.

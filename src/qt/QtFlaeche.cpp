@@ -17,11 +17,6 @@ constexpr double FernerRand = 1000;   ///< cm; what reaches further is cut off t
 constexpr double SpitzesteEcke = 10;  ///< length of a mitre by the line's width; lets triangles keep their tips
 constexpr int TextStift = 0x8000;     ///< in a pen's key: the pen of texts, which has only a colour
 
-QColor Farbton(Farbe farbe) {
-    const Farbe f = Aufgelöst(farbe);
-    return QColor(static_cast<int>(f & 0xFFU), static_cast<int>(f >> 8U & 0xFFU), static_cast<int>(f >> 16U & 0xFFU));
-}
-
 std::uint64_t Schlüssel(Farbe farbe, int breite, int stil) {
     return static_cast<std::uint64_t>(Aufgelöst(farbe)) << 32U | static_cast<std::uint64_t>(breite) << 8U |
            static_cast<std::uint64_t>(stil);
@@ -57,8 +52,9 @@ bool Geschnitten(double &x1, double &y1, double &x2, double &y2) {
 
 QtFläche::~QtFläche() { Beenden(); }
 
-bool QtFläche::Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJeCm) {
+bool QtFläche::Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJeCm, const QTransform &aufGerät) {
     if (!maler_.begin(&gerät)) return false;
+    maler_.setTransform(aufGerät);
     geräteJeEinheit_ = geräteJeCm / JeCm;
     pixelJeCm_ = pixelJeCm;
     maler_.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
@@ -86,6 +82,14 @@ double QtFläche::Strichbreite() const {
     const double breite = DrawWidth / pixelJeCm_ * JeCm * geräteJeEinheit_;
     if (!gerastert_) return breite;
     return std::max(1.0, ausrichten_ ? std::round(breite) : breite);
+}
+
+QColor QtFläche::Farbton(Farbe farbe) const {
+    const Farbe f = Aufgelöst(farbe);
+    const auto anteil = [f](unsigned bits) { return static_cast<int>(f >> bits & 0xFFU); };
+    const QColor bunt(anteil(0), anteil(8), anteil(16));
+    const int hell = qGray(bunt.rgb());
+    return grau_ ? QColor(hell, hell, hell) : bunt;
 }
 
 const QPen &QtFläche::Stift(Farbe farbe) {

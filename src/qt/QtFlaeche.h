@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QPen>
+#include <QTransform>
 
 #include <cstdint>
 #include <unordered_map>
@@ -23,12 +24,14 @@ class QtFläche : public Zeichenfläche {
     /// Starts on `gerät`, `geräteJeCm` of whose units are a centimetre of the page. `pixelJeCm` is the
     /// surface's own pixel, in which `DrawWidth` and polygons count. False when the device can't be painted.
     /// On a picture lines of the axes keep to the grid of its pixels, so that they are sharp, and no line is
-    /// thinner than a pixel.
-    bool Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJeCm);
+    /// thinner than a pixel. `aufGerät` puts the page elsewhere than into the device's corner.
+    bool Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJeCm, const QTransform &aufGerät = {});
     /// Ends painting; false when the device reports a failure.
     bool Beenden();
     /// For a screen, before `Beginnen`: lines are also a whole number of device pixels wide.
     void AnPixelnAusrichten() { ausrichten_ = true; }
+    /// Every colour as the grey of its lightness, whatever the device can show.
+    void InGrau() { grau_ = true; }
 
     void Cls() override;
     void Line(int flags, double x1, double y1, double x2, double y2, Farbe farbe) override;
@@ -44,6 +47,7 @@ class QtFläche : public Zeichenfläche {
 
   private:
     Schriftsatz &Satz();
+    QColor Farbton(Farbe farbe) const;
     void StiftSetzen(Farbe farbe);
     void FüllungSetzen();
     const QPen &Stift(Farbe farbe);
@@ -64,6 +68,7 @@ class QtFläche : public Zeichenfläche {
     double geräteJeEinheit_ = 1;
     double pixelJeCm_ = 1;
     bool ausrichten_ = false;
+    bool grau_ = false;
     bool gerastert_ = false; ///< the device is made of pixels
     bool füllbar_ = false;   ///< filling a rectangle is cheaper there than drawing a line
     std::unordered_map<std::uint64_t, QPen> stifte_;

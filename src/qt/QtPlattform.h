@@ -1,14 +1,9 @@
 #pragma once
 
-#include "platform/Drucker.h"
 #include "platform/Uhr.h"
-
-#include <QString>
 
 #include <ctime>
 #include <string>
-
-class QPrinterInfo;
 
 namespace kw {
 
@@ -24,24 +19,6 @@ class QtUhr : public Uhr {
     Datumsfolge folge_;
     mutable std::time_t stand_ = 0; ///< second in which `heute_` was asked for
     mutable Datum heute_;
-};
-
-/// The printers of the system.
-class QtDrucker : public Drucker {
-  public:
-    std::optional<std::string> DeviceName() const override;
-    Druckränder Ränder() const override;
-    int Orientation() const override;
-    std::vector<std::string> DeviceNames() const override;
-    bool Wählen(std::string_view deviceName) override;
-    void OrientationSetzen(int lage) override { lage_ = lage; }
-    void Drucken(const Druckauftrag &auftrag) override;
-
-  private:
-    QPrinterInfo Aktueller() const;
-
-    QString gewählt_;         ///< empty until one is chosen
-    std::optional<int> lage_; ///< as the program has turned it
 };
 
 /// The order of day, month and year in a short date format of Qt's ("dd.MM.yy").

@@ -6,6 +6,9 @@
 #include "qt/QtPlattform.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 
 #include <algorithm>
 #include <cstdio>
@@ -51,6 +54,22 @@ int Exportieren(const Aufruf &aufruf, int &argc, char **argv) {
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
 }
 
+/// The texts of the platform's own dialogs and buttons, which follow the platform's language and not the program's.
+/// The program itself is written from left to right in all its languages.
+void PlattformtexteLaden(QTranslator &texte) {
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    if (texte.load(QLocale::system(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                   QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&texte);
+}
+
+/// The command line as the model takes it.
+std::string Kommandozeile(const Aufruf &aufruf) {
+    if (!aufruf.Import.empty() || aufruf.Datei.empty()) return aufruf.Import;
+    std::error_code fehler;
+    return '"' + std::filesystem::absolute(aufruf.Datei, fehler).string() + '"';
+}
+
 int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
         qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -61,10 +80,9 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     Einzelinstanz instanz;
     if (!instanz.IstErste())
         return instanz.HatGeantwortet() ? 0 : Melden("another Kinwright is running, but doesn't answer", 1);
-    std::error_code fehler;
-    const std::string datei =
-        aufruf.Datei.empty() ? "" : '"' + std::filesystem::absolute(aufruf.Datei, fehler).string() + '"';
-    Hauptfenster fenster(datei);
+    QTranslator plattformtexte;
+    PlattformtexteLaden(plattformtexte);
+    Hauptfenster fenster(Kommandozeile(aufruf));
     instanz.BeiWeiteremStart([&fenster] { fenster.NachVorn(); });
     fenster.show();
     return QApplication::exec();

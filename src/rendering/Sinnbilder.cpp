@@ -76,6 +76,12 @@ constexpr std::array<std::string_view, MerkmalAnzahl> Merkmale{
     "_0__0_1_____",
 };
 
+Sinnbild MitMerkmalen(int symboltyp, std::string_view merkmale) {
+    Sinnbild bild{.dokument = {}, .Kante = Merkmalkante};
+    bild.dokument.cboPersonen.Anhängen("001_" + std::to_string(symboltyp) + "_0.375_0.375_0.6" + std::string(merkmale));
+    return bild;
+}
+
 } // namespace
 
 Sinnbild WerkzeugSinnbild(int nummer) {
@@ -89,10 +95,12 @@ Sinnbild WerkzeugSinnbild(int nummer) {
     return bild;
 }
 
-Sinnbild MerkmalSinnbild(Merkmal merkmal) {
-    Sinnbild bild{.dokument = {}, .Kante = Merkmalkante};
-    bild.dokument.cboPersonen.Anhängen("001_2_0.375_0.375_0.6" + std::string(Merkmale[static_cast<size_t>(merkmal)]));
-    return bild;
+Sinnbild MerkmalSinnbild(Merkmal merkmal) { return MitMerkmalen(2, Merkmale[static_cast<size_t>(merkmal)]); }
+
+Sinnbild ImportSinnbild(const Importperson &person) {
+    if (person.Geschlecht != "M" && person.Geschlecht != "W") return {.dokument = {}, .Kante = Merkmalkante};
+    return MitMerkmalen(person.Symboltyp,
+                        std::string(person.IndexPerson ? "_1" : "_0") + (person.Verstorben ? "_$" : "_") + "_0_0_____");
 }
 
 void SinnbildZeichnen(Zeichenfläche &f, Sinnbild &bild, const Uhr &uhr) {

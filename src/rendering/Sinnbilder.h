@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/Dokument.h"
+#include "document/Importdaten.h"
 #include "platform/Uhr.h"
 #include "rendering/Zeichenflaeche.h"
 
@@ -21,6 +22,10 @@ enum class Merkmal { IndexPerson, Verstorben, Sucht, Erkrankung };
 constexpr int MerkmalAnzahl = 4;
 /// A person with that one mark.
 Sinnbild MerkmalSinnbild(Merkmal merkmal);
+
+/// A person of the import list: only what tells its rows apart at a glance, crossed when deceased and doubled for the
+/// index person. Without anything on it when the list gives another sex than "M" and "W".
+Sinnbild ImportSinnbild(const Importperson &person);
 
 /// Draws it in colour on a surface whose scale is set and whose user units are the cutout's centimetres.
 void SinnbildZeichnen(Zeichenfläche &fläche, Sinnbild &bild, const Uhr &uhr);

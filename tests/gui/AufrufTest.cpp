@@ -16,6 +16,7 @@ TEST(Aufruf, SagtWasVerlangtIst) {
         {{"a.kwp", "--version"}, Art::Version},
         {{"--export", "o.PDF", "--dpi", "72", "a.kwp"}, Art::Export},
         {{"a.kwp", "--export", "o.jpeg"}, Art::Export},
+        {{"/dataimport", "fall", "--export"}, Art::Fenster}, // behind the switch all is the model's
         {{"a.kwp", "b.kwp"}, Art::Falsch},
         {{""}, Art::Falsch},
         {{"--nonsense"}, Art::Falsch},
@@ -32,6 +33,7 @@ TEST(Aufruf, SagtWasVerlangtIst) {
         EXPECT_EQ(a.Was, art) << testing::PrintToString(worte) << " " << a.Fehler;
         EXPECT_EQ(a.Fehler.empty(), art != Art::Falsch);
     }
+    EXPECT_EQ(AufrufLesen({"\\dataimport", "Fall", "Müller"}).Import, "\\dataimport Fall Müller");
 }
 
 TEST(Datumsfolge, FolgtDemKurzenFormatDesLandes) {

@@ -6,19 +6,28 @@
 #include "document/Zahlen.h"
 #include "qt/Arbeitsflaeche.h"
 #include "qt/Auflagenmaler.h"
+#include "qt/Importliste.h"
 #include "qt/Menues.h"
 #include "qt/Palette.h"
 #include "qt/Palettenknopf.h"
+#include "qt/QtBilder.h"
 #include "replay/Plattform.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 #include <set>
 #include <sstream>
 
@@ -206,10 +215,9 @@ TEST_F(Palettentest, JederKnopfHatNamenUndLiegtInReichweite) {
         palette.Auffrischen();
         for (const Palettenknopf *knopf : knöpfe) {
             EXPECT_FALSE(knopf->accessibleName().isEmpty());
-            EXPECT_EQ(knopf->toolTip(), knopf->accessibleName());
             EXPECT_FALSE(knopf->focusPolicy() & Qt::ClickFocus); // a mouse press leaves the focus on the canvas
             namen.insert(knopf->accessibleName());
-            EXPECT_TRUE(palette.rect().contains(knopf->geometry())) << höhe << knopf->toolTip().toStdString();
+            EXPECT_TRUE(palette.rect().contains(knopf->geometry())) << höhe << knopf->accessibleName().toStdString();
         }
     }
     EXPECT_EQ(namen.size(), 21U);
@@ -223,7 +231,7 @@ TEST_F(Palettentest, JederKnopfHatNamenUndLiegtInReichweite) {
         Taste(Qt::Key_Right);
     }
     for (Palettenknopf *knopf : knöpfe)
-        EXPECT_EQ(erreicht.contains(knopf), knopf->isEnabled()) << knopf->toolTip().toStdString();
+        EXPECT_EQ(erreicht.contains(knopf), knopf->isEnabled()) << knopf->accessibleName().toStdString();
 }
 
 TEST_F(Palettentest, TasteUndMausDrücken) {
@@ -248,6 +256,86 @@ TEST_F(Palettentest, TasteUndMausDrücken) {
     palette.Auffrischen();
     Taste(Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), &fläche); // the hidden palette is no stop
+}
+
+/// The pointer, or the focus of the keyboard, on a tool: its name stands below, and beside it when it rests there.
+TEST_F(Palettentest, BerührterKnopfWirdGenannt) {
+    const auto berühren = [&](int stelle, QEvent::Type art) {
+        QEnterEvent hinein({}, {}, {});
+        QEvent hinaus(QEvent::Leave);
+        QApplication::sendEvent(Knöpfe()[stelle], art == QEvent::Enter ? &hinein : &hinaus);
+    };
+    const auto hinweise = [&] {
+        haupt.ZeitgeberAbgelaufen("tmrToolTipp");
+        palette.Auffrischen();
+        QStringList sichtbar;
+        for (const auto *feld : fläche.findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly))
+            if (feld->isVisible() && feld->x() >= palette.width()) sichtbar += feld->text();
+        return sichtbar;
+    };
+    fläche.setFocus();
+    EXPECT_TRUE(hinweise().isEmpty());
+    berühren(4, QEvent::Enter); // the fifth button isn't the fifth tool
+    EXPECT_EQ(haupt.bedienung["lblTool"].Caption, "Transgender - Female To Male");
+    EXPECT_EQ(hinweise(), QStringList(QStringLiteral("Transgender - Female To Male")));
+    berühren(4, QEvent::Leave);
+    EXPECT_EQ(haupt.bedienung["lblTool"].Caption, "");
+    EXPECT_TRUE(hinweise().isEmpty());
+    Taste(Qt::Key_Tab);
+    EXPECT_EQ(haupt.bedienung["lblTool"].Caption, "Male");
+    Bewegen({400, 300});
+    EXPECT_EQ(haupt.bedienung["lblTool"].Caption, "");
+}
+
+TEST_F(Bedienung, ImportzeileFälltNurAufDieSeite) {
+    for (const char *zeile : {"1;Jörg;Öz;M;;N;N;N;J", "2;Eva;;W;1.2.1980;J", "3;Kim;Ude;X"})
+        haupt.import.Listenzeilen.push_back(ImportpersonAus(zeile));
+    Zeigen();
+    Importliste liste(haupt);
+    QAbstractItemModel &modell = *liste.findChild<QAbstractItemView *>()->model();
+    ASSERT_EQ(modell.rowCount(), 3);
+    EXPECT_EQ(modell.index(0, 0).data(), QStringLiteral("Jörg Öz"));
+    const auto ziehen = [&](const QMimeData &inhalt, QPoint ort) {
+        QDragEnterEvent herein(ort, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&fläche, &herein);
+        QDragMoveEvent darüber(ort, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
+        if (herein.isAccepted()) QApplication::sendEvent(&fläche, &darüber);
+        if (!herein.isAccepted() || !darüber.isAccepted()) return;
+        QDropEvent fallen(ort, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&fläche, &fallen);
+    };
+    const std::unique_ptr<QMimeData> erste(modell.mimeData({modell.index(0, 0)}));
+    ziehen(*erste, {69, 3}); // beside the page
+    QMimeData fremdes;
+    fremdes.setText(QStringLiteral("0"));
+    ziehen(fremdes, {400, 300});
+    EXPECT_EQ(haupt.dokument.cboPersonen.Anzahl(), 0);
+    ziehen(*erste, {400, 300});
+    ASSERT_EQ(haupt.dokument.cboPersonen.Anzahl(), 1);
+    Zeigen();
+    EXPECT_TRUE(Fleck(Bild(), Symbolfarbe).contains(395, 300));
+    EXPECT_TRUE(haupt.dokument.cboPersonen.Satz(0).ends_with("_0_$_0_0_Jörg_Öz___"));
+}
+
+/// A resolution in the file would print the page at a size that nobody has chosen.
+TEST_F(Bedienung, BildIstDieLeinwandOhneAuflösung) {
+    PersonSetzen({400, 300});
+    QtBilder kamera(leinwand);
+    kamera.InZwischenablage({30, 45, 6000, 3000}); // twips
+    EXPECT_EQ(QGuiApplication::clipboard()->image().convertToFormat(leinwand.Bild().format()),
+              leinwand.Bild().copy(2, 3, 400, 200));
+    const QTemporaryDir ordner;
+    const QString datei = ordner.filePath(QStringLiteral("bild"));
+    const auto bytes = [&](int stelle, int anzahl) {
+        QFile f(datei);
+        EXPECT_TRUE(f.open(QIODevice::ReadOnly));
+        return f.readAll().mid(stelle, anzahl).toHex();
+    };
+    ASSERT_TRUE(kamera.SavePicture(datei.toStdString(), std::nullopt));
+    EXPECT_EQ(bytes(38, 8), QByteArray(16, '0'));
+    ASSERT_EQ(kamera.AlsJpeg(datei.toStdString(), 100), 0);
+    EXPECT_EQ(bytes(6, 12), "4a4649460001010000010001"); // JFIF 1.1, no unit
+    EXPECT_EQ(QImage(datei).size(), leinwand.Bild().size());
 }
 
 TEST_F(Bedienung, MenüsZeigenNurWasGeht) {

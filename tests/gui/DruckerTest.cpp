@@ -1,0 +1,112 @@
+// Printers: the built-in one from the question to the finished file, and a print system that is silent.
+#include "app/Einzelbild.h"
+#include "gui/Programmaufruf.h"
+#include "qt/QtDrucker.h"
+#include "qt/QtPlattform.h"
+#include "rendering/Ebenen.h"
+#include "rendering/Seite.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+using namespace kw;
+
+namespace {
+
+class EingebauterDrucker : public testing::Test {
+  protected:
+    EingebauterDrucker() { z.dokument.cboPersonen.Anhängen("001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__"); }
+
+    void Drucken(int papier, int lage, bool farbig) {
+        z.dokument.Papiercode = papier;
+        z.dokument.Seitenlage = lage;
+        SeiteBestimmen(z.dokument, z.ansicht);
+        drucker.Drucken({"Mein Täst", farbig, z.ansicht.SeitenBreite, z.ansicht.SeitenHöhe,
+                         [this](Zeichenfläche &f) { DruckZeichnen(f, z); }});
+    }
+    QString Ort(const char *name) const { return ordner.filePath(QString::fromUtf8(name)); }
+
+    QTemporaryDir ordner;
+    std::string ziel; ///< what the user answers
+    std::string gesagt;
+    QtDrucker drucker{{[this](const std::string &titel) { return gesagt += titel + ";", ziel; },
+                       [this](const std::string &datei) { gesagt += "Misslungen " + datei + ";"; }}};
+    QtUhr uhr;
+    Einzelbild bild{uhr, ""};
+    Zeichnung z = bild.DasBild();
+};
+
+} // namespace
+
+TEST_F(EingebauterDrucker, IsNeverTheDefaultAndWritesWholeFilesOnly) {
+    qputenv("CUPS_SERVER", "localhost:1"); // nobody is there
+    EXPECT_EQ(drucker.DeviceNames(), std::vector<std::string>{std::string(PdfDruckerName)});
+    EXPECT_FALSE(drucker.DeviceName());
+    Drucken(9, 1, true);
+    EXPECT_EQ(gesagt, "") << "nobody chose it";
+    EXPECT_FALSE(drucker.Wählen("Laser"));
+    EXPECT_TRUE(drucker.Wählen(PdfDruckerName));
+    EXPECT_EQ(drucker.DeviceName(), PdfDruckerName);
+    Drucken(9, 1, true);
+    ziel = Ort("gibt/es/nicht.pdf").toStdString();
+    Drucken(9, 1, true);
+    EXPECT_EQ(gesagt, "Mein Täst;Mein Täst;Misslungen " + ziel + ";");
+    EXPECT_TRUE(QDir(ordner.path()).isEmpty());
+    qunsetenv("CUPS_SERVER");
+}
+
+TEST_F(EingebauterDrucker, ItsSheetIsThePageInTrueSize) {
+    drucker.Wählen(PdfDruckerName);
+    ziel = Ort("a.pdf").toStdString();
+    const std::tuple<int, int, bool, const char *> seiten[] = {{11, 1, false, "420 x 595 pts"},
+                                                               {9, 2, true, "842 x 595 pts"}};
+    for (const auto &[papier, lage, farbig, größe] : seiten) {
+        Drucken(papier, lage, farbig);
+        const QString angaben = Ausgegeben("pdfinfo", {Ort("a.pdf")});
+        EXPECT_TRUE(angaben.contains(QLatin1String(größe)) && angaben.contains(QStringLiteral("Mein Täst")));
+        Ausgegeben("pdftoppm", QStringLiteral("-r 300 -singlefile").split(u' ') + QStringList{Ort("a.pdf"), Ort("a")});
+        const QImage gemalt(Ort("a.ppm"));
+        constexpr double PixelJeMm = 300 / 25.4;
+        const int y = static_cast<int>(45 * PixelJeMm); // meets the person's left side first
+        int x = 0;
+        while (x < gemalt.width() && qGray(gemalt.pixel(x, y)) > 128) ++x;
+        EXPECT_NEAR(x / PixelJeMm, 44 - 3.0 / 23.6, 0.1) << größe;
+        EXPECT_EQ(gemalt.allGray(), !farbig);
+    }
+    const QStringList schriften = Ausgegeben("pdffonts", {Ort("a.pdf")}).split(u'\n', Qt::SkipEmptyParts).mid(2);
+    EXPECT_FALSE(schriften.empty());
+    for (const QString &schrift : schriften)
+        EXPECT_EQ(schrift.simplified().section(u' ', -5, -5), QStringLiteral("yes"));
+}
+
+/// What scripts/print-proof runs; it looks at the sheet itself.
+TEST_F(EingebauterDrucker, DISABLED_OnAQueue) {
+    EXPECT_TRUE(drucker.Wählen(qgetenv("KW_QUEUE").toStdString()));
+    const int lage = qEnvironmentVariableIntValue("KW_LIE");
+    drucker.OrientationSetzen(lage);
+    Drucken(9, lage, qEnvironmentVariableIntValue("KW_COLOUR") != 0);
+}
+
+TEST(Druckerauskunft, ASilentServerDoesNotHoldTheWindow) {
+    const int stumm = ::socket(AF_INET, SOCK_STREAM, 0); // takes connections and says nothing
+    sockaddr_in ort{};
+    socklen_t länge = sizeof ort;
+    auto *adresse = reinterpret_cast<sockaddr *>(&ort);
+    ort.sin_family = AF_INET;
+    ort.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    ASSERT_EQ(::bind(stumm, adresse, länge) + ::listen(stumm, 9) + ::getsockname(stumm, adresse, &länge), 0);
+    qputenv("CUPS_SERVER", "127.0.0.1:" + QByteArray::number(ntohs(ort.sin_port)));
+    QElapsedTimer zeit;
+    zeit.start();
+    const Druckerauskunft auskunft;
+    for (int i = 0; i < 3; ++i) EXPECT_TRUE(auskunft.Erfragen().Namen.isEmpty());
+    EXPECT_LT(zeit.elapsed(), 2000);
+    ::close(stumm);
+    qunsetenv("CUPS_SERVER");
+}
