@@ -79,20 +79,17 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
 Hauptfenster::Hauptfenster(const std::string &kommandozeile)
     : drucker_(PdfDialoge([this] { return Vordergrund(); }, [this] { return haupt_.ansicht.Sprache == "de"; })),
       leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
-      fläche_(new Arbeitsflaeche(leinwand_)), status_(new Statuszeile),
-      menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
+      fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     setCentralWidget(fläche_);
     setAnimated(false);
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide toolbar and panels
-    setContentsMargins(0, Menüs::Höhe() + Symbolleiste::Höhe(), 0,
-                       0); // until these come, so that the page doesn't jump
-    setStatusBar(status_);
+    // Until these come, so that the page doesn't jump.
+    setContentsMargins(0, Menüs::Höhe() + Symbolleiste::Höhe(), 0, Statuszeile::Höhe());
     resize(QGuiApplication::primaryScreen()->availableSize() * 0.9);
     fläche_->Verbinden(haupt_, [this] {
         // Not before: the first word on the window costs the loading of the system's fonts.
         LeistenBauen();
         palette_ = new Werkzeugpalette(fläche_, haupt_, [this](std::string_view name) { Ausführen(name); });
-        status_->Bauen([this](std::string_view name) { Ausführen(name); });
         Anzeigen();
         for (const auto &arbeit : std::exchange(nachErstemBild_, {})) arbeit();
     });
@@ -108,6 +105,9 @@ void Hauptfenster::LeistenBauen() {
     band_ = new Symbolleiste(haupt_, *fläche_, [this](std::string_view name) { Ausführen(name); });
     addToolBar(band_);
     band_->show();
+    status_ = new Statuszeile([this](std::string_view name) { Ausführen(name); });
+    setStatusBar(status_);
+    status_->show();
     layout()->setEnabled(true);
     layout()->activate();
 }
@@ -130,7 +130,7 @@ void Hauptfenster::Anzeigen() {
     if (band_) band_->Auffrischen();
     fläche_->Auffrischen();
     if (palette_) palette_->Auffrischen();
-    status_->Auffrischen(haupt_);
+    if (status_) status_->Auffrischen(haupt_);
     if (!importliste_ && Importliste::IstVerlangt(haupt_))
         addDockWidget(Qt::RightDockWidgetArea, importliste_ = new Importliste(haupt_));
     if (importliste_) importliste_->Auffrischen();

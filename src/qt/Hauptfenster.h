@@ -66,7 +66,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     QtBilder bilder_{leinwand_};
     frmMain haupt_;
     Arbeitsflaeche *fläche_;
-    Statuszeile *status_;
+    Statuszeile *status_ = nullptr; ///< the same
     Menüs menüs_;
     Symbolleiste *band_ = nullptr;       ///< not before the first picture, as the palette
     Werkzeugpalette *palette_ = nullptr; ///< not before the first picture

@@ -19,13 +19,14 @@ constexpr int Einzug = 6;
 
 } // namespace
 
-Statuszeile::Statuszeile() {
+int Statuszeile::Höhe() {
     constexpr int Luft = 8; // edges of row and button
-    setSizeGripEnabled(false);
-    setFixedHeight(Zeilenhöhe() + Luft);
+    return Zeilenhöhe() + Luft;
 }
 
-void Statuszeile::Bauen(std::function<void(std::string_view)> ausführen) {
+Statuszeile::Statuszeile(std::function<void(std::string_view)> ausführen) {
+    setSizeGripEnabled(false);
+    setFixedHeight(Höhe());
     lblTool_ = new QLabel(this);
     lblTool_->setTextFormat(Qt::PlainText);
     lblTool_->setIndent(Einzug);
@@ -45,7 +46,6 @@ void Statuszeile::Bauen(std::function<void(std::string_view)> ausführen) {
 }
 
 void Statuszeile::Auffrischen(const frmMain &haupt) {
-    if (!lblTool_) return;
     lblTool_->setText(Text(haupt.bedienung.Finden("lblTool")->Caption));
     const Bedienelement &knopf = *haupt.bedienung.Finden(Rändername);
     cmdRänder_->setText(Text(knopf.Caption));

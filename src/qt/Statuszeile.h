@@ -12,15 +12,15 @@ namespace kw {
 
 class frmMain;
 
-/// The row below the page: what the pointer is over at the left, the printer's margins at the right. Its place is kept
-/// free from the start; the words come with `Bauen`, since the first ones cost the loading of the system's fonts.
+/// The row below the page: what the pointer is over at the left, the printer's margins at the right.
 class Statuszeile : public QStatusBar {
   public:
-    Statuszeile();
+    /// `ausführen` runs the command of the button.
+    explicit Statuszeile(std::function<void(std::string_view)> ausführen);
 
-    /// Makes the row's parts; `ausführen` runs the command of the button.
-    void Bauen(std::function<void(std::string_view)> ausführen);
-    /// Copies captions and states; nothing before `Bauen`.
+    /// How high it will be, without a look at the system's fonts: for who keeps its place free until it comes.
+    static int Höhe();
+    /// Copies captions and states.
     void Auffrischen(const frmMain &haupt);
 
   private:
