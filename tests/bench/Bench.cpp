@@ -3,11 +3,9 @@
 // texts prepared.
 
 #include "app/Einzelbild.h"
-#include "document/Felder.h"
 #include "document/Profil.h"
 #include "document/ProjektDatei.h"
 #include "document/Zahlen.h"
-#include "document/basAltersberechnung.h"
 #include "qt/Hauptfenster.h"
 #include "qt/LeinwandFlaeche.h"
 #include "qt/QtPlattform.h"
@@ -204,21 +202,12 @@ void SaveToDisk(benchmark::State &zustand) {
     std::remove("bench.tmp");
 }
 
-void Ages(benchmark::State &zustand) {
-    const Dokument d = Familien(static_cast<int>(zustand.range(0)));
-    const QtUhr uhr;
-    Altersberechnung alter(uhr);
-    for (auto _ : zustand)
-        for (const auto &satz : d.cboPersonen) alter.AlterAusDatum(Felder(satz)[PersonFeld::Geburtsdatum]);
-}
-
 #define KW_SIZES Arg(10)->Arg(100)->Arg(200)->Arg(300)->Arg(400)->Arg(900)->Unit(benchmark::kMicrosecond)
 BENCHMARK(Redraw)->KW_SIZES;
 BENCHMARK(RedrawBareLoop)->KW_SIZES;
 BENCHMARK(Load)->KW_SIZES;
 BENCHMARK(Save)->KW_SIZES;
 BENCHMARK(SaveToDisk)->Arg(100)->Arg(900)->Unit(benchmark::kMicrosecond);
-BENCHMARK(Ages)->KW_SIZES;
 
 /// Shows the usual table, then growth from size to size and the redraw's ratio to the bare loop. With
 /// repetitions the fastest of each counts.

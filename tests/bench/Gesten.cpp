@@ -88,11 +88,6 @@ void Löschen(benchmark::State &lauf) {
     }
 }
 
-void Schnappschuss(benchmark::State &lauf) {
-    Sitzung s(lauf);
-    for (auto _ : lauf) s.haupt.Sichern();
-}
-
 void UndoUndRedo(benchmark::State &lauf) {
     Sitzung s(lauf);
     s.haupt.Sichern();
@@ -111,7 +106,6 @@ BENCHMARK(Treffer)->Apply(Personenzahlen);
 BENCHMARK(Rahmen)->Apply(Personenzahlen);
 BENCHMARK(GruppeBewegen)->Apply(Personenzahlen);
 BENCHMARK(Löschen)->Apply(Personenzahlen);
-BENCHMARK(Schnappschuss)->Apply(Personenzahlen);
 BENCHMARK(UndoUndRedo)->Apply(Personenzahlen);
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "document/Dokument.h"
-#include "document/Chronik.h"
 #include "document/Codepage.h"
 #include "document/Zahlen.h"
 
@@ -72,20 +71,4 @@ TEST(Dokument, freieNummernEndenBeimLetztenSatz) {
     d.cboPersonen = {"003_", "001_"};
     d.FreieNummernAufbauen();
     EXPECT_EQ(d.NeuePersNr(), "003") << "in use already: meant";
-}
-
-TEST(Chronik, behältDieVierNeuesten) {
-    Chronik chronik;
-    const auto alle = [&chronik] { return chronik[1] + "," + chronik[2] + "," + chronik[3] + "," + chronik[4]; };
-    chronik.Aktualisieren("  ");
-    chronik.Aktualisieren("");
-    for (const auto *const pfad : {"a", "b", "c", "d", "e"}) chronik.Aktualisieren(pfad);
-    EXPECT_EQ(alle(), "e,d,c,b");
-    chronik.Aktualisieren("c");
-    EXPECT_EQ(alle(), "e,d,c,b") << "a known one keeps its place";
-    chronik.Vorziehen(3);
-    EXPECT_EQ(alle(), "c,e,d,b");
-    chronik.Eintragen("f");
-    chronik.Eintragen("d");
-    EXPECT_EQ(alle(), "f,c,e,d");
 }
