@@ -32,7 +32,7 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       bereich(canvas, ansicht, start.BildschirmBreite, start.BildschirmHöhe,
               {[this] { Vorschau(); }, [this] { anzeige.ZoomZeigen(); }}),
       anzeige(*this), druck(plattform.drucker, plattform.benutzer, ansicht, bedienung),
-      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht), import(*this),
+      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(); }), import(*this),
       projekt(*this), werkbank{dokument, ansicht, auswahl,   lage,        auflagen,
                                ablage,   legende, bedienung, picVorschau, plattform.benutzer,
                                *this},

@@ -34,6 +34,7 @@ void Bildexport::SeiteExportieren(const std::string &projektdatei) {
                                                 : "Export genogram as image file as ...",
                                    projektdatei);
     if (!datei) return;
+    abwählen_();
     const int zoom = bereich_.cboBildGröße.ListIndex;
     bereich_.ZoomWählen(bereich_.cboBildGröße.Anzahl() - 1);
     try {

@@ -4,8 +4,11 @@
 #include "platform/Benutzer.h"
 #include "platform/Bilder.h"
 
+#include <functional>
+#include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace kw {
 
@@ -22,8 +25,10 @@ void JpegSpeichern(Bilder &bilder, const std::string &datei, unsigned char quali
 /// The page, or a part of it, as a picture: the very pixels of the canvas. Owned by the main window.
 class Bildexport {
   public:
-    Bildexport(Benutzer &benutzer, Bilder &bilder, Arbeitsbereich &bereich, const Ansicht &ansicht)
-        : benutzer_(benutzer), bilder_(bilder), bereich_(bereich), ansicht_(ansicht) {}
+    /// `abwählen` ends the selection, whose marks stand in the canvas's picture and belong in no other.
+    Bildexport(Benutzer &benutzer, Bilder &bilder, Arbeitsbereich &bereich, const Ansicht &ansicht,
+               std::function<void()> abwählen)
+        : benutzer_(benutzer), bilder_(bilder), bereich_(bereich), ansicht_(ansicht), abwählen_(std::move(abwählen)) {}
 
     /// Asks for a file and writes the page as it looks at the greatest zoom. A name that ends in ".bmp", in small
     /// letters, gives a bitmap, any other a JPEG whatever it says. Meant. Says nothing when the picture can't be
@@ -44,6 +49,7 @@ class Bildexport {
     Bilder &bilder_;
     Arbeitsbereich &bereich_;
     const Ansicht &ansicht_;
+    std::function<void()> abwählen_;
 };
 
 } // namespace kw
