@@ -66,8 +66,8 @@ void DruckränderUmschalten(frmMain &h, int) {
 }
 
 void LegendeUmschalten(frmMain &h, int) {
-    h.bedienung["btnLegende"].Checked = !h.bedienung["btnLegende"].Checked;
-    h.Legende();
+    h.LegendeZeigen(!h.bedienung["btnLegende"].Checked);
+    h.projekt.Geändert = true; // the project holds it, no snapshot does
 }
 
 struct Zeile {

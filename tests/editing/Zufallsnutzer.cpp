@@ -15,27 +15,34 @@ namespace {
 /// %= the same place again, %m an entry of the menu of what stands at a place, %z one of the twins' menu, %t a tool,
 /// %F a frame round one element or two, %C one round a couple, %T, %B and %f what he does in the form of a text, a
 /// relationship, what stood at the last place, %o the entry that opens the last one, %d a form and the menu that opens
-/// it. What shall happen more often stands here twice.
-constexpr std::string_view Anfang =
-    "start|store cboTextboxen \"3_15_Arial_11_0_0_0_0_0_Ein Text\"|pick cboRaster 1|"
-    "store cboTextboxen 12_16.5_Arial_8_255_1_0_0_2_zwei#Zeilen|save zufall.kwp|load zufall.kwp";
+/// it, %c any command, %A an answer, %s a start. What happens more often stands here twice.
 // clang-format off
+constexpr std::string_view Anfang =
+    "profil muster.txt\nW\tK\t1;Eva;Öz;W;1.1.90;J;N;J;N;\t\nW\tK\t2;Jo_;;M;;N;J;N;J;\t\nend\nprofil zufall.xyz\nW\tINFO"
+    "\ttitle\tFall_1\nW\tOBJECT\t1\tÖz_Eva_f_1980_1_0_1_$\nend\n%s|store cboTextboxen \"3_15_Arial_11_0_0_0_0_0_A B\"|"
+    "pick cboRaster 1|store cboTextboxen 12_16.5_Arial_8_255_1_0_0_2_zwei#Zeilen|save zufall.kwp|load zufall.kwp";
 constexpr std::string_view Handlungen[] = {
-    "tool %t|click %e", "tool 1|click %e|tool 3|click %e", "tool 11|click %e|tool 11|click %e",
-    "click %p|tool 12|move %p|%Bclick %=|click %p|tool 13|move %p|click %=|click %p|tool 14|move %b|click %=",
-    "click %p|tool 14|move %b|click %=|click %p|tool 14|move %b|click %=|click %p|tool 12|move %p|%Bclick %=",
-    "click %p|tool 13|move %p|click %=", "tool 1|click %e|click %=|tool 14|move %b|click %=",
+    "tool %t|click %e", "tool 1|click %e|tool 3|click %e", "tool 11|click %e|tool 11|click %e", "drag %F", "key Ctrl+V",
+    "click %p|tool 12|move %p|%Bclick %=|click %p|tool 13|move %p|click %=|click %p|tool 14|move %b|click %=", "%d",
+    "click %p|tool 14|move %b|click %=|click %p|tool 14|move %b|click %=|click %p|tool 12|move %p|%Bclick %=", "%d",
+    "click %p|tool 13|move %p|click %=", "tool 1|click %e|click %=|tool 14|move %b|click %=", "drag %F|drag %= %e",
     "drag %C|popup %z\ntool zwillinge", "drag %F|popup mnuTwinsEineiig\nrclick %=", "drag %F|drag %= %e|drag %= %e",
-    "drag %F|popup mnuTwinszweiiig\nrclick %=", "drag %F", "drag %F|drag %= %e", "drag %F|press cmdDelete",
-    "drag %F|menu mnuSymbolGrößer", "drag %F|key Ctrl+C|key Ctrl+V", "drag %F|key Ctrl+X|key Ctrl+V", "key Ctrl+V",
-    "popup %m\nrclick %=", "popup %m\nrclick %=|rclick %=", "drag %x %e", "drag %p %e", "drag %b %e", "drag %x %x",
-    "click %x|drag %= %e", "click %x", "click %x|key Del", "key Del", "key Ctrl+C", "key Ctrl+X", "key Ctrl+Z",
-    "key Ctrl+Z|key Ctrl+Z|key Ctrl+Y|key Ctrl+Y", "tool 9|drag %e %e", "tool 15|drag %e %e", "wheel up",
-    "down left %x|move %x|move %x", "down right %x|move %x|up %=", "move %x|up %=", "move %x|key Del|move %x|up %=",
-    "save zufall.kwp|load zufall.kwp", "pick cboRaster 0", "pick cboRaster 2", "menu mnuLegendeAnzeigen", "%d", "%d",
-    "tool 10|%Tclick %e", "click %x|%fdblclick %=\nwait 100", "click %x|%fdblclick %=\nwait 100",
-    "click %x|%fpopup %o\nrclick %=", "%fdblclick %=\nwait 100|%fwait 100",
+    "drag %F|popup mnuTwinszweiiig\nrclick %=", "drag %F|press cmdDelete", "drag %F|press mnuSymbolGrößer", "click %x",
+    "drag %F|key Ctrl+C|key Ctrl+V", "drag %F|key Ctrl+X|key Ctrl+V", "popup %m\nrclick %=", "drag %x %e", "drag %p %e",
+    "popup %m\nrclick %=|rclick %=", "drag %b %e", "drag %x %x", "click %x|drag %= %e", "click %x|key Del", "key Del",
+    "key Ctrl+C", "key Ctrl+X", "key Ctrl+Z|key Ctrl+Z|key Ctrl+Y|key Ctrl+Y", "tool 9|drag %e %e", "wheel up", "%A%c",
+    "tool 15|drag %e %e", "wheel down", "down left %x|move %x|move %x", "down right %x|move %x|up %=", "move %x|up %=",
+    "move %x|key Del|move %x|up %=", "save zufall.kwp|load zufall.kwp", "pick cboRaster 2", "tool 10|%Tclick %e",
+    "click %x|%fdblclick %=\nwait 100", "click %x|%fdblclick %=\nwait 100", "click %x|%fpopup %o\nrclick %=", "%c|%A%c",
+    "%fdblclick %=\nwait 100|%fwait 100", "%A%A%A%c|%c", "drop 0 %e", "%A%A%Apress mnuNeu", "%A%Apress mnuBeenden|%s",
+    "%A%A%Apress mnuÖffnen", "press mnuRecent(1)", "press mnuRecent(2)", "%A%Apress mnuSichernUnter", "drop 1 %e",
+    "press btnAuswahlZuBild|%A%Adrag %e %e", "press btnClipboard|%Adrag %x %e", "%A%Apress mnuExportieren", "hover %t",
+    "press btnClipboard|down left %x|move %x|%c|move %x|up %=", "press btnClipboard|%A%c|%Adrag %x %e",
 };
+constexpr std::string_view Starts[] = {"start cmd=\"/dataimport zufall\"\nwait 200", "start cmd=zufall.kwp\nwait 200",
+    "start printers=\"Laser;Microsoft Print to PDF\" margins=0.4,0.5,1,0"};
+constexpr std::string_view Worte[] = {"yes", "no", "cancel", "file cancel", "file 1.kwp", "file 2.kwp", "file 1.bmp"};
+constexpr std::string_view Gruppen[] = {Menüleiste, "mnuDatei", Werkzeugband, Palette, Fensterteile};
 
 /// What opens forms: an entry of the menu of such a place, or of the menu bar.
 struct Tür {
@@ -44,9 +51,9 @@ struct Tür {
 constexpr Tür Türen[] = {
     {"mnuPerson", "mnuSymbolBearbeiten", "frmSymbol"}, {"mnuPLinie", "mnuPLiniebearbeiten", "frmPLinien"},
     {"mnuBezLinie", "mnuBLinieBearbeiten", "frmBezLinien"}, {"mnuTextBox", "mnuTextbearbeiten", "frmKommentar"},
-    {"", "mnuLegendeEinstellungen", "frmLegende"}, {"", "mnuSchriftart", "frmSchrift"}, {"", "mnuDrucken", "frmDrucken"},
-    {"", "mnuAltersangabe", "frmSymbGlobal"}, {"", "mnuSeiteEinrichten", "frmSeiteEinrichten"},
-    {"", "mnuEinstellungen", "frmEinstellungen"},
+    {"", "mnuLegendeEinstellungen", "frmLegende"}, {"", "mnuSchriftart", "frmSchrift"},
+    {"", "mnuDrucken", "frmDrucken"}, {"", "mnuAltersangabe", "frmSymbGlobal"},
+    {"", "mnuSeiteEinrichten", "frmSeiteEinrichten"}, {"", "mnuEinstellungen", "frmEinstellungen"},
 };
 constexpr size_t OrtsTüren = 4;
 constexpr std::string_view Texte[] = {
@@ -113,15 +120,12 @@ std::string Zufallsnutzer::Formularzeilen(std::string_view name) {
         const auto &wer = i ? form->Reihenfolge()[zufall_() % form->Reihenfolge().size()] : form->Vorgabeknopf;
         const Art art = (*form)[wer].Kind;
         const bool kombiniert = art == Art::Kombination, text = art == Art::Textfeld || art == Art::Textblock;
+        const std::string ende = art == Art::Textblock ? "\\n" : Würfel(4) ? "" : "\nleave " + wer;
         if (art == Art::Beschriftung) continue;
         if (art == Art::Liste || (kombiniert && Würfel(2))) zeilen += "pick " + wer + " " + std::to_string(Würfel(10));
         else if ((text || kombiniert) && Würfel(6))
-            zeilen.append(Würfel(2) ? "type " : "set ")
-                .append(wer + " ")
-                .append(wer == "txtInstitution" ? "Amt" : Texte[zufall_() % std::size(Texte)])
-                .append(art == Art::Textblock ? "\\n"
-                        : Würfel(4)           ? ""
-                                              : "\nleave " + wer);
+            zeilen += (Würfel(2) ? "type " : "set ") + wer + " " +
+                      std::string(wer == "txtInstitution" ? "Amt" : Texte[zufall_() % std::size(Texte)]) + ende;
         else zeilen += "press " + wer;
         offen = wer != form->Vorgabeknopf && wer != form->Abbruchknopf && (*form)[wer].Caption != "Delete";
         zeilen += "\n";
@@ -147,11 +151,14 @@ std::string Zufallsnutzer::Eingesetzt(char platzhalter) {
     case 'B': return Formularzeilen("frmBezLinien");
     case 'd': {
         const Tür &tür = Türen[OrtsTüren + zufall_() % (std::size(Türen) - OrtsTüren)];
-        return Formularzeilen(tür.Form) + "menu " + std::string(tür.Eintrag);
+        return Formularzeilen(tür.Form) + "press " + std::string(tür.Eintrag);
     }
     case 'm': return Eintrag(Wählen(alle_).Menü);
     case 'z': return Eintrag("mnuZwillinge");
     case 't': return std::to_string(1 + Würfel(20));
+    case 's': return std::string(Starts[zufall_() % std::size(Starts)]);
+    case 'A': return "answer " + std::string(Worte[zufall_() % std::size(Worte)]) + "\n";
+    case 'c': return "press " + Eintrag(Gruppen[zufall_() % std::size(Gruppen)]);
     case 'C':
         Wählen(balken_);
         letzter_.Y -= 1; // between the partners
@@ -170,14 +177,14 @@ std::string Zufallsnutzer::Eingesetzt(char platzhalter) {
 }
 
 std::vector<std::string> Zufallsnutzer::Nächstes(frmMain &haupt) {
-    constexpr size_t Voll = 60; // elements, arrows counted twice
     haupt_ = &haupt;
     Umsehen();
     std::string_view handlung = Anfang;
     const auto hat = [&](std::string_view wort) { return handlung.find(wort) != std::string_view::npos; };
-    while (!neu_ && (handlung == Anfang || (genau_ && (hat("load") || hat("Ctrl+V") || hat("Ctrl+Z")))))
+    while (!neu_ && (handlung == Anfang || (hat("drop") && haupt.import.Listenzeilen.empty()) ||
+                     (genau_ && (hat("load") || hat("Ctrl+V") || hat("Ctrl+Z") || hat("ffnen") || hat("Recent")))))
         handlung = Handlungen[zufall_() % std::size(Handlungen)];
-    if (alle_.size() > Voll && (handlung.starts_with("tool") || hat("Ctrl+V"))) handlung = "drag %F|key Del";
+    if (alle_.size() > 60 && (handlung.starts_with("tool") || hat("Ctrl+V"))) handlung = "drag %F|key Del";
     neu_ = false;
     std::vector<std::string> schritte(1);
     for (size_t i = 0; i < handlung.size(); ++i) {

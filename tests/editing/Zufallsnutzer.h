@@ -17,6 +17,8 @@ struct Stand {
     Leinwandlage lage;
     Auswahl auswahl;
     UndoRing ring;
+    int zoom = 0;
+    bool geändert = false;
 };
 
 /// A rule that a state breaks, and whom it is about: "P003" is a person, "L001" a partnership line.
@@ -32,23 +34,23 @@ struct Verstoß {
 };
 
 /// Runs a script step by step and holds each state against the rules of the records. Where the program breaks one
-/// by its own rules this is excused at the step where it arises, for these elements only, and counted.
+/// by its own rules this is excused at the step where it arises, for these elements only.
 class Prüfung {
   public:
-    Prüfung() { BeiFormularenZusehen(); }
+    Prüfung() { Zeile("# start"); }
     /// Runs a line, or several that are one deed: what is left of their forms and answers goes behind them. The first
     /// fault as "kind: whom", empty when all is well.
     std::string Zeile(const std::string &zeile);
     frmMain &Haupt() { return wiedergabe_.Läuft().haupt; }
-    std::map<std::string, int> Entschuldigt; ///< by which rule, and how often
 
   private:
     void BeiFormularenZusehen();
     std::string Übergang();
+    std::string Projektwechsel(bool neu);
 
     std::ostringstream aus_;
     Wiedergabe wiedergabe_{aus_};
-    std::string zeile_, vorige_;
+    std::string zeile_;
     Stand jetzt_, alt_;
     std::map<int, Dokument> plätze_;     ///< what the undo ring should hold
     std::set<std::string> entschuldigt_; ///< texts of faults
