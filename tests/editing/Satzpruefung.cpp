@@ -177,8 +177,7 @@ std::string Unterschied(const Dokument &a, const Dokument &b) {
 
 /// The same for what a command leaves as it was that only shows, saves or prints. It ends a running gesture.
 std::string Unterschied(const Stand &a, const Stand &b) {
-    const bool gruppe = a.lage.Aktion == AktionGruppeGewählt && b.lage.Aktion != AktionGruppeGewählt;
-    const bool anders = gruppe || Ringstand(a.ring) != Ringstand(b.ring) || Frei(a.dokument) != Frei(b.dokument);
+    const bool anders = Ringstand(a.ring) != Ringstand(b.ring) || Frei(a.dokument) != Frei(b.dokument);
     return anders && !a.lage.Gedrückt ? " beside the records" : Unterschied(a.dokument, b.dokument);
 }
 
