@@ -77,10 +77,7 @@ struct Zeile {
 };
 constexpr Zeile Tabelle[] = {
     {"mnuNeu", [](frmMain &h, int) { h.projekt.mnuNeu(); }},
-    {"btnNeuesProjekt", [](frmMain &h, int) { h.projekt.mnuNeu(); }},
     {"mnuÖffnen", [](frmMain &h, int) { h.projekt.mnuÖffnen(); }},
-    {"btnÖffnen", [](frmMain &h, int) { h.projekt.mnuÖffnen(); }},
-    {"btnSpeichern", [](frmMain &h, int) { h.projekt.Speichern(); }},
     {"mnuSpeichern", [](frmMain &h, int) { h.projekt.Speichern(); }},
     {"mnuSichernUnter", [](frmMain &h, int) { h.projekt.SpeichernUnter(); }},
     {"mnuExportieren", [](frmMain &h, int) { h.bildexport.SeiteExportieren(h.projekt.Projektdatei); }},
@@ -93,8 +90,6 @@ constexpr Zeile Tabelle[] = {
     {"mnuWiederholen", [](frmMain &h, int) { h.cmdredo(); }},
     {"cmdUndo", [](frmMain &h, int) { h.cmdUndo(); }},
     {"cmdredo", [](frmMain &h, int) { h.cmdredo(); }},
-    {"btnUndo", [](frmMain &h, int) { h.cmdUndo(); }},
-    {"btnRedo", [](frmMain &h, int) { h.cmdredo(); }},
     {"mnuAusschneiden", Auf<Ausschneiden>},
     {"mnuAusschneiden2", Auf<Ausschneiden>},
     {"mnuAusschneiden4", Auf<Ausschneiden>},
@@ -161,21 +156,15 @@ constexpr Zeile Tabelle[] = {
     {"mnuTextboxLöschen", Auf<TextLöschen>},
 
     {"mnuWerkzeugleiste", [](frmMain &h, int) { h.anzeige.WerkzeugleisteUmschalten(); }},
-    {"btnWerkzeugleiste", [](frmMain &h, int) { h.anzeige.WerkzeugleisteUmschalten(); }},
     {"mnuRasterAnzeigen", [](frmMain &h, int) { h.anzeige.RasterUmschalten(); }},
-    {"btnGitterZeichnen", [](frmMain &h, int) { h.anzeige.RasterUmschalten(); }},
     {"mnuRasterKlein", [](frmMain &h, int) { h.anzeige.RasterWählen(0); }},
     {"mnuRasterGroß", [](frmMain &h, int) { h.anzeige.RasterWählen(1); }},
     {"mnuLegendeEinstellungen", [](frmMain &h, int) { h.FormÖffnen("frmLegende"); }},
     {"mnuLegendeAktualisieren", LegendeAktualisieren},
     {"mnuLegendeAnzeigen", LegendeUmschalten},
-    {"btnLegende", LegendeUmschalten},
     {"mnuSchwarzWeiß", Farbschema, SchemaSchwarzWeiß},
     {"mnuGraustufen", Farbschema, SchemaGraustufen},
     {"mnuFarbig", Farbschema, SchemaFarbig},
-    {"keySchwarzweiß", Farbschema, SchemaSchwarzWeiß},
-    {"keyGraustufen", Farbschema, SchemaGraustufen},
-    {"keyFarbig", Farbschema, SchemaFarbig},
     {"mnuSchriftart", [](frmMain &h, int) { h.FormÖffnen("frmSchrift"); }},
     {"mnuAltersangabe", [](frmMain &h, int) { h.FormÖffnen("frmSymbGlobal"); }},
     {"mnuSeiteEinrichten", [](frmMain &h, int) { h.FormÖffnen("frmSeiteEinrichten"); }},
@@ -186,7 +175,6 @@ constexpr Zeile Tabelle[] = {
     {"keyUSLetter", Papier, 1},
     {"btnBlattränder", DruckränderUmschalten},
     {"cmdRänder", [](frmMain &h, int) { h.druck.DruckrandBericht(); }},
-    {"btnDrucken", [](frmMain &h, int) { h.FormÖffnen("frmDrucken"); }},
     {"mnuDrucken", [](frmMain &h, int) { h.FormÖffnen("frmDrucken"); }},
     {"mnuEinstellungen", [](frmMain &h, int) { h.FormÖffnen("frmEinstellungen"); }},
     {"mnuHilfethemen", [](frmMain &h, int) { h.HilfeÖffnen(); }},
@@ -226,6 +214,7 @@ Befehl AusReihe(std::string_view name) {
 } // namespace
 
 Befehl BefehlFinden(std::string_view name) {
+    if (const auto menü = Menügleich(name); !menü.empty()) name = menü;
     const auto i =
         std::find_if(std::begin(Tabelle), std::end(Tabelle), [&](const Zeile &zeile) { return zeile.Name == name; });
     return i == std::end(Tabelle) ? AusReihe(name) : Befehl{i->Ausführen, i->Wert};

@@ -3,6 +3,7 @@
 #include "app/frmMain.h"
 #include "document/Felder.h"
 #include "document/ProjektDatei.h"
+#include "output/Zieldatei.h"
 
 #include <filesystem>
 
@@ -83,27 +84,13 @@ void Projekt::SpeichernUnter() {
                          deutsch ? "Genogrammprojekt 1" : "Genogram Project 1",
                          deutsch ? "Kinwright Datei (*.kwp)|*.kwp" : "kinwright file (*.kwp)|*.kwp",
                          haupt_.plattform.benutzer.Desktopordner()};
-    while (true) {
-        const auto datei = haupt_.plattform.benutzer.DateiSpeichern(wahl);
-        if (!datei) {
-            SpeichernAbgebrochen = true;
-            return;
-        }
-        if (!ErsetzenErlaubt(*datei)) continue;
-        Projektdatei = *datei;
-        ProjektSchreiben();
-        Titel = Projektdatei;
-        haupt_.plattform.benutzer.AnzeigeAuffrischen();
-        return;
-    }
-}
-
-bool Projekt::ErsetzenErlaubt(const std::string &datei) {
-    if (!DateiVorhanden(datei)) return true;
-    const std::string text = haupt_.IstDeutsch()
-                                 ? "Die Datei " + datei + " besteht bereits. \nMöchten Sie sie ersetzen ?"
-                                 : "The file " + datei + " already exists. \nDo you want to replace?";
-    return haupt_.plattform.benutzer.Fragen({"Kinwright", text, Knöpfe::JaNein, Zeichen::Warnung}) == Antwort::Ja;
+    const auto datei = ZieldateiWählen(haupt_.plattform.benutzer, wahl, deutsch, "Do you want to replace?");
+    SpeichernAbgebrochen = SpeichernAbgebrochen || !datei;
+    if (!datei) return;
+    Projektdatei = *datei;
+    ProjektSchreiben();
+    Titel = Projektdatei;
+    haupt_.plattform.benutzer.AnzeigeAuffrischen();
 }
 
 bool Projekt::NachÄnderungenFragen() {

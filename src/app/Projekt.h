@@ -47,7 +47,6 @@ class Projekt {
   private:
     bool ProjektNeu();
     void InhaltLesen();
-    bool ErsetzenErlaubt(const std::string &datei);
 
     frmMain &haupt_;
 };

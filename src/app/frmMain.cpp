@@ -45,8 +45,7 @@ void frmMain::Laden() {
     // Asking for printers or fonts can take longer than all the rest of the start.
     plattform.benutzer.NachErstemBild([this] {
         SchriftlisteFüllen();
-        druck.Ermitteln();
-        RänderknopfBeschriften(bedienung, ansicht.Sprache, druck.DefaultPrinter);
+        DruckerErmitteln();
     });
     ansicht.StrichFaktor = 1;
     SeiteBestimmen(dokument, ansicht);
@@ -103,6 +102,14 @@ void frmMain::ZweiteStufe() {
     dokument.Papiercode = einstellungen.Papiercode;
 }
 
+/// A print system that takes its time is asked again until it answers.
+void frmMain::DruckerErmitteln() {
+    constexpr int Nachfragen = 2000; // ms
+    druck.Ermitteln();
+    RänderknopfBeschriften(bedienung, ansicht.Sprache, druck.DefaultPrinter);
+    if (plattform.drucker.AntwortStehtAus()) plattform.benutzer.ZeitgeberStarten("tmrDrucker", Nachfragen);
+}
+
 void frmMain::SchriftlisteFüllen() {
     Combo1.Einträge.Leeren();
     for (auto &name : plattform.benutzer.Schriftarten()) Combo1.Einträge.Anhängen(std::move(name));
@@ -137,6 +144,7 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "Timer3" && !Getrimmt(lage.PersRecord).empty()) FormÖffnen("frmSymbol");
     if (name == "Timer4") Vorschau();
     if (name == "Timer5") import.Startaufruf();
+    if (name == "tmrDrucker") DruckerErmitteln();
     if (name == "tmrLanguage") SpracheErfragen();
     if (name == "tmrToolTipp") anzeige.PalettenhinweisZeigen();
     NachEreignis();
@@ -188,6 +196,7 @@ bool frmMain::BefehlAusführen(std::string_view name) {
 }
 
 void frmMain::PopupÖffnen(std::string_view menü) {
+    NachEreignis(); // what the press has selected shows beside the open menu
     if (const auto gewählt = plattform.benutzer.PopupZeigen(menü)) BefehlAusführen(*gewählt);
 }
 
@@ -219,9 +228,7 @@ void frmMain::SeiteAnwenden() {
     bereich.Bildgrößenveränderung();
 }
 
-void frmMain::GenogrammDrucken() {
-    druck.GenogrammDrucken(DasBild(), NameOhneKennung(DateiName(projekt.Projektdatei)));
-}
+bool frmMain::GenogrammDrucken() { return druck.GenogrammDrucken(DasBild(), projekt.Projektdatei); }
 
 void frmMain::PdfErzeugen() {
     if (druck.PdfDruckerWählen()) GenogrammDrucken();

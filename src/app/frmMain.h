@@ -72,7 +72,7 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void FormÖffnen(std::string_view name) override;
     void LegendeZeigen(bool sichtbar) override;
     void SeiteAnwenden() override;
-    void GenogrammDrucken() override;
+    bool GenogrammDrucken() override;
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
     /// The page as a PDF file, by the printer that writes such; it stays the current one.
     void PdfErzeugen();
@@ -148,6 +148,7 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void ZweiteStufe();
     void ListenFüllen();
     void SchriftlisteFüllen();
+    void DruckerErmitteln();
     void ZeitgeberStellen();
     void SpracheErfragen();
     void EinstellungenSichern();

@@ -241,6 +241,24 @@ constexpr Menüzeile Tafel[] = {
     {"imgVariable", Fensterteile, "", "", "", true, Versteckt},
 };
 
+struct Paar {
+    std::string_view Knopf, Menü;
+};
+constexpr Paar Gleiche[] = {
+    {"btnNeuesProjekt", "mnuNeu"},
+    {"btnÖffnen", "mnuÖffnen"},
+    {"btnSpeichern", "mnuSpeichern"},
+    {"btnDrucken", "mnuDrucken"},
+    {"btnUndo", "mnuRückgängig"},
+    {"btnRedo", "mnuWiederholen"},
+    {"btnGitterZeichnen", "mnuRasterAnzeigen"},
+    {"btnWerkzeugleiste", "mnuWerkzeugleiste"},
+    {"btnLegende", "mnuLegendeAnzeigen"},
+    {"keySchwarzweiß", "mnuSchwarzWeiß"},
+    {"keyGraustufen", "mnuGraustufen"},
+    {"keyFarbig", "mnuFarbig"},
+};
+
 } // namespace
 
 std::span<const Menüzeile> Menütafel() { return Tafel; }
@@ -259,6 +277,12 @@ bool GehörtZu(std::string_view name, std::string_view menü) {
     for (const Menüzeile *z = MenüzeileFinden(name); z; z = MenüzeileFinden(z->Menü))
         if (z->Menü == menü) return true;
     return false;
+}
+
+std::string_view Menügleich(std::string_view name) {
+    const auto *paar =
+        std::find_if(std::begin(Gleiche), std::end(Gleiche), [&](const Paar &p) { return p.Knopf == name; });
+    return paar == std::end(Gleiche) ? std::string_view() : paar->Menü;
 }
 
 void BedienelementeAnlegen(Bedienelemente &elemente) {

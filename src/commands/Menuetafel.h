@@ -39,6 +39,10 @@ bool IstMenü(const Menüzeile &zeile);
 /// Whether the row `name` stands in `menü` or in a menu below it.
 bool GehörtZu(std::string_view name, std::string_view menü);
 
+/// The menu entry that toolbar item `name` stands for, in what it does and in its shortcut; empty for an item of its
+/// own.
+std::string_view Menügleich(std::string_view name);
+
 /// Creates the states of all rows, as at start, in English.
 void BedienelementeAnlegen(Bedienelemente &elemente);
 

@@ -17,8 +17,8 @@ class Dialogdienste {
     virtual void LegendeZeigen(bool sichtbar) = 0;
     /// The document's paper, orientation or margins' frame have changed: toolbar and page follow.
     virtual void SeiteAnwenden() = 0;
-    /// One print run on the current printer.
-    virtual void GenogrammDrucken() = 0;
+    /// One print run on the current printer. False when no further copy is wanted.
+    virtual bool GenogrammDrucken() = 0;
 };
 
 /// All that the forms work on.

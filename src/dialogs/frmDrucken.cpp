@@ -67,7 +67,8 @@ void frmDrucken::Bestätigen() {
              Knöpfe::Ok, Zeichen::Warnung});
         return;
     }
-    for (int i = 0; i < exemplare_; ++i) umgebung_.dienste.GenogrammDrucken();
+    for (int i = 0; i < exemplare_ && umgebung_.dienste.GenogrammDrucken(); ++i) {
+    }
     Schließen();
 }
 

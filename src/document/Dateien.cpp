@@ -236,6 +236,18 @@ std::string Kennung(std::string_view name) {
     return punkt == std::string_view::npos ? std::string{} : std::string(name.substr(punkt + 1));
 }
 
+std::string MitKennung(const std::string &datei, std::string_view kennung, bool alle) {
+    constexpr size_t Längste = 4; // "jpeg"
+    const std::string eigene = Kennung(DateiName(datei));
+    const auto klein = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+    const bool gleich = std::equal(eigene.begin(), eigene.end(), kennung.begin(), kennung.end(),
+                                   [&](char a, char b) { return klein(a) == klein(b); });
+    const auto istBuchstabe = [&](char c) { return klein(c) >= 'a' && klein(c) <= 'z'; };
+    const bool irgendeine = eigene.size() <= Längste && std::any_of(eigene.begin(), eigene.end(), istBuchstabe) &&
+                            std::none_of(eigene.begin(), eigene.end(), [](char c) { return c == ' '; });
+    return gleich || (alle && irgendeine) ? datei : datei + "." + std::string(kennung);
+}
+
 bool DateiVorhanden(const std::string &pfad) {
     struct stat angaben {};
     return ::stat(pfad.c_str(), &angaben) == 0 && !S_ISDIR(angaben.st_mode);

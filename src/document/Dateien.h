@@ -16,6 +16,9 @@ std::string DateiName(std::string_view pfad);
 std::string NameOhneKennung(std::string_view name);
 /// Everything behind the last "." of a file name; empty when there is none.
 std::string Kennung(std::string_view name);
+/// `datei` with the ending `kennung` unless it has that, in letters of any case; with `alle` unless it has any: a date
+/// or a number behind the last point ("Berg 3.11.2026") is none.
+std::string MitKennung(const std::string &datei, std::string_view kennung, bool alle);
 bool DateiVorhanden(const std::string &pfad);
 
 /// The outcome of reading or writing a file. `Meldung` is empty on success, else one plain line without

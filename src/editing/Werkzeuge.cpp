@@ -111,11 +111,12 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
 }
 
 void BildauswahlBeginnen(Werkbank &w, bool inDatei) {
+    const bool weglegen = w.lage.BildAuswahl && w.lage.bAuswahlInDatei == inDatei;
     w.lage.Aktion = AktionNichts;
     AuswahlAufgeben(w);
     PositionenVergessen(w.lage);
-    w.lage.Zeiger = Mauszeiger::Kreuz;
-    w.lage.BildAuswahl = true;
+    w.lage.Zeiger = weglegen ? Mauszeiger::Pfeil : Mauszeiger::Kreuz;
+    w.lage.BildAuswahl = !weglegen;
     w.lage.bAuswahlInDatei = inDatei;
 }
 
@@ -139,6 +140,7 @@ void PaletteAuffrischen(Werkbank &w) {
         knopf.Checked = IstGedrückt(w.lage, werkzeug);
         knopf.Enabled = Brauchbar(w, werkzeug.Nummer);
     }
+    w.bedienung["mnuEinfügen8"].Enabled = w.ablage.HatEtwas();
     w.bedienung["cmdDelete"].Enabled = w.lage.Aktion == AktionGruppeGewählt;
     w.bedienung["btnAuswahlZuBild"].Checked = w.lage.BildAuswahl && w.lage.bAuswahlInDatei;
 }

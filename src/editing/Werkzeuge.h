@@ -29,7 +29,7 @@ std::string WerkzeugName(int nummer);
 void WerkzeugDrücken(Werkbank &w, int nummer);
 
 /// Arms the tool that cuts a region out of the picture, for a file or for the clipboard. What was selected or armed
-/// before ends, so that no marks get into the picture.
+/// before ends, so that no marks get into the picture. The same button again puts the tool away.
 void BildauswahlBeginnen(Werkbank &w, bool inDatei);
 
 /// The palette's button for twins: opens `mnuZwillinge`.

@@ -1,5 +1,8 @@
 #include "output/Druckwerk.h"
 
+#include "document/Dateien.h"
+#include "output/Zieldatei.h"
+
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -81,10 +84,26 @@ void Druckwerk::DruckrandBericht() {
 }
 
 /// The page's orientation overrules the printer's own; its paper stays what the printer is set to.
-void Druckwerk::GenogrammDrucken(Zeichnung bild, const std::string &titel) {
+bool Druckwerk::GenogrammDrucken(Zeichnung bild, const std::string &projektdatei) {
+    const std::string name = NameOhneKennung(DateiName(projektdatei));
+    const std::string titel = name.empty() ? "Kinwright" : name;
+    std::string ziel;
+    const auto zielWählen = [&] {
+        const auto datei = ZieldateiWählen(benutzer_,
+                                           {IstDeutsch() ? "Druckausgabe speichern unter" : "Save Print Output As",
+                                            titel, "PDF  (*.pdf)|*.pdf", Ausgabeordner(benutzer_, projektdatei)},
+                                           IstDeutsch());
+        ziel = DateiName(datei.value_or(""));
+        return datei;
+    };
     drucker_.OrientationSetzen(bedienung_["btnQuerformat"].Checked ? 2 : 1);
-    drucker_.Drucken({titel.empty() ? "Kinwright" : titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite,
-                      ansicht_.SeitenHöhe, [&](Zeichenfläche &papier) { DruckZeichnen(papier, bild); }});
+    const Druckende ende =
+        drucker_.Drucken({titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite, ansicht_.SeitenHöhe,
+                          [&](Zeichenfläche &papier) { DruckZeichnen(papier, bild); }, zielWählen});
+    if (ende == Druckende::NichtGeschrieben)
+        Warnen("Kinwright", IstDeutsch() ? "Die Datei " + ziel + " konnte nicht geschrieben werden."
+                                         : "The file " + ziel + " could not be written.");
+    return ende == Druckende::Erledigt;
 }
 
 bool Druckwerk::PdfDruckerWählen() {

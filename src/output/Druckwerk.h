@@ -27,8 +27,9 @@ class Druckwerk {
     /// Tells the four margins in millimetres. In German in both languages. Meant.
     void DruckrandBericht();
 
-    /// One print run of the document on the current printer: one job, of that title. What fails ends the run silently.
-    void GenogrammDrucken(Zeichnung bild, const std::string &titel);
+    /// One print run of the document on the current printer: one job, named as the project. A printer that fails ends
+    /// the run silently. False when no further copy is wanted: the user has given up, or there is no writing.
+    bool GenogrammDrucken(Zeichnung bild, const std::string &projektdatei);
     /// Makes the printer that writes PDF the current one, which it stays; says so when there is none. False then.
     bool PdfDruckerWählen();
 

@@ -1,6 +1,7 @@
 #include "output/basBildExport.h"
 
 #include "document/Dateien.h"
+#include "output/Zieldatei.h"
 
 namespace kw {
 
@@ -16,17 +17,10 @@ void JpegSpeichern(Bilder &bilder, const std::string &datei, unsigned char quali
 }
 
 std::optional<std::string> Bildexport::DateiWählen(const std::string &titel, const std::string &projektdatei) {
-    std::string ordner = Pfad(projektdatei);
-    if (ordner.empty()) ordner = benutzer_.Desktopordner();
-    const Dateiwahl wahl{titel, NameOhneKennung(DateiName(projektdatei)), "Bitmap  (*.bmp)|*.bmp", ordner};
-    while (true) {
-        const auto datei = benutzer_.DateiSpeichern(wahl);
-        if (!datei || !DateiVorhanden(*datei)) return datei;
-        const std::string frage = IstDeutsch()
-                                      ? "Die Datei " + *datei + " besteht bereits. \nMöchten Sie sie ersetzen ?"
-                                      : "The file " + *datei + " already exists. \nDo you want to replace it?";
-        if (benutzer_.Fragen({"Kinwright", frage, Knöpfe::JaNein, Zeichen::Warnung}) == Antwort::Ja) return datei;
-    }
+    return ZieldateiWählen(benutzer_,
+                           {titel, NameOhneKennung(DateiName(projektdatei)), "Bitmap  (*.bmp)|*.bmp",
+                            Ausgabeordner(benutzer_, projektdatei), Dateiwahl::Kennungen::Alle},
+                           IstDeutsch());
 }
 
 void Bildexport::SeiteExportieren(const std::string &projektdatei) {

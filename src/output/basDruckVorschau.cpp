@@ -57,7 +57,15 @@ void Arbeitsbereich::Vergrößern() { ZoomWählen(cboBildGröße.ListIndex + 1);
 void Arbeitsbereich::Verkleinern() { ZoomWählen(cboBildGröße.ListIndex - 1); }
 
 void Arbeitsbereich::Mausrad(bool hoch) {
+    MausradZählen(hoch);
+    MausradFolgen();
+}
+
+void Arbeitsbereich::MausradZählen(bool hoch) {
     MausradIndex = std::clamp(MausradIndex + (hoch ? 1 : -1), 0, cboBildGröße.Anzahl() - 1);
+}
+
+void Arbeitsbereich::MausradFolgen() {
     if (cboBildGröße.ListIndex != MausradIndex) ZoomWählen(MausradIndex);
 }
 

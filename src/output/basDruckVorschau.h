@@ -61,6 +61,10 @@ class Arbeitsbereich {
     bool KannVerkleinern() const { return cboBildGröße.ListIndex > 0; }
     /// One notch of the wheel, which zooms.
     void Mausrad(bool hoch);
+    /// The same in two steps, for a face that gets notches faster than it can draw the page: all are counted, then the
+    /// zoom follows.
+    void MausradZählen(bool hoch);
+    void MausradFolgen();
     /// Applies the current zoom: line width, canvas, page.
     void Bildgrößenveränderung();
 

@@ -22,10 +22,13 @@ struct Nachfrage {
 
 /// A file dialog. `Filter` is a caption and a pattern joined by "|". The box for reading only never shows.
 struct Dateiwahl {
+    enum class Kennungen { Eine, Alle };
+
     std::string Titel;
     std::string Vorschlag;
     std::string Filter;
     std::string Ordner;
+    Kennungen Erlaubt = Kennungen::Eine; ///< whether a name to save under may end otherwise than the filter says
 };
 
 class Formular;

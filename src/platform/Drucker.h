@@ -8,7 +8,7 @@
 
 namespace kw {
 
-/// The printer that writes its page into a PDF file, for which it asks itself.
+/// The printer that writes its page into a PDF file.
 constexpr std::string_view PdfDruckerName = "Microsoft Print to PDF";
 
 /// What of a sheet a printer can't reach, in cm.
@@ -29,7 +29,12 @@ struct Druckauftrag {
     double SeitenHöhe = 0;
     /// Draws the page on a surface whose user units are centimetres from the corner of the printable area.
     std::function<void(Zeichenfläche &)> Zeichnen;
+    /// Asks for the file, where the printer writes one; nothing when the user gives up.
+    std::function<std::optional<std::string>()> Zieldatei;
 };
+
+/// How a job ended, as far as it is told: a printer that fails says nothing.
+enum class Druckende { Erledigt, Aufgegeben, NichtGeschrieben };
 
 /// The printers of the platform.
 class Drucker {
@@ -49,8 +54,10 @@ class Drucker {
     virtual bool Wählen(std::string_view deviceName) = 0;
     /// Turns the current printer: 1 portrait, 2 landscape.
     virtual void OrientationSetzen(int lage) = 0;
+    /// Whether the platform hasn't answered yet what printers there are; until it does, none can be reached.
+    virtual bool AntwortStehtAus() const = 0;
     /// Prints one job on the current printer. A failure shows nothing and leaves no half job behind.
-    virtual void Drucken(const Druckauftrag &auftrag) = 0;
+    virtual Druckende Drucken(const Druckauftrag &auftrag) = 0;
 };
 
 } // namespace kw

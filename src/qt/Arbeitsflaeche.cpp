@@ -54,7 +54,6 @@ Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand) 
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true); // rubber lines follow the pointer without a button
     setAcceptDrops(true);
-    setAccessibleName(QStringLiteral("Genogramm"));
     for (QScrollBar *leiste : {&vScroll_, &hScroll_}) {
         leiste->setFocusPolicy(Qt::NoFocus); // the keyboard keeps working on the canvas
         leiste->setSingleStep(Zeile);
@@ -93,13 +92,16 @@ void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &mod
 
 void Arbeitsflaeche::Auffrischen() {
     if (!haupt_) return;
+    setAccessibleName(haupt_->IstDeutsch() ? QStringLiteral("Genogramm") : QStringLiteral("Genogram"));
     const Arbeitsbereich &b = haupt_->bereich;
     const int breite = vScroll_.sizeHint().width();
     const int höhe = hScroll_.sizeHint().height();
     const QRect senkrecht = Fläche(b.VScroll1).translated(0, -Pixel(FrameOben)).toRect();
     const QRect waagrecht = Fläche(b.HScroll1).translated(0, -Pixel(FrameOben)).toRect();
     vScroll_.setGeometry(senkrecht.left(), senkrecht.top(), breite, senkrecht.height());
-    hScroll_.setGeometry(waagrecht.left(), waagrecht.top(), waagrecht.width(), höhe);
+    // Up to the other bar or the edge: the frame that the model lays out leaves room for the palette at both sides.
+    const int rechts = b.VScroll1.Visible ? senkrecht.left() : width();
+    hScroll_.setGeometry(waagrecht.left(), waagrecht.top(), rechts - waagrecht.left(), höhe);
     LeisteStellen(vScroll_, b.VScroll1);
     LeisteStellen(hScroll_, b.HScroll1);
     ZeigerSetzen();
@@ -152,7 +154,13 @@ void Arbeitsflaeche::wheelEvent(QWheelEvent *ereignis) {
     ereignis->accept();
     radrest_ += ereignis->angleDelta().y();
     for (; std::abs(radrest_) >= Raste; radrest_ -= radrest_ > 0 ? Raste : -Raste)
-        haupt_->bereich.Mausrad(radrest_ > 0);
+        haupt_->bereich.MausradZählen(radrest_ > 0);
+    // The page is drawn when no more notches wait.
+    if (!std::exchange(zoomSteht_, true))
+        QTimer::singleShot(0, this, [this] {
+            zoomSteht_ = false;
+            haupt_->bereich.MausradFolgen();
+        });
 }
 
 /// Hands the model an event. What it opens then (a popup, a box) runs a loop of its own, which can outlive this

@@ -56,6 +56,7 @@ class Arbeitsflaeche : public QWidget {
     std::function<void()> erstesBild_;
     QScrollBar vScroll_{Qt::Vertical, this};
     QScrollBar hScroll_{Qt::Horizontal, this};
+    bool zoomSteht_ = false;               ///< notches of the wheel wait to be followed
     int radrest_ = 0;                      ///< eighths of a degree that make no notch yet
     Qt::MouseButton taste_ = Qt::NoButton; ///< the button that is down on the canvas; another one doesn't count
     QPointF ort_;                          ///< of the last event, pixels

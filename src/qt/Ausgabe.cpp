@@ -122,8 +122,12 @@ std::string Exportieren(Zeichnung &zeichnung, const std::string &ziel, int dpi, 
     if (!format) return "unknown kind of file";
     if (dpi < KleinsteDpi || dpi > GrößteDpi) return "the resolution is out of range";
     SeiteBestimmen(zeichnung.dokument, zeichnung.ansicht);
-    const Druckauftrag seite{titel, true, zeichnung.ansicht.SeitenBreite, zeichnung.ansicht.SeitenHöhe,
-                             [&](Zeichenfläche &papier) { DruckZeichnen(papier, zeichnung); }};
+    const Druckauftrag seite{titel,
+                             true,
+                             zeichnung.ansicht.SeitenBreite,
+                             zeichnung.ansicht.SeitenHöhe,
+                             [&](Zeichenfläche &papier) { DruckZeichnen(papier, zeichnung); },
+                             {}};
     if (HatUngemesseneTextboxen(zeichnung.dokument)) {
         QImage probe(1, 1, QImage::Format_RGB32);
         SeiteDrucken(seite, probe, 1);

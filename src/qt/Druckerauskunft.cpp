@@ -29,6 +29,11 @@ Druckerstand Druckerauskunft::Erfragen() const {
     return gespräch_->stand;
 }
 
+bool Druckerauskunft::StehtAus() const {
+    const std::lock_guard schloss(gespräch_->sperre);
+    return gespräch_->läuft;
+}
+
 void Druckerauskunft::Führen(const std::shared_ptr<Gespräch> &gespräch) {
     Druckerstand stand{QPrinterInfo::availablePrinterNames(), {}};
     if (!stand.Namen.isEmpty()) stand.Vorgabe = QPrinterInfo::defaultPrinterName();

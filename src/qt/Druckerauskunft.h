@@ -19,6 +19,8 @@ class Druckerauskunft {
     Druckerauskunft();
     /// What the system tells now. When it takes longer than a second, what it told before; at first no printers.
     Druckerstand Erfragen() const;
+    /// Whether the last question hasn't been answered yet.
+    bool StehtAus() const;
 
   private:
     struct Gespräch;

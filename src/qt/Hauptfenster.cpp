@@ -67,18 +67,18 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
     dialog.setAcceptMode(art);
     dialog.setFileMode(art == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    // As the platform's dialogs do for a name typed without one; the question about replacing then names it whole.
-    if (art == QFileDialog::AcceptSave) dialog.setDefaultSuffix(Text(Kennung(wahl.Filter)));
     if (!wahl.Vorschlag.empty()) dialog.selectFile(Text(wahl.Vorschlag));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    return dialog.selectedFiles().first().toStdString();
+    const std::string datei = dialog.selectedFiles().first().toStdString();
+    if (art == QFileDialog::AcceptOpen) return datei;
+    // As the platform's dialogs do; the question about replacing then names it whole.
+    return MitKennung(datei, Kennung(wahl.Filter), wahl.Erlaubt == Dateiwahl::Kennungen::Alle);
 }
 
 } // namespace
 
 Hauptfenster::Hauptfenster(const std::string &kommandozeile)
-    : drucker_(PdfDialoge([this] { return Vordergrund(); }, [this] { return haupt_.ansicht.Sprache == "de"; })),
-      leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
+    : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
       fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     setCentralWidget(fläche_);
     setAnimated(false);
@@ -125,7 +125,8 @@ void Hauptfenster::AnzeigeAuffrischen() {
 
 void Hauptfenster::Anzeigen() {
     auffrischungSteht_ = false;
-    setWindowTitle(Text(haupt_.projekt.Titel));
+    // The toolkit has a use of its own for this mark.
+    setWindowTitle(Text(haupt_.projekt.Titel).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
     menüs_.Auffrischen();
     if (band_) band_->Auffrischen();
     fläche_->Auffrischen();

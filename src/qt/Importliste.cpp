@@ -7,6 +7,7 @@
 #include <QAbstractListModel>
 #include <QDrag>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QListView>
 #include <QMimeData>
 
@@ -50,7 +51,7 @@ class Importmodell : public QAbstractListModel {
     }
     QVariant data(const QModelIndex &index, int rolle) const override {
         const Importperson &person = Person(index.row());
-        if (rolle == Qt::DisplayRole) return Text(person.Vorname + " " + person.Nachname);
+        if (rolle == Qt::DisplayRole || rolle == Qt::ToolTipRole) return Text(person.Vorname + " " + person.Nachname);
         if (rolle == Qt::DecorationRole) return Bild(person);
         return {};
     }
@@ -102,6 +103,11 @@ class Listenfeld : public QListView {
     }
 
   protected:
+    /// Copying and the like are commands of the page.
+    void keyPressEvent(QKeyEvent *ereignis) override {
+        if (ereignis->matches(QKeySequence::Copy)) ereignis->ignore();
+        else QListView::keyPressEvent(ereignis);
+    }
     void startDrag(Qt::DropActions) override {
         const QModelIndex index = currentIndex();
         if (!index.isValid()) return;

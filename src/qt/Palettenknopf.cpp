@@ -97,12 +97,10 @@ void Merkmalfeld::paintEvent(QPaintEvent *) {
     BildHolen(pixmap_, bild_, *this);
     QPainter p(this);
     p.setRenderHint(QPainter::Antialiasing);
-    if (gilt_) { // a plate, but no button's
-        p.setPen(Qt::NoPen);
-        p.setBrush(Seitenfarbe);
-        p.drawRoundedRect(rect(), Rundung, Rundung);
-    }
     if (!gilt_) p.setOpacity(Blass);
+    p.setPen(Qt::NoPen); // a plate, but no button's
+    p.setBrush(Seitenfarbe);
+    p.drawRoundedRect(rect(), Rundung, Rundung);
     BildMalen(p, pixmap_, size());
 }
 

@@ -90,23 +90,32 @@ std::vector<std::string> QtDrucker::DeviceNames() const {
 
 bool QtDrucker::Wählen(std::string_view deviceName) {
     const QString name = Text(deviceName);
-    if (name != Eingebauter() && !auskunft_.Erfragen().Namen.contains(name)) return false;
+    if (name != Eingebauter() && (!auskunft_.Erfragen().Namen.contains(name) || auskunft_.StehtAus())) return false;
     gewählt_ = name;
     lage_ = Hochformat;
     return true;
 }
 
-/// Of a chosen printer that has gone nothing comes out elsewhere.
-void QtDrucker::Drucken(const Druckauftrag &auftrag) {
-    if (gewählt_ == Eingebauter()) return pdf_.Drucken(auftrag);
+/// Into a file. Its sheet is the document's page, without margins; nothing is written but a whole one.
+Druckende QtDrucker::AlsPdfDrucken(const Druckauftrag &auftrag) {
+    const auto ziel = auftrag.Zieldatei();
+    if (!ziel) return Druckende::Aufgegeben;
+    return PdfSchreiben(auftrag, *ziel).empty() ? Druckende::Erledigt : Druckende::NichtGeschrieben;
+}
+
+/// Of a chosen printer that has gone nothing comes out elsewhere; of a print system that is mute nothing is asked.
+Druckende QtDrucker::Drucken(const Druckauftrag &auftrag) {
+    if (gewählt_ == Eingebauter()) return AlsPdfDrucken(auftrag);
     const QString name = Aktueller();
+    if (auskunft_.StehtAus() || (!gewählt_.isEmpty() && name != gewählt_)) return Druckende::Erledigt;
     const QPrinterInfo info = QPrinterInfo::printerInfo(name);
-    if (info.isNull() || (!gewählt_.isEmpty() && name != gewählt_)) return;
+    if (info.isNull()) return Druckende::Erledigt;
     Blattdrucker drucker(info);
     drucker.setColorMode(auftrag.Farbig ? QPrinter::Color : QPrinter::GrayScale);
     drucker.setDocName(Text(auftrag.Titel));
     drucker.printEngine()->setProperty(PrintSystemOptions, Auftragsoptionen(auftrag.Farbig));
     if (!SeiteDrucken(auftrag, drucker, Dpi / CmJeZoll, AufBlatt(drucker, lage_))) drucker.abort();
+    return Druckende::Erledigt;
 }
 
 } // namespace kw

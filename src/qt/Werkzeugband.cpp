@@ -25,11 +25,6 @@ constexpr std::string_view Gruppenenden[] = {"btnDrucken",     "btnRedo",       
                                              "btnBlattränder", "btnPapier",     "btnBildKleiner",
                                              "btnLegende",     "btnFarbschema", "btnAuswahlZuBild"};
 
-/// Rows that do what a menu entry does; that one's shortcut is named in the tool tip.
-constexpr std::pair<std::string_view, std::string_view> Menügleiche[] = {
-    {"btnNeuesProjekt", "mnuNeu"}, {"btnÖffnen", "mnuÖffnen"},   {"btnSpeichern", "mnuSpeichern"},
-    {"btnDrucken", "mnuDrucken"},  {"btnUndo", "mnuRückgängig"}, {"btnRedo", "mnuWiederholen"}};
-
 /// Of a drop-down whose choices have no pictures the button shows the choice in words.
 bool ZeigtZustand(const Menüzeile &zeile) {
     const auto tafel = Menütafel();
@@ -39,9 +34,7 @@ bool ZeigtZustand(const Menüzeile &zeile) {
 
 /// " (Ctrl+O)", or nothing.
 QString Kürzel(std::string_view name) {
-    const auto *i = std::find_if(std::begin(Menügleiche), std::end(Menügleiche),
-                                 [&](const auto &paar) { return paar.first == name; });
-    const Menüzeile *zeile = i == std::end(Menügleiche) ? nullptr : MenüzeileFinden(i->second);
+    const Menüzeile *zeile = MenüzeileFinden(Menügleich(name));
     if (!zeile || zeile->Kürzel.empty()) return {};
     const QKeySequence taste(Text(zeile->Kürzel), QKeySequence::PortableText);
     return QStringLiteral(" (%1)").arg(taste.toString(QKeySequence::NativeText));

@@ -122,13 +122,14 @@ bool DrehbuchDrucker::Wählen(std::string_view deviceName) {
     return true;
 }
 
-void DrehbuchDrucker::Drucken(const Druckauftrag &auftrag) {
+Druckende DrehbuchDrucker::Drucken(const Druckauftrag &auftrag) {
     const auto name = DeviceName();
-    if (!name) return;
+    if (!name) return Druckende::Erledigt;
     Aufzeichnung papier;
     auftrag.Zeichnen(papier);
     wirkungen_ += "job " + *name + (lage_ == 1 ? " | portrait | " : " | landscape | ") +
                   (auftrag.Farbig ? "colour" : "mono") + "\n";
+    return Druckende::Erledigt;
 }
 
 bool DrehbuchBilder::Schreiben(const std::string &datei, const std::string &art,

@@ -98,7 +98,8 @@ class DrehbuchDrucker : public Drucker {
     std::vector<std::string> DeviceNames() const override { return Namen; }
     bool Wählen(std::string_view deviceName) override;
     void OrientationSetzen(int lage) override { lage_ = lage; }
-    void Drucken(const Druckauftrag &auftrag) override;
+    bool AntwortStehtAus() const override { return false; }
+    Druckende Drucken(const Druckauftrag &auftrag) override;
 
   private:
     std::string &wirkungen_;

@@ -1,5 +1,6 @@
 #include "document/Dokument.h"
 #include "document/Codepage.h"
+#include "document/Dateien.h"
 #include "document/Zahlen.h"
 
 #include <gtest/gtest.h>
@@ -48,6 +49,16 @@ TEST(Zahlen, rundenGehtZumGeradenNachbarn) {
     EXPECT_EQ(Ganzzahl16(1e9), 32767);
     EXPECT_EQ(Ganzzahl16(std::nan("")), 0);
     EXPECT_EQ(Dreistellig(7) + Dreistellig(42) + Dreistellig(1000), "0070421000");
+}
+
+TEST(Dateien, einDatumIstKeineKennung) {
+    EXPECT_EQ(MitKennung("/a.b/Berg 3.11.2026", "kwp", false), "/a.b/Berg 3.11.2026.kwp");
+    EXPECT_EQ(MitKennung("Berg.KWP", "kwp", false), "Berg.KWP");
+    EXPECT_EQ(MitKennung("Berg.jun", "kwp", false), "Berg.jun.kwp");
+    for (const char *frei : {"x.jpg", "BILD.BMP", "Berg 3.11.2026.jpeg"})
+        EXPECT_EQ(MitKennung(frei, "bmp", true), frei);
+    for (const char *ohne : {"x", "Berg 3.11.2026", "Dr. Weiß", "v1.2"})
+        EXPECT_EQ(MitKennung(ohne, "bmp", true), std::string(ohne) + ".bmp");
 }
 
 TEST(Codepage, jedesByteÜbersteht) {

@@ -27,16 +27,17 @@ class EingebauterDrucker : public testing::Test {
         z.dokument.Papiercode = papier;
         z.dokument.Seitenlage = lage;
         SeiteBestimmen(z.dokument, z.ansicht);
-        drucker.Drucken({"Mein Täst", farbig, z.ansicht.SeitenBreite, z.ansicht.SeitenHöhe,
-                         [this](Zeichenfläche &f) { DruckZeichnen(f, z); }});
+        ende = drucker.Drucken({"Mein Täst", farbig, z.ansicht.SeitenBreite, z.ansicht.SeitenHöhe,
+                                [this](Zeichenfläche &f) { DruckZeichnen(f, z); },
+                                [this] { return ++gefragt, ziel.empty() ? std::nullopt : std::optional(ziel); }});
     }
     QString Ort(const char *name) const { return ordner.filePath(QString::fromUtf8(name)); }
 
     QTemporaryDir ordner;
     std::string ziel; ///< what the user answers
-    std::string gesagt;
-    QtDrucker drucker{{[this](const std::string &titel) { return gesagt += titel + ";", ziel; },
-                       [this](const std::string &datei) { gesagt += "Misslungen " + datei + ";"; }}};
+    int gefragt = 0;
+    Druckende ende = Druckende::Erledigt;
+    QtDrucker drucker;
     QtUhr uhr;
     Einzelbild bild{uhr, ""};
     Zeichnung z = bild.DasBild();
@@ -49,14 +50,16 @@ TEST_F(EingebauterDrucker, IsNeverTheDefaultAndWritesWholeFilesOnly) {
     EXPECT_EQ(drucker.DeviceNames(), std::vector<std::string>{std::string(PdfDruckerName)});
     EXPECT_FALSE(drucker.DeviceName());
     Drucken(9, 1, true);
-    EXPECT_EQ(gesagt, "") << "nobody chose it";
+    EXPECT_EQ(gefragt, 0) << "nobody chose it";
     EXPECT_FALSE(drucker.Wählen("Laser"));
     EXPECT_TRUE(drucker.Wählen(PdfDruckerName));
     EXPECT_EQ(drucker.DeviceName(), PdfDruckerName);
     Drucken(9, 1, true);
+    EXPECT_EQ(ende, Druckende::Aufgegeben);
     ziel = Ort("gibt/es/nicht.pdf").toStdString();
     Drucken(9, 1, true);
-    EXPECT_EQ(gesagt, "Mein Täst;Mein Täst;Misslungen " + ziel + ";");
+    EXPECT_EQ(ende, Druckende::NichtGeschrieben);
+    EXPECT_EQ(gefragt, 2);
     EXPECT_TRUE(QDir(ordner.path()).isEmpty());
     qunsetenv("CUPS_SERVER");
 }
