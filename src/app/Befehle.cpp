@@ -196,7 +196,7 @@ struct Reihe {
     void (*Ausführen)(frmMain &, int nummer);
 };
 constexpr Reihe Reihen[] = {
-    {"cmdSymb(", ")", 1, WerkzeugAnzahl, [](frmMain &h, int nummer) { WerkzeugDrücken(h.werkbank, nummer); }},
+    {"cmdSymb(", ")", 1, WerkzeugAnzahl, Werkzeug},
     {"mnuRecent(", ")", 1, Chronik::Plätze, [](frmMain &h, int nummer) { h.projekt.mnuRecent(nummer); }},
     {"keyZoom", "", 80, 250, [](frmMain &h, int nummer) { h.bereich.ZoomWählen((nummer - 80) / 10); }},
 };

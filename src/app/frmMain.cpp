@@ -105,9 +105,8 @@ void frmMain::ZweiteStufe() {
 /// A print system that takes its time is asked again until it answers.
 void frmMain::DruckerErmitteln() {
     constexpr int Nachfragen = 2000; // ms
-    druck.Ermitteln();
+    if (!druck.Ermitteln()) plattform.benutzer.ZeitgeberStarten("tmrDrucker", Nachfragen);
     RänderknopfBeschriften(bedienung, ansicht.Sprache, druck.DefaultPrinter);
-    if (plattform.drucker.AntwortStehtAus()) plattform.benutzer.ZeitgeberStarten("tmrDrucker", Nachfragen);
 }
 
 void frmMain::SchriftlisteFüllen() {

@@ -348,10 +348,7 @@ bool Leinwand::RahmenBeginnen(const Ereignis &e) {
     lage.AnkerX = Raster(e.X);
     lage.AnkerY = Raster(e.Y);
     if (!e.Rechts()) return true;
-    for (const char *eintrag : {"mnuEinfügen8", "mnustr15"}) {
-        w.bedienung[eintrag].Enabled = w.ablage.HatEtwas();
-        w.bedienung[eintrag].Visible = true;
-    }
+    w.bedienung["mnuEinfügen8"].Visible = w.bedienung["mnustr15"].Visible = true;
     PopupÖffnen("mnuSymbolEinfügen");
     if (lage.Aktion == AktionRahmenZiehen) RahmenAuswählen(w); // dismissed: the end of an empty marquee
     return true;

@@ -46,15 +46,16 @@ void Druckwerk::Warnen(const std::string &titel, const std::string &text) {
     benutzer_.Fragen({titel, text, Knöpfe::Ok, Zeichen::Warnung});
 }
 
-void Druckwerk::Ermitteln() {
-    const auto name = drucker_.DeviceName();
-    DruckerVorhanden = name.has_value();
-    DefaultPrinter = name.value_or("");
-    if (DruckerVorhanden) Druck_Raender();
+bool Druckwerk::Ermitteln() {
+    const Druckervorgabe vorgabe = drucker_.Vorgabe();
+    if (!vorgabe.Beantwortet) return false;
+    DefaultPrinter = vorgabe.Name;
+    DruckerVorhanden = !vorgabe.Name.empty();
+    if (DruckerVorhanden) Druck_Raender(vorgabe.Ränder);
+    return true;
 }
 
-void Druckwerk::Druck_Raender() {
-    const Druckränder ränder = drucker_.Ränder();
+void Druckwerk::Druck_Raender(const Druckränder &ränder) {
     ansicht_.DruckrandLinks = ränder.Links;
     ansicht_.DruckrandRechts = ränder.Rechts;
     ansicht_.DruckrandOben = ränder.Oben;

@@ -9,18 +9,18 @@
 
 namespace kw {
 
-/// Printing, and the frame of what the printer can't reach. Owned by the main window; knows nothing of files.
+/// Printing, and the frame of what the printer can't reach. Owned by the main window.
 class Druckwerk {
   public:
     Druckwerk(Drucker &drucker, Benutzer &benutzer, Ansicht &ansicht, Bedienelemente &bedienung)
         : drucker_(drucker), benutzer_(benutzer), ansicht_(ansicht), bedienung_(bedienung) {}
 
-    /// Whether printer data could be read at the start.
+    /// Whether there is a default printer, whose data could be read.
     bool DruckerVorhanden = false;
     std::string DefaultPrinter; ///< its name, whose margins are meant; empty without one
 
-    /// Asks for the default printer, and for its margins when there is one.
-    void Ermitteln();
+    /// Asks for the default printer and its margins. False, and nothing changed, while the platform doesn't answer.
+    bool Ermitteln();
     /// Shows or hides the margins' frame; without printer data it says why it can't. True when the canvas is to be
     /// drawn anew.
     bool RänderUmschalten();
@@ -35,7 +35,7 @@ class Druckwerk {
 
   private:
     bool IstDeutsch() const { return ansicht_.Sprache == "de"; }
-    void Druck_Raender();
+    void Druck_Raender(const Druckränder &ränder);
     void Warnen(const std::string &titel, const std::string &text);
 
     Drucker &drucker_;

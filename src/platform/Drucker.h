@@ -19,6 +19,13 @@ struct Druckränder {
     double Unten = 0;
 };
 
+/// The default printer of the platform.
+struct Druckervorgabe {
+    bool Beantwortet = true; ///< whether the platform has told; it can take its time
+    std::string Name;        ///< empty when there is no printer
+    Druckränder Ränder;      ///< in its own orientation
+};
+
 class Zeichenfläche;
 
 /// One job: one sheet.
@@ -33,7 +40,7 @@ struct Druckauftrag {
     std::function<std::optional<std::string>()> Zieldatei;
 };
 
-/// How a job ended, as far as it is told: a printer that fails says nothing.
+/// How a job ended, as far as it is told: a printer that fails says nothing, one that can't be reached gives up.
 enum class Druckende { Erledigt, Aufgegeben, NichtGeschrieben };
 
 /// The printers of the platform.
@@ -43,8 +50,8 @@ class Drucker {
     /// Name of the current printer, at first the default one; nothing when there is none. The one that writes PDF
     /// is never the default.
     virtual std::optional<std::string> DeviceName() const = 0;
-    /// Margins of the default printer, in its own orientation.
-    virtual Druckränder Ränder() const = 0;
+    /// The default printer, never the one that writes PDF.
+    virtual Druckervorgabe Vorgabe() const = 0;
     /// 1 portrait, 2 landscape, as the current printer stands.
     virtual int Orientation() const = 0;
     /// All installed printers, in the platform's order, and the one that writes PDF as the last.
@@ -54,8 +61,6 @@ class Drucker {
     virtual bool Wählen(std::string_view deviceName) = 0;
     /// Turns the current printer: 1 portrait, 2 landscape.
     virtual void OrientationSetzen(int lage) = 0;
-    /// Whether the platform hasn't answered yet what printers there are; until it does, none can be reached.
-    virtual bool AntwortStehtAus() const = 0;
     /// Prints one job on the current printer. A failure shows nothing and leaves no half job behind.
     virtual Druckende Drucken(const Druckauftrag &auftrag) = 0;
 };

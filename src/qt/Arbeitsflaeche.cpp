@@ -153,6 +153,7 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
 void Arbeitsflaeche::wheelEvent(QWheelEvent *ereignis) {
     ereignis->accept();
     radrest_ += ereignis->angleDelta().y();
+    if (std::abs(radrest_) < Raste) return; // part of a notch, or none
     for (; std::abs(radrest_) >= Raste; radrest_ -= radrest_ > 0 ? Raste : -Raste)
         haupt_->bereich.MausradZählen(radrest_ > 0);
     // The page is drawn when no more notches wait.

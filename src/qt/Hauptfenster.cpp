@@ -196,8 +196,12 @@ void Hauptfenster::ZeitgeberStarten(std::string_view name, int ms) {
     if (!zeitgeber) {
         zeitgeber = new QTimer(this);
         zeitgeber->setSingleShot(true);
-        connect(zeitgeber, &QTimer::timeout, this,
-                [this, eigenerName = std::string(name)] { haupt_.ZeitgeberAbgelaufen(eigenerName); });
+        connect(zeitgeber, &QTimer::timeout, this, [this, zeitgeber, eigenerName = std::string(name)] {
+            constexpr int Später = 200; // ms
+            // What it opens would cover the box that is read, or come between a form and its page.
+            if (QApplication::activeModalWidget()) zeitgeber->start(Später);
+            else haupt_.ZeitgeberAbgelaufen(eigenerName);
+        });
     }
     zeitgeber->start(ms);
 }

@@ -52,7 +52,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void closeEvent(QCloseEvent *ereignis) override;
 
   private:
-    /// A command that the user has chosen in a menu, by a shortcut or on the palette.
+    /// A command that the user has chosen, wherever it stands.
     void Ausführen(std::string_view befehl);
     void Anzeigen();
     /// Menus and toolbar, where their place was kept free.
@@ -66,10 +66,10 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     QtBilder bilder_{leinwand_};
     frmMain haupt_;
     Arbeitsflaeche *fläche_;
-    Statuszeile *status_ = nullptr; ///< the same
     Menüs menüs_;
-    Symbolleiste *band_ = nullptr;       ///< not before the first picture, as the palette
-    Werkzeugpalette *palette_ = nullptr; ///< not before the first picture
+    Symbolleiste *band_ = nullptr; ///< not before the first picture, as the next two
+    Statuszeile *status_ = nullptr;
+    Werkzeugpalette *palette_ = nullptr;
     Importliste *importliste_ = nullptr; ///< not before it is to be seen
     std::vector<std::function<void()>> nachErstemBild_;
     std::map<std::string, QTimer *> zeitgeber_;

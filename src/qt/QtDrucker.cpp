@@ -1,19 +1,17 @@
 #include "qt/QtDrucker.h"
 
 #include "qt/Ausgabe.h"
+#include "qt/Blattdrucker.h"
 #include "qt/Text.h"
 
-#include <QPageLayout>
 #include <QPrintEngine>
-#include <QPrinter>
-#include <QPrinterInfo>
 #include <QTransform>
 
 namespace kw {
 
 namespace {
 
-constexpr int Dpi = 600;
+constexpr int Dpi = Blattdrucker::Dpi;
 constexpr int Hochformat = 1;
 /// Key of the toolkit for what goes to the print system with a job, in pairs; other engines ignore it.
 constexpr auto PrintSystemOptions = static_cast<QPrintEngine::PrintEnginePropertyKey>(0xfe00);
@@ -22,24 +20,6 @@ const QString &Eingebauter() {
     static const QString name = Text(PdfDruckerName);
     return name;
 }
-
-/// A printer with the paper that it is set to: left alone, the toolkit takes its own.
-class Blattdrucker : public QPrinter {
-  public:
-    explicit Blattdrucker(const QPrinterInfo &info) : QPrinter(info, QPrinter::HighResolution) {
-        setResolution(Dpi);
-        setFullPage(true);
-        setPageSize(info.defaultPageSize());
-        setPageOrientation(QPageLayout::Portrait);
-    }
-    /// What of the upright sheet can't be reached, in points.
-    QMarginsF Ränder() const {
-        QPageLayout blatt = pageLayout();
-        blatt.setUnits(QPageLayout::Point);
-        return blatt.minimumMargins();
-    }
-    double Höhe() const { return pageLayout().fullRect(QPageLayout::Point).height(); }
-};
 
 /// Whatever defaults its queue has, the page comes out in its size, as it was turned here, in the sheet's corner.
 QStringList Auftragsoptionen(bool farbig) {
@@ -62,23 +42,18 @@ QTransform AufBlatt(const Blattdrucker &drucker, int lage) {
 } // namespace
 
 /// A chosen printer that has gone meanwhile leaves the default one.
-QString QtDrucker::Aktueller() const {
-    if (gewählt_ == Eingebauter()) return gewählt_;
-    const Druckerstand stand = auskunft_.Erfragen();
+QString QtDrucker::Aktueller(const Druckerstand &stand) const {
     return stand.Namen.contains(gewählt_) ? gewählt_ : stand.Vorgabe;
 }
 
 std::optional<std::string> QtDrucker::DeviceName() const {
-    const QString name = Aktueller();
+    const QString name = gewählt_ == Eingebauter() ? gewählt_ : Aktueller(auskunft_.Erfragen());
     return name.isEmpty() ? std::nullopt : std::optional(name.toStdString());
 }
 
-Druckränder QtDrucker::Ränder() const {
-    const QPrinterInfo info = QPrinterInfo::printerInfo(auskunft_.Erfragen().Vorgabe);
-    if (info.isNull()) return {};
-    constexpr double CmJePunkt = CmJeZoll / 72;
-    const QMarginsF cm = Blattdrucker(info).Ränder() * CmJePunkt;
-    return {cm.left(), cm.right(), cm.top(), cm.bottom()};
+Druckervorgabe QtDrucker::Vorgabe() const {
+    const Druckerstand stand = auskunft_.Erfragen();
+    return {stand.Beantwortet, stand.Vorgabe.toStdString(), stand.Ränder};
 }
 
 std::vector<std::string> QtDrucker::DeviceNames() const {
@@ -90,7 +65,10 @@ std::vector<std::string> QtDrucker::DeviceNames() const {
 
 bool QtDrucker::Wählen(std::string_view deviceName) {
     const QString name = Text(deviceName);
-    if (name != Eingebauter() && (!auskunft_.Erfragen().Namen.contains(name) || auskunft_.StehtAus())) return false;
+    if (name != Eingebauter()) {
+        const Druckerstand stand = auskunft_.Erfragen(Druckerauskunft::Geduld::Lang);
+        if (!stand.Beantwortet || !stand.Namen.contains(name)) return false;
+    }
     gewählt_ = name;
     lage_ = Hochformat;
     return true;
@@ -103,13 +81,14 @@ Druckende QtDrucker::AlsPdfDrucken(const Druckauftrag &auftrag) {
     return PdfSchreiben(auftrag, *ziel).empty() ? Druckende::Erledigt : Druckende::NichtGeschrieben;
 }
 
-/// Of a chosen printer that has gone nothing comes out elsewhere; of a print system that is mute nothing is asked.
+/// Of a chosen printer that has gone nothing comes out elsewhere; what a mute print system is asked would never end.
 Druckende QtDrucker::Drucken(const Druckauftrag &auftrag) {
     if (gewählt_ == Eingebauter()) return AlsPdfDrucken(auftrag);
-    const QString name = Aktueller();
-    if (auskunft_.StehtAus() || (!gewählt_.isEmpty() && name != gewählt_)) return Druckende::Erledigt;
+    const Druckerstand stand = auskunft_.Erfragen(Druckerauskunft::Geduld::Lang);
+    const QString name = Aktueller(stand);
+    if (!stand.Beantwortet || (!gewählt_.isEmpty() && name != gewählt_)) return Druckende::Aufgegeben;
     const QPrinterInfo info = QPrinterInfo::printerInfo(name);
-    if (info.isNull()) return Druckende::Erledigt;
+    if (info.isNull()) return Druckende::Aufgegeben;
     Blattdrucker drucker(info);
     drucker.setColorMode(auftrag.Farbig ? QPrinter::Color : QPrinter::GrayScale);
     drucker.setDocName(Text(auftrag.Titel));

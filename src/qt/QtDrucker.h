@@ -7,21 +7,19 @@
 
 namespace kw {
 
-/// The printers of the system, and behind them the built-in one, which is never
-/// the default.
+/// The printers of the system, and behind them the built-in one, which is never the default.
 class QtDrucker : public Drucker {
   public:
     std::optional<std::string> DeviceName() const override;
-    Druckränder Ränder() const override;
+    Druckervorgabe Vorgabe() const override;
     int Orientation() const override { return lage_; }
     std::vector<std::string> DeviceNames() const override;
     bool Wählen(std::string_view deviceName) override;
     void OrientationSetzen(int lage) override { lage_ = lage; }
-    bool AntwortStehtAus() const override { return auskunft_.StehtAus(); }
     Druckende Drucken(const Druckauftrag &auftrag) override;
 
   private:
-    QString Aktueller() const;
+    QString Aktueller(const Druckerstand &stand) const;
     static Druckende AlsPdfDrucken(const Druckauftrag &auftrag);
 
     Druckerauskunft auskunft_;

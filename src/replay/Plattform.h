@@ -93,12 +93,11 @@ class DrehbuchDrucker : public Drucker {
     std::optional<std::string> DeviceName() const override {
         return Namen.empty() ? std::nullopt : std::optional(Namen.at(gewählt_));
     }
-    Druckränder Ränder() const override { return Rand; }
+    Druckervorgabe Vorgabe() const override { return {true, Namen.empty() ? "" : Namen.front(), Rand}; }
     int Orientation() const override { return lage_; }
     std::vector<std::string> DeviceNames() const override { return Namen; }
     bool Wählen(std::string_view deviceName) override;
     void OrientationSetzen(int lage) override { lage_ = lage; }
-    bool AntwortStehtAus() const override { return false; }
     Druckende Drucken(const Druckauftrag &auftrag) override;
 
   private:
