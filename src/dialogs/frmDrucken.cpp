@@ -67,8 +67,8 @@ void frmDrucken::Bestätigen() {
              Knöpfe::Ok, Zeichen::Warnung});
         return;
     }
-    for (int i = 0; i < exemplare_ && umgebung_.dienste.GenogrammDrucken(); ++i) {
-    }
+    int gedruckt = 0;
+    while (gedruckt < exemplare_ && umgebung_.dienste.GenogrammDrucken()) ++gedruckt;
     Schließen();
 }
 
