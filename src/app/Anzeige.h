@@ -33,6 +33,8 @@ class Anzeige {
     void LinienfarbenSetzen();
     /// Shows or hides the tool palette.
     void WerkzeugleisteUmschalten();
+    /// The document's page is another one: toolbar and canvas follow.
+    void SeiteGeändert();
     /// Other paper, or another orientation (1 portrait, 2 landscape): the project holds both, no snapshot does.
     void PapierWählen(int papiercode);
     void LageWählen(int seitenlage);
@@ -43,8 +45,6 @@ class Anzeige {
     void PalettenhinweisZeigen();
 
   private:
-    void SeiteGeändert();
-
     frmMain &haupt_;
     int berührt_ = 0; ///< the palette's button under the pointer
 };

@@ -133,10 +133,8 @@ void Projekt::DokumentLeeren() {
 bool Projekt::ProjektNeu() {
     frmMain &h = haupt_;
     SpeichernAbgebrochen = false;
-    const bool gefragt = Geändert;
     if (!NachÄnderungenFragen()) return false; // also when the saving was given up: nothing has happened then
-    if (gefragt) h.UndoKnöpfeSperren();
-    DokumentLeeren();
+    DokumentLeeren();                          // with it go the steps of undo and redo
     Projektdatei.clear();
     Titel = "Kinwright";
     h.AuswahlUndRingLeeren();

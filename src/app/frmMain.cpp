@@ -223,8 +223,7 @@ void frmMain::LegendeZeigen(bool sichtbar) {
 
 void frmMain::SeiteAnwenden() {
     bedienung["btnBlattränder"].Checked = ansicht.bDruckrandAnzeigen;
-    anzeige.SeiteZeigen();
-    bereich.Bildgrößenveränderung();
+    anzeige.SeiteGeändert();
 }
 
 bool frmMain::GenogrammDrucken() { return druck.GenogrammDrucken(DasBild(), projekt.Projektdatei); }
