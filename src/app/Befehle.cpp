@@ -48,11 +48,11 @@ void SymbolBearbeiten(frmMain &h, int) {
 
 void PLinieBearbeiten(frmMain &h, int) {
     h.FormÖffnen("frmPLinien");
-    h.lage.Aktion = AktionPLinieBearbeitet;
+    h.lage.Aktion = Aktion::PLinieBearbeitet;
 }
 
 void TextBearbeiten(frmMain &h, int) {
-    h.lage.Aktion = AktionTextDialog;
+    h.lage.Aktion = Aktion::TextDialog;
     h.FormÖffnen("frmKommentar");
 }
 

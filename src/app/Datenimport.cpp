@@ -78,7 +78,7 @@ void Datenimport::DatenEinlesen(const std::string &basis) {
     const Profil daten(std::move(inhalt));
     for (const std::string &text : ImportTexte(daten)) {
         h.dokument.cboTextboxen.Anhängen(text);
-        h.lage.Aktion = AktionTextGesetzt;
+        h.lage.Aktion = Aktion::TextGesetzt;
         h.Vorschau(); // measures the box
     }
     for (const std::string &person : ImportPersonen(daten, h.ansicht.SeitenBreite))
@@ -115,10 +115,10 @@ void Datenimport::Ablegen(int zeile, double x, double y) {
     if (zeile < 0 || zeile >= static_cast<int>(Listenzeilen.size())) return;
     haupt_.lage.MausX = x;
     haupt_.lage.MausY = y;
-    haupt_.lage.Aktion = AktionPersonSetzen;
+    haupt_.lage.Aktion = Aktion::PersonSetzen;
     PersonAnlegen(haupt_.werkbank, &Listenzeilen[static_cast<size_t>(zeile)]);
     haupt_.Sichern();
-    haupt_.lage.Aktion = AktionNichts;
+    haupt_.lage.Aktion = Aktion::Nichts;
 }
 
 } // namespace kw

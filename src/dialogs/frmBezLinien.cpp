@@ -74,7 +74,7 @@ void frmBezLinien::Geklickt(std::string_view name) {
     if (name == "Command2") return Schließkreuz();
     if (name == "Command3") {
         // A line that was drawn a moment ago is in no snapshot yet: it goes as if cancelled.
-        if (umgebung_.werkbank.lage.Aktion == AktionBeziehungZiehen) BezLAbbrechen(umgebung_.werkbank);
+        if (umgebung_.werkbank.lage.Aktion == Aktion::BeziehungZiehen) BezLAbbrechen(umgebung_.werkbank);
         else BezLinieLöschen(umgebung_.werkbank);
         return Schließen();
     }

@@ -121,7 +121,7 @@ void frmKommentar::Laden() {
     Ausrichten(0);
     FarbeSetzen(Schwarz);
 
-    neu_ = w.lage.Aktion == AktionTextGesetzt;
+    neu_ = w.lage.Aktion == Aktion::TextGesetzt;
     textX_ = w.lage.AuswahlX;
     textY_ = w.lage.AuswahlY;
     if (neu_ || w.lage.TextAuswahl < 0 || w.lage.TextAuswahl >= w.dokument.cboTextboxen.Anzahl()) return;

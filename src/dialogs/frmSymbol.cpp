@@ -365,7 +365,7 @@ std::string frmSymbol::NeuerSatz() {
 void frmSymbol::Löschen() {
     Werkbank &w = umgebung_.werkbank;
     w.fenster.Sichern();
-    w.lage.Aktion = AktionNichts; // no group: the deletion takes its own snapshot behind it
+    w.lage.Aktion = Aktion::Nichts; // no group: the deletion takes its own snapshot behind it
     mnuSymbolLöschen(w);
     KeineAktion(w);
     Schließen();

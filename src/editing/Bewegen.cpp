@@ -31,7 +31,7 @@ void BeziehungenBewegen(Dokument &d, const Bezüge &bezüge, const Bewegter &p) 
 /// The bar's new height when a group takes it along: the bar as it stands before this step must lie within the
 /// frame as it stands after the move. A bar that is selected itself has then moved already, and moves twice. Meant.
 std::optional<double> BalkenInDerGruppe(const Werkbank &w, const Satzbau &satz) {
-    if (w.lage.Aktion != AktionGruppeGewählt) return std::nullopt;
+    if (w.lage.Aktion != Aktion::GruppeGewählt) return std::nullopt;
     const Auflagenform &rahmen = w.auflagen.shpBox;
     const double x1 = satz.Zahl(PLinieFeld::BalkenX1) + w.lage.DeltaX;
     const double x2 = satz.Zahl(PLinieFeld::BalkenX2) + w.lage.DeltaX;
@@ -238,7 +238,7 @@ bool BalkenBewegen(Werkbank &w) {
 namespace {
 
 void LinieAngepasst(Werkbank &w) {
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     Gummi1Parken(w);
     w.fenster.Vorschau();
     w.fenster.Sichern();

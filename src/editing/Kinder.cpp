@@ -44,7 +44,7 @@ void KindArtSetzen(Werkbank &w, std::string_view art) {
     Satzbau satz(linien.Satz(i), KindFeld::Anzahl);
     const std::string alt(satz.Feld(KindFeld::Kindart));
     linien.Ersetzen(i, satz.Setzen(KindFeld::Kindart, art == "A" ? "1" : art == "P" ? "2" : "0").Text());
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     if (satz.Feld(KindFeld::Kindart) != alt) w.fenster.Sichern();
     w.fenster.Vorschau();
 }
@@ -67,7 +67,7 @@ void KindLinieEntfernen(Werkbank &w) {
     }
     d.cboKindlinien.Entfernen(i);
     w.lage.KindAuswahl = -1;
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();
     w.bedienung["mnuLöschen1"].Enabled = false;
     w.fenster.Vorschau();

@@ -35,7 +35,7 @@ void Leinwand::MouseDown(int taste, double x, double y) {
 
 bool Leinwand::Zurücksetzen(const Ereignis &e) {
     // The last release got lost; a dragged circle line has moved already.
-    if (std::exchange(lage.Gedrückt, true) && lage.Aktion == AktionKreisGewählt) KreisLoslassen(e);
+    if (std::exchange(lage.Gedrückt, true) && lage.Aktion == Aktion::KreisGewählt) KreisLoslassen(e);
     auflagen.Line5.Visible = false;
     w.bedienung["mnuLöschen1"].Enabled = false;
     auflagen.shpMask.Visible = false;
@@ -47,14 +47,14 @@ bool Leinwand::Zurücksetzen(const Ereignis &e) {
 /// A region of the picture can begin anywhere, whatever lies there.
 bool Leinwand::BildBeginnen(const Ereignis &e) {
     if (!lage.BildAuswahl) return false;
-    lage.Aktion = AktionRahmenZiehen;
+    lage.Aktion = Aktion::RahmenZiehen;
     lage.AnkerX = Raster(e.X);
     lage.AnkerY = Raster(e.Y);
     return true;
 }
 
 bool Leinwand::PfeilBeginnen(const Ereignis &e) {
-    if (lage.Aktion != AktionPfeilZeichnen) return false;
+    if (lage.Aktion != Aktion::PfeilZeichnen) return false;
     lage.AnkerX = Raster(e.X);
     lage.AnkerY = Raster(e.Y);
     auflagen.Line5.Legen(lage.AnkerX, lage.AnkerY, lage.AnkerX, lage.AnkerY); // not where the last arrow was
@@ -63,7 +63,7 @@ bool Leinwand::PfeilBeginnen(const Ereignis &e) {
 }
 
 bool Leinwand::TextSetzen(const Ereignis &e) {
-    if (lage.Aktion != AktionTextGesetzt) return false;
+    if (lage.Aktion != Aktion::TextGesetzt) return false;
     lage.AuswahlX = RasterZehntel(e.X);
     lage.AuswahlY = RasterZehntel(e.Y);
     w.fenster.FormÖffnen("frmKommentar");
@@ -78,7 +78,7 @@ bool Leinwand::OrtMerken(const Ereignis &e) {
 }
 
 bool Leinwand::KreisBeginnen(const Ereignis &e) {
-    if (lage.Aktion != AktionKreisZeichnen) return false;
+    if (lage.Aktion != Aktion::KreisZeichnen) return false;
     lage.PunktListe = ZahlSchreiben(e.X) + "^" + ZahlSchreiben(e.Y) + "_";
     return true;
 }
@@ -94,11 +94,11 @@ bool Leinwand::LegendeUnterMaus() const {
 bool Leinwand::LegendeFassen(const Ereignis &e) {
     if (!LegendeUnterMaus()) return false;
     LinkAbbrechen();
-    if (lage.Aktion == AktionGruppeGewählt) {
+    if (lage.Aktion == Aktion::GruppeGewählt) {
         AuswahlrahmenParken(w);
         MarkierungsListBoxenLöschen(w);
     }
-    lage.Aktion = AktionLegendeGefasst;
+    lage.Aktion = Aktion::LegendeGefasst;
     Auflagenform &maske = auflagen.shpMask;
     maske.Shape = Umriss::Rechteck;
     maske.Legen(dokument.LegendeX, dokument.LegendeY, w.legende.LegendeBreite, w.legende.LegendeHoehe);
@@ -107,7 +107,7 @@ bool Leinwand::LegendeFassen(const Ereignis &e) {
     lage.VersatzY = e.Y - maske.Top;
     if (!e.Rechts()) return true;
     PopupÖffnen("mnuLegende");
-    if (lage.Aktion == AktionLegendeGefasst) lage.Aktion = AktionNichts;
+    if (lage.Aktion == Aktion::LegendeGefasst) lage.Aktion = Aktion::Nichts;
     return true;
 }
 
@@ -126,12 +126,12 @@ bool Leinwand::KreisTreffen(const Ereignis &e) {
 }
 
 bool Leinwand::KreisGewählt(const Ereignis &e) {
-    if (lage.Aktion != AktionKreisGewählt) return false;
+    if (lage.Aktion != Aktion::KreisGewählt) return false;
     MarkerEntfernen(w);
     w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
     if (!lage.KreisGetroffen) { // the press only ends the selection
         w.auswahl.lstMovedKreisLinien.Leeren();
-        lage.Aktion = AktionNichts;
+        lage.Aktion = Aktion::Nichts;
         w.fenster.Vorschau();
     } else if (e.Rechts()) {
         PopupÖffnen("mnuKreislinie");
@@ -140,7 +140,7 @@ bool Leinwand::KreisGewählt(const Ereignis &e) {
 }
 
 bool Leinwand::GruppeFassen(const Ereignis &e) {
-    if (lage.Aktion != AktionGruppeGewählt) return false;
+    if (lage.Aktion != Aktion::GruppeGewählt) return false;
     const Auflagenform &rahmen = auflagen.shpBox;
     lage.AltX = Gerundet(rahmen.Left, 1);
     lage.AltY = Gerundet(rahmen.Top, 1);
@@ -149,7 +149,7 @@ bool Leinwand::GruppeFassen(const Ereignis &e) {
     if (!drin) { // the press only ends the selection
         AuswahlrahmenParken(w);
         MarkierungsListBoxenLöschen(w);
-        lage.Aktion = AktionNichts;
+        lage.Aktion = Aktion::Nichts;
         w.fenster.Vorschau();
         return true;
     }
@@ -166,16 +166,16 @@ bool Leinwand::GruppeFassen(const Ereignis &e) {
 
 /// The release of a grabbed text box got lost.
 bool Leinwand::TextWarGefasst(const Ereignis &) {
-    if (lage.Aktion != AktionTextGefasst) return false;
-    lage.Aktion = AktionTextDialog;
+    if (lage.Aktion != Aktion::TextGefasst) return false;
+    lage.Aktion = Aktion::TextDialog;
     w.fenster.FormÖffnen("frmKommentar");
     return false;
 }
 
 bool Leinwand::KindLinkBeenden(const Ereignis &) {
-    if (lage.Aktion != AktionKindZiehen) return false;
+    if (lage.Aktion != Aktion::KindZiehen) return false;
     const bool angelegt = lage.PLinieUnterMaus && KindLinieAnlegen(w);
-    lage.Aktion = AktionNichts; // before the redraw, which marks the bar under the pointer
+    lage.Aktion = Aktion::Nichts; // before the redraw, which marks the bar under the pointer
     lage.PLinieUnterMaus = false;
     lage.PersRecord.clear();
     LinkAufräumen(w);
@@ -186,22 +186,22 @@ bool Leinwand::KindLinkBeenden(const Ereignis &) {
 }
 
 bool Leinwand::MenüWarOffen(const Ereignis &) {
-    const bool ende = lage.Aktion == AktionMenüOffen;
-    if (ende || lage.Aktion == AktionNichts) Gummi1Parken(w);
-    if (ende) lage.Aktion = AktionNichts;
+    const bool ende = lage.Aktion == Aktion::MenüOffen;
+    if (ende || lage.Aktion == Aktion::Nichts) Gummi1Parken(w);
+    if (ende) lage.Aktion = Aktion::Nichts;
     if (ende) lage.PersRecord.clear(); // a double click that begins so isn't meant for that person
     return ende;
 }
 
 /// The target is the person under the last move.
 bool Leinwand::LinkBeenden(const Ereignis &) {
-    if (lage.Aktion != AktionBeziehungZiehen && lage.Aktion != AktionPartnerschaftZiehen) return false;
+    if (lage.Aktion != Aktion::BeziehungZiehen && lage.Aktion != Aktion::PartnerschaftZiehen) return false;
     LinkAufräumen(w);
     lage.PersRecord.clear();
     MarkierungsListBoxenLöschen(w);
-    if (lage.Aktion == AktionBeziehungZiehen) BeziehungAnlegen(w);
+    if (lage.Aktion == Aktion::BeziehungZiehen) BeziehungAnlegen(w);
     else PartnerschaftAnlegen(w);
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     return true;
 }
@@ -221,7 +221,7 @@ bool Leinwand::PersonTreffen(const Ereignis &e) {
     lage.VersatzY = e.Y - ZahlLesen(feld[PersonFeld::PosY]);
     w.fenster.Vorschau();
     if (!e.Rechts()) return true;
-    lage.Aktion = AktionMenüOffen;
+    lage.Aktion = Aktion::MenüOffen;
     for (const char *eintrag : {"mnuBeziehungErstellen2", "mnuPartnerschaftsLinie", "mnuKindVon", "mnuStr2"})
         b[eintrag].Visible = lage.SymbolTyp != TypInstitution;
     b["mnuKindVon"].Enabled = Getrimmt(feld[PersonFeld::ElternLinie]).empty();
@@ -231,10 +231,10 @@ bool Leinwand::PersonTreffen(const Ereignis &e) {
 
 /// A line that is selected already: its menu, or the end of the selection.
 bool Leinwand::LinieWarGewählt(const Ereignis &e) {
-    const char *menü = lage.Aktion == AktionBeziehungGewählt   ? "mnuBezLinie"
-                       : lage.Aktion == AktionPLinieGewählt    ? "mnuPLinie"
-                       : lage.Aktion == AktionKindlinieGewählt ? "mnuKindLinie"
-                                                               : nullptr;
+    const char *menü = lage.Aktion == Aktion::BeziehungGewählt   ? "mnuBezLinie"
+                       : lage.Aktion == Aktion::PLinieGewählt    ? "mnuPLinie"
+                       : lage.Aktion == Aktion::KindlinieGewählt ? "mnuKindLinie"
+                                                                 : nullptr;
     if (!menü) return false;
     if (e.Rechts()) {
         w.bedienung["mnuLöschen1"].Enabled = true;
@@ -242,13 +242,13 @@ bool Leinwand::LinieWarGewählt(const Ereignis &e) {
         return true;
     }
     Gummi1Parken(w);
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     return true;
 }
 
 bool Leinwand::LinieTreffen(const Ereignis &e) {
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
     return BezLinieTreffer(e.X, e.Y) || PLinieTreffer(e.X, e.Y) || KindLinieTreffer(e.X, e.Y) ||
            PfeilTreffer(e.X, e.Y) || PfeilEndeTreffer(e.X, e.Y);
 }
@@ -258,7 +258,7 @@ bool Leinwand::BezLinieTreffer(double x, double y) {
     if (i < 0) return false;
     lage.BezAuswahl = i;
     MarkierungsListBoxenLöschen(w);
-    lage.Aktion = AktionBeziehungGewählt;
+    lage.Aktion = Aktion::BeziehungGewählt;
     w.bedienung["mnuLöschen1"].Enabled = true;
     w.fenster.Vorschau();
     return true;
@@ -272,8 +272,8 @@ bool Leinwand::PLinieTreffer(double x, double y) {
     lage.LinieVerschoben = false;
     MarkierungsListBoxenLöschen(w);
     w.auswahl.lstMovedPLines.Anhängen(std::to_string(i + 1));
-    if (lage.Aktion == AktionKindZiehen) return true; // a link gesture goes on
-    lage.Aktion = AktionPLinieGewählt;
+    if (lage.Aktion == Aktion::KindZiehen) return true; // a link gesture goes on
+    lage.Aktion = Aktion::PLinieGewählt;
     w.fenster.Vorschau();
     return true;
 }
@@ -283,7 +283,7 @@ bool Leinwand::KindLinieTreffer(double x, double y) {
     if (i < 0) return false;
     lage.KindAuswahl = i;
     MarkierungsListBoxenLöschen(w);
-    lage.Aktion = AktionKindlinieGewählt;
+    lage.Aktion = Aktion::KindlinieGewählt;
     w.fenster.Vorschau();
     return true;
 }
@@ -296,7 +296,7 @@ bool Leinwand::PfeilTreffer(double x, double y) {
     w.auswahl.lstMovedPfeile.Anhängen(std::to_string(i));
     w.bedienung["mnuAusschneiden"].Enabled = w.bedienung["mnuLöschen1"].Enabled = true;
     PfeilFassen();
-    lage.Aktion = AktionPfeilGefasst;
+    lage.Aktion = Aktion::PfeilGefasst;
     w.fenster.Vorschau();
     return true;
 }
@@ -309,7 +309,7 @@ bool Leinwand::PfeilEndeTreffer(double x, double y) {
     übrige.lstMovedPfeile = w.auswahl.lstMovedPfeile; // it may show its handles, or not
     w.auswahl = übrige;
     w.bedienung["mnuAusschneiden"].Enabled = w.bedienung["mnuLöschen1"].Enabled = true;
-    lage.Aktion = ende == 2 ? AktionPfeilEnde2 : AktionPfeilEnde1;
+    lage.Aktion = ende == 2 ? Aktion::PfeilEnde2 : Aktion::PfeilEnde1;
     w.fenster.Vorschau();
     return true;
 }
@@ -331,26 +331,26 @@ bool Leinwand::TextTreffen(const Ereignis &e) {
     w.auswahl.lstMovedText.Anhängen(std::to_string(i));
     lage.VersatzX = e.X - auflagen.shpMask.Left;
     lage.VersatzY = e.Y - auflagen.shpMask.Top;
-    lage.Aktion = AktionTextGefasst;
+    lage.Aktion = Aktion::TextGefasst;
     w.fenster.Vorschau();
     return true;
 }
 
 bool Leinwand::Setzen(const Ereignis &) {
-    if (lage.Aktion == AktionElternSetzen) ElternAnlegen(w);
-    else if (lage.Aktion == AktionPersonSetzen) PersonAnlegen(w);
+    if (lage.Aktion == Aktion::ElternSetzen) ElternAnlegen(w);
+    else if (lage.Aktion == Aktion::PersonSetzen) PersonAnlegen(w);
     else return false;
     return true;
 }
 
 bool Leinwand::RahmenBeginnen(const Ereignis &e) {
-    lage.Aktion = AktionRahmenZiehen;
+    lage.Aktion = Aktion::RahmenZiehen;
     lage.AnkerX = Raster(e.X);
     lage.AnkerY = Raster(e.Y);
     if (!e.Rechts()) return true;
     w.bedienung["mnuEinfügen8"].Visible = w.bedienung["mnustr15"].Visible = true;
     PopupÖffnen("mnuSymbolEinfügen");
-    if (lage.Aktion == AktionRahmenZiehen) RahmenAuswählen(w); // dismissed: the end of an empty marquee
+    if (lage.Aktion == Aktion::RahmenZiehen) RahmenAuswählen(w); // dismissed: the end of an empty marquee
     return true;
 }
 
@@ -360,7 +360,7 @@ void Leinwand::DblClick(double x, double y) {
     const int text = TextboxBei(dokument, x, y);
     if (text >= 0) {
         TextboxAuswählen(w, text);
-        lage.Aktion = AktionTextDialog;
+        lage.Aktion = Aktion::TextDialog;
         w.fenster.Vorschau();
         w.fenster.FormÖffnen("frmKommentar");
         return;
@@ -370,18 +370,19 @@ void Leinwand::DblClick(double x, double y) {
         return;
     }
     // A press on a selected line has just unselected it: the double click means the line all the same.
-    if (lage.Aktion == AktionNichts && Getrimmt(lage.PersRecord).empty())
+    if (lage.Aktion == Aktion::Nichts && Getrimmt(lage.PersRecord).empty())
         BezLinieTreffer(x, y) || PLinieTreffer(x, y) || KindLinieTreffer(x, y);
     struct Tür {
-        int Aktion;
+        kw::Aktion Aktion;
         const char *Form;
     };
-    for (const auto &[aktion, form] : {Tür{AktionBeziehungGewählt, "frmBezLinien"},
-                                       Tür{AktionPLinieGewählt, "frmPLinien"}, Tür{AktionKindlinieGewählt, nullptr}}) {
+    for (const auto &[aktion, form] :
+         {Tür{Aktion::BeziehungGewählt, "frmBezLinien"}, Tür{Aktion::PLinieGewählt, "frmPLinien"},
+          Tür{Aktion::KindlinieGewählt, nullptr}}) {
         if (lage.Aktion != aktion) continue;
         if (form) w.fenster.FormÖffnen(form);
         else w.fenster.PopupÖffnen("mnuKindLinie");
-        lage.Aktion = AktionNichts;
+        lage.Aktion = Aktion::Nichts;
         w.fenster.Vorschau();
         return;
     }

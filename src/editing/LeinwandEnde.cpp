@@ -37,18 +37,25 @@ std::vector<std::pair<double, double>> Lückenpunkte(std::pair<double, double> l
 
 void Leinwand::MouseUp(int taste, double x, double y) {
     struct Ende {
-        int Aktion;
+        kw::Aktion Aktion;
         void (Leinwand::*Loslassen)(const Ereignis &);
     };
     static constexpr Ende Enden[] = {
-        {AktionPersonSetzen, &Leinwand::PersonGesetzt},         {AktionPersonGewählt, &Leinwand::PersonLoslassen},
-        {AktionTextGefasst, &Leinwand::TextLoslassen},          {AktionPLinieGewählt, &Leinwand::BalkenLoslassen},
-        {AktionBeziehungGewählt, &Leinwand::BezLinieLoslassen}, {AktionKindlinieGewählt, &Leinwand::KindLinieLoslassen},
-        {AktionRahmenZiehen, &Leinwand::RahmenLoslassen},       {AktionGruppeGewählt, &Leinwand::GruppeLoslassen},
-        {AktionLegendeGefasst, &Leinwand::LegendeLoslassen},    {AktionKreisGewählt, &Leinwand::KreisLoslassen},
-        {AktionKreisZeichnen, &Leinwand::KreisSchließen},       {AktionPfeilZeichnen, &Leinwand::PfeilGezogen},
-        {AktionPfeilEnde1, &Leinwand::PfeilEndeLoslassen},      {AktionPfeilEnde2, &Leinwand::PfeilEndeLoslassen},
-        {AktionPfeilGefasst, &Leinwand::PfeilLoslassen},
+        {Aktion::PersonSetzen, &Leinwand::PersonGesetzt},
+        {Aktion::PersonGewählt, &Leinwand::PersonLoslassen},
+        {Aktion::TextGefasst, &Leinwand::TextLoslassen},
+        {Aktion::PLinieGewählt, &Leinwand::BalkenLoslassen},
+        {Aktion::BeziehungGewählt, &Leinwand::BezLinieLoslassen},
+        {Aktion::KindlinieGewählt, &Leinwand::KindLinieLoslassen},
+        {Aktion::RahmenZiehen, &Leinwand::RahmenLoslassen},
+        {Aktion::GruppeGewählt, &Leinwand::GruppeLoslassen},
+        {Aktion::LegendeGefasst, &Leinwand::LegendeLoslassen},
+        {Aktion::KreisGewählt, &Leinwand::KreisLoslassen},
+        {Aktion::KreisZeichnen, &Leinwand::KreisSchließen},
+        {Aktion::PfeilZeichnen, &Leinwand::PfeilGezogen},
+        {Aktion::PfeilEnde1, &Leinwand::PfeilEndeLoslassen},
+        {Aktion::PfeilEnde2, &Leinwand::PfeilEndeLoslassen},
+        {Aktion::PfeilGefasst, &Leinwand::PfeilLoslassen},
     };
     if (!std::exchange(lage.Gedrückt, false)) return;
     for (Auflagenlinie &linie : auflagen.MarkLine) linie.Visible = false;
@@ -75,7 +82,7 @@ void Leinwand::BildLoslassen() {
     AuswahlrahmenParken(w);
     lage.BildAuswahl = false;
     lage.Zeiger = Mauszeiger::Pfeil;
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
 }
 
 void Leinwand::GesteAbbrechen() {
@@ -84,13 +91,13 @@ void Leinwand::GesteAbbrechen() {
 }
 
 void Leinwand::LinkAbbrechen() {
-    if (lage.Aktion != AktionBeziehungZiehen && lage.Aktion != AktionPartnerschaftZiehen &&
-        lage.Aktion != AktionKindZiehen)
+    if (lage.Aktion != Aktion::BeziehungZiehen && lage.Aktion != Aktion::PartnerschaftZiehen &&
+        lage.Aktion != Aktion::KindZiehen)
         return;
     LinkAufräumen(w);
     MarkierungsListBoxenLöschen(w); // positions of the two, which nothing else must take for numbers
     lage.PLinieUnterMaus = false;
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
 }
 
 void Leinwand::ZugAbbrechen() {
@@ -98,21 +105,21 @@ void Leinwand::ZugAbbrechen() {
     lage.LinieVerschoben = false;
     lage.Zeiger = Mauszeiger::Pfeil;
     switch (lage.Aktion) {
-    case AktionKreisGewählt: KreisLoslassen({}); break;
-    case AktionPersonSetzen: PersonGesetzt({}); break; // it stands already
-    case AktionTextGefasst: lage.Aktion = AktionTextGewählt; break;
-    case AktionGruppeGewählt:
+    case Aktion::KreisGewählt: KreisLoslassen({}); break;
+    case Aktion::PersonSetzen: PersonGesetzt({}); break; // it stands already
+    case Aktion::TextGefasst: lage.Aktion = Aktion::TextGewählt; break;
+    case Aktion::GruppeGewählt:
         auflagen.shpBox.Left = lage.AltX;
         auflagen.shpBox.Top = lage.AltY;
         break;
-    case AktionRahmenZiehen:
-    case AktionKreisZeichnen:
-    case AktionPfeilZeichnen:
-    case AktionLegendeGefasst:
+    case Aktion::RahmenZiehen:
+    case Aktion::KreisZeichnen:
+    case Aktion::PfeilZeichnen:
+    case Aktion::LegendeGefasst:
         AuswahlrahmenParken(w);
         lage.PunktListe.clear();
         lage.BildAuswahl = false;
-        lage.Aktion = AktionNichts;
+        lage.Aktion = Aktion::Nichts;
         break;
     default: break;
     }
@@ -120,7 +127,7 @@ void Leinwand::ZugAbbrechen() {
 
 void Leinwand::PersonGesetzt(const Ereignis &) {
     w.fenster.Sichern();
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
 }
 
 void Leinwand::PersonLoslassen(const Ereignis &e) {
@@ -141,7 +148,7 @@ void Leinwand::PersonLoslassen(const Ereignis &e) {
     dokument.cboPersonen.Ersetzen(i, lage.PersRecord);
     if (!bewegt) return;
     ElementeBewegen(w, Bezüge(dokument));
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     auflagen.shpMask.Parken();
     if (!dokument.GleicheSätze(vorher)) w.fenster.Sichern();
@@ -150,13 +157,13 @@ void Leinwand::PersonLoslassen(const Ereignis &e) {
 void Leinwand::TextLoslassen(const Ereignis &e) {
     w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
     if (e.Rechts()) {
-        lage.Aktion = AktionMenüOffen;
+        lage.Aktion = Aktion::MenüOffen;
         w.fenster.PopupÖffnen("mnuTextBox");
         return;
     }
     Satzliste &boxen = dokument.cboTextboxen;
     const Auflagenform maske = std::exchange(auflagen.shpMask, {});
-    lage.Aktion = AktionTextGewählt;
+    lage.Aktion = Aktion::TextGewählt;
     if (!HatSichBewegt(e) || lage.TextAuswahl < 0 || lage.TextAuswahl >= boxen.Anzahl()) return;
     const std::string alt = boxen.Satz(lage.TextAuswahl);
     Satzbau satz(alt, std::min(Felder(alt).Anzahl(), Felder::Höchstzahl)); // its measures stay, if it has them
@@ -170,7 +177,7 @@ void Leinwand::TextLoslassen(const Ereignis &e) {
 void Leinwand::BalkenLoslassen(const Ereignis &) {
     const bool verschoben = std::exchange(lage.LinieVerschoben, false) && BalkenBewegen(w);
     if (verschoben) {
-        lage.Aktion = AktionNichts;
+        lage.Aktion = Aktion::Nichts;
         Gummi1Parken(w);
     }
     w.fenster.Vorschau();
@@ -196,7 +203,7 @@ void Leinwand::LegendeLoslassen(const Ereignis &) {
     dokument.LegendeY = y;
     LegendeAufbauen(dokument, w.legende);
     w.fenster.Vorschau();
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
     auflagen.shpMask.Parken();
     auflagen.shpMask.Visible = false;
 }
@@ -206,13 +213,13 @@ void Leinwand::KreisLoslassen(const Ereignis &) {
     const int i = lage.KreisAuswahl - 1;
     if (i < 0 || i >= dokument.cboFreehandlines.Anzahl()) return;
     if (KreisPunkte(dokument.cboFreehandlines.Satz(i)) == lage.KreisPunkte) return;
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();
     w.fenster.Vorschau();
 }
 
 void Leinwand::KreisSchließen(const Ereignis &) {
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
     auto punkte = KreisPunkte(std::exchange(lage.PunktListe, {}));
     if (punkte.size() < 2) return; // nothing was drawn
     const auto lücke = Lückenpunkte(punkte.back(), punkte.front());
@@ -224,7 +231,7 @@ void Leinwand::KreisSchließen(const Ereignis &) {
 }
 
 void Leinwand::PfeilGezogen(const Ereignis &e) {
-    lage.Aktion = AktionNichts;
+    lage.Aktion = Aktion::Nichts;
     if (Kleiner(std::fabs(e.X - lage.AnkerX), KürzesterPfeil) && Kleiner(std::fabs(e.Y - lage.AnkerY), KürzesterPfeil))
         return;
     Satzbau satz("", PfeilFeld::Anzahl);
@@ -239,13 +246,13 @@ void Leinwand::PfeilGezogen(const Ereignis &e) {
     w.auswahl.lstMovedPfeile.Anhängen(std::to_string(lage.PfeilAuswahl));
     w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
     w.fenster.Vorschau();
-    lage.Aktion = AktionPfeilGewählt;
+    lage.Aktion = Aktion::PfeilGewählt;
 }
 
 /// `Aktion` stays: the end can be taken again.
 void Leinwand::PfeilEndeLoslassen(const Ereignis &e) {
     if (lage.PfeilAuswahl < 0 || lage.PfeilAuswahl >= dokument.cboPfeile.Anzahl()) return;
-    const bool zweites = lage.Aktion == AktionPfeilEnde2;
+    const bool zweites = lage.Aktion == Aktion::PfeilEnde2;
     const int feldX = zweites ? PfeilFeld::PfeilX2 : PfeilFeld::PfeilX1;
     const int feldY = zweites ? PfeilFeld::PfeilY2 : PfeilFeld::PfeilY1;
     Satzbau satz(dokument.cboPfeile.Satz(lage.PfeilAuswahl), PfeilFeld::Anzahl);
@@ -275,7 +282,7 @@ void Leinwand::PfeilLoslassen(const Ereignis &e) {
     satz.Setzen(PfeilFeld::PfeilX1, RasterZehntel(linie.X1)).Setzen(PfeilFeld::PfeilY1, RasterZehntel(linie.Y1));
     satz.Setzen(PfeilFeld::PfeilX2, RasterZehntel(linie.X2)).Setzen(PfeilFeld::PfeilY2, RasterZehntel(linie.Y2));
     dokument.cboPfeile.Ersetzen(lage.PfeilAuswahl, satz.Text());
-    lage.Aktion = AktionPfeilGewählt;
+    lage.Aktion = Aktion::PfeilGewählt;
     if (satz.Text() == alt) return;
     w.fenster.Sichern();
     w.fenster.Vorschau();

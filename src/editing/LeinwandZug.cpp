@@ -24,26 +24,26 @@ bool Leinwand::HatSichBewegt(const Ereignis &e) const {
 /// Only shapes over the page move, so nothing is redrawn; a dragged circle line is the exception.
 void Leinwand::MouseMove(int taste, double x, double y) {
     struct Zug {
-        int Aktion;
+        kw::Aktion Aktion;
         bool NurLinks; ///< only while the left button is down
         void (Leinwand::*Ziehen)(const Ereignis &);
     };
     static constexpr Zug Züge[] = {
-        {AktionPfeilZeichnen, true, &Leinwand::PfeilAufziehen},
-        {AktionPfeilGefasst, true, &Leinwand::PfeilZiehen},
-        {AktionPfeilEnde2, true, &Leinwand::PfeilZiehen},
-        {AktionPfeilEnde1, true, &Leinwand::PfeilZiehen},
-        {AktionKreisGewählt, true, &Leinwand::KreisZiehen},
-        {AktionKreisZeichnen, true, &Leinwand::KreisZeichnen},
-        {AktionLegendeGefasst, true, &Leinwand::LegendeZiehen},
-        {AktionGruppeGewählt, true, &Leinwand::GruppeZiehen},
-        {AktionBeziehungZiehen, false, &Leinwand::LinkZiehen},
-        {AktionPartnerschaftZiehen, false, &Leinwand::LinkZiehen},
-        {AktionKindZiehen, false, &Leinwand::KindLinkZiehen},
-        {AktionTextGefasst, false, &Leinwand::TextZiehen},
-        {AktionPersonGewählt, true, &Leinwand::PersonZiehen},
-        {AktionPLinieGewählt, true, &Leinwand::BalkenZiehen},
-        {AktionRahmenZiehen, true, &Leinwand::RahmenZiehen},
+        {Aktion::PfeilZeichnen, true, &Leinwand::PfeilAufziehen},
+        {Aktion::PfeilGefasst, true, &Leinwand::PfeilZiehen},
+        {Aktion::PfeilEnde2, true, &Leinwand::PfeilZiehen},
+        {Aktion::PfeilEnde1, true, &Leinwand::PfeilZiehen},
+        {Aktion::KreisGewählt, true, &Leinwand::KreisZiehen},
+        {Aktion::KreisZeichnen, true, &Leinwand::KreisZeichnen},
+        {Aktion::LegendeGefasst, true, &Leinwand::LegendeZiehen},
+        {Aktion::GruppeGewählt, true, &Leinwand::GruppeZiehen},
+        {Aktion::BeziehungZiehen, false, &Leinwand::LinkZiehen},
+        {Aktion::PartnerschaftZiehen, false, &Leinwand::LinkZiehen},
+        {Aktion::KindZiehen, false, &Leinwand::KindLinkZiehen},
+        {Aktion::TextGefasst, false, &Leinwand::TextZiehen},
+        {Aktion::PersonGewählt, true, &Leinwand::PersonZiehen},
+        {Aktion::PLinieGewählt, true, &Leinwand::BalkenZiehen},
+        {Aktion::RahmenZiehen, true, &Leinwand::RahmenZiehen},
     };
     lage.MausX = x;
     lage.MausY = y;
@@ -52,8 +52,8 @@ void Leinwand::MouseMove(int taste, double x, double y) {
         return z.Aktion == lage.Aktion && ((e.Links() && lage.Gedrückt) || !z.NurLinks);
     });
     if (zug != std::end(Züge)) (this->*zug->Ziehen)(e);
-    if (lage.Aktion == AktionTextGesetzt) lage.Zeiger = Mauszeiger::Textfeld;
-    if (lage.Aktion == AktionPersonSetzen) lage.Zeiger = Mauszeiger::Person;
+    if (lage.Aktion == Aktion::TextGesetzt) lage.Zeiger = Mauszeiger::Textfeld;
+    if (lage.Aktion == Aktion::PersonSetzen) lage.Zeiger = Mauszeiger::Person;
 }
 
 void Leinwand::PfeilAufziehen(const Ereignis &e) {
@@ -63,12 +63,12 @@ void Leinwand::PfeilAufziehen(const Ereignis &e) {
 /// The whole arrow, or the end in hand.
 void Leinwand::PfeilZiehen(const Ereignis &e) {
     // The second end has a handle; without one on show it doesn't follow. The first end does. Meant.
-    if (lage.Aktion == AktionPfeilEnde2 && !w.ansicht.PfeilMarkiert) return;
+    if (lage.Aktion == Aktion::PfeilEnde2 && !w.ansicht.PfeilMarkiert) return;
     const Felder feld(dokument.cboPfeile.Satz(lage.PfeilAuswahl));
     const double dx = Raster(e.X - lage.DownX);
     const double dy = Raster(e.Y - lage.DownY);
-    const bool ende1 = lage.Aktion != AktionPfeilEnde2;
-    const bool ende2 = lage.Aktion != AktionPfeilEnde1;
+    const bool ende1 = lage.Aktion != Aktion::PfeilEnde2;
+    const bool ende2 = lage.Aktion != Aktion::PfeilEnde1;
     auflagen.Line5.Legen(ZahlLesen(feld[PfeilFeld::PfeilX1]) + (ende1 ? dx : 0),
                          ZahlLesen(feld[PfeilFeld::PfeilY1]) + (ende1 ? dy : 0), lage.PfeilEndeX + (ende2 ? dx : 0),
                          lage.PfeilEndeY + (ende2 ? dy : 0));

@@ -9,28 +9,6 @@
 
 namespace kw {
 
-/// The values of `Aktion`: at once the armed tool, the gesture in progress and the kind of the selected element.
-/// Those that drawing looks at stand in rendering/Auswahl.h.
-constexpr int AktionPersonSetzen = 1;
-constexpr int AktionPersonGewählt = 3;
-constexpr int AktionBeziehungGewählt = 4;
-constexpr int AktionPLinieBearbeitet = 8;
-constexpr int AktionTextGefasst = 10;
-constexpr int AktionMenüOffen = 14;
-constexpr int AktionRahmenZiehen = 16;
-constexpr int AktionGruppeGewählt = 17;
-constexpr int AktionKreisZeichnen = 18;
-constexpr int AktionKreisGewählt = 19;
-constexpr int AktionTextGewählt = 20;
-constexpr int AktionElternPrüfen = 23;
-constexpr int AktionElternSetzen = 24;
-constexpr int AktionPfeilZeichnen = 25;
-constexpr int AktionPfeilGefasst = 26;
-constexpr int AktionPfeilEnde2 = 27;
-constexpr int AktionPfeilEnde1 = 28;
-constexpr int AktionPfeilGewählt = 29;
-constexpr int AktionLegendeGefasst = 30;
-
 constexpr double GrößeNormal = 1.2;   ///< cm; size of a new symbol
 constexpr double GrößeKlein = 0.6;    ///< of a new small symbol: pregnancy to abortion
 constexpr double BalkenAbstand = 1.8; ///< drop of a new partnership bar below the lower partner

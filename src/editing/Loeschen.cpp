@@ -90,7 +90,7 @@ void PersonEntfernen(Werkbank &w, const std::string &nr) {
 /// How every single delete ends.
 void Abschließen(Werkbank &w) {
     PositionenVergessen(w.lage);
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();
     w.bedienung["mnuLöschen1"].Enabled = false;
     w.fenster.Vorschau();
@@ -132,7 +132,7 @@ void SymbolLöschen(Werkbank &w) {
     const int vorher = w.dokument.cboPersonen.Anzahl();
     PersonEntfernen(w, w.lage.PersNr);
     PositionenVergessen(w.lage);
-    if (w.lage.Aktion == AktionGruppeGewählt || w.lage.Aktion == AktionPersonGewählt) return;
+    if (w.lage.Aktion == Aktion::GruppeGewählt || w.lage.Aktion == Aktion::PersonGewählt) return;
     w.fenster.Vorschau();
     if (w.dokument.cboPersonen.Anzahl() < vorher) w.fenster.Sichern();
 }
@@ -184,21 +184,21 @@ void AuswahlLöschen(Werkbank &w) {
     AuswahlrahmenParken(w);
     if (Sätze(d) < vorher) w.fenster.Sichern();
     w.fenster.Vorschau();
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
 }
 
 void mnuLöschen1(Werkbank &w) {
     struct Weg {
-        int Aktion;
+        kw::Aktion Aktion;
         void (*Löschen)(Werkbank &);
     };
     static constexpr Weg Wege[] = {
-        {AktionKindlinieGewählt, KindLinieEntfernen},
-        {AktionKreisGewählt, KreisLinieLöschen},
-        {AktionBeziehungGewählt, BezLinieLöschen},
-        {AktionPLinieGewählt, PLinieLöschen},
-        {AktionTextGewählt, TextLöschen},
-        {AktionPfeilGewählt, PfeilLöschen},
+        {Aktion::KindlinieGewählt, KindLinieEntfernen},
+        {Aktion::KreisGewählt, KreisLinieLöschen},
+        {Aktion::BeziehungGewählt, BezLinieLöschen},
+        {Aktion::PLinieGewählt, PLinieLöschen},
+        {Aktion::TextGewählt, TextLöschen},
+        {Aktion::PfeilGewählt, PfeilLöschen},
     };
     w.lage.Info.Visible = false;
     const auto weg =
@@ -206,7 +206,7 @@ void mnuLöschen1(Werkbank &w) {
     if (weg != std::end(Wege)) {
         weg->Löschen(w);
     } else {
-        w.lage.Aktion = AktionGruppeGewählt;
+        w.lage.Aktion = Aktion::GruppeGewählt;
         AuswahlLöschen(w);
         MarkierungsListBoxenLöschen(w);
     }
@@ -218,13 +218,13 @@ void mnuSymbolLöschen(Werkbank &w) {
     SymbolLöschen(w);
     MarkierungsListBoxenLöschen(w);
     MarkerEntfernen(w);
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     w.auflagen.shpMask.Visible = false;
     w.bedienung["mnuLöschen1"].Enabled = false;
 }
 
 void cmdDelete(Werkbank &w) {
-    if (w.lage.Aktion != AktionGruppeGewählt) return;
+    if (w.lage.Aktion != Aktion::GruppeGewählt) return;
     Dokument &d = w.dokument;
     const int vorher = Sätze(d);
     StellenEntfernen(d.cboFreehandlines, w.auswahl.lstMovedKreisLinien, 1);
@@ -238,7 +238,7 @@ void cmdDelete(Werkbank &w) {
     }
     AuswahlrahmenParken(w);
     MarkierungsListBoxenLöschen(w);
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     if (Sätze(d) < vorher) w.fenster.Sichern();
 }

@@ -61,10 +61,10 @@ void MarkerEntfernen(Werkbank &w) {
 
 void KeineAktion(Werkbank &w) {
     MarkerEntfernen(w);
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
 }
 
-void Aktion_Nichts(Werkbank &w) { w.lage.Aktion = AktionNichts; }
+void Aktion_Nichts(Werkbank &w) { w.lage.Aktion = Aktion::Nichts; }
 
 void Gummi1Parken(Werkbank &w) { w.auflagen.Line1.Parken(); }
 
@@ -106,7 +106,7 @@ void PersonAuswählen(Werkbank &w, int position) {
     maske.Visible = false;
     maske.Shape = MaskenForm(lage.SymbolTyp);
     maske.Legen(lage.AuswahlX, lage.AuswahlY, größe, größe);
-    lage.Aktion = AktionPersonGewählt;
+    lage.Aktion = Aktion::PersonGewählt;
     GrößeMenüsPrüfen(w);
     PersonInfoAnzeigen(w, feld);
 }
@@ -134,7 +134,7 @@ void TextboxAuswählen(Werkbank &w, int position) {
 
 void KreisAuswählen(Werkbank &w, int position) {
     Leinwandlage &lage = w.lage;
-    lage.Aktion = AktionKreisGewählt;
+    lage.Aktion = Aktion::KreisGewählt;
     lage.KreisAuswahl = position + 1;
     lage.PersRecord.clear();
     MarkierungsListBoxenLöschen(w);

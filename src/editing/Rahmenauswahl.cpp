@@ -107,7 +107,7 @@ void RahmenAuswählen(Werkbank &w) {
 
     const bool etwas = !a.Leer();
     w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = etwas;
-    w.lage.Aktion = etwas ? AktionGruppeGewählt : AktionNichts;
+    w.lage.Aktion = etwas ? Aktion::GruppeGewählt : Aktion::Nichts;
     if (!etwas) AuswahlrahmenParken(w);
     w.fenster.Vorschau();
 }

@@ -52,7 +52,7 @@ void GrößeÄndern(Werkbank &w, double delta) {
     }
     AuswahlrahmenParken(w);
     w.fenster.Vorschau();
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();
 }
 

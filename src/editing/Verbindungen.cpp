@@ -52,7 +52,7 @@ bool GibtEsPartnerschaft(const Dokument &d, std::string_view nr1, std::string_vi
 
 /// The pair that a link gesture or a twin command joins, as positions; the earlier person of a gesture first.
 std::pair<int, int> Paar(const Werkbank &w) {
-    if (w.lage.Aktion == AktionElternPrüfen)
+    if (w.lage.Aktion == Aktion::ElternPrüfen)
         return {PersonMitNr(w.dokument, w.lage.PersNrA), PersonMitNr(w.dokument, w.lage.PersNrB)};
     const auto [a, b] = std::minmax(w.lage.ZielPerson, w.lage.PersAuswahl);
     return {a - 1, b - 1};
@@ -107,7 +107,7 @@ void ZielAnzeigen(Werkbank &w) {
 } // namespace
 
 void PersonAnlegen(Werkbank &w, const Importperson *import) {
-    if (w.lage.Aktion != AktionPersonSetzen) return;
+    if (w.lage.Aktion != Aktion::PersonSetzen) return;
     const double raster = w.ansicht.Rasterweite;
     const double x = GerastertZehntel(w.lage.MausX, raster);
     const double y = GerastertZehntel(w.lage.MausY, raster);
@@ -127,7 +127,7 @@ void ElternAnlegen(Werkbank &w) {
     const Partner mutter{PersonAnhängen(w, TypWeiblich, x2, y), x2, y};
     const std::string nr = w.dokument.NeuePLinienNr();
     w.dokument.cboPartnerschaftsLinien.Anhängen(PartnerschaftSatz(nr, vater, mutter, Gerundet(y + BalkenAbstand, 1)));
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     w.fenster.Sichern();
 }
@@ -145,19 +145,19 @@ void RubberStart(Werkbank &w) {
 
 void mnuPartnerschaftsLinie(Werkbank &w) {
     RubberStart(w);
-    w.lage.Aktion = AktionPartnerschaftZiehen;
+    w.lage.Aktion = Aktion::PartnerschaftZiehen;
 }
 
 void mnuBeziehungErstellen2(Werkbank &w) {
     w.lage.Info.Visible = false;
     RubberStart(w);
-    w.lage.Aktion = AktionBeziehungZiehen;
+    w.lage.Aktion = Aktion::BeziehungZiehen;
     w.auflagen.Line1.Visible = true;
 }
 
 void mnuKindVon(Werkbank &w) {
     RubberStart(w);
-    w.lage.Aktion = AktionKindZiehen;
+    w.lage.Aktion = Aktion::KindZiehen;
     w.lage.PLinieUnterMaus = false;
 }
 
@@ -184,7 +184,7 @@ void LinkZiehen(Werkbank &w, double x, double y) {
 void PartnerschaftAnlegen(Werkbank &w) {
     Dokument &d = w.dokument;
     const auto [a, b] = Paar(w);
-    if (w.lage.Aktion != AktionElternPrüfen) w.lage.Aktion = AktionNichts;
+    if (w.lage.Aktion != Aktion::ElternPrüfen) w.lage.Aktion = Aktion::Nichts;
     if (a == b || !GibtEs(d, a) || !GibtEs(d, b)) return;
     MarkerEntfernen(w);
     const Partner erster = PartnerBei(d, a);
@@ -228,14 +228,14 @@ void BeziehungAnlegen(Werkbank &w) {
     if (std::any_of(linien.begin(), linien.end(), [&](const std::string &l) { return l.ends_with(paar); })) return;
     d.cboBeziehungsLinien.Anhängen(satz);
     w.lage.BezAuswahl = linien.Anzahl() - 1;
-    w.lage.Aktion = AktionBeziehungGewählt;
+    w.lage.Aktion = Aktion::BeziehungGewählt;
     w.fenster.Vorschau();
-    w.lage.Aktion = AktionBeziehungZiehen; // the form tells a new line by it
+    w.lage.Aktion = Aktion::BeziehungZiehen; // the form tells a new line by it
     w.fenster.FormÖffnen("frmBezLinien");
 }
 
 void BezLAbbrechen(Werkbank &w) {
-    if (w.lage.Aktion != AktionBeziehungZiehen) return;
+    if (w.lage.Aktion != Aktion::BeziehungZiehen) return;
     Satzliste &linien = w.dokument.cboBeziehungsLinien;
     if (w.lage.BezAuswahl >= 0 && w.lage.BezAuswahl < linien.Anzahl()) linien.Entfernen(w.lage.BezAuswahl);
     PositionenVergessen(w.lage);

@@ -12,7 +12,7 @@ namespace {
 /// What a button arms.
 struct Werkzeug {
     int Nummer;
-    int Aktion;
+    kw::Aktion Aktion;
     int Typ = 0;      ///< kind of person that it places
     double Größe = 0; ///< of that symbol, cm
     int PfeilArt = 0; ///< arrow or double arrow
@@ -21,25 +21,25 @@ constexpr int TypEltern = 22; ///< of the parents' tool; no record has it
 constexpr int TypZwilling = 8;
 
 constexpr Werkzeug Werkzeuge[] = {
-    {1, AktionPersonSetzen, TypMännlich, GrößeNormal},
-    {2, AktionPersonSetzen, TypWeiblich, GrößeNormal},
-    {3, AktionPersonSetzen, TypSchwangerschaft, GrößeKlein},
-    {4, AktionPersonSetzen, 4, GrößeKlein},
-    {5, AktionPersonSetzen, 5, GrößeKlein},
-    {6, AktionPersonSetzen, 6, GrößeKlein},
-    {7, AktionPersonSetzen, 7, GrößeKlein},
-    {WerkzeugKreislinie, AktionKreisZeichnen},
-    {WerkzeugText, AktionTextGesetzt},
-    {WerkzeugEltern, AktionElternSetzen, TypEltern, GrößeNormal},
-    {WerkzeugBeziehung, AktionBeziehungZiehen},
-    {WerkzeugPartnerschaft, AktionPartnerschaftZiehen},
-    {WerkzeugKind, AktionKindZiehen},
-    {WerkzeugPfeil, AktionPfeilZeichnen, 0, 0, 1},
-    {WerkzeugDoppelpfeil, AktionPfeilZeichnen, 0, 0, 2},
-    {17, AktionPersonSetzen, TypInstitution, GrößeNormal},
-    {18, AktionPersonSetzen, TypWeiblichZuMännlich, GrößeNormal},
-    {19, AktionPersonSetzen, TypMännlichZuWeiblich, GrößeNormal},
-    {20, AktionPersonSetzen, TypDivers, GrößeNormal},
+    {1, Aktion::PersonSetzen, TypMännlich, GrößeNormal},
+    {2, Aktion::PersonSetzen, TypWeiblich, GrößeNormal},
+    {3, Aktion::PersonSetzen, TypSchwangerschaft, GrößeKlein},
+    {4, Aktion::PersonSetzen, 4, GrößeKlein},
+    {5, Aktion::PersonSetzen, 5, GrößeKlein},
+    {6, Aktion::PersonSetzen, 6, GrößeKlein},
+    {7, Aktion::PersonSetzen, 7, GrößeKlein},
+    {WerkzeugKreislinie, Aktion::KreisZeichnen},
+    {WerkzeugText, Aktion::TextGesetzt},
+    {WerkzeugEltern, Aktion::ElternSetzen, TypEltern, GrößeNormal},
+    {WerkzeugBeziehung, Aktion::BeziehungZiehen},
+    {WerkzeugPartnerschaft, Aktion::PartnerschaftZiehen},
+    {WerkzeugKind, Aktion::KindZiehen},
+    {WerkzeugPfeil, Aktion::PfeilZeichnen, 0, 0, 1},
+    {WerkzeugDoppelpfeil, Aktion::PfeilZeichnen, 0, 0, 2},
+    {17, Aktion::PersonSetzen, TypInstitution, GrößeNormal},
+    {18, Aktion::PersonSetzen, TypWeiblichZuMännlich, GrößeNormal},
+    {19, Aktion::PersonSetzen, TypMännlichZuWeiblich, GrößeNormal},
+    {20, Aktion::PersonSetzen, TypDivers, GrößeNormal},
 };
 
 bool HatPerson(const Werkbank &w) {
@@ -61,7 +61,7 @@ bool Brauchbar(const Werkbank &w, int nummer) {
 /// The links start from the selected person; without one nothing is armed.
 bool LinkBeginnen(Werkbank &w, int nummer) {
     if (nummer != WerkzeugBeziehung && nummer != WerkzeugPartnerschaft && nummer != WerkzeugKind) return false;
-    if (!Brauchbar(w, nummer)) w.lage.Aktion = AktionNichts;
+    if (!Brauchbar(w, nummer)) w.lage.Aktion = Aktion::Nichts;
     else if (nummer == WerkzeugBeziehung) mnuBeziehungErstellen2(w);
     else if (nummer == WerkzeugPartnerschaft) mnuPartnerschaftsLinie(w);
     else mnuKindVon(w);
@@ -71,7 +71,7 @@ bool LinkBeginnen(Werkbank &w, int nummer) {
 bool IstGedrückt(const Leinwandlage &lage, const Werkzeug &werkzeug) {
     if (lage.Aktion != werkzeug.Aktion) return false;
     if (werkzeug.PfeilArt) return werkzeug.PfeilArt == lage.PfeilArt;
-    return lage.Aktion != AktionPersonSetzen || werkzeug.Typ == lage.SymbolTyp;
+    return lage.Aktion != Aktion::PersonSetzen || werkzeug.Typ == lage.SymbolTyp;
 }
 
 /// What a tool begins with. Also redraws, without what was selected.
@@ -94,7 +94,7 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
         return;
     }
     Leinwandlage &lage = w.lage;
-    lage.Aktion = AktionPersonSetzen;
+    lage.Aktion = Aktion::PersonSetzen;
     AuswahlAufgeben(w);
     lage.Zeiger = nummer < WerkzeugZwillinge ? Mauszeiger::Person : Mauszeiger::Pfeil;
     if (LinkBeginnen(w, nummer)) return;
@@ -112,7 +112,7 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
 
 void BildauswahlBeginnen(Werkbank &w, bool inDatei) {
     const bool weglegen = w.lage.BildAuswahl && w.lage.bAuswahlInDatei == inDatei;
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     AuswahlAufgeben(w);
     PositionenVergessen(w.lage);
     w.lage.Zeiger = weglegen ? Mauszeiger::Pfeil : Mauszeiger::Kreuz;
@@ -123,11 +123,11 @@ void BildauswahlBeginnen(Werkbank &w, bool inDatei) {
 void cmdZwillinge(Werkbank &w) {
     Leinwandlage &lage = w.lage;
     const Leinwandlage vorher = lage;
-    lage.Aktion = AktionPersonSetzen;
+    lage.Aktion = Aktion::PersonSetzen;
     lage.SymbolGröße = GrößeNormal;
     lage.SymbolTyp = TypZwilling;
     w.fenster.PopupÖffnen("mnuZwillinge");
-    if (lage.Aktion != AktionPersonSetzen) return;
+    if (lage.Aktion != Aktion::PersonSetzen) return;
     // A dismissed menu arms nothing, there is no such symbol to place: what was selected or armed stays so.
     lage.Aktion = vorher.Aktion;
     lage.SymbolGröße = vorher.SymbolGröße;
@@ -141,7 +141,7 @@ void PaletteAuffrischen(Werkbank &w) {
         knopf.Enabled = Brauchbar(w, werkzeug.Nummer);
     }
     w.bedienung["mnuEinfügen8"].Enabled = w.ablage.HatEtwas();
-    w.bedienung["cmdDelete"].Enabled = w.lage.Aktion == AktionGruppeGewählt;
+    w.bedienung["cmdDelete"].Enabled = w.lage.Aktion == Aktion::GruppeGewählt;
     w.bedienung["btnAuswahlZuBild"].Checked = w.lage.BildAuswahl && w.lage.bAuswahlInDatei;
 }
 

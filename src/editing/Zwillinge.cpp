@@ -82,7 +82,7 @@ void ZwillingeAnlegen(Werkbank &w) {
     w.lage.PLinieAuswahl = linie;
     Anlegen(w, linie);
     AuswahlrahmenParken(w);
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     w.fenster.Sichern();
 }
@@ -95,14 +95,14 @@ void ElternPrüfen(Werkbank &w) {
     } else if (gewählte.Anzahl() == 2) {
         w.lage.PersNrA = gewählte.Satz(0);
         w.lage.PersNrB = gewählte.Satz(1);
-        w.lage.Aktion = AktionElternPrüfen;
+        w.lage.Aktion = Aktion::ElternPrüfen;
         PartnerschaftAnlegen(w);
         ZwillingeAnlegen(w);
     } else {
         Melden(w, "Bitte markieren Sie zunächst die Eltern, indem Sie einen Auswahlrahmen umd diese ziehen!",
                "Please first mark the parents by dragging a selection frame around them!");
     }
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
 }
 
@@ -161,7 +161,7 @@ void ZwillingeErklären(Werkbank &w, std::string_view mark) {
     w.bedienung["mnuMakeTwins"].Visible = false;
     AuswahlrahmenParken(w);
     MarkierungsListBoxenLöschen(w);
-    w.lage.Aktion = AktionNichts;
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();
     w.fenster.Vorschau();
 }

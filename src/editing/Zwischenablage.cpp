@@ -229,13 +229,13 @@ void EingefügtesAuswählen(Werkbank &w) {
         const Satzliste gewählt = w.auswahl.lstMovedText;
         TextboxAuswählen(w, d.cboTextboxen.Anzahl() - 1);
         w.auswahl.lstMovedText = gewählt;
-        w.lage.Aktion = AktionTextGewählt;
+        w.lage.Aktion = Aktion::TextGewählt;
     } else {
         const Satzbau punkt(za.KopierPunkt, 2);
         Auflagenform &rahmen = w.auflagen.shpBox;
         rahmen.Legen(punkt.Zahl(0), punkt.Zahl(1), za.KopierBreite, za.KopierHöhe);
         if (za.KopierBreite <= 0 || za.KopierHöhe <= 0) RahmenUm(rahmen, za);
-        w.lage.Aktion = AktionGruppeGewählt;
+        w.lage.Aktion = Aktion::GruppeGewählt;
     }
 }
 

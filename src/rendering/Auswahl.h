@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/Satzliste.h"
+#include "rendering/Aktion.h"
 
 namespace kw {
 
@@ -21,22 +22,12 @@ struct Auswahl {
 
 /// What the canvas is doing, as far as drawing looks at it.
 struct Gestenlage {
-    int Aktion = 0;
+    kw::Aktion Aktion = kw::Aktion::Nichts;
     int ZielPerson = 0;           ///< one-based position of a link gesture's target, 0 none
     int PLinieAuswahl = -1;       ///< position of the partnership line selected or under the pointer
     bool PLinieUnterMaus = false; ///< in a child link gesture: a partnership line lies under the pointer
     int KindAuswahl = -1;         ///< position of the selected child line
     double TextRahmenUnten = 0;   ///< bottom of the selected text box's frame below its top, cm
 };
-
-/// The values of `Aktion` that drawing looks at.
-constexpr int AktionNichts = 0;
-constexpr int AktionPLinieGewählt = 5;
-constexpr int AktionKindlinieGewählt = 6;
-constexpr int AktionTextGesetzt = 9;
-constexpr int AktionTextDialog = 11;
-constexpr int AktionBeziehungZiehen = 12;
-constexpr int AktionPartnerschaftZiehen = 13;
-constexpr int AktionKindZiehen = 15;
 
 } // namespace kw

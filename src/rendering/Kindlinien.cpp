@@ -77,7 +77,7 @@ void KindlinienZeichnen(Zeichenfläche &f, const Zeichnung &z, double faktor) {
         } catch (const FeldFehlt &) { // no such child, or a damaged record: nothing to draw
         }
     }
-    if (z.ansicht.bDruckLaeuft || z.geste.Aktion != AktionKindlinieGewählt) return;
+    if (z.ansicht.bDruckLaeuft || z.geste.Aktion != Aktion::KindlinieGewählt) return;
     const int i = z.geste.KindAuswahl;
     if (i < 0 || i >= speicher.Anzahl()) return;
     f.DrawWidth = 3;

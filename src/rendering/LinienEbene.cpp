@@ -9,7 +9,7 @@ namespace {
 /// The bar that a link gesture or a selection points at; nothing when none does.
 const std::string *BalkenUnterMarke(const Zeichnung &z) {
     const bool zeigt =
-        z.geste.Aktion == AktionPLinieGewählt || (z.geste.Aktion == AktionKindZiehen && z.geste.PLinieUnterMaus);
+        z.geste.Aktion == Aktion::PLinieGewählt || (z.geste.Aktion == Aktion::KindZiehen && z.geste.PLinieUnterMaus);
     const auto &speicher = z.dokument.cboPartnerschaftsLinien;
     const int i = z.geste.PLinieAuswahl;
     return zeigt && i >= 0 && i < speicher.Anzahl() ? &speicher.Satz(i) : nullptr;

@@ -63,8 +63,8 @@ class Personenzeichner {
 
     Symbol::Hervorhebung Hervorgehoben(const Felder &feld, int position) const {
         if (z_.ansicht.bDruckLaeuft) return {.Druck = true};
-        const int aktion = z_.geste.Aktion;
-        const bool zieht = aktion == AktionBeziehungZiehen || aktion == AktionPartnerschaftZiehen;
+        const Aktion aktion = z_.geste.Aktion;
+        const bool zieht = aktion == Aktion::BeziehungZiehen || aktion == Aktion::PartnerschaftZiehen;
         const auto gewählt = gewählt_.find(Ganzzahl16(ZahlLesen(feld[PersonFeld::Nr])));
         return {zieht && position + 1 == z_.geste.ZielPerson, gewählt == gewählt_.end() ? 0 : gewählt->second};
     }

@@ -107,11 +107,12 @@ void TextboxenZeichnen(Zeichenfläche &f, Zeichnung &z, double faktor) {
         const Maße maße = BoxZeichnen(f, z.ansicht, feld, faktor);
         if (!Ungemessen(feld)) continue;
         // A box that was just written or placed is measured like any other; the gesture ends with it.
-        if (z.geste.Aktion == AktionTextDialog && feld.Anzahl() <= TextFeld::TextBreite) z.geste.Aktion = AktionNichts;
+        if (z.geste.Aktion == Aktion::TextDialog && feld.Anzahl() <= TextFeld::TextBreite)
+            z.geste.Aktion = Aktion::Nichts;
         boxen.Ersetzen(i, MitMaßen(feld, maße));
     }
     if (!z.ansicht.bDruckLaeuft) AuswahlRahmen(f, z);
-    if (z.geste.Aktion == AktionTextGesetzt) z.geste.Aktion = AktionNichts;
+    if (z.geste.Aktion == Aktion::TextGesetzt) z.geste.Aktion = Aktion::Nichts;
 }
 
 } // namespace kw

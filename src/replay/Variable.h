@@ -27,6 +27,7 @@ template <typename T> T AusText(const std::string &text) {
     if constexpr (std::is_convertible_v<T, std::string>) return text;
     else if constexpr (std::is_same_v<T, bool>) return ZahlLesen(text) != 0;
     else if constexpr (std::is_floating_point_v<T>) return ZahlLesen(text);
+    else if constexpr (std::is_enum_v<T>) return static_cast<T>(AusText<std::underlying_type_t<T>>(text));
     else
         return static_cast<T>(std::clamp(ZahlLesen(text), static_cast<double>(std::numeric_limits<T>::min()),
                                          static_cast<double>(std::numeric_limits<T>::max())));

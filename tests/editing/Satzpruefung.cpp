@@ -134,7 +134,9 @@ struct Sammler {
         Gewählt(s.auswahl.lstMovedPfeile, d.cboPfeile, 0);
         Gewählt(s.auswahl.lstMovedPers, d.cboPersonen, 1);
         Gewählt(s.auswahl.lstMovedPLines, d.cboPartnerschaftsLinien, 1);
-        Soll(s.lage.Aktion >= 0 && s.lage.Aktion <= 30 && s.lage.Aktion != 23, "unknown Aktion", {});
+        Soll(s.lage.Aktion >= Aktion::Nichts && s.lage.Aktion <= Aktion::LegendeGefasst &&
+                 s.lage.Aktion != Aktion::ElternPrüfen,
+             "unknown Aktion", {});
     }
 };
 
@@ -207,7 +209,7 @@ std::string Anzeigefehler(frmMain &h) {
     const int breite = h.picVorschau.Width(), höhe = h.picVorschau.Height();
     const double größe = std::max(breite * 1.0 / h.start.BildschirmBreite, höhe * 1.0 / h.start.BildschirmHöhe);
     if (std::abs(größe - 0.72 - 0.09 * zoom) > 0.001 || (lage == 1) != (breite < höhe)) return "canvas of another size";
-    const bool fremd = h.lage.Aktion != AktionNichts && h.lage.Aktion != AktionRahmenZiehen;
+    const bool fremd = h.lage.Aktion != Aktion::Nichts && h.lage.Aktion != Aktion::RahmenZiehen;
     if (h.lage.BildAuswahl && (fremd || h.lage.Zeiger != Mauszeiger::Kreuz)) return "region with another tool";
     return (h.ring.UndoSchritte() > 0) == h.bedienung["mnuRückgängig"].Enabled ? "" : "undo enabled or not";
 }
@@ -243,10 +245,10 @@ const Macke Macken[] = {
          return s.Zeile.ends_with("press cmdDelete") && Enthält(s.Alt.auswahl.lstMovedPLines, v.Wer[1]); }},
     {"a group's bar moves without the partner outside the group", "end of bar",
      [](const Schritt &s, const Verstoß &v) {
-         return s.Alt.lage.Aktion == AktionGruppeGewählt && Enthält(s.Alt.auswahl.lstMovedPLines, v.Wer[0]) &&
+         return s.Alt.lage.Aktion == Aktion::GruppeGewählt && Enthält(s.Alt.auswahl.lstMovedPLines, v.Wer[0]) &&
                 !Enthält(s.Alt.auswahl.lstMovedPers, v.Wer[1]); }},
     {"copied twins have no parents, and get them one by one", "twins of different parents",
-     [](const Schritt &s, const Verstoß &) { return s.Alt.lage.Aktion == AktionKindZiehen; }},
+     [](const Schritt &s, const Verstoß &) { return s.Alt.lage.Aktion == Aktion::KindZiehen; }},
     {"a person who was given a child line without parents can get another", "two child lines",
      [](const Schritt &s, const Verstoß &v) {
          const std::string ohne = "child line without parents: " + v.Wer[0];
@@ -267,7 +269,7 @@ void Prüfung::BeiFormularenZusehen() {
     auto &spielen = p.benutzer.FormularSpielen;
     spielen = [=, this, &p, vorige = spielen](Formular &form, const std::vector<std::string> &zeilen) {
         Dokument vorher = p.haupt.dokument;
-        if (form.Name() == "frmBezLinien" && p.haupt.lage.Aktion == AktionBeziehungZiehen)
+        if (form.Name() == "frmBezLinien" && p.haupt.lage.Aktion == Aktion::BeziehungZiehen)
             vorher.cboBeziehungsLinien.Entfernen(p.haupt.lage.BezAuswahl);
         const auto sonst = übriges();
         vorige(form, zeilen);
@@ -321,7 +323,7 @@ std::string Prüfung::Projektwechsel(bool neu) {
     const auto seite = [](const Dokument &x) { return std::tie(x.Papiercode, x.Seitenlage, x.LegendeSichtbar); };
     const bool gleich = Unterschied(soll, d).empty() && (neu || seite(soll) == seite(d));
     const bool frei = Frei(soll) == Frei(d) || (!neu && soll.GleicheSätze({})); // no project: they stay
-    const bool ruht = jetzt_.auswahl.Leer() && jetzt_.lage.Aktion == AktionNichts;
+    const bool ruht = jetzt_.auswahl.Leer() && jetzt_.lage.Aktion == Aktion::Nichts;
     return gleich && (zeile_.starts_with("save") || (frei && ruht)) ? "" : "another project than it should be";
 }
 
@@ -364,7 +366,7 @@ std::string Prüfung::Übergang() {
     for (int p = vorher; p != platz; p = p % UndoRing::UndoTiefe + 1) plätze_.erase(p % UndoRing::UndoTiefe + 1);
     if (zeile_.find("press cmdLöschen") != std::string::npos) return ""; // deletes behind its snapshot
     // A circle line or a person just placed waits for its snapshot until the next click.
-    const auto offen = [](int aktion) { return aktion == AktionKreisGewählt || aktion == AktionPersonSetzen; };
+    const auto offen = [](Aktion aktion) { return aktion == Aktion::KreisGewählt || aktion == Aktion::PersonSetzen; };
     if (platz != vorher) plätze_[platz] = jetzt_.dokument;
     else if (!zeile_.starts_with("store") && !offen(alt_.lage.Aktion) && !offen(jetzt_.lage.Aktion))
         return soll(alt_.dokument, "change without snapshot");

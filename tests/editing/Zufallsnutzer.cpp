@@ -88,7 +88,7 @@ void Zufallsnutzer::Umsehen() {
         alle_.push_back({ZahlLesen(satz), ZahlLesen(satz.substr(satz.find('^') + 1)) + 0.05, "mnuKreislinie"});
     for (const auto *orte : {&personen_, &balken_}) alle_.insert(alle_.end(), orte->begin(), orte->end());
     if (d.LegendeSichtbar) alle_.push_back({d.LegendeX + 0.2, d.LegendeY + 0.2});
-    if (haupt_->lage.Aktion == AktionGruppeGewählt)
+    if (haupt_->lage.Aktion == Aktion::GruppeGewählt)
         alle_.push_back({haupt_->auflagen.shpBox.Left + 0.2, haupt_->auflagen.shpBox.Top + 0.2, "mnuAuswahlBox"});
 }
 

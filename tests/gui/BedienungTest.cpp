@@ -157,7 +157,7 @@ TEST_F(Bedienung, NebenDerSeiteGeschiehtNichts) {
     Zeigen();
     PersonSetzen({69, 3});
     EXPECT_EQ(haupt.dokument.cboPersonen.Anzahl(), 0);
-    EXPECT_EQ(haupt.lage.Aktion, AktionPersonSetzen);
+    EXPECT_EQ(haupt.lage.Aktion, Aktion::PersonSetzen);
 }
 
 /// A popup or a box can swallow a release; a second button is no new press; the middle one is none at all.
@@ -238,7 +238,7 @@ TEST_F(Palettentest, TasteUndMausDrücken) {
     Taste(Qt::Key_Tab);
     for (const int taste : {Qt::Key_Right, Qt::Key_Return}) Taste(taste); // the second tool: female
     palette.Auffrischen();
-    EXPECT_EQ(haupt.lage.Aktion, AktionPersonSetzen);
+    EXPECT_EQ(haupt.lage.Aktion, Aktion::PersonSetzen);
     EXPECT_EQ(haupt.lage.SymbolTyp, TypWeiblich);
     EXPECT_TRUE(Knöpfe()[1]->isChecked());
     EXPECT_FALSE(Knöpfe()[0]->isChecked());
