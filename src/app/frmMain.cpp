@@ -41,7 +41,7 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
 }
 
 void frmMain::Laden() {
-    ansicht.Sprache = "en";
+    ansicht.Sprache = Sprache::Englisch;
     // Asking for printers or fonts can take longer than all the rest of the start.
     plattform.benutzer.NachErstemBild([this] {
         SchriftlisteFüllen();

@@ -104,7 +104,7 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void AuswahlUndRingLeeren();
     /// Shows or hides the legend as its button stands.
     void Legende();
-    bool IstDeutsch() const { return ansicht.Sprache == "de"; }
+    bool IstDeutsch() const { return ansicht.Sprache == Sprache::Deutsch; }
     /// What a draw routine looks at.
     Zeichnung DasBild() { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
 

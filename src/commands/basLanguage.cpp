@@ -30,15 +30,15 @@ void MenuesEnglisch(Bedienelemente &elemente, std::string_view deviceName) {
     Beschriften(elemente, &Menüzeile::Englisch, deviceName);
 }
 
-void MenuesBeschriften(Bedienelemente &elemente, std::string_view sprache, std::string_view deviceName) {
-    if (sprache == "de") MenuesDeutsch(elemente, deviceName);
+void MenuesBeschriften(Bedienelemente &elemente, Sprache sprache, std::string_view deviceName) {
+    if (sprache == Sprache::Deutsch) MenuesDeutsch(elemente, deviceName);
     else MenuesEnglisch(elemente, deviceName);
 }
 
-void RänderknopfBeschriften(Bedienelemente &elemente, std::string_view sprache, std::string_view deviceName) {
+void RänderknopfBeschriften(Bedienelemente &elemente, Sprache sprache, std::string_view deviceName) {
     const Menüzeile &zeile = *MenüzeileFinden(Rändertipp);
     Bedienelement &ränder = elemente[Rändertipp];
-    ränder.Caption = sprache == "de" ? zeile.Deutsch : zeile.Englisch;
+    ränder.Caption = sprache == Sprache::Deutsch ? zeile.Deutsch : zeile.Englisch;
     ränder.Tipp = ränder.Caption.append(deviceName);
 }
 

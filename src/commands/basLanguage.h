@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Bedienelemente.h"
+#include "platform/Sprache.h"
 
 #include <string_view>
 
@@ -12,9 +13,9 @@ namespace kw {
 void MenuesDeutsch(Bedienelemente &elemente, std::string_view deviceName);
 void MenuesEnglisch(Bedienelemente &elemente, std::string_view deviceName);
 
-/// "de" gives the German captions, anything else the English ones.
-void MenuesBeschriften(Bedienelemente &elemente, std::string_view sprache, std::string_view deviceName);
+/// The captions of that language.
+void MenuesBeschriften(Bedienelemente &elemente, Sprache sprache, std::string_view deviceName);
 /// Only the tool tip that names the printer.
-void RänderknopfBeschriften(Bedienelemente &elemente, std::string_view sprache, std::string_view deviceName);
+void RänderknopfBeschriften(Bedienelemente &elemente, Sprache sprache, std::string_view deviceName);
 
 } // namespace kw

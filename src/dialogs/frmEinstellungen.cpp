@@ -11,7 +11,7 @@ constexpr int Englisch = 1;
 
 frmEinstellungen::frmEinstellungen(Dialogumgebung &umgebung, bool ersterStart)
     : Formular("frmEinstellungen", "Einstellungen"), umgebung_(umgebung), ersterStart_(ersterStart) {
-    const bool englisch = umgebung.werkbank.ansicht.Sprache == "en";
+    const bool englisch = umgebung.werkbank.ansicht.Sprache == Sprache::Englisch;
     if (englisch) Caption = "Settings";
     if (ersterStart) Caption = "Please choose your language ...";
     Anlegen("Label1", Art::Beschriftung, englisch ? "Language" : "Sprache / Language");
@@ -23,9 +23,8 @@ frmEinstellungen::frmEinstellungen(Dialogumgebung &umgebung, bool ersterStart)
 }
 
 void frmEinstellungen::Laden() {
-    const std::string &sprache = umgebung_.werkbank.ansicht.Sprache;
-    if (ersterStart_ || sprache == "en") IndexSetzen("Combo1", Englisch);
-    else if (sprache == "de") IndexSetzen("Combo1", Deutsch);
+    const bool deutsch = umgebung_.werkbank.ansicht.Sprache == Sprache::Deutsch;
+    IndexSetzen("Combo1", deutsch && !ersterStart_ ? Deutsch : Englisch);
 }
 
 void frmEinstellungen::Geklickt(std::string_view name) {

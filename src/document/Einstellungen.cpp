@@ -49,7 +49,7 @@ Einstellungen EinstellungenLesen(const Profil &profil) {
     e.Raster = text("gridsize") == "1" ? 1 : 0;
     e.Werkzeugleiste = text("toolbar") == "1";
     e.OhneSprache = text("language").empty();
-    e.Sprache = text("language") == "de" ? "de" : "en";
+    e.Sprache = SpracheAus(text("language"));
     for (int platz = 1; platz <= Chronik::Plätze; ++platz) e.Zuletzt.Setzen(platz, text(LetzterPfadSchlüssel(platz)));
     return e;
 }

@@ -2,6 +2,7 @@
 
 #include "document/Chronik.h"
 #include "document/Profil.h"
+#include "platform/Sprache.h"
 
 #include <string>
 #include <string_view>
@@ -22,7 +23,7 @@ struct Einstellungen {
     int Raster = 0; ///< list position of `cboRaster`; a third entry comes back as the first. Meant.
     bool Werkzeugleiste = false;
     int Zoom = 2; ///< list position, written only
-    std::string Sprache = "en";
+    kw::Sprache Sprache = kw::Sprache::Englisch;
     bool OhneSprache = true; ///< none has been chosen yet
     Chronik Zuletzt;
 };

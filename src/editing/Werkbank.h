@@ -50,7 +50,7 @@ struct Werkbank {
     Benutzer &benutzer;
     Fensterdienste &fenster;
 
-    bool IstDeutsch() const { return ansicht.Sprache == "de"; }
+    bool IstDeutsch() const { return ansicht.Sprache == Sprache::Deutsch; }
 };
 
 } // namespace kw

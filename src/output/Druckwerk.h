@@ -34,7 +34,7 @@ class Druckwerk {
     bool PdfDruckerWählen();
 
   private:
-    bool IstDeutsch() const { return ansicht_.Sprache == "de"; }
+    bool IstDeutsch() const { return ansicht_.Sprache == Sprache::Deutsch; }
     void Druck_Raender(const Druckränder &ränder);
     void Warnen(const std::string &titel, const std::string &text);
 

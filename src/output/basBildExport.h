@@ -41,7 +41,7 @@ class Bildexport {
     void AusschnittKopieren(const Bildausschnitt &cm);
 
   private:
-    bool IstDeutsch() const { return ansicht_.Sprache == "de"; }
+    bool IstDeutsch() const { return ansicht_.Sprache == Sprache::Deutsch; }
     Bildausschnitt InTwips(const Bildausschnitt &cm) const;
     std::optional<std::string> DateiWählen(const std::string &titel, const std::string &projektdatei);
 

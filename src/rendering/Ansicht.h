@@ -1,14 +1,13 @@
 #pragma once
 
+#include "platform/Sprache.h"
 #include "rendering/Farben.h"
-
-#include <string>
 
 namespace kw {
 
 /// How the genogram is shown: what no project file holds. Owned by the main window, read by every layer.
 struct Ansicht {
-    std::string Sprache = "en";    ///< "de" or "en"
+    kw::Sprache Sprache = kw::Sprache::Englisch;
     int Farbschema = SchemaFarbig; ///< 0 black and white, 1 grey scale, 2 colour
     int Altersanzeige = 0;         ///< 0 current age, 1 year of birth, 2 both
     int StrichFaktor = 1;          ///< base line width, device pixels

@@ -102,8 +102,7 @@ using Miniatur = void (*)(const Miniaturen &, Zelle, const std::string &code);
 struct Eintrag {
     std::string_view Code;
     Miniatur Zeichnen;
-    std::string_view Deutsch;
-    std::string_view Englisch;
+    Zweisprachig Text;
 };
 
 template <int kennzahl> void Person(const Miniaturen &m, Zelle z, const std::string &) { m.Person(z, kennzahl); }
@@ -119,38 +118,38 @@ constexpr auto Bez = &Zeile<&Miniaturen::Beziehung>;
 constexpr auto Part = &Zeile<&Miniaturen::Partnerschaft>;
 constexpr auto Kind = &Zeile<&Miniaturen::Kind>;
 constexpr std::array<Eintrag, 32> Einträge{{
-    {"01", Person<1>, "Männlich", "Male"},
-    {"02", Person<2>, "Weiblich", "Female"},
-    {"03", Person<3>, "Schwangerschaft", "Pregnancy"},
-    {"04", Person<4>, "Fehlgeburt", "Miscarriage"},
-    {"05", Person<5>, "Totgeburt männlich", "Stillbirth Male"},
-    {"06", Person<6>, "Totgeburt weiblich", "Stillbirth Female"},
-    {"07", Person<7>, "Abtreibung", "Abortion"},
-    {"09", Person<9>, "Institution, Einrichtung etc.", "Institution"},
-    {"021", Person<10>, "Transgender - weibl. zu männl.", "Transgender - Female to Male"},
-    {"022", Person<11>, "Transgender - männl. zu weibl.", "Transgender - Male to Female"},
-    {"023", Person<12>, "Divers", "Gender Nonconforming"},
-    {"20", Mark, "Indexperson", "Index Person"},
-    {"25", Mark, "Alkohol- / Drogensucht", "Alcohol- or Drug Addiction"},
-    {"27", Mark, "Körperl. / psych. Erkrankung", "Physical or Mental Illness"},
-    {"29", Mark, "Verstorben", "Deceased"},
-    {"35", Zwil, "Zweieiige Zwillinge", "Dizygotic Twins"},
-    {"36", Zwil, "Eineiige Zwillinge", "Monozygotic Twins"},
-    {"40", Bez, "Gute Beziehung", "Good Relationship"},
-    {"41", Bez, "Enge Beziehung", "Close Relationship"},
-    {"42", Bez, "Verschmolzen", "Fused Relationship"},
-    {"43", Bez, "Distanziert", "Distant"},
-    {"44", Bez, "Beziehungsabbruch", "Cutoff"},
-    {"45", Bez, "Konflikthaft", "Conflict / Hostile"},
-    {"46", Bez, "Konflikthaft Eng", "Conflict / Close"},
-    {"47", Bez, "Konfl. Verschmolzen", "Conflict / Fused"},
-    {"50", Part, "Eheähnlich", "Unmarried"},
-    {"51", Part, "Getrennt", "Disconnected"},
-    {"52", Part, "Verheiratet", "Married"},
-    {"53", Part, "Geschieden", "Divorced"},
-    {"54", Part, "", ""},
-    {"60", Kind, "Adoptiert", "Adopted Child"},
-    {"61", Kind, "Pflegekind", "Foster Child"},
+    {"01", Person<1>, {"Männlich", "Male"}},
+    {"02", Person<2>, {"Weiblich", "Female"}},
+    {"03", Person<3>, {"Schwangerschaft", "Pregnancy"}},
+    {"04", Person<4>, {"Fehlgeburt", "Miscarriage"}},
+    {"05", Person<5>, {"Totgeburt männlich", "Stillbirth Male"}},
+    {"06", Person<6>, {"Totgeburt weiblich", "Stillbirth Female"}},
+    {"07", Person<7>, {"Abtreibung", "Abortion"}},
+    {"09", Person<9>, {"Institution, Einrichtung etc.", "Institution"}},
+    {"021", Person<10>, {"Transgender - weibl. zu männl.", "Transgender - Female to Male"}},
+    {"022", Person<11>, {"Transgender - männl. zu weibl.", "Transgender - Male to Female"}},
+    {"023", Person<12>, {"Divers", "Gender Nonconforming"}},
+    {"20", Mark, {"Indexperson", "Index Person"}},
+    {"25", Mark, {"Alkohol- / Drogensucht", "Alcohol- or Drug Addiction"}},
+    {"27", Mark, {"Körperl. / psych. Erkrankung", "Physical or Mental Illness"}},
+    {"29", Mark, {"Verstorben", "Deceased"}},
+    {"35", Zwil, {"Zweieiige Zwillinge", "Dizygotic Twins"}},
+    {"36", Zwil, {"Eineiige Zwillinge", "Monozygotic Twins"}},
+    {"40", Bez, {"Gute Beziehung", "Good Relationship"}},
+    {"41", Bez, {"Enge Beziehung", "Close Relationship"}},
+    {"42", Bez, {"Verschmolzen", "Fused Relationship"}},
+    {"43", Bez, {"Distanziert", "Distant"}},
+    {"44", Bez, {"Beziehungsabbruch", "Cutoff"}},
+    {"45", Bez, {"Konflikthaft", "Conflict / Hostile"}},
+    {"46", Bez, {"Konflikthaft Eng", "Conflict / Close"}},
+    {"47", Bez, {"Konfl. Verschmolzen", "Conflict / Fused"}},
+    {"50", Part, {"Eheähnlich", "Unmarried"}},
+    {"51", Part, {"Getrennt", "Disconnected"}},
+    {"52", Part, {"Verheiratet", "Married"}},
+    {"53", Part, {"Geschieden", "Divorced"}},
+    {"54", Part, {"", ""}},
+    {"60", Kind, {"Adoptiert", "Adopted Child"}},
+    {"61", Kind, {"Pflegekind", "Foster Child"}},
 }};
 
 /// Symbols and marks of persons have their labels close by, lines leave room for a sample.
@@ -221,7 +220,7 @@ void LegendenEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
         const bool person = IstPersonEintrag(code);
         f.CurrentX = zelle.x + (person ? 0.6 : 1.2);
         f.CurrentY = zelle.y + (person ? 0.05 : 0);
-        f.Print(a.Sprache == "de" ? eintrag->Deutsch : eintrag->Englisch);
+        f.Print(eintrag->Text.In(a.Sprache));
     }
 }
 

@@ -90,7 +90,8 @@ void Namen::Dokumentnamen(frmMain &h) {
 void Namen::Ansichtsnamen(frmMain &h) {
     Ansicht &a = h.ansicht;
     Variablen.insert({
-        {"Sprache", Von(a.Sprache)},
+        {"Sprache",
+         {[&a] { return std::string(Kürzel(a.Sprache)); }, [&a](const std::string &t) { a.Sprache = SpracheAus(t); }}},
         {"Farbschema", Von(a.Farbschema)},
         {"Altersanzeige", Von(a.Altersanzeige)},
         {"StrichFaktor", Von(a.StrichFaktor)},
