@@ -6,9 +6,9 @@
 #include "document/Profil.h"
 #include "document/ProjektDatei.h"
 #include "document/Zahlen.h"
-#include "qt/Hauptfenster.h"
-#include "qt/LeinwandFlaeche.h"
-#include "qt/QtPlattform.h"
+#include "qt/fenster/Hauptfenster.h"
+#include "qt/grund/QtPlattform.h"
+#include "qt/malen/LeinwandFlaeche.h"
 #include "rendering/Ebenen.h"
 
 #include "Familien.h"

@@ -1,5 +1,5 @@
-#include "qt/Aufruf.h"
-#include "qt/QtPlattform.h"
+#include "qt/start/Aufruf.h"
+#include "qt/grund/QtPlattform.h"
 
 #include <gtest/gtest.h>
 

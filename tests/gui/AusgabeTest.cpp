@@ -1,9 +1,9 @@
 // Exports: whole files of the right size, or a message and no file.
-#include "qt/Ausgabe.h"
+#include "qt/drucken/Ausgabe.h"
 #include "app/Einzelbild.h"
 #include "document/Dateien.h"
 #include "gui/Programmaufruf.h"
-#include "qt/QtPlattform.h"
+#include "qt/grund/QtPlattform.h"
 
 #include <QColor>
 #include <QDir>

@@ -1,8 +1,8 @@
 // Printers: the built-in one from the question to the finished file, and a print system that is silent.
 #include "app/Einzelbild.h"
 #include "gui/Programmaufruf.h"
-#include "qt/QtDrucker.h"
-#include "qt/QtPlattform.h"
+#include "qt/drucken/QtDrucker.h"
+#include "qt/grund/QtPlattform.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Seite.h"
 

@@ -1,4 +1,4 @@
-#include "qt/Einzelinstanz.h"
+#include "qt/start/Einzelinstanz.h"
 
 #include <QCoreApplication>
 #include <QDir>

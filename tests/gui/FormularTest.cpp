@@ -1,5 +1,5 @@
 // A form with a control of each kind, driven by keys and mouse: what the model hears, what shows of its state.
-#include "qt/Formularfenster.h"
+#include "qt/formulare/Formularfenster.h"
 
 #include <QApplication>
 #include <QLineEdit>

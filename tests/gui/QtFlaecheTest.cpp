@@ -1,6 +1,6 @@
 // What the drawing surface really paints: measured in its pictures, not asked of the surface.
 #include "gui/Programmaufruf.h"
-#include "qt/LeinwandFlaeche.h"
+#include "qt/malen/LeinwandFlaeche.h"
 
 #include <QPdfWriter>
 #include <QRegularExpression>

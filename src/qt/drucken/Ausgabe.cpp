@@ -1,0 +1,155 @@
+#include "qt/drucken/Ausgabe.h"
+
+#include "document/Dateien.h"
+#include "qt/grund/Text.h"
+#include "qt/malen/QtFlaeche.h"
+#include "rendering/Ebenen.h"
+#include "rendering/Seite.h"
+
+#include <QBuffer>
+#include <QImageWriter>
+#include <QPageSize>
+#include <QPaintEngine>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kw {
+
+namespace {
+
+constexpr int VektorDpi = 1200;
+constexpr double HöchstzahlPixel = 200e6; ///< 800 MB of picture; A4 at 1400 dpi
+
+/// One export: what to draw and where the bytes go.
+struct Auftrag {
+    const Druckauftrag &seite;
+    int dpi;
+    QByteArray inhalt;
+
+    QString Titel() const { return Text(seite.Titel); }
+    QSizeF Millimeter() const { return QSizeF(seite.SeitenBreite, seite.SeitenHöhe) * 10; }
+};
+
+/// Empty on success.
+std::string Drucken(const Auftrag &a, QPaintDevice &gerät, double geräteJeCm) {
+    return SeiteDrucken(a.seite, gerät, geräteJeCm) ? "" : "cannot draw the page";
+}
+
+std::string AlsPdf(Auftrag &a) {
+    QBuffer puffer(&a.inhalt);
+    puffer.open(QIODevice::WriteOnly);
+    QPdfWriter pdf(&puffer);
+    pdf.setTitle(a.Titel());
+    pdf.setCreator(QStringLiteral("Kinwright"));
+    pdf.setResolution(VektorDpi);
+    const QPageSize papier(a.Millimeter(), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
+    pdf.setPageLayout(QPageLayout(papier, QPageLayout::Portrait, QMarginsF()));
+    return Drucken(a, pdf, VektorDpi / CmJeZoll);
+}
+
+std::string AlsSvg(Auftrag &a) {
+    QBuffer puffer(&a.inhalt);
+    puffer.open(QIODevice::WriteOnly);
+    QSvgGenerator svg;
+    svg.setOutputDevice(&puffer);
+    svg.setTitle(a.Titel());
+    svg.setDescription(QStringLiteral("Kinwright"));
+    // The size goes into the file as whole units of this resolution: tenths of a millimetre lose nothing.
+    constexpr int ZehntelmillimeterDpi = 254;
+    svg.setResolution(ZehntelmillimeterDpi);
+    svg.setSize((a.Millimeter() * 10).toSize());
+    svg.setViewBox(QRectF(QPointF(), a.Millimeter() / 10 / CmJeZoll * VektorDpi));
+    return Drucken(a, svg, VektorDpi / CmJeZoll);
+}
+
+std::string AlsBild(Auftrag &a, const char *format) {
+    const QSizeF größe = a.Millimeter() / 10 / CmJeZoll * a.dpi;
+    const QSize pixel = größe.toSize();
+    if (größe.width() * größe.height() > HöchstzahlPixel)
+        return std::to_string(a.dpi) + " dots per inch make a picture of " + std::to_string(pixel.width()) + " x " +
+               std::to_string(pixel.height()) + " pixels; at most 200 million are possible";
+    QImage bild(pixel, QImage::Format_RGB32);
+    if (bild.isNull()) return "not enough memory for the picture";
+    bild.fill(Qt::white);
+    if (auto fehler = Drucken(a, bild, a.dpi / CmJeZoll); !fehler.empty()) return fehler;
+    bild.setDotsPerMeterX(static_cast<int>(std::lround(a.dpi / 0.0254)));
+    bild.setDotsPerMeterY(bild.dotsPerMeterX());
+    QBuffer puffer(&a.inhalt);
+    puffer.open(QIODevice::WriteOnly);
+    QImageWriter schreiber(&puffer, format);
+    if (*format == 'j') schreiber.setQuality(100);
+    return schreiber.write(bild) ? "" : schreiber.errorString().toStdString();
+}
+
+struct Format {
+    std::string_view Endung;
+    std::string (*Erzeugen)(Auftrag &);
+};
+constexpr Format Formate[] = {
+    {"pdf", AlsPdf},
+    {"svg", AlsSvg},
+    {"png", [](Auftrag &a) { return AlsBild(a, "png"); }},
+    {"jpg", [](Auftrag &a) { return AlsBild(a, "jpeg"); }},
+    {"jpeg", [](Auftrag &a) { return AlsBild(a, "jpeg"); }},
+    {"bmp", [](Auftrag &a) { return AlsBild(a, "bmp"); }},
+};
+
+const Format *FormatFür(std::string_view ziel) {
+    std::string endung = Kennung(DateiName(std::string(ziel)));
+    for (char &c : endung)
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    const auto *ende = std::end(Formate);
+    const auto *i = std::find_if(std::begin(Formate), ende, [&](const Format &f) { return f.Endung == endung; });
+    return i == ende ? nullptr : i;
+}
+
+std::string Schreiben(const Format &format, Auftrag auftrag, const std::string &ziel) {
+    if (auto fehler = format.Erzeugen(auftrag); !fehler.empty()) return fehler;
+    const QByteArray &inhalt = auftrag.inhalt;
+    if (inhalt.isEmpty()) return "the page came out empty";
+    return DateiSchreiben(ziel, {inhalt.constData(), static_cast<std::size_t>(inhalt.size())}).Meldung;
+}
+
+} // namespace
+
+bool IstAusgabeformat(std::string_view ziel) { return FormatFür(ziel) != nullptr; }
+
+std::string Exportieren(Zeichnung &zeichnung, const std::string &ziel, int dpi, const std::string &titel) {
+    const Format *format = FormatFür(ziel);
+    if (!format) return "unknown kind of file";
+    if (dpi < KleinsteDpi || dpi > GrößteDpi) return "the resolution is out of range";
+    SeiteBestimmen(zeichnung.dokument, zeichnung.ansicht);
+    const Druckauftrag seite{titel,
+                             true,
+                             zeichnung.ansicht.SeitenBreite,
+                             zeichnung.ansicht.SeitenHöhe,
+                             [&](Zeichenfläche &papier) { DruckZeichnen(papier, zeichnung); },
+                             {}};
+    if (HatUngemesseneTextboxen(zeichnung.dokument)) {
+        QImage probe(1, 1, QImage::Format_RGB32);
+        SeiteDrucken(seite, probe, 1);
+    }
+    return Schreiben(*format, {seite, dpi, {}}, ziel);
+}
+
+bool SeiteDrucken(const Druckauftrag &seite, QPaintDevice &gerät, double geräteJeCm, const QTransform &aufGerät) {
+    const auto twips = [](double cm) { return static_cast<int>(std::lround(cm * TwipsJeCm)); };
+    QtFläche papier;
+    papier.GrößeSetzen(twips(seite.SeitenBreite), twips(seite.SeitenHöhe));
+    papier.Scale(seite.SeitenBreite, seite.SeitenHöhe, 1);
+    if (!seite.Farbig) papier.InGrau();
+    if (!papier.Beginnen(gerät, geräteJeCm, DruckPixelJeCm, aufGerät)) return false;
+    // Viewers show an SVG on whatever ground they have themselves, dark ones too.
+    if (gerät.paintEngine()->type() == QPaintEngine::SVG) papier.Cls();
+    seite.Zeichnen(papier);
+    return papier.Beenden();
+}
+
+std::string PdfSchreiben(const Druckauftrag &seite, const std::string &ziel) {
+    return Schreiben({"pdf", AlsPdf}, {seite, VektorDpi, {}}, ziel);
+}
+
+} // namespace kw

@@ -1,0 +1,84 @@
+#include "qt/drucken/QtBilder.h"
+
+#include "document/Dateien.h"
+#include "qt/malen/LeinwandFlaeche.h"
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImageWriter>
+#include <QMimeData>
+#include <QPainter>
+
+#include <cmath>
+#include <string_view>
+
+namespace kw {
+
+namespace {
+
+/// The status of an encoder, or of a disk, that had an error of no special kind.
+constexpr int AllgemeinerFehler = 1;
+
+/// Where a format keeps the resolution, and what says there that none is known.
+struct Auflösungsfeld {
+    const char *Format;
+    qsizetype Stelle;
+    std::string_view Unbekannt;
+};
+constexpr Auflösungsfeld Auflösungsfelder[] = {{"bmp", 38, {"\0\0\0\0\0\0\0\0", 8}}, {"jpeg", 13, {"\0\0\1\0\1", 5}}};
+
+/// The picture without a resolution, which would say nothing true about the page. The toolkit writes the screen's.
+QByteArray Kodiert(QImage bild, const char *format, int qualität = -1) {
+    QByteArray inhalt;
+    QBuffer puffer(&inhalt);
+    puffer.open(QIODevice::WriteOnly);
+    bild.setDevicePixelRatio(1);
+    QImageWriter schreiber(&puffer, format);
+    if (qualität >= 0) schreiber.setQuality(qualität);
+    if (!schreiber.write(bild)) return {};
+    for (const auto &[name, stelle, unbekannt] : Auflösungsfelder)
+        if (std::string_view(name) == format)
+            inhalt.replace(stelle, static_cast<qsizetype>(unbekannt.size()),
+                           QByteArray(unbekannt.data(), static_cast<qsizetype>(unbekannt.size())));
+    return inhalt;
+}
+
+/// Nothing is written but a whole picture.
+bool Geschrieben(const std::string &datei, const QByteArray &inhalt) {
+    if (inhalt.isEmpty()) return false;
+    return DateiSchreiben(datei, {inhalt.constData(), static_cast<size_t>(inhalt.size())}).Gelungen();
+}
+
+} // namespace
+
+QImage QtBilder::Ausschnitt(const Bildausschnitt &ausschnitt) const {
+    const double verhältnis = leinwand_.Pixelverhältnis() / TwipsJePixel;
+    const auto pixel = [&](double twips) { return static_cast<int>(std::lround(twips * verhältnis)); };
+    // What of the region lies beside the page is white, as the page is.
+    QImage bild(pixel(ausschnitt.Width), pixel(ausschnitt.Height), QImage::Format_RGB32);
+    bild.fill(Qt::white);
+    QImage ganz = leinwand_.Bild();
+    ganz.setDevicePixelRatio(1); // pixel upon pixel
+    QPainter(&bild).drawImage(-pixel(ausschnitt.Left), -pixel(ausschnitt.Top), ganz);
+    return bild;
+}
+
+bool QtBilder::SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) {
+    return Geschrieben(datei, Kodiert(ausschnitt ? Ausschnitt(*ausschnitt) : leinwand_.Bild(), "bmp"));
+}
+
+int QtBilder::AlsJpeg(const std::string &datei, unsigned char quality) {
+    return Geschrieben(datei, Kodiert(leinwand_.Bild(), "jpeg", quality)) ? 0 : AllgemeinerFehler;
+}
+
+void QtBilder::InZwischenablage(const Bildausschnitt &ausschnitt) {
+    const QImage bild = Ausschnitt(ausschnitt);
+    auto *inhalt = new QMimeData;
+    inhalt->setImageData(bild);
+    inhalt->setData(QStringLiteral("image/png"), Kodiert(bild, "png"));
+    inhalt->setData(QStringLiteral("image/bmp"), Kodiert(bild, "bmp"));
+    QGuiApplication::clipboard()->setMimeData(inhalt);
+}
+
+} // namespace kw

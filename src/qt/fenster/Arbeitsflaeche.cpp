@@ -1,0 +1,259 @@
+#include "qt/fenster/Arbeitsflaeche.h"
+
+#include "app/frmMain.h"
+#include "qt/fenster/Importliste.h"
+#include "qt/malen/Auflagenmaler.h"
+#include "qt/malen/Zeigerbild.h"
+
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QResizeEvent>
+#include <QSignalBlocker>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include <cmath>
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+// The page is white and what lies behind it is dark on every theme.
+constexpr QColor Hintergrund{35, 35, 35};
+constexpr QColor Schatten{15, 15, 15};
+constexpr int FrameOben = Arbeitsbereich::FrameOben; ///< the model's inner area begins that far above the widget
+constexpr int Zeile = 20 * TwipsJePixel;
+constexpr int Raste = 120; ///< eighths of a degree of one wheel notch
+
+double Pixel(int twips) { return static_cast<double>(twips) / TwipsJePixel; }
+
+QRectF Fläche(const Steuerfläche &s) { return {Pixel(s.Left), Pixel(s.Top), Pixel(s.Width), Pixel(s.Height)}; }
+
+/// Moves the painter by less than a pixel so that `ort` falls on a whole device pixel: a picture of the
+/// device's own resolution is copied sharp at every scale.
+void AufPixelRücken(QPainter &p, QPointF ort) {
+    const QPointF gerät = p.deviceTransform().map(ort);
+    const double maßstab = p.deviceTransform().m11();
+    p.translate((std::round(gerät.x()) - gerät.x()) / maßstab, (std::round(gerät.y()) - gerät.y()) / maßstab);
+}
+
+/// As the model counts them; the middle button and the others are none of the canvas.
+int Tastencode(Qt::MouseButton taste) {
+    return taste == Qt::LeftButton ? TasteLinks : taste == Qt::RightButton ? TasteRechts : TasteKeine;
+}
+
+} // namespace
+
+Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true); // rubber lines follow the pointer without a button
+    setAcceptDrops(true);
+    for (QScrollBar *leiste : {&vScroll_, &hScroll_}) {
+        leiste->setFocusPolicy(Qt::NoFocus); // the keyboard keeps working on the canvas
+        leiste->setSingleStep(Zeile);
+        leiste->hide();
+        connect(leiste, &QScrollBar::valueChanged, this, [this] { Scrollen(); });
+    }
+    // Below the model's least size frame and bars would stand outside.
+    const QSize fehlt = QSize(Arbeitsbereich::KleinsteBreite, Arbeitsbereich::KleinsteHöhe) - Innengröße();
+    setMinimumSize(size() + (fehlt + QSize(TwipsJePixel - 1, TwipsJePixel - 1)) / TwipsJePixel);
+}
+
+void Arbeitsflaeche::Verbinden(frmMain &haupt, std::function<void()> erstesBild) {
+    haupt_ = &haupt;
+    erstesBild_ = std::move(erstesBild);
+}
+
+QSize Arbeitsflaeche::Innengröße() const {
+    return {(width() - vScroll_.sizeHint().width()) * TwipsJePixel + Arbeitsbereich::BalkenRechts,
+            (height() - hScroll_.sizeHint().height()) * TwipsJePixel + FrameOben - Arbeitsbereich::BalkenUnten};
+}
+
+void Arbeitsflaeche::resizeEvent(QResizeEvent *) {
+    if (!haupt_) return;
+    haupt_->bereich.GrößeÄndern(Innengröße().width(), Innengröße().height());
+    Auffrischen();
+    haupt_->plattform.benutzer.AnzeigeAuffrischen(); // the palette beside the frame
+}
+
+void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &modell) {
+    const QSignalBlocker still(leiste);
+    leiste.setRange(0, std::max(modell.Max, 0));
+    leiste.setPageStep(leiste.orientation() == Qt::Vertical ? modell.Height : modell.Width);
+    leiste.setValue(modell.Value);
+    leiste.setVisible(modell.Visible);
+}
+
+void Arbeitsflaeche::Auffrischen() {
+    if (!haupt_) return;
+    setAccessibleName(haupt_->IstDeutsch() ? QStringLiteral("Genogramm") : QStringLiteral("Genogram"));
+    const Arbeitsbereich &b = haupt_->bereich;
+    const int breite = vScroll_.sizeHint().width();
+    const int höhe = hScroll_.sizeHint().height();
+    const QRect senkrecht = Fläche(b.VScroll1).translated(0, -Pixel(FrameOben)).toRect();
+    const QRect waagrecht = Fläche(b.HScroll1).translated(0, -Pixel(FrameOben)).toRect();
+    vScroll_.setGeometry(senkrecht.left(), senkrecht.top(), breite, senkrecht.height());
+    // Up to the other bar or the edge: the frame that the model lays out leaves room for the palette at both sides.
+    const int rechts = b.VScroll1.Visible ? senkrecht.left() : width();
+    hScroll_.setGeometry(waagrecht.left(), waagrecht.top(), rechts - waagrecht.left(), höhe);
+    LeisteStellen(vScroll_, b.VScroll1);
+    LeisteStellen(hScroll_, b.HScroll1);
+    ZeigerSetzen();
+    update();
+}
+
+QRectF Arbeitsflaeche::Seite() const {
+    const Arbeitsbereich &b = haupt_->bereich;
+    return Fläche(b.picVorschau()).translated(Fläche(b.picBack).topLeft()).translated(0, -Pixel(FrameOben));
+}
+
+QPointF Arbeitsflaeche::InCm(QPointF ort) const {
+    const QRectF seite = Seite();
+    return (ort - seite.topLeft()) * (haupt_->ansicht.SeitenBreite / seite.width());
+}
+
+bool Arbeitsflaeche::AufSeite(QPointF ort) const {
+    return Seite().contains(ort) && ort.x() >= Pixel(haupt_->bereich.picBack.Left);
+}
+
+void Arbeitsflaeche::Scrollen() {
+    haupt_->bereich.Scrollen(hScroll_.value(), vScroll_.value());
+    update();
+}
+
+void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
+    QPainter p(this);
+    p.fillRect(ereignis->rect(), Hintergrund);
+    if (!haupt_) return;
+    p.fillRect(QRectF(0, 0, Pixel(haupt_->bereich.picBack.Left), height()), palette().window()); // the tool palette's
+    if (leinwand_.Pixelverhältnis() != devicePixelRatioF()) { // the window came to another screen
+        leinwand_.PixelverhältnisSetzen(devicePixelRatioF());
+        haupt_->Vorschau();
+    }
+    const Arbeitsbereich &b = haupt_->bereich;
+    // The page shows up to the scroll bars, which stand a little outside the frame that it is laid out in.
+    const QRectF rahmen = Fläche(b.picBack).translated(0, -Pixel(FrameOben));
+    const double unten = b.HScroll1.Visible ? Pixel(b.HScroll1.Top - FrameOben) : height();
+    p.setClipRect(QRectF(rahmen.left(), 0, width() - rahmen.left(), unten));
+    p.fillRect(Fläche(b.shpSchatten).translated(rahmen.topLeft()), Schatten);
+    const QRectF seite = Seite();
+    AufPixelRücken(p, seite.topLeft());
+    p.translate(seite.topLeft());
+    p.drawImage(QPointF(), leinwand_.Bild());
+    AuflagenMalen(p, haupt_->auflagen, haupt_->lage.PfeilArt, seite.width() / haupt_->ansicht.SeitenBreite);
+    if (auto erstesBild = std::exchange(erstesBild_, nullptr)) QTimer::singleShot(0, this, erstesBild);
+}
+
+void Arbeitsflaeche::wheelEvent(QWheelEvent *ereignis) {
+    ereignis->accept();
+    radrest_ += ereignis->angleDelta().y();
+    if (std::abs(radrest_) < Raste) return; // part of a notch, or none
+    for (; std::abs(radrest_) >= Raste; radrest_ -= radrest_ > 0 ? Raste : -Raste)
+        haupt_->bereich.MausradZählen(radrest_ > 0);
+    // The page is drawn when no more notches wait.
+    if (!std::exchange(zoomSteht_, true))
+        QTimer::singleShot(0, this, [this] {
+            zoomSteht_ = false;
+            haupt_->bereich.MausradFolgen();
+        });
+}
+
+/// Hands the model an event. What it opens then (a popup, a box) runs a loop of its own, which can outlive this
+/// widget. False when it has.
+bool Arbeitsflaeche::Melden(const std::function<void()> &ereignis) {
+    const QPointer<Arbeitsflaeche> ich = this;
+    const bool vorher = std::exchange(imModell_, true);
+    const bool zeigteAuflagen = ZeigtAuflagen(haupt_->auflagen);
+    ereignis();
+    if (!ich) return false;
+    imModell_ = vorher;
+    ZeigerSetzen();
+    // The kept picture is copied and the shapes painted over it; nothing of the page is drawn anew.
+    if (zeigteAuflagen || taste_ != Qt::NoButton || ZeigtAuflagen(haupt_->auflagen)) update();
+    return true;
+}
+
+/// A press and a double click.
+void Arbeitsflaeche::Drücken(QMouseEvent &ereignis, const std::function<void(QPointF)> &melden) {
+    ereignis.accept();
+    if (!haupt_ || imModell_ || Tastencode(ereignis.button()) == TasteKeine) return;
+    if (taste_ != Qt::NoButton && ereignis.buttons() & taste_) return;
+    if (!Loslassen()) return;
+    setFocus(Qt::MouseFocusReason);
+    if (!Seite().contains(ereignis.position())) return; // a gesture may leave the page, but begins on it
+    const QPointF cm = InCm(ereignis.position());
+    // The model also judges by the last move, which a popup or a box over the page may have kept from us.
+    if (std::exchange(ort_, ereignis.position()) != ereignis.position())
+        Melden([&] { haupt_->MouseMove(TasteKeine, cm.x(), cm.y()); });
+    taste_ = ereignis.button();
+    const bool unten = QGuiApplication::mouseButtons() & taste_;
+    if (!Melden([&] { melden(cm); })) return;
+    if (unten && !(QGuiApplication::mouseButtons() & taste_)) Loslassen(); // the popup has swallowed the release
+}
+
+void Arbeitsflaeche::mousePressEvent(QMouseEvent *ereignis) {
+    Drücken(*ereignis, [this](QPointF cm) { haupt_->MouseDown(Tastencode(taste_), cm.x(), cm.y()); });
+}
+
+/// The second press of a double click, which comes in place of a press. Right clicks count singly, however fast.
+void Arbeitsflaeche::mouseDoubleClickEvent(QMouseEvent *ereignis) {
+    if (ereignis->button() != Qt::LeftButton) return mousePressEvent(ereignis);
+    Drücken(*ereignis, [this](QPointF cm) { haupt_->DblClick(cm.x(), cm.y()); });
+}
+
+void Arbeitsflaeche::mouseMoveEvent(QMouseEvent *ereignis) {
+    if (!haupt_ || imModell_) return;
+    if (!(ereignis->buttons() & taste_) && !Loslassen()) return; // it went up where nobody told
+    ort_ = ereignis->position();
+    const QPointF cm = InCm(ort_);
+    Melden([&] { haupt_->MouseMove(Tastencode(taste_), cm.x(), cm.y()); });
+}
+
+void Arbeitsflaeche::mouseReleaseEvent(QMouseEvent *ereignis) {
+    if (!haupt_ || imModell_ || taste_ == Qt::NoButton || ereignis->button() != taste_) return;
+    ort_ = ereignis->position();
+    Loslassen();
+}
+
+/// The button of the gesture is up, at the place of the last event. False when this widget is gone.
+bool Arbeitsflaeche::Loslassen() {
+    const Qt::MouseButton taste = std::exchange(taste_, Qt::NoButton);
+    if (taste == Qt::NoButton) return true;
+    const QPointF cm = InCm(ort_);
+    return Melden([&] { haupt_->MouseUp(Tastencode(taste), cm.x(), cm.y()); });
+}
+
+/// Every place is asked for anew, so that the pointer tells where a row of the import list can be dropped.
+void Arbeitsflaeche::dragEnterEvent(QDragEnterEvent *ereignis) {
+    if (haupt_ && GezogeneZeile(*ereignis->mimeData())) ereignis->accept();
+}
+
+void Arbeitsflaeche::dragMoveEvent(QDragMoveEvent *ereignis) {
+    const QPointF ort = ereignis->position();
+    ereignis->setAccepted(haupt_ && AufSeite(ort) && !childAt(ort.toPoint()));
+}
+
+void Arbeitsflaeche::dropEvent(QDropEvent *ereignis) {
+    const auto zeile = GezogeneZeile(*ereignis->mimeData());
+    if (!zeile || imModell_) return;
+    ereignis->accept();
+    setFocus(Qt::OtherFocusReason);
+    const QPointF cm = InCm(ereignis->position());
+    Melden([&] { haupt_->ImportzeileAblegen(*zeile, cm.x(), cm.y()); });
+}
+
+void Arbeitsflaeche::ZeigerSetzen() {
+    const Mauszeiger zeiger = AufSeite(ort_) ? haupt_->lage.Zeiger : Mauszeiger::Pfeil;
+    if (zeiger == zeiger_ && zeigerverhältnis_ == devicePixelRatioF()) return;
+    zeiger_ = zeiger;
+    zeigerverhältnis_ = devicePixelRatioF();
+    setCursor(Zeigerbild(zeiger_, zeigerverhältnis_));
+}
+
+} // namespace kw

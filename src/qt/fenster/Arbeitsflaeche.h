@@ -1,0 +1,68 @@
+#pragma once
+
+#include "editing/Leinwandlage.h"
+#include "qt/malen/LeinwandFlaeche.h"
+
+#include <QScrollBar>
+#include <QWidget>
+
+#include <functional>
+
+namespace kw {
+
+class frmMain;
+
+/// The inside of the main window: the dark frame, the page with its shadow, the overlay shapes, the scroll bars.
+/// Shows what the model's work area says, in pixels; the model's inner area begins above and ends below it, so
+/// that frame and bars meet the edges. Hands the model what the pointer does, in centimetres of the page.
+class Arbeitsflaeche : public QWidget {
+  public:
+    explicit Arbeitsflaeche(LeinwandFläche &leinwand);
+
+    /// From then on events reach the model. `erstesBild` is called once, when something has been painted.
+    void Verbinden(frmMain &haupt, std::function<void()> erstesBild);
+    /// Copies the model's places into the widgets and repaints.
+    void Auffrischen();
+    /// The model's inner size for this widget's size, in twips.
+    QSize Innengröße() const;
+
+  protected:
+    void paintEvent(QPaintEvent *) override;
+    void resizeEvent(QResizeEvent *) override;
+    void wheelEvent(QWheelEvent *ereignis) override;
+    void mousePressEvent(QMouseEvent *ereignis) override;
+    void mouseMoveEvent(QMouseEvent *ereignis) override;
+    void mouseReleaseEvent(QMouseEvent *ereignis) override;
+    void mouseDoubleClickEvent(QMouseEvent *ereignis) override;
+    void dragEnterEvent(QDragEnterEvent *ereignis) override;
+    void dragMoveEvent(QDragMoveEvent *ereignis) override;
+    void dropEvent(QDropEvent *ereignis) override;
+
+  private:
+    /// The page on this widget, logical pixels.
+    QRectF Seite() const;
+    QPointF InCm(QPointF ort) const;
+    /// Whether the page is what shows there.
+    bool AufSeite(QPointF ort) const;
+    void Drücken(QMouseEvent &ereignis, const std::function<void(QPointF cm)> &melden);
+    bool Loslassen();
+    bool Melden(const std::function<void()> &ereignis);
+    void ZeigerSetzen();
+    void LeisteStellen(QScrollBar &leiste, const struct Bildlaufleiste &modell);
+    void Scrollen();
+
+    LeinwandFläche &leinwand_;
+    frmMain *haupt_ = nullptr;
+    std::function<void()> erstesBild_;
+    QScrollBar vScroll_{Qt::Vertical, this};
+    QScrollBar hScroll_{Qt::Horizontal, this};
+    bool zoomSteht_ = false;               ///< notches of the wheel wait to be followed
+    int radrest_ = 0;                      ///< eighths of a degree that make no notch yet
+    Qt::MouseButton taste_ = Qt::NoButton; ///< the button that is down on the canvas; another one doesn't count
+    QPointF ort_;                          ///< of the last event, pixels
+    bool imModell_ = false;                ///< an event is being worked on, perhaps in a popup's loop
+    Mauszeiger zeiger_ = Mauszeiger::Pfeil;
+    double zeigerverhältnis_ = 0; ///< resolution of the pointer's picture
+};
+
+} // namespace kw

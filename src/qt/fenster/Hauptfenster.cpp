@@ -1,0 +1,236 @@
+#include "qt/fenster/Hauptfenster.h"
+
+#include "document/Dateien.h"
+#include "qt/fenster/Importliste.h"
+#include "qt/fenster/Palette.h"
+#include "qt/fenster/Statuszeile.h"
+#include "qt/fenster/Werkzeugband.h"
+#include "qt/formulare/Formularfenster.h"
+#include "qt/grund/Text.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QColorDialog>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QFontDatabase>
+#include <QLayout>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProcess>
+#include <QScreen>
+#include <QStandardPaths>
+#include <QTimer>
+#include <QUrl>
+
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+Startangaben Angaben(const std::string &kommandozeile) {
+    const QSize bildschirm = QGuiApplication::primaryScreen()->size();
+    return {kommandozeile, EinstellungsDateiDesBenutzers(),   QCoreApplication::applicationDirPath().toStdString(),
+            Hilfeordner(), bildschirm.width() * TwipsJePixel, bildschirm.height() * TwipsJePixel};
+}
+
+struct Knopfreihe {
+    Knöpfe Auswahl;
+    QMessageBox::StandardButtons Knöpfe_;
+    QMessageBox::StandardButton Vorgabe;
+};
+constexpr Knopfreihe Knopfreihen[] = {
+    {Knöpfe::Ok, QMessageBox::Ok, QMessageBox::Ok},
+    {Knöpfe::JaNein, QMessageBox::Yes | QMessageBox::No, QMessageBox::No},
+    {Knöpfe::JaNeinAbbrechen, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes},
+};
+
+QMessageBox::Icon Bild(Zeichen zeichen) {
+    switch (zeichen) {
+    case Zeichen::Frage: return QMessageBox::Question;
+    case Zeichen::Warnung: return QMessageBox::Warning;
+    case Zeichen::Information: return QMessageBox::Information;
+    case Zeichen::Halt: return QMessageBox::Critical;
+    default: return QMessageBox::NoIcon;
+    }
+}
+
+/// The caption of a filter carries its pattern in parentheses, as the toolkit wants it.
+QString Filter(const Dateiwahl &wahl) { return Text(wahl.Filter.substr(0, wahl.Filter.find('|'))); }
+
+/// A file dialog as the model asks for it; it doesn't ask about existing files itself.
+std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl, QFileDialog::AcceptMode art) {
+    QFileDialog dialog(fenster, Text(wahl.Titel), Text(wahl.Ordner), Filter(wahl));
+    dialog.setAcceptMode(art);
+    dialog.setFileMode(art == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    if (!wahl.Vorschlag.empty()) dialog.selectFile(Text(wahl.Vorschlag));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
+    const std::string datei = dialog.selectedFiles().first().toStdString();
+    if (art == QFileDialog::AcceptOpen) return datei;
+    // As the platform's dialogs do; the question about replacing then names it whole.
+    return MitKennung(datei, Kennung(wahl.Filter), wahl.Erlaubt == Dateiwahl::Kennungen::Alle);
+}
+
+} // namespace
+
+Hauptfenster::Hauptfenster(const std::string &kommandozeile)
+    : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
+      fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
+    setCentralWidget(fläche_);
+    setAnimated(false);
+    setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide toolbar and panels
+    // Until these come, so that the page doesn't jump.
+    setContentsMargins(0, Menüs::Höhe() + Symbolleiste::Höhe(), 0, Statuszeile::Höhe());
+    resize(QGuiApplication::primaryScreen()->availableSize() * 0.9);
+    fläche_->Verbinden(haupt_, [this] {
+        // Not before: the first word on the window costs the loading of the system's fonts.
+        LeistenBauen();
+        palette_ = new Werkzeugpalette(fläche_, haupt_, [this](std::string_view name) { Ausführen(name); });
+        Anzeigen();
+        for (const auto &arbeit : std::exchange(nachErstemBild_, {})) arbeit();
+    });
+    haupt_.Laden();
+    Anzeigen();
+}
+
+void Hauptfenster::LeistenBauen() {
+    layout()->setEnabled(false); // else the page is laid out anew for each of the following
+    setContentsMargins(0, 0, 0, 0);
+    menüs_.Bauen(*menuBar());
+    menuBar()->show();
+    band_ = new Symbolleiste(haupt_, *fläche_, [this](std::string_view name) { Ausführen(name); });
+    addToolBar(band_);
+    band_->show();
+    status_ = new Statuszeile([this](std::string_view name) { Ausführen(name); });
+    setStatusBar(status_);
+    status_->show();
+    layout()->setEnabled(true);
+    layout()->activate();
+}
+
+void Hauptfenster::Ausführen(std::string_view befehl) {
+    haupt_.BefehlAusführen(befehl);
+    AnzeigeAuffrischen();
+}
+
+/// Many routines ask for a refresh within one event; it is done once, behind them.
+void Hauptfenster::AnzeigeAuffrischen() {
+    if (std::exchange(auffrischungSteht_, true)) return;
+    QTimer::singleShot(0, this, [this] { Anzeigen(); });
+}
+
+void Hauptfenster::Anzeigen() {
+    auffrischungSteht_ = false;
+    // The toolkit has a use of its own for this mark.
+    setWindowTitle(Text(haupt_.projekt.Titel).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+    menüs_.Auffrischen();
+    if (band_) band_->Auffrischen();
+    fläche_->Auffrischen();
+    if (palette_) palette_->Auffrischen();
+    if (status_) status_->Auffrischen(haupt_);
+    if (!importliste_ && Importliste::IstVerlangt(haupt_))
+        addDockWidget(Qt::RightDockWidgetArea, importliste_ = new Importliste(haupt_));
+    if (importliste_) importliste_->Auffrischen();
+}
+
+void Hauptfenster::closeEvent(QCloseEvent *ereignis) {
+    ereignis->setAccepted(haupt_.Schließen());
+    if (!ereignis->isAccepted()) return;
+    while (QWidget *popup = QApplication::activePopupWidget()) // its loop would keep the program alive
+        if (!popup->close()) break;
+}
+
+void Hauptfenster::NachVorn() {
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+QWidget *Hauptfenster::Vordergrund() {
+    QWidget *offen = QApplication::activeModalWidget();
+    return offen ? offen : this;
+}
+
+Antwort Hauptfenster::Fragen(const Nachfrage &nachfrage) {
+    const auto &reihe = Knopfreihen[static_cast<int>(nachfrage.Auswahl)];
+    QMessageBox kasten(Bild(nachfrage.Bild), Text(nachfrage.Titel), Text(nachfrage.Text), reihe.Knöpfe_, Vordergrund());
+    kasten.setTextFormat(Qt::PlainText);
+    kasten.setDefaultButton(reihe.Vorgabe);
+    switch (kasten.exec()) {
+    case QMessageBox::Yes: return Antwort::Ja;
+    case QMessageBox::No: return Antwort::Nein;
+    case QMessageBox::Ok: return Antwort::Ok;
+    default: return Antwort::Abbrechen;
+    }
+}
+
+std::optional<std::string> Hauptfenster::DateiÖffnen(const Dateiwahl &wahl) {
+    return DialogZeigen(Vordergrund(), wahl, QFileDialog::AcceptOpen);
+}
+
+std::optional<std::string> Hauptfenster::DateiSpeichern(const Dateiwahl &wahl) {
+    return DialogZeigen(Vordergrund(), wahl, QFileDialog::AcceptSave);
+}
+
+std::optional<std::string> Hauptfenster::PopupZeigen(std::string_view menü) {
+    const auto ort = palette_ ? palette_->Popuport() : std::nullopt;
+    return menüs_.Popup(menü, ort.value_or(QCursor::pos()), *this);
+}
+
+void Hauptfenster::FormZeigen(Formular &form) { Formularfenster(form, Vordergrund()).Ausführen(); }
+
+std::optional<int> Hauptfenster::FarbeWählen(int farbe) {
+    const auto anteil = [&](int bits) { return farbe >> bits & 0xFF; };
+    const QColor gewählt = QColorDialog::getColor(QColor(anteil(0), anteil(8), anteil(16)), Vordergrund());
+    if (!gewählt.isValid()) return std::nullopt;
+    return gewählt.red() | gewählt.green() << 8 | gewählt.blue() << 16;
+}
+
+void Hauptfenster::ZeitgeberStarten(std::string_view name, int ms) {
+    QTimer *&zeitgeber = zeitgeber_[std::string(name)];
+    if (!zeitgeber) {
+        zeitgeber = new QTimer(this);
+        zeitgeber->setSingleShot(true);
+        connect(zeitgeber, &QTimer::timeout, this, [this, zeitgeber, eigenerName = std::string(name)] {
+            constexpr int Später = 200; // ms
+            // What it opens would cover the box that is read, or come between a form and its page.
+            if (QApplication::activeModalWidget()) zeitgeber->start(Später);
+            else haupt_.ZeitgeberAbgelaufen(eigenerName);
+        });
+    }
+    zeitgeber->start(ms);
+}
+
+void Hauptfenster::NachErstemBild(std::function<void()> arbeit) { nachErstemBild_.push_back(std::move(arbeit)); }
+
+/// A file's name may hold what an address would be cut at ("#", "?").
+void Hauptfenster::AdresseÖffnen(const std::string &adresse) {
+    const QString ziel = Text(adresse);
+    const QString datei = QStringLiteral("file://");
+    QDesktopServices::openUrl(ziel.startsWith(datei) ? QUrl::fromLocalFile(ziel.mid(datei.size())) : QUrl(ziel));
+}
+
+void Hauptfenster::ProgrammStarten(const std::string &name) {
+    const QString programm = QCoreApplication::applicationDirPath() + u'/' + Text(name);
+    if (QFileInfo(programm).isExecutable()) QProcess::startDetached(QStringLiteral("pkexec"), {programm});
+}
+
+void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }
+
+std::string Hauptfenster::Desktopordner() const {
+    const QString ordner = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+    return (QDir(ordner).exists() ? ordner : QDir::homePath()).toStdString();
+}
+
+std::vector<std::string> Hauptfenster::Schriftarten() const {
+    std::vector<std::string> namen;
+    for (const QString &name : QFontDatabase::families()) namen.push_back(name.toStdString());
+    return namen;
+}
+
+} // namespace kw

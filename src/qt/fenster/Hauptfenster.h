@@ -1,0 +1,79 @@
+#pragma once
+
+#include "app/frmMain.h"
+#include "qt/drucken/QtBilder.h"
+#include "qt/drucken/QtDrucker.h"
+#include "qt/fenster/Arbeitsflaeche.h"
+#include "qt/fenster/Menues.h"
+#include "qt/grund/QtPlattform.h"
+#include "qt/malen/LeinwandFlaeche.h"
+
+#include <QMainWindow>
+
+#include <map>
+#include <vector>
+
+class QTimer;
+
+namespace kw {
+
+class Symbolleiste;
+class Importliste;
+class Statuszeile;
+class Werkzeugpalette;
+
+/// The main window's face: shows the model's state and hands it events. It is also the user as the model
+/// sees it: boxes, dialogs, popups and timers.
+class Hauptfenster : public QMainWindow, public Benutzer {
+  public:
+    /// `kommandozeile` is raw, as the model takes it.
+    explicit Hauptfenster(const std::string &kommandozeile);
+
+    Antwort Fragen(const Nachfrage &nachfrage) override;
+    std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) override;
+    std::optional<std::string> DateiSpeichern(const Dateiwahl &wahl) override;
+    std::optional<std::string> PopupZeigen(std::string_view menü) override;
+    void FormZeigen(Formular &form) override;
+    std::optional<int> FarbeWählen(int farbe) override;
+    void ZeitgeberStarten(std::string_view name, int ms) override;
+    void NachErstemBild(std::function<void()> arbeit) override;
+    void AnzeigeAuffrischen() override;
+    void FensterSchließen() override { close(); }
+    void AdresseÖffnen(const std::string &adresse) override;
+    void ProgrammStarten(const std::string &name) override;
+    void FokusAufLeinwand() override;
+    std::string Desktopordner() const override;
+    std::vector<std::string> Schriftarten() const override;
+
+    /// Another start wants this window seen.
+    void NachVorn();
+
+  protected:
+    void closeEvent(QCloseEvent *ereignis) override;
+
+  private:
+    /// A command that the user has chosen, wherever it stands.
+    void Ausführen(std::string_view befehl);
+    void Anzeigen();
+    /// Menus and toolbar, where their place was kept free.
+    void LeistenBauen();
+    /// What the next dialog stands over: the form that is open, else this window.
+    QWidget *Vordergrund();
+
+    QtUhr uhr_;
+    QtDrucker drucker_;
+    LeinwandFläche leinwand_;
+    QtBilder bilder_{leinwand_};
+    frmMain haupt_;
+    Arbeitsflaeche *fläche_;
+    Menüs menüs_;
+    Symbolleiste *band_ = nullptr; ///< not before the first picture, as the next two
+    Statuszeile *status_ = nullptr;
+    Werkzeugpalette *palette_ = nullptr;
+    Importliste *importliste_ = nullptr; ///< not before it is to be seen
+    std::vector<std::function<void()>> nachErstemBild_;
+    std::map<std::string, QTimer *> zeitgeber_;
+    bool auffrischungSteht_ = false; ///< a refresh waits for the end of the event
+};
+
+} // namespace kw

@@ -1,0 +1,158 @@
+#include "qt/fenster/Menues.h"
+
+#include "app/frmMain.h"
+#include "qt/grund/Text.h"
+#include "qt/malen/Zeilenbild.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QScreen>
+#include <QShortcut>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+bool IstTrennstrich(const Menüzeile &zeile) { return zeile.Englisch == Trennstrich; }
+
+/// The caption without the blanks that once aligned columns, and without the key's name behind it: the menu
+/// shows the shortcut itself. What isn't from the table (a file's name) has no mnemonics.
+QString Beschriftung(const Menüzeile &zeile, const std::string &caption) {
+    QString text = Text(caption);
+    if (!zeile.Kürzel.empty())
+        if (const auto lücke = text.trimmed().indexOf(QLatin1String("  ")); lücke > 0)
+            text = text.trimmed().left(lücke);
+    text = text.trimmed();
+    if (caption != zeile.Deutsch && caption != zeile.Englisch) text.replace(u'&', QLatin1String("&&"));
+    return text;
+}
+
+/// Sees to a press that dismisses a popup: it is a click on what lies there, as a popup's press is nobody's else.
+class Danebenklick : public QObject {
+  public:
+    Danebenklick() { qApp->installEventFilter(this); }
+
+    /// Once the popup is gone.
+    void Nachreichen(const QWidget &fenster) const {
+        QWidget *ziel = taste_ == Qt::NoButton ? nullptr : QApplication::widgetAt(ort_);
+        if (!ziel || ziel->window() != &fenster) return;
+        const QPoint ort = ziel->mapFromGlobal(ort_);
+        for (const auto art : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease})
+            QCoreApplication::postEvent(ziel, new QMouseEvent(art, ort, ort_, taste_,
+                                                              art == QEvent::MouseButtonPress ? taste_ : Qt::NoButton,
+                                                              Qt::NoModifier));
+    }
+
+  protected:
+    bool eventFilter(QObject *empfänger, QEvent *ereignis) override {
+        if (ereignis->type() != QEvent::MouseButtonPress || !qobject_cast<QMenu *>(empfänger)) return false;
+        const auto *maus = static_cast<QMouseEvent *>(ereignis);
+        const QPoint ort = maus->globalPosition().toPoint();
+        if (qobject_cast<QMenu *>(QApplication::widgetAt(ort))) return false;
+        ort_ = ort;
+        taste_ = maus->button();
+        return false;
+    }
+
+  private:
+    QPoint ort_;
+    Qt::MouseButton taste_ = Qt::NoButton;
+};
+
+} // namespace
+
+int Zeilenhöhe() {
+    constexpr double Zeile = 1.4; // of the font's size: enough for the usual fonts
+    const QFont schrift = QApplication::font();
+    const double punkt = QGuiApplication::primaryScreen()->logicalDotsPerInchY() / 72;
+    const double größe = schrift.pixelSize() > 0 ? schrift.pixelSize() : schrift.pointSizeF() * punkt;
+    return static_cast<int>(std::ceil(größe * Zeile));
+}
+
+Menüs::Menüs(frmMain &haupt, std::function<void(std::string_view)> ausführen)
+    : haupt_(haupt), ausführen_(std::move(ausführen)) {}
+
+void Menüs::Füllen(QMenu &menü, std::string_view name, std::vector<Eintrag> &einträge) {
+    for (const Menüzeile &zeile : Menütafel()) {
+        if (zeile.Menü != name) continue;
+        if (IstTrennstrich(zeile)) {
+            einträge.push_back({&zeile, menü.addSeparator()});
+        } else if (IstMenü(zeile)) {
+            QMenu *unter = menü.addMenu(QString());
+            unter->setIcon(Menübild(zeile.Name, haupt_.plattform.uhr));
+            einträge.push_back({&zeile, unter->menuAction()});
+            Füllen(*unter, zeile.Name, einträge);
+        } else {
+            QAction *aktion = menü.addAction(Menübild(zeile.Name, haupt_.plattform.uhr), QString());
+            aktion->setData(Text(zeile.Name));
+            einträge.push_back({&zeile, aktion});
+        }
+    }
+}
+
+int Menüs::Höhe() {
+    constexpr int Luft = 6; // above and below the words
+    return Zeilenhöhe() + Luft;
+}
+
+void Menüs::Bauen(QMenuBar &leiste) {
+    leiste.setMinimumHeight(Höhe());
+    for (const Menüzeile &zeile : Menütafel()) {
+        if (zeile.Menü != Menüleiste) continue;
+        QMenu *menü = leiste.addMenu(QString());
+        einträge_.push_back({&zeile, menü->menuAction()});
+        Füllen(*menü, zeile.Name, einträge_);
+        QObject::connect(menü, &QMenu::aboutToShow, menü, [this] { Auffrischen(); });
+    }
+    // The captions of the bar have no mnemonics, so this is the keyboard's way in.
+    const auto *öffnen = new QShortcut(QKeySequence(Qt::Key_F10), &leiste);
+    QObject::connect(öffnen, &QShortcut::activated, &leiste,
+                     [&leiste] { leiste.setActiveAction(leiste.actions().constFirst()); });
+    for (const auto &[zeile, aktion] : einträge_) {
+        if (!zeile->Kürzel.empty()) aktion->setShortcut(QKeySequence(Text(zeile->Kürzel), QKeySequence::PortableText));
+        if (!aktion->menu() && !aktion->isSeparator())
+            QObject::connect(aktion, &QAction::triggered, aktion, [this, name = zeile->Name] { ausführen_(name); });
+    }
+}
+
+void Menüs::Zeigen(const Eintrag &eintrag) {
+    const Bedienelement *element = haupt_.bedienung.Finden(eintrag.Zeile->Name);
+    if (!element) return;
+    eintrag.Aktion->setVisible(element->Visible);
+    if (eintrag.Aktion->isSeparator()) return;
+    eintrag.Aktion->setText(Beschriftung(*eintrag.Zeile, element->Caption));
+    eintrag.Aktion->setEnabled(element->Enabled);
+    eintrag.Aktion->setCheckable(element->Checked);
+    eintrag.Aktion->setChecked(element->Checked);
+}
+
+void Menüs::Auffrischen() {
+    if (einträge_.empty()) return;
+    haupt_.mnuBearbeiten_Öffnen();
+    for (const Eintrag &eintrag : einträge_) Zeigen(eintrag);
+}
+
+std::optional<std::string> Menüs::Popup(std::string_view menü, QPoint ort, QWidget &fenster) {
+    const QPointer<QMenu> popup = new QMenu(&fenster);
+    std::vector<Eintrag> einträge;
+    Füllen(*popup, menü, einträge);
+    for (const Eintrag &eintrag : einträge) Zeigen(eintrag);
+    popup->setAttribute(Qt::WA_NoMouseReplay); // not by the toolkit too
+    const Danebenklick daneben;
+    const QAction *gewählt = popup->isEmpty() ? nullptr : popup->exec(ort);
+    std::optional<std::string> name;
+    if (popup && gewählt) name = gewählt->data().toString().toStdString();
+    else if (popup) daneben.Nachreichen(fenster);
+    delete popup;
+    return name;
+}
+
+} // namespace kw

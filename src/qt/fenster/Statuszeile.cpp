@@ -1,0 +1,56 @@
+#include "qt/fenster/Statuszeile.h"
+
+#include "app/frmMain.h"
+#include "qt/fenster/Menues.h"
+#include "qt/grund/Text.h"
+
+#include <QLabel>
+#include <QShortcut>
+#include <QToolButton>
+
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+constexpr std::string_view Rändername = "cmdRänder";
+constexpr int Einzug = 6;
+
+} // namespace
+
+int Statuszeile::Höhe() {
+    constexpr int Luft = 8; // edges of row and button
+    return Zeilenhöhe() + Luft;
+}
+
+Statuszeile::Statuszeile(std::function<void(std::string_view)> ausführen) {
+    setSizeGripEnabled(false);
+    setFixedHeight(Höhe());
+    lblTool_ = new QLabel(this);
+    lblTool_->setTextFormat(Qt::PlainText);
+    lblTool_->setIndent(Einzug);
+    lblTool_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // no word widens the window
+    cmdRänder_ = new QToolButton(this);
+    cmdRänder_->setAutoRaise(true);
+    // A press by mouse leaves the focus on the canvas.
+    cmdRänder_->setFocusPolicy(Qt::TabFocus);
+    for (const auto taste : {Qt::Key_Return, Qt::Key_Enter}) { // as on the palette; the blank does by itself
+        auto *kürzel = new QShortcut(QKeySequence(taste), cmdRänder_);
+        kürzel->setContext(Qt::WidgetShortcut);
+        connect(kürzel, &QShortcut::activated, cmdRänder_, &QToolButton::click);
+    }
+    connect(cmdRänder_, &QToolButton::clicked, this, [befehl = std::move(ausführen)] { befehl(Rändername); });
+    addWidget(lblTool_, 1);
+    addPermanentWidget(cmdRänder_);
+}
+
+void Statuszeile::Auffrischen(const frmMain &haupt) {
+    lblTool_->setText(Text(haupt.bedienung.Finden("lblTool")->Caption));
+    const Bedienelement &knopf = *haupt.bedienung.Finden(Rändername);
+    cmdRänder_->setText(Text(knopf.Caption));
+    cmdRänder_->setEnabled(knopf.Enabled);
+    cmdRänder_->setVisible(knopf.Visible);
+}
+
+} // namespace kw

@@ -1,0 +1,221 @@
+#include "qt/fenster/Werkzeugband.h"
+
+#include "app/frmMain.h"
+#include "commands/Bildertafel.h"
+#include "qt/fenster/Bandknopf.h"
+#include "qt/fenster/Menues.h"
+#include "qt/grund/Text.h"
+#include "qt/malen/Svgsinnbild.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QStyle>
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+/// The last rows of groups: a line stands behind them.
+constexpr std::string_view Gruppenenden[] = {"btnDrucken",     "btnRedo",       "btnQuerformat",
+                                             "btnBlattränder", "btnPapier",     "btnBildKleiner",
+                                             "btnLegende",     "btnFarbschema", "btnAuswahlZuBild"};
+
+/// Of a drop-down whose choices have no pictures the button shows the choice in words.
+bool ZeigtZustand(const Menüzeile &zeile) {
+    const auto tafel = Menütafel();
+    return std::any_of(tafel.begin(), tafel.end(),
+                       [&](const Menüzeile &z) { return z.Menü == zeile.Name && Bildname(z.Name).empty(); });
+}
+
+/// " (Ctrl+O)", or nothing.
+QString Kürzel(std::string_view name) {
+    const Menüzeile *zeile = MenüzeileFinden(Menügleich(name));
+    if (!zeile || zeile->Kürzel.empty()) return {};
+    const QKeySequence taste(Text(zeile->Kürzel), QKeySequence::PortableText);
+    return QStringLiteral(" (%1)").arg(taste.toString(QKeySequence::NativeText));
+}
+
+} // namespace
+
+Symbolleiste::Symbolleiste(frmMain &haupt, QWidget &leinwand, std::function<void(std::string_view)> ausführen)
+    : haupt_(haupt), leinwand_(leinwand), ausführen_(std::move(ausführen)) {
+    setObjectName(Text(Werkzeugband));
+    setMovable(false);
+    setMinimumHeight(Höhe());
+    Bauen();
+    Auffrischen();
+}
+
+int Symbolleiste::Höhe() {
+    constexpr int Luft = 15; // edges of band and buttons
+    return std::max(QApplication::style()->pixelMetric(QStyle::PM_ToolBarIconSize), Zeilenhöhe()) + Luft;
+}
+
+void Symbolleiste::Bauen() {
+    for (const Menüzeile &zeile : Menütafel())
+        if (zeile.Menü == Werkzeugband) KnopfAnlegen(zeile);
+    MehrAnlegen();
+}
+
+/// The toolkit's button gets a picture that shows on dark themes too.
+void Symbolleiste::MehrAnlegen() {
+    mehr_ = findChild<QToolButton *>(QStringLiteral("qt_toolbar_ext_button"));
+    if (!mehr_) return;
+    const int kante = style()->pixelMetric(QStyle::PM_ToolBarExtensionExtent);
+    mehr_->setIconSize({kante, kante});
+    mehr_->setIcon(Svgsinnbild("mehr"));
+    mehr_->installEventFilter(this);
+}
+
+void Symbolleiste::KnopfAnlegen(const Menüzeile &zeile) {
+    auto *aktion = new QAction(this);
+    Knopf knopf{&zeile, aktion};
+    if (IstMenü(zeile)) AuswahlAnlegen(knopf);
+    else connect(aktion, &QAction::triggered, this, [this, name = zeile.Name] { ausführen_(name); });
+    knopf.Feld = new Bandknopf(*aktion, this);
+    knopf.Feld->setIconSize(iconSize());
+    connect(this, &QToolBar::iconSizeChanged, knopf.Feld, &QToolButton::setIconSize);
+    knopf.Feld->installEventFilter(this);
+    if (ZeigtZustand(zeile)) BreiteFestlegen(knopf);
+    knopf.Platz = addWidget(knopf.Feld);
+    if (std::find(std::begin(Gruppenenden), std::end(Gruppenenden), zeile.Name) != std::end(Gruppenenden))
+        knopf.Trenner = addSeparator();
+    knöpfe_.push_back(std::move(knopf));
+}
+
+/// A button that only opens its menu, one row of which is ticked.
+void Symbolleiste::AuswahlAnlegen(Knopf &knopf) {
+    auto *menü = new QMenu(this);
+    for (const Menüzeile &zeile : Menütafel()) {
+        if (zeile.Menü != knopf.Zeile->Name) continue;
+        QAction *aktion = menü->addAction(QString());
+        aktion->setCheckable(true);
+        connect(aktion, &QAction::triggered, this, [this, name = zeile.Name] { ausführen_(name); });
+        knopf.Auswahl.push_back({&zeile, aktion});
+    }
+    knopf.Aktion->setMenu(menü);
+}
+
+/// As wide as its widest state: else its neighbours would move under the pointer that presses them.
+void Symbolleiste::BreiteFestlegen(const Knopf &knopf) {
+    constexpr int Spielraum = 8; // the state may be written with a blank more than the choice
+    int breite = 0;
+    knopf.Feld->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    knopf.Aktion->setIcon(Svgsinnbild(Bildname(knopf.Zeile->Name)));
+    for (const Wahl &wahl : knopf.Auswahl) {
+        knopf.Aktion->setText(Text(wahl.Zeile->Deutsch));
+        breite = std::max(breite, knopf.Feld->sizeHint().width());
+    }
+    knopf.Feld->setMinimumWidth(breite + Spielraum);
+}
+
+void Symbolleiste::Auffrischen() {
+    for (Knopf &knopf : knöpfe_) Zeigen(knopf);
+    TrennerZeigen();
+    TabstoppSetzen();
+    if (!mehr_) return;
+    const QString name = Text(haupt_.IstDeutsch() ? "Mehr" : "More");
+    mehr_->setToolTip(name);
+    mehr_->setAccessibleName(name);
+}
+
+void Symbolleiste::Zeigen(Knopf &knopf) {
+    const Bedienelement *element = haupt_.bedienung.Finden(knopf.Zeile->Name);
+    if (!element) return;
+    knopf.Platz->setVisible(element->Visible);
+    knopf.Aktion->setEnabled(element->Enabled);
+    if (element->Checked) knopf.Aktion->setCheckable(true); // that it can be pressed shows when it first is
+    knopf.Aktion->setChecked(element->Checked);
+    NameZeigen(knopf, *element);
+    AuswahlZeigen(knopf);
+}
+
+void Symbolleiste::NameZeigen(const Knopf &knopf, const Bedienelement &element) {
+    const QString text = Text(element.Caption).simplified();
+    const QString name = Text(element.Tipp).simplified();
+    knopf.Aktion->setText(text);
+    knopf.Aktion->setToolTip(name + Kürzel(knopf.Zeile->Name));
+    knopf.Feld->setAccessibleName(name == text ? name : name + QStringLiteral(": ") + text);
+}
+
+/// The ticks of a drop-down. When the ticked row has a picture, the button wears that.
+void Symbolleiste::AuswahlZeigen(Knopf &knopf) {
+    std::string_view bildzeile = knopf.Zeile->Name;
+    for (const Wahl &wahl : knopf.Auswahl) {
+        const Bedienelement *element = haupt_.bedienung.Finden(wahl.Zeile->Name);
+        if (!element) continue;
+        wahl.Aktion->setText(Text(element->Caption));
+        wahl.Aktion->setVisible(element->Visible);
+        wahl.Aktion->setEnabled(element->Enabled);
+        wahl.Aktion->setChecked(element->Checked);
+        if (element->Checked && !Bildname(wahl.Zeile->Name).empty()) bildzeile = wahl.Zeile->Name;
+    }
+    if (std::exchange(knopf.Bildzeile, bildzeile) != bildzeile) knopf.Aktion->setIcon(Svgsinnbild(Bildname(bildzeile)));
+}
+
+/// A line only stands between buttons that show.
+void Symbolleiste::TrennerZeigen() {
+    QAction *offen = nullptr;
+    bool einerDavor = false;
+    for (const Knopf &knopf : knöpfe_) {
+        if (knopf.Platz->isVisible()) {
+            if (offen) offen->setVisible(true);
+            offen = nullptr;
+            einerDavor = true;
+        }
+        if (!knopf.Trenner) continue;
+        if (einerDavor && !offen) offen = knopf.Trenner;
+        else knopf.Trenner->setVisible(false);
+    }
+    if (offen) offen->setVisible(false);
+}
+
+/// The buttons that the keyboard can reach, in their order.
+std::vector<QToolButton *> Symbolleiste::Erreichbare() const {
+    std::vector<QToolButton *> felder;
+    for (const Knopf &knopf : knöpfe_)
+        if (knopf.Feld->isVisible() && knopf.Feld->isEnabled()) felder.push_back(knopf.Feld);
+    if (mehr_ && mehr_->isVisible()) felder.push_back(mehr_);
+    return felder;
+}
+
+void Symbolleiste::TabstoppSetzen() {
+    const auto felder = Erreichbare();
+    for (QToolButton *feld : felder)
+        if (feld->hasFocus()) aktuell_ = feld;
+    if (std::find(felder.begin(), felder.end(), aktuell_) == felder.end())
+        aktuell_ = felder.empty() ? nullptr : felder.front();
+    for (const Knopf &knopf : knöpfe_) knopf.Feld->setFocusPolicy(knopf.Feld == aktuell_ ? Qt::TabFocus : Qt::NoFocus);
+    if (mehr_) mehr_->setFocusPolicy(mehr_ == aktuell_ ? Qt::TabFocus : Qt::NoFocus);
+}
+
+bool Symbolleiste::Taste(QToolButton &feld, int taste) {
+    constexpr int Drückende[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down};
+    if (std::find(std::begin(Drückende), std::end(Drückende), taste) != std::end(Drückende)) {
+        const auto *knopf = dynamic_cast<const Bandknopf *>(&feld);
+        if (taste != Qt::Key_Down || (knopf && knopf->ÖffnetMenü())) feld.click();
+        return true;
+    }
+    if (taste != Qt::Key_Left && taste != Qt::Key_Right) return false;
+    const auto felder = Erreichbare();
+    const auto ort = std::find(felder.begin(), felder.end(), &feld);
+    const bool amEnde = taste == Qt::Key_Left ? ort == felder.begin() : std::next(ort) == felder.end();
+    if (ort == felder.end() || amEnde) return true;
+    (taste == Qt::Key_Left ? *std::prev(ort) : *std::next(ort))->setFocus(Qt::OtherFocusReason);
+    TabstoppSetzen();
+    return true;
+}
+
+bool Symbolleiste::eventFilter(QObject *empfänger, QEvent *ereignis) {
+    auto *feld = static_cast<QToolButton *>(empfänger);
+    if (ereignis->type() == QEvent::KeyPress) return Taste(*feld, static_cast<QKeyEvent *>(ereignis)->key());
+    if (ereignis->type() == QEvent::MouseButtonPress) leinwand_.setFocus(Qt::MouseFocusReason);
+    return false;
+}
+
+} // namespace kw

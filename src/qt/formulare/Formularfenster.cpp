@@ -1,0 +1,246 @@
+#include "qt/formulare/Formularfenster.h"
+
+#include "qt/formulare/Formularteile.h"
+#include "qt/grund/Text.h"
+
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+bool IstBox(Art art) { return art == Art::Textfeld || art == Art::Textblock || art == Art::Kombination; }
+
+/// Whether a box would take the key as text; commands made with Ctrl aren't, what AltGr makes is.
+bool FügtEin(const QKeyEvent &taste, Art art) {
+    if (art == Art::Textblock && (taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter)) return true;
+    const auto halter = taste.modifiers() & ~(Qt::KeypadModifier | Qt::GroupSwitchModifier | Qt::ShiftModifier);
+    if (taste.text().isEmpty() || halter == Qt::ControlModifier) return false;
+    const QChar erstes = taste.text().front();
+    return erstes.isPrint() || erstes.isSurrogate() || erstes.category() == QChar::Other_Format ||
+           erstes.category() == QChar::Other_PrivateUse;
+}
+
+/// The characters that the form lets into its box.
+QString Erlaubtes(const Formular &form, const std::string &name, const QString &text) {
+    QString erlaubt;
+    for (const char32_t zeichen : text.toStdU32String()) {
+        const QString eines = QString::fromUcs4(&zeichen, 1);
+        if (form.TasteErlaubt(name, eines.toStdString())) erlaubt += eines;
+    }
+    return erlaubt;
+}
+
+/// What is read out for a control; a mnemonic's mark and a colon aren't.
+QString Vorlesbar(QString aufschrift) {
+    aufschrift.remove(QLatin1Char('&'));
+    while (aufschrift.endsWith(QLatin1Char(':'))) aufschrift.chop(1);
+    return aufschrift;
+}
+
+} // namespace
+
+Formularfenster::Formularfenster(Formular &form, QWidget *eltern) : QDialog(eltern), form_(form) {
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    TeileBauen();
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *neu) { FokusGewandert(neu); });
+}
+
+Formularfenster::~Formularfenster() { form_.Wirt = nullptr; }
+
+void Formularfenster::Ausführen() {
+    form_.Wirt = this;
+    form_.Laden();
+    FormularAnordnen(form_, teile_, *this);
+    RahmenBauen();
+    KnöpfeOrdnen();
+    TabfolgeSetzen();
+    Auffrischen();
+    if (form_.Offen()) exec();
+    form_.Wirt = nullptr;
+    zeitgeber_.clear();
+    form_.Entladen();
+}
+
+void Formularfenster::TeileBauen() {
+    const Formularmelder melder{
+        [this](const std::string &name) { Ereignis([&] { form_.Drücken(name); }); },
+        [this](const std::string &name, const QString &text) {
+            Ereignis([&] { form_.TextEingeben(name, text.toStdString()); });
+        },
+        [this](const std::string &name, int index) { Ereignis([&] { form_.Wählen(name, index); }); }};
+    for (const auto &name : form_.Reihenfolge()) {
+        QWidget *teil = TeilBauen(form_, name, melder, this);
+        if (!teil) continue;
+        teil->setObjectName(Text(name));
+        teile_[name] = teil;
+        if (!IstBox(form_[name].Kind)) continue;
+        teil->installEventFilter(this);
+        if (QLineEdit *zeile = Eingabezeile(*teil); zeile && zeile != teil) zeile->installEventFilter(this);
+        if (auto *block = dynamic_cast<QAbstractScrollArea *>(teil)) block->viewport()->installEventFilter(this);
+    }
+}
+
+/// Frames lie over their boxes' neighbours, so they are made when all have found their places.
+void Formularfenster::RahmenBauen() {
+    for (const auto &name : form_.Reihenfolge()) {
+        const Steuerelement &element = form_[name];
+        const auto ziel = teile_.find(element.Bei);
+        if (element.Kind != Art::Warnrahmen || ziel == teile_.end()) continue;
+        teile_[name] = new Warnrahmen(*ziel->second);
+        teile_[name]->setObjectName(Text(name));
+    }
+}
+
+void Formularfenster::KnöpfeOrdnen() {
+    std::map<int, QButtonGroup *> gruppen;
+    for (const auto &[name, teil] : teile_) {
+        const Steuerelement &element = form_[name];
+        if (auto *knopf = dynamic_cast<QPushButton *>(teil)) {
+            knopf->setAutoDefault(!form_.Vorgabeknopf.empty());
+            knopf->setDefault(name == form_.Vorgabeknopf);
+        }
+        if (element.Kind != Art::Option) continue;
+        QButtonGroup *&gruppe = gruppen[element.Gruppe];
+        if (!gruppe) gruppe = new QButtonGroup(this);
+        gruppe->addButton(dynamic_cast<QAbstractButton *>(teil));
+    }
+}
+
+void Formularfenster::TabfolgeSetzen() {
+    QWidget *letztes = nullptr;
+    for (const auto &name : form_.Reihenfolge()) {
+        const auto teil = teile_.find(name);
+        if (teil == teile_.end() || teil->second->focusPolicy() == Qt::NoFocus) continue;
+        if (letztes) setTabOrder(letztes, teil->second);
+        letztes = teil->second;
+    }
+}
+
+/// Every event comes through here: the model first, then what shows of it, then the end if it was the last one.
+void Formularfenster::Ereignis(const std::function<void()> &was) {
+    if (!form_.Offen() || !form_.Wirt) return;
+    was();
+    Auffrischen();
+    if (!form_.Offen()) done(QDialog::Accepted);
+}
+
+void Formularfenster::Auffrischen() {
+    setWindowTitle(Text(form_.Caption));
+    // An exclusive group wouldn't let go of its last option.
+    const auto gruppen = findChildren<QButtonGroup *>();
+    for (QButtonGroup *gruppe : gruppen) gruppe->setExclusive(false);
+    for (const auto &name : form_.Reihenfolge())
+        if (const auto teil = teile_.find(name); teil != teile_.end()) TeilZeigen(*teil->second, form_[name]);
+    for (QButtonGroup *gruppe : gruppen) gruppe->setExclusive(true);
+    Benennen();
+}
+
+/// A box is called what its label says, without one what its frame does; what has no caption as its tool tip says.
+void Formularfenster::Benennen() {
+    for (const auto &[name, teil] : teile_) {
+        const Steuerelement &element = form_[name];
+        const auto *rahmen = dynamic_cast<QGroupBox *>(teil->parentWidget());
+        if (!element.Tip.empty()) teil->setAccessibleName(Text(element.Tip));
+        else if (IstBox(element.Kind) || element.Kind == Art::Liste)
+            teil->setAccessibleName(Vorlesbar(rahmen ? rahmen->title() : windowTitle()));
+    }
+    for (const auto *schild : findChildren<QLabel *>())
+        if (schild->buddy()) schild->buddy()->setAccessibleName(Vorlesbar(schild->text()));
+}
+
+void Formularfenster::ZeitgeberStellen(std::string_view name, int ms) {
+    auto &zeitgeber = zeitgeber_[std::string(name)];
+    if (!zeitgeber) {
+        zeitgeber = std::make_unique<QTimer>();
+        zeitgeber->setSingleShot(true);
+        connect(zeitgeber.get(), &QTimer::timeout, this,
+                [this, eigenerName = std::string(name)] { Ereignis([&] { form_.Zeitgeber(eigenerName); }); });
+    }
+    if (ms > 0) zeitgeber->start(ms);
+    else zeitgeber->stop();
+}
+
+/// What was enabled a moment ago must be so in the widget too, or it can't take the focus.
+void Formularfenster::FokusGeben(std::string_view steuerelement) {
+    Auffrischen();
+    if (const auto teil = teile_.find(steuerelement); teil != teile_.end()) teil->second->setFocus();
+}
+
+/// Only what moves within the form counts: not another window, not a popup.
+void Formularfenster::FokusGewandert(QWidget *neu) {
+    if (!neu || neu->window() != this) return;
+    const std::string name = NameVon(neu);
+    if (name.empty() || name == fokus_) return;
+    const std::string alt = std::exchange(fokus_, name);
+    if (!alt.empty()) Ereignis([&] { form_.Verlassen(alt); });
+    if (fokus_ == name) Ereignis([&] { form_.FokusErhalten(name); });
+}
+
+std::string Formularfenster::NameVon(const QObject *objekt) const {
+    for (; objekt && objekt != this; objekt = objekt->parent())
+        if (const std::string name = objekt->objectName().toStdString(); teile_.contains(name)) return name;
+    return {};
+}
+
+void Formularfenster::reject() {
+    const Steuerelement *abbruch = form_.Finden(form_.Abbruchknopf);
+    if (abbruch) return Ereignis([this] { form_.Drücken(form_.Abbruchknopf); });
+    Ereignis([this] { form_.Schließkreuz(); });
+}
+
+void Formularfenster::closeEvent(QCloseEvent *ereignis) {
+    Ereignis([this] { form_.Schließkreuz(); });
+    ereignis->setAccepted(!form_.Offen());
+}
+
+/// Some colours are mixed from the theme's.
+void Formularfenster::changeEvent(QEvent *ereignis) {
+    QDialog::changeEvent(ereignis);
+    if (ereignis->type() == QEvent::PaletteChange && isVisible()) Auffrischen();
+}
+
+bool Formularfenster::eventFilter(QObject *objekt, QEvent *ereignis) {
+    const auto typ = ereignis->type();
+    if (typ != QEvent::KeyPress && typ != QEvent::InputMethod && typ != QEvent::MouseButtonPress) return false;
+    const std::string name = NameVon(objekt);
+    if (name.empty()) return false;
+    if (typ == QEvent::KeyPress) return TasteSchlucken(name, *dynamic_cast<QKeyEvent *>(ereignis));
+    if (typ == QEvent::InputMethod)
+        return EingabeSchlucken(*objekt, name, *dynamic_cast<QInputMethodEvent *>(ereignis));
+    Ereignis([&] { form_.Drücken(name); });
+    return !form_.Offen();
+}
+
+bool Formularfenster::TasteSchlucken(const std::string &name, const QKeyEvent &taste) const {
+    const Art art = form_.Finden(name)->Kind;
+    if (!FügtEin(taste, art)) return false;
+    const bool umbruch = taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter;
+    const QString text = umbruch ? QStringLiteral("\n") : taste.text();
+    return Erlaubtes(form_, name, text) != text;
+}
+
+/// Composed characters (dead keys, input methods) pass the same filter; the rest of the event goes on.
+bool Formularfenster::EingabeSchlucken(QObject &ziel, const std::string &name, const QInputMethodEvent &eingabe) {
+    const QString erlaubt = Erlaubtes(form_, name, eingabe.commitString());
+    if (erlaubt == eingabe.commitString()) return false;
+    QInputMethodEvent ersatz(eingabe.preeditString(), eingabe.attributes());
+    ersatz.setCommitString(erlaubt, eingabe.replacementStart(), eingabe.replacementLength());
+    QCoreApplication::sendEvent(&ziel, &ersatz); // comes back here, and passes
+    return true;
+}
+
+} // namespace kw

@@ -1,0 +1,44 @@
+#include "qt/grund/QtPlattform.h"
+
+#include "document/Einstellungen.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QDir>
+#include <QLocale>
+#include <QStandardPaths>
+
+namespace kw {
+
+Datumsfolge FolgeAus(const std::string &format) {
+    const auto tag = format.find('d');
+    const auto monat = format.find('M');
+    const auto jahr = format.find('y');
+    if (jahr < monat && jahr < tag) return Datumsfolge::JahrMonatTag;
+    return monat < tag ? Datumsfolge::MonatTagJahr : Datumsfolge::TagMonatJahr;
+}
+
+QtUhr::QtUhr() : folge_(FolgeAus(QLocale::system().dateFormat(QLocale::ShortFormat).toStdString())) {}
+
+Datum QtUhr::Heute() const {
+    if (const std::time_t jetzt = std::time(nullptr); jetzt != stand_) {
+        const QDate heute = QDate::currentDate();
+        heute_ = {heute.year(), heute.month(), heute.day()};
+        stand_ = jetzt;
+    }
+    return heute_;
+}
+
+std::string EinstellungsDateiDesBenutzers() {
+    const QString konfig = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    return EinstellungsDatei(QCoreApplication::applicationDirPath().toStdString(), konfig.toStdString() + "/kinwright");
+}
+
+std::string Hilfeordner() {
+    const QDir programm(QCoreApplication::applicationDirPath());
+    const QString daneben = programm.filePath(QStringLiteral("help"));
+    if (QDir(daneben).exists()) return daneben.toStdString();
+    return QDir::cleanPath(programm.filePath(QStringLiteral("../share/kinwright/help"))).toStdString();
+}
+
+} // namespace kw

@@ -1,0 +1,107 @@
+#include "qt/malen/Auflagenmaler.h"
+
+#include <QPainter>
+#include <QPen>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kw {
+
+namespace {
+
+constexpr QColor Gummifarbe{30, 90, 200};
+constexpr QColor Maskenfarbe{70, 70, 70};
+constexpr QColor Rahmenfarbe{20, 60, 150};
+constexpr QColor Zielfarbe{251, 59, 15};
+constexpr QColor Hof{255, 255, 255, 200}; ///< on both sides of a stroke: what it crosses doesn't swallow it
+constexpr double Hofbreite = 1.5;
+constexpr double Strich = 1.5; ///< logical pixels, as all below
+constexpr double Zielstrich = 2;
+constexpr double Spitze = 9;         ///< length of an arrow's head
+constexpr double Spitzenwinkel = 22; ///< degrees, between its side and the shaft
+
+bool Zeigt(const Auflagenlinie &l) { return l.Visible && l.X1 != Geparkt; }
+
+bool Zeigt(const Auflagenform &f) { return f.Visible && f.Left != Geparkt && (f.Width > 0 || f.Height > 0); }
+
+QPen Stift(const QColor &farbe, double breite, Qt::PenStyle stil = Qt::SolidLine) {
+    QPen stift(farbe, breite, stil, Qt::FlatCap, Qt::MiterJoin);
+    if (stil == Qt::DashLine) stift.setDashPattern({4, 3});
+    return stift;
+}
+
+class Maler {
+  public:
+    Maler(QPainter &p, double pixelJeCm) : p_(p), k_(pixelJeCm) {}
+
+    void Linie(const Auflagenlinie &l, const QColor &farbe, double breite = Strich) {
+        if (!Zeigt(l)) return;
+        const QLineF linie(l.X1 * k_, l.Y1 * k_, l.X2 * k_, l.Y2 * k_);
+        MitHof(Stift(farbe, breite), [&] { p_.drawLine(linie); });
+    }
+
+    void Pfeil(const Auflagenlinie &l, int art) {
+        Linie(l, Gummifarbe);
+        const QLineF schaft(l.X2 * k_, l.Y2 * k_, l.X1 * k_, l.Y1 * k_);
+        if (!Zeigt(l) || schaft.length() < Spitze) return;
+        PfeilspitzeMalen(schaft);
+        if (art == 2) PfeilspitzeMalen({schaft.p2(), schaft.p1()});
+    }
+
+    void Form(const Auflagenform &f, const QColor &farbe, double breite, Qt::PenStyle stil = Qt::SolidLine) {
+        if (!Zeigt(f)) return;
+        QRectF r(f.Left * k_, f.Top * k_, f.Width * k_, f.Height * k_);
+        r = r.normalized();
+        if (f.Shape == Umriss::Quadrat || f.Shape == Umriss::Kreis) {
+            const double kante = std::min(r.width(), r.height());
+            r = QRectF(r.center() - QPointF(kante, kante) / 2, QSizeF(kante, kante));
+        }
+        p_.setBrush(Qt::NoBrush);
+        const bool rund = f.Shape == Umriss::Kreis || f.Shape == Umriss::Oval;
+        MitHof(Stift(farbe, breite, stil), [&] { rund ? p_.drawEllipse(r) : p_.drawRect(r); });
+    }
+
+  private:
+    /// At the beginning of `schaft`.
+    void PfeilspitzeMalen(const QLineF &schaft) {
+        QPolygonF ecken{schaft.p1()};
+        for (const double winkel : {-Spitzenwinkel, Spitzenwinkel})
+            ecken += schaft.p1() + QLineF::fromPolar(Spitze, schaft.angle() + winkel).p2();
+        p_.setPen(Qt::NoPen);
+        p_.setBrush(Gummifarbe);
+        p_.drawPolygon(ecken);
+    }
+
+    template <typename Zug> void MitHof(const QPen &stift, Zug zug) {
+        p_.setPen(Stift(Hof, stift.widthF() + 2 * Hofbreite));
+        zug();
+        p_.setPen(stift);
+        zug();
+    }
+
+    QPainter &p_;
+    double k_; ///< logical pixels a centimetre
+};
+
+} // namespace
+
+bool ZeigtAuflagen(const Auflagen &a) {
+    return Zeigt(a.Line1) || Zeigt(a.Line2) || Zeigt(a.Line5) || Zeigt(a.shpMask) || Zeigt(a.shpBox) ||
+           Zeigt(a.shpPerson) ||
+           std::any_of(a.MarkLine.begin(), a.MarkLine.end(), [](const Auflagenlinie &l) { return Zeigt(l); });
+}
+
+void AuflagenMalen(QPainter &p, const Auflagen &a, int pfeilArt, double pixelJeCm) {
+    p.setRenderHint(QPainter::Antialiasing);
+    Maler maler(p, pixelJeCm);
+    maler.Form(a.shpPerson, Zielfarbe, Zielstrich);
+    for (const Auflagenlinie &l : a.MarkLine) maler.Linie(l, Zielfarbe, Zielstrich);
+    maler.Linie(a.Line1, Gummifarbe);
+    maler.Linie(a.Line2, Gummifarbe);
+    maler.Pfeil(a.Line5, pfeilArt);
+    maler.Form(a.shpMask, Maskenfarbe, Strich);
+    maler.Form(a.shpBox, Rahmenfarbe, Strich, Qt::DashLine);
+}
+
+} // namespace kw

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "qt/malen/QtFlaeche.h"
+
+#include <QImage>
+
+namespace kw {
+
+/// The canvas: a kept picture in the screen's own resolution. The window copies it, exports take it.
+class LeinwandFläche : public QtFläche {
+  public:
+    explicit LeinwandFläche(double pixelverhältnis);
+    ~LeinwandFläche() override { Beenden(); }
+
+    const QImage &Bild() const { return bild_; }
+    double Pixelverhältnis() const { return pixelverhältnis_; }
+    /// Physical by logical pixels of the screen; the next redraw has the new resolution.
+    void PixelverhältnisSetzen(double verhältnis) { pixelverhältnis_ = verhältnis; }
+
+    /// Clears; makes the picture anew when size or resolution have changed.
+    void Cls() override;
+
+  private:
+    QImage bild_;
+    double pixelverhältnis_;
+};
+
+} // namespace kw

@@ -1,0 +1,100 @@
+#include "qt/start/Aufruf.h"
+
+#include "app/Datenimport.h"
+#include "qt/drucken/Ausgabe.h"
+
+#include <charconv>
+#include <filesystem>
+#include <system_error>
+
+namespace kw {
+
+namespace {
+
+Aufruf Falsch(const std::string &fehler) {
+    Aufruf a;
+    a.Was = Aufruf::Art::Falsch;
+    a.Fehler = fehler;
+    return a;
+}
+
+bool DpiLesen(const std::string &text, int &dpi) {
+    const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), dpi);
+    return fehler == std::errc() && ende == text.data() + text.size() && dpi >= KleinsteDpi && dpi <= GrößteDpi;
+}
+
+/// Every call that is understood is checked as a whole at its end.
+Aufruf Geprüft(Aufruf a, bool mitDpi) {
+    std::error_code fehler; // a file that isn't there yet is no other
+    if (a.Was == Aufruf::Art::Export) {
+        if (std::filesystem::equivalent(a.Datei, a.Ziel, fehler)) return Falsch("the export would replace the project");
+        if (a.Datei.empty()) return Falsch("--export needs a project file");
+        if (!IstAusgabeformat(a.Ziel))
+            return Falsch("cannot export to " + a.Ziel + ": its name must end in .pdf, .svg, .png, .jpg or .bmp");
+    } else if (mitDpi) {
+        return Falsch("--dpi goes with --export");
+    }
+    return a;
+}
+
+} // namespace
+
+Aufruf AufrufLesen(const std::vector<std::string> &worte) {
+    Aufruf a;
+    if (!worte.empty() && Datenimport::IstVerlangt(worte.front())) {
+        for (const std::string &wort : worte) a.Import += (a.Import.empty() ? "" : " ") + wort;
+        return a;
+    }
+    bool optionen = true;
+    bool mitDpi = false;
+    for (size_t i = 0; i < worte.size(); ++i) {
+        const std::string &wort = worte[i];
+        const bool hatWert = i + 1 < worte.size();
+        if (!optionen || !wort.starts_with('-') || wort == "-") {
+            if (!a.Datei.empty()) return Falsch("more than one project file: " + wort);
+            if (wort.empty()) return Falsch("the name of the project file is empty");
+            a.Datei = wort;
+        } else if (wort == "--") {
+            optionen = false;
+        } else if (wort == "--help" || wort == "-h") {
+            a.Was = Aufruf::Art::Hilfe;
+            return a;
+        } else if (wort == "--version") {
+            a.Was = Aufruf::Art::Version;
+            return a;
+        } else if (wort == "--export") {
+            if (!hatWert || !a.Ziel.empty()) return Falsch("--export needs one file to write");
+            a.Was = Aufruf::Art::Export;
+            a.Ziel = worte[++i];
+        } else if (wort == "--dpi") {
+            if (!hatWert || mitDpi || !DpiLesen(worte[++i], a.Dpi))
+                return Falsch("--dpi needs one whole number from " + std::to_string(KleinsteDpi) + " to " +
+                              std::to_string(GrößteDpi));
+            mitDpi = true;
+        } else {
+            return Falsch("unknown option " + wort);
+        }
+    }
+    return Geprüft(a, mitDpi);
+}
+
+const char *Hilfetext() {
+    return "Usage: kinwright [FILE]\n"
+           "       kinwright --export OUT [--dpi N] FILE\n"
+           "       kinwright /dataimport NAME\n"
+           "\n"
+           "Opens the genogram editor, with the project FILE (.kwp) if one is given.\n"
+           "\n"
+           "  --export OUT  write the page of FILE to OUT and end; the ending of OUT says as what:\n"
+           "                .pdf, .svg, .png, .jpg or .bmp. Needs no display.\n"
+           "  --dpi N       dots per inch of a picture, 300 if not given\n"
+           "  /dataimport   lay out the case of the file NAME.xyz and list the persons of muster.txt, both in the\n"
+           "                program's folder; \\dataimport is the same\n"
+           "  --help        show this text\n"
+           "  --version     show the version\n"
+           "\n"
+           "Exit status: 0 when all went well; 1 when FILE can't be read, or only in part (what was read is\n"
+           "exported all the same), or OUT can't be written; 2 when the call is wrong.\n";
+}
+
+} // namespace kw

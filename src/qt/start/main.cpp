@@ -1,0 +1,104 @@
+#include "app/Einzelbild.h"
+#include "qt/drucken/Ausgabe.h"
+#include "qt/fenster/Hauptfenster.h"
+#include "qt/grund/QtPlattform.h"
+#include "qt/start/Aufruf.h"
+#include "qt/start/Einzelinstanz.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
+namespace {
+
+using namespace kw;
+
+/// One plain line, whatever a file's name holds.
+int Melden(std::string zeile, int ergebnis) {
+    std::replace_if(
+        zeile.begin(), zeile.end(), [](unsigned char c) { return c < ' '; }, '?');
+    std::fprintf(stderr, "kinwright: %s\n", zeile.c_str());
+    return ergebnis;
+}
+
+/// What the toolkit has to say of its surroundings is no word to the user; what ends the program is.
+void Meldung(QtMsgType art, const QMessageLogContext &, const QString &text) {
+    if (art != QtFatalMsg) return;
+    Melden("cannot open a window: " + text.section(QLatin1Char('\n'), 0, 0).toStdString(), 1);
+    std::_Exit(1);
+}
+
+/// 0 when all of it came out.
+int Ausgegeben(const std::string &text) {
+    const bool ganz = std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0;
+    return ganz ? 0 : Melden("cannot write to the standard output", 1);
+}
+
+int Exportieren(const Aufruf &aufruf, int &argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // an export needs no display and asks none
+    const QGuiApplication anwendung(argc, argv);
+    const QtUhr uhr;
+    Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
+    const std::string schaden = bild.Laden(aufruf.Datei);
+    if (!bild.IstGelesen()) return Melden(aufruf.Datei + ": " + schaden, 1);
+    Zeichnung zeichnung = bild.DasBild();
+    const std::string titel = NameOhneKennung(DateiName(aufruf.Datei));
+    const std::string fehler = kw::Exportieren(zeichnung, aufruf.Ziel, aufruf.Dpi, titel);
+    if (!fehler.empty()) return Melden(aufruf.Ziel + ": " + fehler, 1);
+    return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
+}
+
+/// The texts of the platform's own dialogs and buttons, which follow the platform's language and not the program's.
+/// The program itself is written from left to right in all its languages.
+void PlattformtexteLaden(QTranslator &texte) {
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    if (texte.load(QLocale::system(), QStringLiteral("qtbase"), QStringLiteral("_"),
+                   QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&texte);
+}
+
+/// The command line as the model takes it.
+std::string Kommandozeile(const Aufruf &aufruf) {
+    if (!aufruf.Import.empty() || aufruf.Datei.empty()) return aufruf.Import;
+    std::error_code fehler;
+    return '"' + std::filesystem::absolute(aufruf.Datei, fehler).string() + '"';
+}
+
+int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+        qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        return Melden("no display to open a window on; see kinwright --help for exports without one", 1);
+    const QApplication anwendung(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Kinwright"));
+    QApplication::setDesktopFileName(QStringLiteral("kinwright")); // gives the window its icon
+    Einzelinstanz instanz;
+    if (!instanz.IstErste())
+        return instanz.HatGeantwortet() ? 0 : Melden("another Kinwright is running, but doesn't answer", 1);
+    QTranslator plattformtexte;
+    PlattformtexteLaden(plattformtexte);
+    Hauptfenster fenster(Kommandozeile(aufruf));
+    instanz.BeiWeiteremStart([&fenster] { fenster.NachVorn(); });
+    fenster.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    qInstallMessageHandler(Meldung);
+    const Aufruf aufruf = AufrufLesen({argv + std::min(argc, 1), argv + argc});
+    switch (aufruf.Was) {
+    case Aufruf::Art::Hilfe: return Ausgegeben(Hilfetext());
+    case Aufruf::Art::Version: return Ausgegeben("kinwright " + std::string(frmMain::Programmversion) + "\n");
+    case Aufruf::Art::Falsch: return Melden(aufruf.Fehler + "; see kinwright --help", 2);
+    case Aufruf::Art::Export: return Exportieren(aufruf, argc, argv);
+    case Aufruf::Art::Fenster: break;
+    }
+    return FensterZeigen(aufruf, argc, argv);
+}
