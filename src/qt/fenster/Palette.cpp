@@ -85,6 +85,7 @@ void Werkzeugpalette::KnöpfeAnlegen() {
         if (werkzeug != Löschen) knopf->Berührt = [this, i](bool darauf) { Berühren(i, darauf); };
         connect(knopf, &QAbstractButton::clicked, this, [this, name = Befehlsname(werkzeug)] { ausführen_(name); });
         knöpfe_.push_back(knopf);
+        fokus_.Aufnehmen(*knopf);
     }
 }
 
@@ -107,7 +108,7 @@ void Werkzeugpalette::Auffrischen() {
         merkmale_[i]->Zeigen(Text(haupt_.IstDeutsch() ? m.Deutsch : m.Englisch), haupt_.lage.Info.*m.Gilt);
         merkmale_[i]->setVisible(haupt_.lage.Info.Visible);
     }
-    TabstoppSetzen();
+    fokus_.StoppSetzen();
     HinweisZeigen();
 }
 
@@ -149,16 +150,6 @@ void Werkzeugpalette::Anordnen() {
                                                        y + i / Spalten * (Merkmalkante + Lücke), breite, Merkmalkante);
 }
 
-/// A disabled button can't have the focus: the next one stands in for it.
-void Werkzeugpalette::TabstoppSetzen() {
-    for (int i = 0; i < Anzahl; ++i)
-        if (knöpfe_[static_cast<size_t>(i)]->hasFocus()) aktuell_ = i;
-    int stopp = aktuell_;
-    for (int i = 0; i < Anzahl && !knöpfe_[static_cast<size_t>(stopp)]->isEnabled(); ++i) stopp = (stopp + 1) % Anzahl;
-    for (int i = 0; i < Anzahl; ++i)
-        knöpfe_[static_cast<size_t>(i)]->setFocusPolicy(i == stopp ? Qt::TabFocus : Qt::NoFocus);
-}
-
 /// Left and right go through all buttons in order, up and down through a column; disabled ones are passed over.
 bool Werkzeugpalette::Gehen(int von, int taste) {
     constexpr std::pair<int, int> Schritte[] = {
@@ -166,15 +157,9 @@ bool Werkzeugpalette::Gehen(int von, int taste) {
     const auto *schritt =
         std::find_if(std::begin(Schritte), std::end(Schritte), [&](const auto &s) { return s.first == taste; });
     if (schritt == std::end(Schritte)) return false;
-    int ziel = von + schritt->second;
     // From the right column down to the last row, which is one wide button.
-    if (taste == Qt::Key_Down && ziel == Anzahl) --ziel;
-    const auto drin = [](int i) { return i >= 0 && i < Anzahl; };
-    while (drin(ziel) && !knöpfe_[static_cast<size_t>(ziel)]->isEnabled()) ziel += schritt->second;
-    if (!drin(ziel)) return true;
-    aktuell_ = ziel;
-    knöpfe_[static_cast<size_t>(ziel)]->setFocus(Qt::OtherFocusReason);
-    TabstoppSetzen();
+    const bool zurLetzten = taste == Qt::Key_Down && von + Spalten == Anzahl;
+    fokus_.Gehen(*knöpfe_[static_cast<size_t>(von)], zurLetzten ? 1 : schritt->second);
     return true;
 }
 

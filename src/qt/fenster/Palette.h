@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qt/grund/Tastatur.h"
+
 #include <QWidget>
 
 #include <functional>
@@ -33,7 +35,6 @@ class Werkzeugpalette : public QWidget {
     struct Platz;
     void KnöpfeAnlegen();
     void Anordnen();
-    void TabstoppSetzen();
     bool Gehen(int von, int taste);
     void Berühren(int stelle, bool darauf);
     void HinweisZeigen();
@@ -42,7 +43,7 @@ class Werkzeugpalette : public QWidget {
     std::function<void(std::string_view)> ausführen_;
     std::vector<Palettenknopf *> knöpfe_; ///< by their places
     std::vector<Merkmalfeld *> merkmale_;
-    int aktuell_ = 0;                    ///< the button that Tab reaches
+    Wanderfokus fokus_;                  ///< from button to button
     int berührt_ = 0;                    ///< the button that was last pointed at
     Palettenhinweis *hinweis_ = nullptr; ///< its name, over the page
 };

@@ -1,5 +1,7 @@
 #include "qt/fenster/Palettenknopf.h"
 
+#include "qt/grund/Tastatur.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -50,6 +52,7 @@ QColor Grund(const QAbstractButton &knopf) {
 Palettenknopf::Palettenknopf(Bildmacher bild, QWidget *palette) : QAbstractButton(palette), bild_(std::move(bild)) {
     setCheckable(true);
     setFocusPolicy(Qt::NoFocus); // the palette gives one of its buttons a place in the tab order
+    EnterDrückt(*this);
 }
 
 void Palettenknopf::paintEvent(QPaintEvent *) {
@@ -73,7 +76,6 @@ void Palettenknopf::paintEvent(QPaintEvent *) {
 }
 
 void Palettenknopf::keyPressEvent(QKeyEvent *ereignis) {
-    if (ereignis->key() == Qt::Key_Return || ereignis->key() == Qt::Key_Enter) return click();
     if (TasteWeitergeben && TasteWeitergeben(ereignis->key())) return;
     if (ereignis->key() == Qt::Key_Space) return QAbstractButton::keyPressEvent(ereignis);
     ereignis->ignore();

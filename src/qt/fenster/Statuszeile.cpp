@@ -2,10 +2,10 @@
 
 #include "app/frmMain.h"
 #include "qt/fenster/Menues.h"
+#include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
 
 #include <QLabel>
-#include <QShortcut>
 #include <QToolButton>
 
 #include <utility>
@@ -35,11 +35,7 @@ Statuszeile::Statuszeile(std::function<void(std::string_view)> ausführen) {
     cmdRänder_->setAutoRaise(true);
     // A press by mouse leaves the focus on the canvas.
     cmdRänder_->setFocusPolicy(Qt::TabFocus);
-    for (const auto taste : {Qt::Key_Return, Qt::Key_Enter}) { // as on the palette; the blank does by itself
-        auto *kürzel = new QShortcut(QKeySequence(taste), cmdRänder_);
-        kürzel->setContext(Qt::WidgetShortcut);
-        connect(kürzel, &QShortcut::activated, cmdRänder_, &QToolButton::click);
-    }
+    EnterDrückt(*cmdRänder_);
     connect(cmdRänder_, &QToolButton::clicked, this, [befehl = std::move(ausführen)] { befehl(Rändername); });
     addWidget(lblTool_, 1);
     addPermanentWidget(cmdRänder_);

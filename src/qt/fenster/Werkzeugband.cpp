@@ -69,7 +69,7 @@ void Symbolleiste::MehrAnlegen() {
     const int kante = style()->pixelMetric(QStyle::PM_ToolBarExtensionExtent);
     mehr_->setIconSize({kante, kante});
     mehr_->setIcon(Svgsinnbild("mehr"));
-    mehr_->installEventFilter(this);
+    KnopfEinreihen(*mehr_);
 }
 
 void Symbolleiste::KnopfAnlegen(const Menüzeile &zeile) {
@@ -80,12 +80,18 @@ void Symbolleiste::KnopfAnlegen(const Menüzeile &zeile) {
     knopf.Feld = new Bandknopf(*aktion, this);
     knopf.Feld->setIconSize(iconSize());
     connect(this, &QToolBar::iconSizeChanged, knopf.Feld, &QToolButton::setIconSize);
-    knopf.Feld->installEventFilter(this);
+    KnopfEinreihen(*knopf.Feld);
     if (ZeigtZustand(zeile)) BreiteFestlegen(knopf);
     knopf.Platz = addWidget(knopf.Feld);
     if (std::find(std::begin(Gruppenenden), std::end(Gruppenenden), zeile.Name) != std::end(Gruppenenden))
         knopf.Trenner = addSeparator();
     knöpfe_.push_back(std::move(knopf));
+}
+
+void Symbolleiste::KnopfEinreihen(QToolButton &knopf) {
+    knopf.installEventFilter(this);
+    EnterDrückt(knopf);
+    fokus_.Aufnehmen(knopf);
 }
 
 /// A button that only opens its menu, one row of which is ticked.
@@ -175,39 +181,20 @@ void Symbolleiste::TrennerZeigen() {
     if (offen) offen->setVisible(false);
 }
 
-/// The buttons that the keyboard can reach, in their order.
-std::vector<QToolButton *> Symbolleiste::Erreichbare() const {
-    std::vector<QToolButton *> felder;
-    for (const Knopf &knopf : knöpfe_)
-        if (knopf.Feld->isVisible() && knopf.Feld->isEnabled()) felder.push_back(knopf.Feld);
-    if (mehr_ && mehr_->isVisible()) felder.push_back(mehr_);
-    return felder;
-}
-
+/// From a button that has gone, the stop goes back to the first.
 void Symbolleiste::TabstoppSetzen() {
-    const auto felder = Erreichbare();
-    for (QToolButton *feld : felder)
-        if (feld->hasFocus()) aktuell_ = feld;
-    if (std::find(felder.begin(), felder.end(), aktuell_) == felder.end())
-        aktuell_ = felder.empty() ? nullptr : felder.front();
-    for (const Knopf &knopf : knöpfe_) knopf.Feld->setFocusPolicy(knopf.Feld == aktuell_ ? Qt::TabFocus : Qt::NoFocus);
-    if (mehr_) mehr_->setFocusPolicy(mehr_ == aktuell_ ? Qt::TabFocus : Qt::NoFocus);
+    if (!fokus_.Erreichbar()) fokus_.Zurücksetzen();
+    fokus_.StoppSetzen();
 }
 
 bool Symbolleiste::Taste(QToolButton &feld, int taste) {
-    constexpr int Drückende[] = {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Down};
-    if (std::find(std::begin(Drückende), std::end(Drückende), taste) != std::end(Drückende)) {
-        const auto *knopf = dynamic_cast<const Bandknopf *>(&feld);
-        if (taste != Qt::Key_Down || (knopf && knopf->ÖffnetMenü())) feld.click();
+    if (taste == Qt::Key_Left || taste == Qt::Key_Right) {
+        fokus_.Gehen(feld, taste == Qt::Key_Left ? -1 : 1);
         return true;
     }
-    if (taste != Qt::Key_Left && taste != Qt::Key_Right) return false;
-    const auto felder = Erreichbare();
-    const auto ort = std::find(felder.begin(), felder.end(), &feld);
-    const bool amEnde = taste == Qt::Key_Left ? ort == felder.begin() : std::next(ort) == felder.end();
-    if (ort == felder.end() || amEnde) return true;
-    (taste == Qt::Key_Left ? *std::prev(ort) : *std::next(ort))->setFocus(Qt::OtherFocusReason);
-    TabstoppSetzen();
+    if (taste != Qt::Key_Down) return false;
+    const auto *knopf = dynamic_cast<const Bandknopf *>(&feld);
+    if (knopf && knopf->ÖffnetMenü()) feld.click();
     return true;
 }
 

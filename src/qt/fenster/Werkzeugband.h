@@ -1,6 +1,7 @@
 #pragma once
 
 #include "commands/Menuetafel.h"
+#include "qt/grund/Tastatur.h"
 
 #include <QToolBar>
 
@@ -47,6 +48,7 @@ class Symbolleiste : public QToolBar {
     };
     void Bauen();
     void KnopfAnlegen(const Menüzeile &zeile);
+    void KnopfEinreihen(QToolButton &knopf);
     void AuswahlAnlegen(Knopf &knopf);
     void MehrAnlegen();
     void BreiteFestlegen(const Knopf &knopf);
@@ -54,7 +56,6 @@ class Symbolleiste : public QToolBar {
     void AuswahlZeigen(Knopf &knopf);
     void NameZeigen(const Knopf &knopf, const struct Bedienelement &element);
     void TrennerZeigen();
-    std::vector<QToolButton *> Erreichbare() const;
     void TabstoppSetzen();
     bool Taste(QToolButton &feld, int taste);
 
@@ -62,8 +63,8 @@ class Symbolleiste : public QToolBar {
     QWidget &leinwand_;
     std::function<void(std::string_view)> ausführen_;
     std::vector<Knopf> knöpfe_;
-    QToolButton *mehr_ = nullptr;    ///< opens what doesn't fit into the window
-    QToolButton *aktuell_ = nullptr; ///< the button that Tab reaches
+    QToolButton *mehr_ = nullptr; ///< opens what doesn't fit into the window
+    Wanderfokus fokus_;           ///< from button to button
 };
 
 } // namespace kw

@@ -1,6 +1,7 @@
 #include "qt/formulare/Formularfenster.h"
 
 #include "qt/formulare/Formularteile.h"
+#include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
 
 #include <QAbstractScrollArea>
@@ -26,7 +27,7 @@ bool IstBox(Art art) { return art == Art::Textfeld || art == Art::Textblock || a
 
 /// Whether a box would take the key as text; commands made with Ctrl aren't, what AltGr makes is.
 bool FügtEin(const QKeyEvent &taste, Art art) {
-    if (art == Art::Textblock && (taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter)) return true;
+    if (art == Art::Textblock && IstEnter(taste.key())) return true;
     const auto halter = taste.modifiers() & ~(Qt::KeypadModifier | Qt::GroupSwitchModifier | Qt::ShiftModifier);
     if (taste.text().isEmpty() || halter == Qt::ControlModifier) return false;
     const QChar erstes = taste.text().front();
@@ -228,8 +229,7 @@ bool Formularfenster::eventFilter(QObject *objekt, QEvent *ereignis) {
 bool Formularfenster::TasteSchlucken(const std::string &name, const QKeyEvent &taste) const {
     const Art art = form_.Finden(name)->Kind;
     if (!FügtEin(taste, art)) return false;
-    const bool umbruch = taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter;
-    const QString text = umbruch ? QStringLiteral("\n") : taste.text();
+    const QString text = IstEnter(taste.key()) ? QStringLiteral("\n") : taste.text();
     return Erlaubtes(form_, name, text) != text;
 }
 

@@ -2,6 +2,7 @@
 
 #include "qt/formulare/Formularvorschau.h"
 #include "qt/formulare/Zeichenknopf.h"
+#include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
 
 #include <QCheckBox>
@@ -10,7 +11,6 @@
 #include <QFontMetrics>
 #include <QGroupBox>
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -215,6 +215,7 @@ Farbplatte::Farbplatte(QWidget *eltern) : QAbstractButton(eltern) {
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     setCursor(Qt::PointingHandCursor);
+    EnterDrückt(*this);
 }
 
 void Farbplatte::FarbeZeigen(const QColor &farbe) {
@@ -226,11 +227,6 @@ void Farbplatte::FarbeZeigen(const QColor &farbe) {
 QSize Farbplatte::sizeHint() const {
     const int höhe = Zeichenknopfkante(*this);
     return {höhe * 3 / 2, höhe};
-}
-
-void Farbplatte::keyPressEvent(QKeyEvent *ereignis) {
-    if (ereignis->key() == Qt::Key_Return || ereignis->key() == Qt::Key_Enter) return click();
-    QAbstractButton::keyPressEvent(ereignis);
 }
 
 void Farbplatte::paintEvent(QPaintEvent *) {

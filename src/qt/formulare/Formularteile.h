@@ -38,7 +38,6 @@ class Farbplatte : public QAbstractButton {
 
   protected:
     void paintEvent(QPaintEvent *ereignis) override;
-    void keyPressEvent(QKeyEvent *ereignis) override;
 
   private:
     QColor farbe_;

@@ -1,7 +1,8 @@
 #include "qt/formulare/Zeichenknopf.h"
 
+#include "qt/grund/Tastatur.h"
+
 #include <QFontMetrics>
-#include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -17,6 +18,7 @@ int Zeichenknopfkante(const QWidget &feld) {
 Zeichenknopf::Zeichenknopf(QWidget *eltern) : QToolButton(eltern) {
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    EnterDrückt(*this);
 }
 
 void Zeichenknopf::AusrichtungZeigen(int ausrichtung) {
@@ -70,12 +72,6 @@ void Zeichenknopf::LinienZeigen(QPainter &p) const {
         p.fillRect(x, y, l, dicke, farbe);
         y += schritt;
     }
-}
-
-/// Enter presses the button that has the focus, not the form's default button.
-void Zeichenknopf::keyPressEvent(QKeyEvent *ereignis) {
-    if (ereignis->key() == Qt::Key_Return || ereignis->key() == Qt::Key_Enter) return click();
-    QToolButton::keyPressEvent(ereignis);
 }
 
 } // namespace kw

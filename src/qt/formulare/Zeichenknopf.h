@@ -20,7 +20,6 @@ class Zeichenknopf : public QToolButton {
 
   protected:
     void paintEvent(QPaintEvent *ereignis) override;
-    void keyPressEvent(QKeyEvent *ereignis) override;
 
   private:
     void UntenZeigen(QPainter &p) const;
