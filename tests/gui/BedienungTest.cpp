@@ -7,8 +7,8 @@
 #include "qt/fenster/Arbeitsflaeche.h"
 #include "qt/fenster/Importliste.h"
 #include "qt/fenster/Menues.h"
-#include "qt/fenster/Palette.h"
 #include "qt/fenster/Palettenknopf.h"
+#include "qt/fenster/Werkzeugpalette.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "replay/Plattform.h"
 

@@ -1,11 +1,11 @@
 // The toolbar and the pictures: what the band shows is the model's word, and no row names
 // a picture or does a command that isn't there.
-#include "qt/fenster/Werkzeugband.h"
 #include "app/Befehle.h"
 #include "app/frmMain.h"
 #include "commands/Bildertafel.h"
 #include "qt/fenster/Arbeitsflaeche.h"
 #include "qt/fenster/Bandknopf.h"
+#include "qt/fenster/Symbolleiste.h"
 #include "qt/malen/Zeilenbild.h"
 #include "replay/Plattform.h"
 

@@ -2,9 +2,9 @@
 
 #include "document/Dateien.h"
 #include "qt/fenster/Importliste.h"
-#include "qt/fenster/Palette.h"
 #include "qt/fenster/Statuszeile.h"
-#include "qt/fenster/Werkzeugband.h"
+#include "qt/fenster/Symbolleiste.h"
+#include "qt/fenster/Werkzeugpalette.h"
 #include "qt/formulare/Formularfenster.h"
 #include "qt/grund/Text.h"
 

@@ -1,4 +1,4 @@
-#include "qt/fenster/Werkzeugband.h"
+#include "qt/fenster/Symbolleiste.h"
 
 #include "app/frmMain.h"
 #include "commands/Bildertafel.h"

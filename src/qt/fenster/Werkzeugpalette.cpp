@@ -1,4 +1,4 @@
-#include "qt/fenster/Palette.h"
+#include "qt/fenster/Werkzeugpalette.h"
 
 #include "app/frmMain.h"
 #include "editing/Werkzeuge.h"
