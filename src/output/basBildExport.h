@@ -1,6 +1,6 @@
 #pragma once
 
-#include "output/basDruckVorschau.h"
+#include "output/Arbeitsbereich.h"
 #include "platform/Benutzer.h"
 #include "platform/Bilder.h"
 

@@ -1,4 +1,4 @@
-#include "output/basDruckVorschau.h"
+#include "output/Arbeitsbereich.h"
 
 #include "document/Zahlen.h"
 
