@@ -22,7 +22,7 @@ enum class Art {
     Knopf,        ///< `Caption`
     Umschalter,   ///< a button that stays down: `Caption`, `Value`
     Farbfeld,     ///< `Farbe`; can be clicked
-    Vorschau,     ///< a picture that the form draws
+    Bild,         ///< a picture that the form draws
     Warnrahmen,   ///< a red frame round the box `Bei`; `Visible` is all it says
     Rahmen,       ///< a titled group, `Caption`
 };
@@ -94,10 +94,10 @@ class Formular {
     virtual void Entladen() {}
     /// A timer has run out.
     virtual void Zeitgeber(std::string_view /*name*/) {}
-    /// Draws the preview `name` on a surface that has been scaled to `VorschauGröße`; nothing by itself.
-    virtual void VorschauZeichnen(std::string_view /*name*/, Zeichenfläche & /*fläche*/) {}
+    /// Draws the preview `name` on a surface that has been scaled to `BildGröße`; nothing by itself.
+    virtual void BildZeichnen(std::string_view /*name*/, Zeichenfläche & /*fläche*/) {}
     /// Width and height of the preview `name`, in the units that it is drawn in.
-    virtual std::pair<double, double> VorschauGröße(std::string_view /*name*/) const { return {1, 1}; }
+    virtual std::pair<double, double> BildGröße(std::string_view /*name*/) const { return {1, 1}; }
 
     // What the user does. Controls that are disabled or hidden take nothing.
 

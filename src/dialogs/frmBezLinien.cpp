@@ -44,7 +44,7 @@ frmBezLinien::frmBezLinien(Dialogumgebung &umgebung) : Formular("frmBezLinien", 
     Caption = deutsch ? "Beziehung" : "Relationship";
     for (const Beziehungsart &art : Arten) Anlegen(art.Option, Art::Option, deutsch ? art.Deutsch : art.Englisch);
     Anlegen("Label1", Art::Beschriftung, deutsch ? "verschmolzen" : ""); // the last caption's second line
-    Anlegen("Picture1", Art::Vorschau);
+    Anlegen("Picture1", Art::Bild);
     for (const auto *bild : {"imgLine", "imgKonflikt"}) Anlegen(bild, Art::Beschriftung).Bei = "Picture1";
     (*this)["imgKonflikt"].Visible = false;
     Anlegen("Command1", Art::Knopf, "&OK");
@@ -94,9 +94,9 @@ void frmBezLinien::Schließkreuz() {
     Schließen();
 }
 
-std::pair<double, double> frmBezLinien::VorschauGröße(std::string_view) const { return {Breite, Höhe}; }
+std::pair<double, double> frmBezLinien::BildGröße(std::string_view) const { return {Breite, Höhe}; }
 
-void frmBezLinien::VorschauZeichnen(std::string_view, Zeichenfläche &f) {
+void frmBezLinien::BildZeichnen(std::string_view, Zeichenfläche &f) {
     const int code = Gewählt();
     if (code < 0) return;
     char basis = ' ';

@@ -12,8 +12,8 @@ class frmBezLinien : public Formular {
     explicit frmBezLinien(Dialogumgebung &umgebung);
 
     void Laden() override;
-    void VorschauZeichnen(std::string_view name, Zeichenfläche &fläche) override;
-    std::pair<double, double> VorschauGröße(std::string_view name) const override;
+    void BildZeichnen(std::string_view name, Zeichenfläche &fläche) override;
+    std::pair<double, double> BildGröße(std::string_view name) const override;
     void Schließkreuz() override;
 
   protected:

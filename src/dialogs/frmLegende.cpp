@@ -32,7 +32,7 @@ frmLegende::frmLegende(Dialogumgebung &umgebung) : Formular("frmLegende", ""), u
                     : "Include standard male / female symbols");
     Anlegen("optHoch", Art::Option, deutsch ? "Hochformat" : "Portrait");
     Anlegen("optQuer", Art::Option, deutsch ? "Querformat" : "Landscape");
-    Anlegen("imgAusrichtung", Art::Vorschau);
+    Anlegen("imgAusrichtung", Art::Bild);
     Anlegen("cmdOK", Art::Knopf, "OK");
     Anlegen("cmdAbbrechen", Art::Knopf, deutsch ? "Abbrechen" : "Cancel");
     Vorgabeknopf = "cmdOK";
@@ -64,9 +64,9 @@ void frmLegende::Bestätigen() {
     Schließen();
 }
 
-std::pair<double, double> frmLegende::VorschauGröße(std::string_view) const { return {Breite, Höhe}; }
+std::pair<double, double> frmLegende::BildGröße(std::string_view) const { return {Breite, Höhe}; }
 
-void frmLegende::VorschauZeichnen(std::string_view, Zeichenfläche &f) {
+void frmLegende::BildZeichnen(std::string_view, Zeichenfläche &f) {
     const Werkbank &w = umgebung_.werkbank;
     Dokument muster = Musterfamilie();
     muster.LegendeQuer = (*this)["optQuer"].Value;

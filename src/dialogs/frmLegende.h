@@ -11,8 +11,8 @@ class frmLegende : public Formular {
     explicit frmLegende(Dialogumgebung &umgebung);
 
     void Laden() override;
-    void VorschauZeichnen(std::string_view name, Zeichenfläche &fläche) override;
-    std::pair<double, double> VorschauGröße(std::string_view name) const override;
+    void BildZeichnen(std::string_view name, Zeichenfläche &fläche) override;
+    std::pair<double, double> BildGröße(std::string_view name) const override;
 
   protected:
     void Geklickt(std::string_view name) override;

@@ -1,6 +1,6 @@
 #include "dialogs/frmPLinien.h"
 
-#include "dialogs/Vorschautext.h"
+#include "dialogs/Bildtext.h"
 #include "document/Felder.h"
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
@@ -63,7 +63,7 @@ frmPLinien::frmPLinien(Dialogumgebung &umgebung) : Formular("frmPLinien", ""), u
         Anlegen(stand.Datumsfeld, Art::Textfeld);
     }
     Anlegen("Check1", Art::Ankreuzfeld, deutsch ? "Distanziert" : "Distant");
-    Anlegen("Picture1", Art::Vorschau);
+    Anlegen("Picture1", Art::Bild);
     for (const auto *bild : {"imgLine", "imgStatus", "lblDatum"}) Anlegen(bild, Art::Beschriftung).Bei = "Picture1";
     Steuerelement &datum = (*this)["lblDatum"];
     datum.FontName = "Arial";
@@ -111,7 +111,7 @@ void frmPLinien::DatumZeigen() {
     Steuerelement &datum = (*this)["lblDatum"];
     Steuerelement &bild = (*this)["imgStatus"];
     datum.Caption = (*this)[Gewählt().Datumsfeld].Text;
-    datum.Width = Vorschaubreite(umgebung_.werkbank.picVorschau, datum);
+    datum.Width = Bildtextbreite(umgebung_.werkbank.picVorschau, datum);
     bild.Left = Breite / 2 - (bild.Width + datum.Width) / 2;
     datum.Left = bild.Left + bild.Width;
 }
@@ -141,10 +141,10 @@ void frmPLinien::Bestätigen() {
     Schließen();
 }
 
-std::pair<double, double> frmPLinien::VorschauGröße(std::string_view) const { return {Breite, Höhe}; }
+std::pair<double, double> frmPLinien::BildGröße(std::string_view) const { return {Breite, Höhe}; }
 
 /// The line as the page draws it, without a state; then the mark, at its own place.
-void frmPLinien::VorschauZeichnen(std::string_view, Zeichenfläche &f) {
+void frmPLinien::BildZeichnen(std::string_view, Zeichenfläche &f) {
     Werkbank &w = umgebung_.werkbank;
     Dokument muster;
     const auto z = [](double zahl) { return "_" + ZahlSchreiben(zahl); };

@@ -13,8 +13,8 @@ class frmPLinien : public Formular {
 
     void Laden() override;
     void Zeitgeber(std::string_view name) override;
-    void VorschauZeichnen(std::string_view name, Zeichenfläche &fläche) override;
-    std::pair<double, double> VorschauGröße(std::string_view name) const override;
+    void BildZeichnen(std::string_view name, Zeichenfläche &fläche) override;
+    std::pair<double, double> BildGröße(std::string_view name) const override;
     /// The separators of dates and fields can't be typed.
     bool TasteErlaubt(std::string_view name, std::string_view zeichen) const override;
 

@@ -82,7 +82,7 @@ frmSymbGlobal::frmSymbGlobal(Dialogumgebung &umgebung)
                     : "Here you determine how the age of the persons in the genogram should be displayed");
     for (const auto &wahl : Wahlen) Anlegen(wahl.Name, Art::Option, deutsch ? wahl.Deutsch : wahl.Englisch);
     Anlegen("lblVorschau", Art::Beschriftung, deutsch ? "Vorschau:" : "Preview:");
-    Anlegen("picAltersanzeige", Art::Vorschau);
+    Anlegen("picAltersanzeige", Art::Bild);
     for (const char *schild : {"Label3", "Label4"}) Anlegen(schild, Art::Beschriftung).Bei = "picAltersanzeige";
     Anlegen("cmdOK", Art::Knopf, "OK");
     Anlegen("cmdAbbrechen", Art::Knopf, deutsch ? "Abbrechen" : "Cancel");
@@ -129,9 +129,9 @@ void frmSymbGlobal::cmdOK_Click() {
     Schließen();
 }
 
-std::pair<double, double> frmSymbGlobal::VorschauGröße(std::string_view /*name*/) const { return {Breite, Höhe}; }
+std::pair<double, double> frmSymbGlobal::BildGröße(std::string_view /*name*/) const { return {Breite, Höhe}; }
 
-void frmSymbGlobal::VorschauZeichnen(std::string_view /*name*/, Zeichenfläche &f) {
+void frmSymbGlobal::BildZeichnen(std::string_view /*name*/, Zeichenfläche &f) {
     const int schema = umgebung_.werkbank.ansicht.Farbschema;
     f.FillStyle = Gefüllt;
     f.FillColor = SymbolFüllfarbe(schema);

@@ -1,6 +1,6 @@
 #include "dialogs/frmSymbol.h"
 
-#include "dialogs/SymbolVorschau.h"
+#include "dialogs/Personenbild.h"
 #include "editing/Loeschen.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
@@ -70,13 +70,13 @@ constexpr Bauteil Bauteile[] = {
     {"Label9", Art::Beschriftung, Gesicht::Institution, "Institution / Einrichtung / Behörde etc.",
      "Institution / Facility / Authority"},
     {"Label7", Art::Beschriftung, Gesicht::Beide, "Vorschau", "Preview"},
-    {"picBack", Art::Vorschau, Gesicht::Person},
+    {"picBack", Art::Bild, Gesicht::Person},
     {"lblVorname", Art::Beschriftung, Gesicht::Person},
     {"lblNachname", Art::Beschriftung, Gesicht::Person},
     {"lblAlter", Art::Beschriftung, Gesicht::Person},
     {"lblGebDat", Art::Beschriftung, Gesicht::Person},
     {"lblGestorben", Art::Beschriftung, Gesicht::Person},
-    {"picBack2", Art::Vorschau, Gesicht::Institution},
+    {"picBack2", Art::Bild, Gesicht::Institution},
     {"lblInstitution", Art::Beschriftung, Gesicht::Institution},
     {"cmdOK", Art::Knopf, Gesicht::Beide, "OK", "OK"},
     {"CancelButton", Art::Knopf, Gesicht::Beide, "Abbrechen", "Cancel"},
@@ -89,13 +89,13 @@ constexpr std::string_view Eigenschaften[] = {"chkIndexPerson",  "chkErkrankung"
                                               "txtGeburtsdatum", "txtAlter",      "txtSterbealter"};
 
 /// The labels of the pictures. Names are as bold as on the page.
-struct Vorschautext {
+struct Bildtext {
     std::string_view Name;
     std::string_view Bild;
     double Punkt;
     bool Fett;
 };
-constexpr Vorschautext Vorschautexte[] = {
+constexpr Bildtext Bildtexte[] = {
     {"lblVorname", "picBack", 8, true}, {"lblNachname", "picBack", 8, true},   {"lblAlter", "picBack", 11, false},
     {"lblGebDat", "picBack", 8, false}, {"lblGestorben", "picBack", 8, false}, {"lblInstitution", "picBack2", 8, true},
 };
@@ -131,10 +131,10 @@ frmSymbol::frmSymbol(Dialogumgebung &umgebung)
     for (const Bauteil &teil : Bauteile) Anlegen(teil.Name, teil.Kind, deutsch ? teil.Deutsch : teil.Englisch);
     for (const Symboltyp &typ : Symboltypen)
         Das("cboSymbol").Einträge.emplace_back(deutsch ? typ.Deutsch : typ.Englisch);
-    for (const Vorschautext &text : Vorschautexte) {
+    for (const Bildtext &text : Bildtexte) {
         Steuerelement &label = Das(text.Name);
         label.Bei = text.Bild;
-        label.Width = frmSymbol::VorschauGröße(text.Bild).first;
+        label.Width = frmSymbol::BildGröße(text.Bild).first;
         label.Alignment = 2;
         label.FontName = "Arial";
         label.FontSize = text.Punkt;
@@ -174,7 +174,7 @@ void frmSymbol::GesichtZeigen() {
     for (const Bauteil &teil : Bauteile) Das(teil.Name).Visible = teil.Auf != verborgen;
     // Label9 says the same as Label8: one of them is seen.
     for (const char *name : {"shpFalsch", "shpFalsch2", "Label5", "Label9", "lblGestorben"}) Das(name).Visible = false;
-    if (!institution_) VorschauOrdnen();
+    if (!institution_) BildOrdnen();
 }
 
 void frmSymbol::PersonLaden() {
@@ -236,7 +236,7 @@ void frmSymbol::Geklickt(std::string_view name) {
     if (name == "cmdLöschen") return Löschen();
     if (name == "cboSymbol") return TypGewählt();
     if (name == "chkVerstorben") return VerstorbenGewählt();
-    if (name.starts_with("chk")) VorschauOrdnen();
+    if (name.starts_with("chk")) BildOrdnen();
 }
 
 void frmSymbol::MausGedrückt(std::string_view name) {
@@ -256,7 +256,7 @@ void frmSymbol::FokusVerloren(std::string_view name) {
 /// Small kinds keep the values of their boxes, and OK writes them. Any other kind opens all boxes, that of the age
 /// at death of a living person too. Meant.
 void frmSymbol::TypGewählt() {
-    VorschauOrdnen();
+    BildOrdnen();
     const bool offen = Das("cboSymbol").ListIndex < ErsterKleiner;
     for (const auto name : Eigenschaften) {
         Das(name).Enabled = offen;
@@ -276,7 +276,7 @@ void frmSymbol::VerstorbenGewählt() {
     Steuerelement &sterbealter = Das("txtSterbealter"); // its text stays when the tick goes
     sterbealter.Enabled = sterbealter.Weiß = verstorben;
     Das("Label5").Visible = verstorben;
-    VorschauOrdnen();
+    BildOrdnen();
 }
 
 void frmSymbol::SterbealterGeändert() {
@@ -290,29 +290,29 @@ void frmSymbol::SterbealterGeändert() {
 // The preview.
 
 /// Puts the labels in their places; the picture itself is drawn whenever it is shown.
-void frmSymbol::VorschauOrdnen() {
+void frmSymbol::BildOrdnen() {
     const bool verstorben = Das("chkVerstorben").Value;
-    const VorschauZeilen zeilen = VorschauZeilenFür(umgebung_.werkbank.ansicht.Altersanzeige, verstorben);
+    const Bildzeilen zeilen = BildzeilenFür(umgebung_.werkbank.ansicht.Altersanzeige, verstorben);
     Das("lblVorname").Top = zeilen.Vorname;
     Das("lblNachname").Top = zeilen.Nachname;
     Das("lblGestorben").Top = zeilen.Gestorben;
     Das("lblGestorben").Visible = verstorben;
     for (const auto &[name, oben] : {std::pair{"lblAlter", zeilen.Alter}, std::pair{"lblGebDat", zeilen.GebDat}}) {
-        Das(name).Visible = oben != VorschauZeilen::Nirgends;
+        Das(name).Visible = oben != Bildzeilen::Nirgends;
         Das(name).Top = oben;
     }
     if (verstorben) Das("txtSterbealter").Enabled = true;
 }
 
-std::pair<double, double> frmSymbol::VorschauGröße(std::string_view name) const {
-    return name == "picBack2" ? InstitutionVorschauGröße() : PersonVorschauGröße();
+std::pair<double, double> frmSymbol::BildGröße(std::string_view name) const {
+    return name == "picBack2" ? InstitutionsbildGröße() : PersonenbildGröße();
 }
 
-void frmSymbol::VorschauZeichnen(std::string_view name, Zeichenfläche &fläche) {
-    if (name == "picBack2") return InstitutionVorschauZeichnen(fläche);
+void frmSymbol::BildZeichnen(std::string_view name, Zeichenfläche &fläche) {
+    if (name == "picBack2") return InstitutionsbildZeichnen(fläche);
     const Marken marken{Ja("chkIndexPerson"), Das("chkVerstorben").Value, Das("chkSucht").Value,
                         Das("chkErkrankung").Value};
-    PersonVorschauZeichnen(fläche, Symbolkennzahl(), marken, umgebung_.werkbank.ansicht.Farbschema);
+    PersonenbildZeichnen(fläche, Symbolkennzahl(), marken, umgebung_.werkbank.ansicht.Farbschema);
 }
 
 int frmSymbol::Symbolkennzahl() {

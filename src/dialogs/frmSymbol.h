@@ -15,8 +15,8 @@ class frmSymbol : public Formular {
     void Laden() override;
     void Entladen() override;
     void Zeitgeber(std::string_view name) override;
-    void VorschauZeichnen(std::string_view name, Zeichenfläche &fläche) override;
-    std::pair<double, double> VorschauGröße(std::string_view name) const override;
+    void BildZeichnen(std::string_view name, Zeichenfläche &fläche) override;
+    std::pair<double, double> BildGröße(std::string_view name) const override;
     bool TasteErlaubt(std::string_view name, std::string_view zeichen) const override;
 
   protected:
@@ -33,7 +33,7 @@ class frmSymbol : public Formular {
     void PersonLaden();
     void TypGewählt();
     void VerstorbenGewählt();
-    void VorschauOrdnen();
+    void BildOrdnen();
     void GeburtsdatumGeändert();
     void AlterGeändert();
     void SterbealterGeändert();

@@ -22,7 +22,7 @@ struct Probe : Formular {
         Anlegen("btn", Art::Umschalter, "F").Tip = "Fett";
         Anlegen("chk", Art::Ankreuzfeld, "Haken");
         for (const char *name : {"opt1", "opt2"}) Anlegen(name, Art::Option, name);
-        Anlegen("farbe", Art::Farbfeld), Anlegen("pic", Art::Vorschau);
+        Anlegen("farbe", Art::Farbfeld), Anlegen("pic", Art::Bild);
         Anlegen("Frame1", Art::Rahmen, "Rahmen");
         for (const char *name : {"cmdOK", "cmdNein"}) Anlegen(name, Art::Knopf, name);
         Vorgabeknopf = "cmdOK";

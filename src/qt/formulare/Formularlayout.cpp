@@ -97,7 +97,7 @@ QHBoxLayout *Nebeneinander(std::initializer_list<QWidget *> teile) {
 }
 
 /// A preview below its title.
-QVBoxLayout *Vorschauspalte(Baukasten &k, std::string_view schild, std::string_view bild) {
+QVBoxLayout *Bildspalte(Baukasten &k, std::string_view schild, std::string_view bild) {
     auto *spalte = new QVBoxLayout;
     spalte->setSpacing(Zeilenabstand / 2);
     spalte->addWidget(k.Schild(schild, bild));
@@ -150,7 +150,7 @@ void SymbolStellen(Baukasten &k, QBoxLayout &spalte) {
     seite->addLayout(tafel, 1);
     if (person) PersonStellen(k, *tafel);
     else InstitutionStellen(k, *tafel);
-    seite->addLayout(Vorschauspalte(k, "Label7", person ? "picBack" : "picBack2"));
+    seite->addLayout(Bildspalte(k, "Label7", person ? "picBack" : "picBack2"));
     spalte.addLayout(seite);
 }
 
@@ -274,7 +274,7 @@ void SymbGlobalStellen(Baukasten &k, QBoxLayout &spalte) {
     for (int i = 0; i < 3; ++i) wahl->addWidget(k.Teil("optAltersanzeige(" + std::to_string(i) + ")"));
     wahl->addStretch();
     seite->addLayout(wahl, 1);
-    seite->addLayout(Vorschauspalte(k, "lblVorschau", "picAltersanzeige"));
+    seite->addLayout(Bildspalte(k, "lblVorschau", "picAltersanzeige"));
     spalte.addLayout(seite);
 }
 

@@ -1,6 +1,6 @@
 #include "qt/formulare/Formularteile.h"
 
-#include "qt/formulare/Formularvorschau.h"
+#include "qt/formulare/Formularbild.h"
 #include "qt/formulare/Zeichenknopf.h"
 #include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
@@ -177,7 +177,7 @@ QWidget *TeilBauen(Formular &form, const std::string &name, const Formularmelder
         return KnopfBauen(knopf, name, melder);
     }
     case Art::Farbfeld: return KnopfBauen(new Farbplatte(eltern), name, melder);
-    case Art::Vorschau: return new Formularvorschau(form, name, eltern);
+    case Art::Bild: return new Formularbild(form, name, eltern);
     case Art::Rahmen: return new QGroupBox(eltern);
     case Art::Warnrahmen: break;
     }
@@ -203,7 +203,7 @@ void TeilZeigen(QWidget &teil, const Steuerelement &element) {
     if (auto *block = dynamic_cast<QTextEdit *>(&teil)) BlockZeigen(*block, element);
     if (auto *liste = dynamic_cast<QComboBox *>(&teil)) ListeZeigen(*liste, element);
     if (auto *platte = dynamic_cast<Farbplatte *>(&teil)) platte->FarbeZeigen(AlsFarbe(element.Farbwert));
-    if (auto *vorschau = dynamic_cast<Formularvorschau *>(&teil)) vorschau->Auffrischen();
+    if (auto *bild = dynamic_cast<Formularbild *>(&teil)) bild->Auffrischen();
 }
 
 QLineEdit *Eingabezeile(QWidget &teil) {

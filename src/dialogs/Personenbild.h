@@ -9,15 +9,15 @@
 namespace kw {
 
 /// Width and height of a person's picture, and of an institution's.
-std::pair<double, double> PersonVorschauGröße();
-std::pair<double, double> InstitutionVorschauGröße();
+std::pair<double, double> PersonenbildGröße();
+std::pair<double, double> InstitutionsbildGröße();
 
 /// Draws the symbol of `kennzahl` with its marks; one without a symbol draws nothing.
-void PersonVorschauZeichnen(Zeichenfläche &fläche, int kennzahl, const Marken &marken, int farbschema);
-void InstitutionVorschauZeichnen(Zeichenfläche &fläche);
+void PersonenbildZeichnen(Zeichenfläche &fläche, int kennzahl, const Marken &marken, int farbschema);
+void InstitutionsbildZeichnen(Zeichenfläche &fläche);
 
 /// Where the labels of a person's picture begin.
-struct VorschauZeilen {
+struct Bildzeilen {
     static constexpr double Nirgends = -1; ///< not shown
 
     double Vorname, Nachname;
@@ -25,7 +25,7 @@ struct VorschauZeilen {
     double GebDat = Nirgends;
     double Gestorben; ///< shown when deceased
 };
-VorschauZeilen VorschauZeilenFür(int altersanzeige, bool verstorben);
+Bildzeilen BildzeilenFür(int altersanzeige, bool verstorben);
 /// Where the name of an institution begins.
 double InstitutionZeile();
 

@@ -1,10 +1,10 @@
-#include "dialogs/Vorschautext.h"
+#include "dialogs/Bildtext.h"
 
 #include <utility>
 
 namespace kw {
 
-double Vorschaubreite(Zeichenfläche &f, const Steuerelement &label) {
+double Bildtextbreite(Zeichenfläche &f, const Steuerelement &label) {
     const std::string name = std::exchange(f.FontName, label.FontName);
     const double größe = std::exchange(f.FontSize, label.FontSize * f.Faktor());
     const bool fett = std::exchange(f.FontBold, label.FontBold);

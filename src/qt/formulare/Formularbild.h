@@ -10,10 +10,10 @@ namespace kw {
 
 /// A preview of a form: what the form draws, on page-white ground whatever the theme, and the labels that stand
 /// in it. Sharp at every device pixel ratio; larger than life where the user's font is.
-class Formularvorschau : public QWidget {
+class Formularbild : public QWidget {
   public:
     /// `form` outlives the widget.
-    Formularvorschau(Formular &form, std::string name, QWidget *eltern);
+    Formularbild(Formular &form, std::string name, QWidget *eltern);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

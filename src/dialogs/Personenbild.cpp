@@ -1,4 +1,4 @@
-#include "dialogs/SymbolVorschau.h"
+#include "dialogs/Personenbild.h"
 
 namespace kw {
 
@@ -30,24 +30,24 @@ void Zeichnen(Zeichenfläche &f, int kennzahl, double x, double y, double größ
 
 } // namespace
 
-std::pair<double, double> PersonVorschauGröße() { return {Breite, Höhe}; }
+std::pair<double, double> PersonenbildGröße() { return {Breite, Höhe}; }
 
-std::pair<double, double> InstitutionVorschauGröße() { return {2 * InstitutionMitte, 3 * HausY}; }
+std::pair<double, double> InstitutionsbildGröße() { return {2 * InstitutionMitte, 3 * HausY}; }
 
-void PersonVorschauZeichnen(Zeichenfläche &f, int kennzahl, const Marken &marken, int farbschema) {
+void PersonenbildZeichnen(Zeichenfläche &f, int kennzahl, const Marken &marken, int farbschema) {
     constexpr int Schwangerschaft = 3;
     const double größe = kennzahl == Schwangerschaft ? SchwangerschaftGröße : Größe;
     Zeichnen(f, kennzahl, MitteX, MitteY, größe, marken, farbschema);
 }
 
-void InstitutionVorschauZeichnen(Zeichenfläche &f) {
+void InstitutionsbildZeichnen(Zeichenfläche &f) {
     constexpr int Institution = 9;
     Zeichnen(f, Institution, HausX, HausY, HausGröße, {}, SchemaSchwarzWeiß);
 }
 
-VorschauZeilen VorschauZeilenFür(int altersanzeige, bool verstorben) {
+Bildzeilen BildzeilenFür(int altersanzeige, bool verstorben) {
     constexpr double Vorname = MitteY + Größe / 2 + NamenAbstand;
-    VorschauZeilen zeilen{.Vorname = Vorname, .Nachname = Vorname + ZeilenAbstand, .Gestorben = MitteY + 0.04};
+    Bildzeilen zeilen{.Vorname = Vorname, .Nachname = Vorname + ZeilenAbstand, .Gestorben = MitteY + 0.04};
     if (verstorben) {
         zeilen.GebDat = MitteY - 0.32;
     } else if (altersanzeige == 0) {

@@ -1,4 +1,4 @@
-#include "qt/formulare/Formularvorschau.h"
+#include "qt/formulare/Formularbild.h"
 
 #include "qt/grund/Text.h"
 #include "qt/malen/QtFlaeche.h"
@@ -41,19 +41,19 @@ void Schreiben(Zeichenfläche &fläche, const Steuerelement &label) {
 
 } // namespace
 
-Formularvorschau::Formularvorschau(Formular &form, std::string name, QWidget *eltern)
+Formularbild::Formularbild(Formular &form, std::string name, QWidget *eltern)
     : QWidget(eltern), form_(form), name_(std::move(name)) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
-QSize Formularvorschau::sizeHint() const {
-    const auto [breite, höhe] = form_.VorschauGröße(name_);
+QSize Formularbild::sizeHint() const {
+    const auto [breite, höhe] = form_.BildGröße(name_);
     const double jeEinheit = BildschirmPixelJeCm * std::max(1.0, QFontMetricsF(font()).height() / GewohnteZeile);
     return {static_cast<int>(std::ceil(breite * jeEinheit)) + 2 * Rand,
             static_cast<int>(std::ceil(höhe * jeEinheit)) + 2 * Rand};
 }
 
-void Formularvorschau::Auffrischen() {
+void Formularbild::Auffrischen() {
     QStringList texte; // whoever can't see the picture hears what is written in it
     for (const auto &name : form_.Reihenfolge()) {
         const Steuerelement &element = *form_.Finden(name);
@@ -64,12 +64,12 @@ void Formularvorschau::Auffrischen() {
     update();
 }
 
-void Formularvorschau::paintEvent(QPaintEvent *) {
+void Formularbild::paintEvent(QPaintEvent *) {
     QPainter p(this);
     p.fillRect(rect(), Randfarbe);
     const QRect innen = rect().adjusted(Rand, Rand, -Rand, -Rand);
     p.fillRect(innen, Qt::white);
-    const auto [breite, höhe] = form_.VorschauGröße(name_);
+    const auto [breite, höhe] = form_.BildGröße(name_);
     const double jeEinheit = std::min(innen.width() / breite, innen.height() / höhe);
     const double verhältnis = devicePixelRatioF();
     const auto pixel = [&](double einheiten) {
@@ -86,8 +86,8 @@ void Formularvorschau::paintEvent(QPaintEvent *) {
                 bild);
 }
 
-QImage Formularvorschau::Gezeichnet(QSize pixel, double pixelJeEinheit, double verhältnis) {
-    const auto [breite, höhe] = form_.VorschauGröße(name_);
+QImage Formularbild::Gezeichnet(QSize pixel, double pixelJeEinheit, double verhältnis) {
+    const auto [breite, höhe] = form_.BildGröße(name_);
     QImage bild(pixel, QImage::Format_RGB32);
     bild.fill(Qt::white);
     QtFläche fläche;
@@ -96,14 +96,14 @@ QImage Formularvorschau::Gezeichnet(QSize pixel, double pixelJeEinheit, double v
                        static_cast<int>(std::lround(höhe * pixelJeEinheit * TwipsJePixel)));
     fläche.Scale(breite, höhe, pixelJeEinheit / BildschirmPixelJeCm);
     if (fläche.Beginnen(bild, pixelJeEinheit * verhältnis, pixelJeEinheit)) {
-        form_.VorschauZeichnen(name_, fläche);
+        form_.BildZeichnen(name_, fläche);
         BeschriftungenZeichnen(fläche);
     }
     fläche.Beenden();
     return bild;
 }
 
-void Formularvorschau::BeschriftungenZeichnen(Zeichenfläche &fläche) const {
+void Formularbild::BeschriftungenZeichnen(Zeichenfläche &fläche) const {
     for (const auto &name : form_.Reihenfolge()) {
         const Steuerelement &element = *form_.Finden(name);
         if (element.Kind == Art::Beschriftung && element.Bei == name_ && element.Visible) Schreiben(fläche, element);
