@@ -24,7 +24,7 @@ std::string Ergebnis(const std::string &text, const FesteUhr &uhr = {}) {
 
 } // namespace
 
-TEST(Altersberechnung, textWirdAlterUndJahr) {
+TEST(Altersberechnung, TextWirdAlterUndJahr) {
     struct Fall {
         const char *Text, *Erwartet;
     };
@@ -43,7 +43,7 @@ TEST(Altersberechnung, textWirdAlterUndJahr) {
     }
 }
 
-TEST(Altersberechnung, geburtstagZähltAmTagSelbst) {
+TEST(Altersberechnung, GeburtstagZähltAmTagSelbst) {
     FesteUhr uhr;
     uhr.Tag = {2026, 3, 11};
     EXPECT_EQ(Ergebnis("12.03.1975", uhr), "50|1975|");
@@ -58,7 +58,7 @@ TEST(Altersberechnung, geburtstagZähltAmTagSelbst) {
     EXPECT_EQ(Ergebnis("1950", uhr), "76|1950|");
 }
 
-TEST(Altersberechnung, wasEinAufrufStehenLässt) {
+TEST(Altersberechnung, WasEinAufrufStehenLässt) {
     const FesteUhr uhr;
     Altersberechnung alter(uhr);
     alter.AlterAusDatum("12.03.1975");
@@ -75,7 +75,7 @@ TEST(Altersberechnung, wasEinAufrufStehenLässt) {
     EXPECT_EQ(alter.strGebDatumText, "01-01-1950");
 }
 
-TEST(Altersberechnung, datumInDerFolgeDesGebiets) {
+TEST(Altersberechnung, DatumInDerFolgeDesGebiets) {
     struct Fall {
         const char *Text;
         Datumsfolge Folge;

@@ -9,7 +9,7 @@
 
 using namespace kw;
 
-TEST(Zahlen, lesenEndetVorDemErstenFremdenZeichen) {
+TEST(Zahlen, LesenEndetVorDemErstenFremdenZeichen) {
     const std::pair<const char *, double> fälle[] = {
         {"", 0},    {"  4.25cm", 4.25}, {"-.5", -0.5}, {"+7", 7},  {"12.03.1975", 12.03},
         {"1e5", 1}, {"1,5", 1},         {"0x10", 0},   {"-", 0},   {".", 0},
@@ -22,7 +22,7 @@ TEST(Zahlen, lesenEndetVorDemErstenFremdenZeichen) {
     EXPECT_EQ(ZahlLesen("0." + std::string(5000, '0') + "1"), 0);
 }
 
-TEST(Zahlen, schreibenGibtSiebenStellenOhneExponent) {
+TEST(Zahlen, SchreibenGibtSiebenStellenOhneExponent) {
     struct Fall {
         double Wert;
         const char *Text;
@@ -40,7 +40,7 @@ TEST(Zahlen, schreibenGibtSiebenStellenOhneExponent) {
     }
 }
 
-TEST(Zahlen, rundenGehtZumGeradenNachbarn) {
+TEST(Zahlen, RundenGehtZumGeradenNachbarn) {
     EXPECT_EQ(Gerundet(0.125, 2), 0.12);
     EXPECT_EQ(Gerundet(0.375, 2), 0.38);
     EXPECT_EQ(Gerundet(-2.5, 0), -2);
@@ -51,7 +51,7 @@ TEST(Zahlen, rundenGehtZumGeradenNachbarn) {
     EXPECT_EQ(Dreistellig(7) + Dreistellig(42) + Dreistellig(1000), "0070421000");
 }
 
-TEST(Dateien, einDatumIstKeineKennung) {
+TEST(Dateien, EinDatumIstKeineKennung) {
     EXPECT_EQ(MitKennung("/a.b/Berg 3.11.2026", "kwp", false), "/a.b/Berg 3.11.2026.kwp");
     EXPECT_EQ(MitKennung("Berg.KWP", "kwp", false), "Berg.KWP");
     EXPECT_EQ(MitKennung("Berg.jun", "kwp", false), "Berg.jun.kwp");
@@ -61,7 +61,7 @@ TEST(Dateien, einDatumIstKeineKennung) {
         EXPECT_EQ(MitKennung(ohne, "bmp", true), std::string(ohne) + ".bmp");
 }
 
-TEST(Codepage, jedesByteÜbersteht) {
+TEST(Codepage, JedesByteÜbersteht) {
     std::string alle;
     for (int byte = 0; byte < 256; ++byte) alle += static_cast<char>(byte);
     EXPECT_EQ(NachCodepage(NachUtf8(alle)), alle);
@@ -71,7 +71,7 @@ TEST(Codepage, jedesByteÜbersteht) {
     EXPECT_EQ(NachCodepage("\xC2\x80"), "?") << "byte 80 is the euro";
 }
 
-TEST(Dokument, freieNummernEndenBeimLetztenSatz) {
+TEST(Dokument, FreieNummernEndenBeimLetztenSatz) {
     Dokument d;
     d.lstGelöschtePersNr = {"009"};
     d.lstGelöschtePLinien = {"009"};

@@ -73,7 +73,7 @@ class AufgenommenesProfil : public testing::TestWithParam<Aufnahme> {};
 
 } // namespace
 
-TEST_P(AufgenommenesProfil, antwortetWieAufgenommen) {
+TEST_P(AufgenommenesProfil, AntwortetWieAufgenommen) {
     const auto &fall = GetParam();
     const auto pfad =
         std::filesystem::temp_directory_path() / ("kw-profil-" + fall.Name + "-" + std::to_string(::getpid()) + ".ini");
@@ -91,7 +91,7 @@ TEST_P(AufgenommenesProfil, antwortetWieAufgenommen) {
 INSTANTIATE_TEST_SUITE_P(Alle, AufgenommenesProfil, testing::ValuesIn(Aufnahmen()),
                          [](const auto &fall) { return fall.param.Name; });
 
-TEST(Profil, wasDerLesepufferNichtFasstWirdAbgeschnitten) {
+TEST(Profil, WasDerLesepufferNichtFasstWirdAbgeschnitten) {
     ASSERT_EQ(Aufnahmen().size(), 24U); // a data file that is not found must not pass as an empty one
     Profil profil;
     std::string linie;
@@ -119,7 +119,7 @@ TEST(Profil, wasDerLesepufferNichtFasstWirdAbgeschnitten) {
     EXPECT_EQ(profil.Lesen("OBJECTS", "1099"), "x");
 }
 
-TEST(Profil, liestWieDieAufrufeDesSystems) {
+TEST(Profil, LiestWieDieAufrufeDesSystems) {
     const Profil profil(
         "vorn=1\r\n[Eins]\r\na = \"x\" \rb='y'\nc=\"\nd=\"z'\ne=' '\n[Eins\nf=1\n[ eins ]\ng=2\n[ZWEI]]\n0=n\0l\n"s);
     EXPECT_EQ(profil.Lesen("eins", "A"), "x") << "a lone CR ends a line too";
@@ -134,7 +134,7 @@ TEST(Profil, liestWieDieAufrufeDesSystems) {
     EXPECT_EQ(profil.Lesen("", "vorn"), "") << "what stands before the first header is in no section";
 }
 
-TEST(Profil, schreibtAnOrtUndStelleUndBehältFremdes) {
+TEST(Profil, SchreibtAnOrtUndStelleUndBehältFremdes) {
     Profil profil(
         NachCodepage("; Kopf\n\n; noch einer\n[A]\n Größe = 1\n;alt\n\n[B]\n0=b\n[a]\n9=alt\n[C]\nkein Schlüssel\n"));
     profil.Schreiben("a", "GRÖSSE", "fremd");
@@ -155,7 +155,7 @@ TEST(Profil, schreibtAnOrtUndStelleUndBehältFremdes) {
     EXPECT_EQ(Profil(profil.Inhalt()).SchlüsselListe("a"), "0\0"s);
 }
 
-TEST(Profil, ersetztKeineDateiDieSichNichtLesenLässt) {
+TEST(Profil, ErsetztKeineDateiDieSichNichtLesenLässt) {
     const std::string pfad = std::filesystem::temp_directory_path() / ("kw-zu-gross-" + std::to_string(::getpid()));
     std::ofstream(pfad) << "[A]\n";
     std::filesystem::resize_file(pfad, GrößteDatei + 1);

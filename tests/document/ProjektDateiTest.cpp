@@ -50,7 +50,7 @@ std::string Geladen(const std::string &datei, Dokument &d) {
 
 } // namespace
 
-TEST(ProjektDatei, schreibtUndLiestAlleSpeicher) {
+TEST(ProjektDatei, SchreibtUndLiestAlleSpeicher) {
     Profil neu;
     ProjektEintragen(Beispiel(), neu);
     EXPECT_EQ(NachUtf8(neu.Inhalt()), BeispielDatei);
@@ -72,7 +72,7 @@ TEST(ProjektDatei, schreibtUndLiestAlleSpeicher) {
     EXPECT_EQ(NachUtf8(noch.Inhalt()), BeispielDatei) << "a file of our own comes back byte for byte";
 }
 
-TEST(ProjektDatei, ersetztNurWasIhmGehört) {
+TEST(ProjektDatei, ErsetztNurWasIhmGehört) {
     Profil profil("[OBJECTS]\n0=alt\n1=alt\n[Fremd]\nx=1\n[DEFAULT]\nlegende=alt\neigenes=ja\n[LINEA]\n0=alt\n[objects]"
                   "\n7=alt\n");
     Dokument d;
@@ -84,7 +84,7 @@ TEST(ProjektDatei, ersetztNurWasIhmGehört) {
                                "papersize=9\r\n[OBJECTS]\r\n0=001_1____________\r\n");
 }
 
-TEST(ProjektDatei, liestPapierUndLage) {
+TEST(ProjektDatei, LiestPapierUndLage) {
     struct Fall {
         std::string Datei;
         int Papiercode, Seitenlage;
@@ -100,7 +100,7 @@ TEST(ProjektDatei, liestPapierUndLage) {
     }
 }
 
-TEST(ProjektDatei, einKurzerSatzBeendetDasLaden) {
+TEST(ProjektDatei, EinKurzerSatzBeendetDasLaden) {
     Dokument d = Beispiel();
     EXPECT_EQ(Geladen("[DEFAULT]\nlegende=1_9_9_1_1\n[OBJECTS]\n0=" + Person + "\n1=002_1_4\n2=" + Person +
                           "\n[LINEE]\n0=1_1_2_3_4\n",
@@ -116,7 +116,7 @@ TEST(ProjektDatei, einKurzerSatzBeendetDasLaden) {
     EXPECT_EQ(d.cboPfeile, (Satzliste{"1_1_2_3_4", ""}));
 }
 
-TEST(ProjektDatei, ohneLegendeBleibtWasWar) {
+TEST(ProjektDatei, OhneLegendeBleibtWasWar) {
     Dokument d;
     const Profil alte("[OBJECTS]\n0=" + Person + "\n");
     EXPECT_THROW(LegendeLesen(alte, d), FeldFehlt);
@@ -126,7 +126,7 @@ TEST(ProjektDatei, ohneLegendeBleibtWasWar) {
     EXPECT_FALSE(d.LegendeSichtbar);
 }
 
-TEST(ProjektDatei, prüfungNenntWasFehlt) {
+TEST(ProjektDatei, PrüfungNenntWasFehlt) {
     Dokument d;
     EXPECT_EQ(Geladen("", d), "not a Kinwright project");
     EXPECT_EQ(Geladen("[settings]\nlanguage=de\n", d), "not a Kinwright project");

@@ -42,7 +42,7 @@ void EnthältAlle(const QString &text, std::initializer_list<const char *> worte
 
 } // namespace
 
-TEST_F(Ausgabe, PicturesHaveThePagesSizeAndSayTheirResolution) {
+TEST_F(Ausgabe, BilderHabenDieGrößeDerSeiteUndIhreAuflösung) {
     for (const char *name : {"a.png", "a.JPG", "a.jpeg", "a.Bmp"}) {
         EXPECT_EQ(Fehler(name), "");
         const QImage gelesen(Ort(name));
@@ -55,7 +55,7 @@ TEST_F(Ausgabe, PicturesHaveThePagesSizeAndSayTheirResolution) {
     }
 }
 
-TEST_F(Ausgabe, PdfHasThePaperTheFontsAndTheText) {
+TEST_F(Ausgabe, PdfHatPapierSchriftenUndText) {
     const std::tuple<int, int, const char *> seiten[] = {
         {9, 2, "842 x 595 pts"}, {9, 1, "595 x 842 pts"}, {11, 1, "420 x 595 pts"}, {1, 2, "792 x 612 pts"}};
     for (const auto &[papier, lage, größe] : seiten) {
@@ -71,7 +71,7 @@ TEST_F(Ausgabe, PdfHasThePaperTheFontsAndTheText) {
     EnthältAlle(Ausgegeben("pdftotext", {Ort("a.pdf"), QStringLiteral("-")}), {"Jörg", "Größmann", "Öl & <Käse>"});
 }
 
-TEST_F(Ausgabe, SvgIsWholeWhateverTheTextsHold) {
+TEST_F(Ausgabe, SvgIstGanzWasAuchInTextenSteht) {
     std::string inhalt;
     EXPECT_EQ(Fehler("a.svg"), "");
     EXPECT_TRUE(DateiLesen(Ort("a.svg").toStdString(), inhalt).Gelungen());
@@ -83,7 +83,7 @@ TEST_F(Ausgabe, SvgIsWholeWhateverTheTextsHold) {
     EnthältAlle(texte, {"Größmann", "Öl & <Käse>", "]]>"});
 }
 
-TEST_F(Ausgabe, WhatCannotBeWrittenIsToldAndLeavesNothing) {
+TEST_F(Ausgabe, WasSichNichtSchreibenLässtWirdGesagtUndLässtNichtsZurück) {
     QDir(ordner.path()).mkdir(QStringLiteral("ordner.pdf"));
     ASSERT_TRUE(DateiSchreiben(Ort("fest.pdf").toStdString(), "alt").Gelungen());
     ASSERT_EQ(::chmod(Ort("fest.pdf").toUtf8().constData(), 0444), 0);

@@ -45,7 +45,7 @@ class EingebauterDrucker : public testing::Test {
 
 } // namespace
 
-TEST_F(EingebauterDrucker, IsNeverTheDefaultAndWritesWholeFilesOnly) {
+TEST_F(EingebauterDrucker, IstNieDieVorgabeUndSchreibtNurGanzeDateien) {
     qputenv("CUPS_SERVER", "localhost:1"); // nobody is there
     EXPECT_EQ(drucker.DeviceNames(), std::vector<std::string>{std::string(PdfDruckerName)});
     EXPECT_FALSE(drucker.DeviceName());
@@ -64,7 +64,7 @@ TEST_F(EingebauterDrucker, IsNeverTheDefaultAndWritesWholeFilesOnly) {
     qunsetenv("CUPS_SERVER");
 }
 
-TEST_F(EingebauterDrucker, ItsSheetIsThePageInTrueSize) {
+TEST_F(EingebauterDrucker, SeinBlattIstDieSeiteInWahrerGröße) {
     drucker.Wählen(PdfDruckerName);
     ziel = Ort("a.pdf").toStdString();
     const std::tuple<int, int, bool, const char *> seiten[] = {{11, 1, false, "420 x 595 pts"},
@@ -89,14 +89,14 @@ TEST_F(EingebauterDrucker, ItsSheetIsThePageInTrueSize) {
 }
 
 /// What scripts/print-proof runs; it looks at the sheet itself.
-TEST_F(EingebauterDrucker, DISABLED_OnAQueue) {
+TEST_F(EingebauterDrucker, DISABLED_AufEinerWarteschlange) {
     EXPECT_TRUE(drucker.Wählen(qgetenv("KW_QUEUE").toStdString()));
     const int lage = qEnvironmentVariableIntValue("KW_LIE");
     drucker.OrientationSetzen(lage);
     Drucken(9, lage, qEnvironmentVariableIntValue("KW_COLOUR") != 0);
 }
 
-TEST(Druckerauskunft, ASilentServerDoesNotHoldTheWindow) {
+TEST(Druckerauskunft, EinStummerServerHältDasFensterNicht) {
     const int stumm = ::socket(AF_INET, SOCK_STREAM, 0); // takes connections and says nothing
     sockaddr_in ort{};
     socklen_t länge = sizeof ort;

@@ -114,7 +114,7 @@ void Vergleichen(const std::vector<double> &soll, const std::vector<double> &ist
 
 } // namespace
 
-TEST(QtFläche, TextIsAsWideOnEveryScreenOnPaperAndInAPdf) {
+TEST(QtFläche, TextIstÜberallGleichBreit) {
     for (const double größe : {6, 7, 8, 11, 14, 24}) {
         QImage papier = LeeresBild(DruckPixel);
         Papier druck(papier, DruckPixel);
@@ -134,7 +134,7 @@ TEST(QtFläche, TextIsAsWideOnEveryScreenOnPaperAndInAPdf) {
     }
 }
 
-TEST(QtFläche, StraightLinesAreSharpAndMeetPolygonsAndBoxes) {
+TEST(QtFläche, GeradeLinienSindScharfUndTreffenFlächen) {
     const std::pair<double, int> pixelBeiVerhältnis[] = {{1, 1}, {1.25, 1}, {1.5, 2}, {2, 2}};
     for (const auto &[verhältnis, pixel] : pixelBeiVerhältnis)
         for (const double x : {3.0, 4.217, 5.5}) {
@@ -158,7 +158,7 @@ TEST(QtFläche, StraightLinesAreSharpAndMeetPolygonsAndBoxes) {
         }
 }
 
-TEST(QtFläche, PrintedLinesHaveTheirRealWidthAndPlace) {
+TEST(QtFläche, GedruckteLinienHabenBreiteUndOrt) {
     for (const double k : {DruckPixel, 96 / 2.54}) {
         QImage bild = LeeresBild(k);
         Papier f(bild, k);
@@ -172,7 +172,7 @@ TEST(QtFläche, PrintedLinesHaveTheirRealWidthAndPlace) {
     }
 }
 
-TEST(QtFläche, OpaqueTextBlotsOutWhatIsBehindIt) {
+TEST(QtFläche, DeckenderTextLöschtWasDahinterLiegt) {
     for (const bool durchsichtig : {false, true}) {
         Leinwand f(1);
         f.DrawWidth = 5;
@@ -187,7 +187,7 @@ TEST(QtFläche, OpaqueTextBlotsOutWhatIsBehindIt) {
 }
 
 /// Records from elsewhere hold anything. Whatever it is, a page is drawn.
-TEST(QtFläche, AbsurdValuesAndTextsDoNoHarm) {
+TEST(QtFläche, UnsinnigeWerteUndTexteSchadenNicht) {
     Leinwand f(1);
     constexpr double Unendlich = std::numeric_limits<double>::infinity();
     for (const double u : {std::nan(""), Unendlich, -Unendlich, 1e300, -1e300, 1e9, -1000.0, 31000.0, 0.0}) {
