@@ -1,3 +1,4 @@
+#include "commands/Menuetafel.h"
 #include "document/Zahlen.h"
 #include "replay/Skriptbefehle.h"
 
@@ -121,6 +122,13 @@ void Zeichnen(Wiedergabe &lauf, const Wörter &w) {
     lauf.aus << (w.size() > 1 ? DruckText(p.haupt) : VorschauText(p));
 }
 
+/// Every row of the commands' table, as its name and its first caption in that language.
+void Beschriftungen(std::ostream &aus, const std::string &sprache) {
+    if (sprache != "de" && sprache != "en") throw Skriptfehler("unknown language: " + sprache);
+    for (const Menüzeile &zeile : Menütafel())
+        aus << zeile.Name << " " << (sprache == "de" ? zeile.Deutsch : zeile.Englisch) << "\n";
+}
+
 constexpr Skriptbefehl Tabelle[] = {
     {"load", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt.projekt.Öffnen(Ab(w, 1)); }},
     {"save", [](auto &lauf, auto &w, auto &) { Speichern(lauf.Läuft().haupt.projekt, Ab(w, 1)); }},
@@ -129,6 +137,8 @@ constexpr Skriptbefehl Tabelle[] = {
     {"print", [](auto &lauf, auto &w, auto &) { Drucken(lauf, w); }},
     {"expect", [](auto &lauf, auto &, auto &zeile) { Erwarten(lauf, zeile); }},
     {"draw", [](auto &lauf, auto &w, auto &) { Zeichnen(lauf, w); }},
+    {"say", [](auto &lauf, auto &w, auto &) { lauf.aus << Ab(w, 1) << "\n"; }},
+    {"captions", [](auto &lauf, auto &w, auto &) { Beschriftungen(lauf.aus, Wort(w, 1)); }},
 };
 
 } // namespace

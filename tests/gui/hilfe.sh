@@ -7,11 +7,10 @@ folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 failed=0
 fault() { echo "$*"; failed=1; }
-# "captions 0" the German, "captions 2" the English ones, as menus show them; what comes behind a colon is a printer.
+# "captions de|en": as menus show them; what comes behind a colon is a printer.
 captions() {
-    sed -n '/ Tafel\[\]/,/^};/p' "$KW_SRC/src/commands/Menuetafel.cpp" | tr '\n' ' ' | sed 's/{"/\n{"/g' |
-        awk -F'"' -v offset="$1" '/^{"/ { german = $3 ~ /[a-z]/ ? 4 : 6; print $(german + offset) }' |
-        sed 's/&//g; s/^ *//; s/  .*//; s/: *$//; s/ *$//' | grep '[[:alpha:]]' | sort -u
+    echo "captions $1" | "$KW_REPLAY" | sed 's/^[^ ]* //; s/&//g; s/^ *//; s/  .*//; s/: *$//; s/ *$//' |
+        grep '[[:alpha:]]' | sort -u
 }
 
 for page in "$help"/*/index.htm; do
@@ -28,7 +27,7 @@ for page in "$help"/*/index.htm; do
     done <"$folder/links"
     grep -oE ' id="[^"]*"' "$page" | sort | uniq -d | grep . && fault "$page: anchors stand twice"
     grep -oE '<b>[^<]*</b>' "$folder/page" | sed 's/&gt;/>/g; s/&amp;/\&/g; s/  */ /g' >"$folder/bold"
-    captions "$([ "$language" = de ] && echo 0 || echo 2)" >"$folder/captions"
+    captions "$language" >"$folder/captions"
     [ "$(wc -l <"$folder/captions")" -gt 80 ] || fault "the table's captions were not found"
     while read -r caption; do
         grep -qF "<b>$caption</b>" "$folder/bold" || fault "$page: does not tell of \"$caption\""
