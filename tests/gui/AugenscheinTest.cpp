@@ -1,0 +1,200 @@
+// Every form and the window as they come up, in both languages and at three sizes of letters: what a user couldn't
+// read or reach is found here.
+#include "document/Dateien.h"
+#include "qt/Formularfenster.h"
+#include "qt/Hauptfenster.h"
+#include "replay/Skript.h"
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTimer>
+#include <QTimerEvent>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <optional>
+#include <set>
+#include <sstream>
+
+using namespace kw;
+
+namespace {
+
+/// Whether more is to be seen than a ground with a frame round it.
+bool ZeigtEtwas(QWidget &teil) {
+    const QImage bild = teil.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    constexpr int Rand = 2;
+    for (int y = Rand; y < bild.height() - Rand; ++y)
+        for (int x = Rand; x < bild.width() - Rand; ++x)
+            if (bild.pixel(x, y) != bild.pixel(Rand, Rand)) return true;
+    return false;
+}
+
+/// The room that a widget needs for what it says.
+QSize Bedarf(const QWidget &teil) {
+    const auto *schild = dynamic_cast<const QLabel *>(&teil);
+    if (schild && schild->wordWrap()) return {schild->minimumSizeHint().width(), schild->heightForWidth(teil.width())};
+    const bool spricht = schild || dynamic_cast<const QAbstractButton *>(&teil);
+    constexpr QSize Luft(0, 1); // the status bar is as high as was reckoned before its letters were known
+    return (spricht ? teil.sizeHint() : teil.minimumSizeHint()) - Luft;
+}
+
+/// What it says, to the eye or to whoever can't see it; nothing for what isn't there to say something.
+std::optional<QString> Aufschrift(const QWidget &teil) {
+    if (const auto *schild = dynamic_cast<const QLabel *>(&teil)) return schild->text();
+    if (const auto *rahmen = dynamic_cast<const QGroupBox *>(&teil)) return rahmen->title();
+    if (const auto *liste = dynamic_cast<const QComboBox *>(&teil)) return liste->itemText(0);
+    const auto *knopf = dynamic_cast<const QAbstractButton *>(&teil);
+    if (!knopf) return std::nullopt;
+    return knopf->text().isEmpty() ? knopf->accessibleName() : knopf->text();
+}
+
+/// A caption's second line, which only German needs; the name of what is pointed at.
+bool DarfSchweigen(const QWidget &teil) {
+    return (teil.objectName() == QLatin1String("Label1") &&
+            teil.window()->windowTitle() == QLatin1String("Relationship")) ||
+           dynamic_cast<QStatusBar *>(teil.parentWidget());
+}
+
+/// What is wrong with one that shows; empty when it is whole.
+std::string Mangel(const QWidget &teil) {
+    const QWidget &eltern = *teil.parentWidget();
+    if (dynamic_cast<const QComboBox *>(&eltern)) return ""; // its line is of its own make
+    if (teil.width() < Bedarf(teil).width() || teil.height() < Bedarf(teil).height()) return "clipped";
+    const bool rollt = dynamic_cast<QAbstractScrollArea *>(eltern.parentWidget());
+    if (!rollt && !eltern.rect().contains(teil.geometry())) return "outside";
+    if (!Aufschrift(teil)) return "";
+    if (Aufschrift(teil)->isEmpty() && !DarfSchweigen(teil)) return "empty";
+    for (const QWidget *anderer : eltern.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly))
+        if (anderer != &teil && anderer->isVisible() && Aufschrift(*anderer) &&
+            anderer->geometry().intersects(teil.geometry()))
+            return "covers " + Aufschrift(*anderer)->toStdString();
+    return "";
+}
+
+/// Looks at all that shows in a window, and tells each fault with the name of what has it.
+void Ansehen(const QWidget &fenster, const std::string &wo) {
+    int gesehen = 0;
+    for (const QWidget *teil : fenster.findChildren<QWidget *>()) {
+        if (!teil->isVisible() || teil->isWindow()) continue;
+        ++gesehen;
+        EXPECT_EQ(Mangel(*teil), "") << wo << " " << teil->metaObject()->className() << " "
+                                     << teil->objectName().toStdString() << " "
+                                     << Aufschrift(*teil).value_or(QString()).toStdString();
+    }
+    EXPECT_GT(gesehen, 1) << wo;
+    EXPECT_FALSE(fenster.windowTitle().isEmpty()) << wo;
+}
+
+/// Opens each form once, some with another face; a box stands for what the user does in it.
+constexpr const char *Formulare = R"(store cboPersonen 001_1_6_6_1.5_21_82_1_0_Ada_Öz_12.03.1975__
+store cboPersonen 002_9_18_6_1.5_____Amt_____
+store cboPartnerschaftsLinien 001_2_6_8_18_8_001_002_6_6_6_18_1_##1999
+store cboBeziehungsLinien _3_6_6_18_6_001_002
+popup mnuSymbolBearbeiten
+rclick 6 6
+popup mnuSymbolBearbeiten
+rclick 18 6
+popup mnuPLiniebearbeiten
+rclick 12 8
+rclick 12 8
+set BezAuswahl 0
+menu mnuBLinieBearbeiten
+menu mnuSchriftart
+menu mnuLegendeEinstellungen
+menu mnuDrucken
+menu mnuAltersangabe
+menu mnuSeiteEinrichten
+menu mnuEinstellungen
+menu mnuInfo
+tool 10
+click 9 12)";
+
+class Augenschein : public testing::Test {
+  protected:
+    Augenschein() { qputenv("CUPS_SERVER", "localhost:1"); } // nobody is there
+    ~Augenschein() override {
+        QApplication::setFont(vorher_);
+        qunsetenv("CUPS_SERVER");
+    }
+    /// Runs `prüfen` with each language, and a name for what is looked at, at each size of letters.
+    void Überall(const std::function<void(const std::string &sprache, const std::string &wo)> &prüfen) {
+        for (const int punkt : {7, 10, 16}) {
+            QFont schrift = vorher_;
+            schrift.setPointSize(punkt);
+            QApplication::setFont(schrift);
+            for (const std::string sprache : {"de", "en"}) prüfen(sprache, sprache + " " + std::to_string(punkt));
+        }
+    }
+
+  private:
+    const QFont vorher_ = QApplication::font();
+};
+
+/// Shows the form as it comes up, looks, and closes it.
+void FormAnsehen(Formular &form, const std::string &wo) {
+    Formularfenster fenster(form, nullptr);
+    QTimer::singleShot(0, &fenster, [&] {
+        QApplication::processEvents();
+        Ansehen(fenster, wo);
+        for (const auto &name : form.Reihenfolge()) {
+            auto *bild = fenster.findChild<QWidget *>(QString::fromStdString(name));
+            if (form[name].Kind != Art::Vorschau || !bild->isVisible()) continue;
+            EXPECT_TRUE(ZeigtEtwas(*bild)) << wo << " " << name << ": draws nothing";
+        }
+        fenster.close();
+    });
+    fenster.Ausführen();
+}
+
+TEST_F(Augenschein, FormulareZeigenAllesGanz) {
+    Überall([](const std::string &sprache, const std::string &wo) {
+        std::ostringstream aus;
+        Wiedergabe lauf(aus);
+        lauf.Zeile("start printers=Laser");
+        lauf.Zeile("set Sprache " + sprache);
+        std::set<std::string> gezeigt;
+        lauf.Läuft().benutzer.FormularSpielen = [&](Formular &form, const std::vector<std::string> &) {
+            FormAnsehen(form, wo + " " + form.Name());
+            gezeigt.insert(form.Name());
+        };
+        std::istringstream skript(Formulare);
+        EXPECT_EQ(lauf.Ausführen(skript), 0);
+        // Each form has a header of its own: none is forgotten here.
+        const QDir formulare(QStringLiteral(KW_TESTDATEN "/../src/dialogs"));
+        EXPECT_EQ(gezeigt.size(), formulare.entryList({QStringLiteral("frm*.h")}).size()) << aus.str();
+    });
+}
+
+/// The only test that starts the window: its settings are those beside the program that runs the tests.
+TEST_F(Augenschein, FensterZeigtAllesGanz) {
+    const std::string einstellungen = QCoreApplication::applicationDirPath().toStdString() + "/prog.ini";
+    Überall([&](const std::string &sprache, const std::string &wo) {
+        ASSERT_TRUE(DateiSchreiben(einstellungen, "[DEFAULT]\r\nlanguage=" + sprache + "\r\n").Gelungen());
+        Hauptfenster fenster("\"" KW_TESTDATEN "/../samples/familie.kwp\"");
+        fenster.resize(1400, 900);
+        fenster.show();
+        while (!fenster.findChild<QMenuBar *>()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        for (QTimer *zeitgeber : fenster.findChildren<QTimer *>()) { // the project is opened a moment later
+            QTimerEvent abgelaufen(zeitgeber->timerId());
+            QApplication::sendEvent(zeitgeber, &abgelaufen);
+        }
+        QApplication::processEvents();
+        Ansehen(fenster, wo);
+        EXPECT_EQ(fenster.menuBar()->actions().front()->text(), sprache == "de" ? "Datei" : "File");
+        EXPECT_TRUE(fenster.windowTitle().contains(QStringLiteral("familie"))) << fenster.windowTitle().toStdString();
+        for (QWidget *teil : {static_cast<QWidget *>(fenster.menuBar()), fenster.centralWidget()})
+            EXPECT_TRUE(ZeigtEtwas(*teil)) << wo;
+        QFile::remove(QString::fromStdString(einstellungen));
+    });
+}
+
+} // namespace
