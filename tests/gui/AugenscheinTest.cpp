@@ -1,8 +1,8 @@
 // Every form and the window as they come up, in both languages and at three sizes of letters: what a user couldn't
 // read or reach is found here.
 #include "document/Dateien.h"
-#include "qt/Formularfenster.h"
-#include "qt/Hauptfenster.h"
+#include "qt/formulare/Formularfenster.h"
+#include "qt/fenster/Hauptfenster.h"
 #include "replay/Skript.h"
 
 #include <QAbstractButton>
@@ -147,7 +147,7 @@ void FormAnsehen(Formular &form, const std::string &wo) {
         Ansehen(fenster, wo);
         for (const auto &name : form.Reihenfolge()) {
             auto *bild = fenster.findChild<QWidget *>(QString::fromStdString(name));
-            if (form[name].Kind != Art::Vorschau || !bild->isVisible()) continue;
+            if (form[name].Kind != Art::Bild || !bild->isVisible()) continue;
             EXPECT_TRUE(ZeigtEtwas(*bild)) << wo << " " << name << ": draws nothing";
         }
         fenster.close();
