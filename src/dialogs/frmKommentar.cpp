@@ -222,7 +222,7 @@ void frmKommentar::StandardschriftBearbeiten() {
 
 std::string frmKommentar::Satz() const {
     const auto text = [this](std::string_view name) { return Finden(name)->Text; };
-    Satzbau satz("", TextFeld::AnzahlUngemessen);
+    Feldbau satz("", TextFeld::AnzahlUngemessen);
     satz.Setzen(TextFeld::TextX, Gerundet(textX_, 1)).Setzen(TextFeld::TextY, Gerundet(textY_, 1));
     satz.Setzen(TextFeld::Schriftart, AlsFeld(GültigeSchriftart(text("cboSchriftart"))));
     satz.Setzen(TextFeld::Schriftgroesse, AlsFeld(GültigeSchriftgröße(text("cboFontSize"))));

@@ -338,7 +338,7 @@ void frmSymbol::Übernehmen() {
 }
 
 std::string frmSymbol::NeuerSatz() {
-    Satzbau satz(satz_, PersonFeld::Anzahl);
+    Feldbau satz(satz_, PersonFeld::Anzahl);
     satz.Setzen(PersonFeld::Groesse, satz.Zahl(PersonFeld::Groesse));
     if (institution_) {
         satz.Setzen(PersonFeld::Symboltyp, TypInstitution);

@@ -20,7 +20,7 @@ struct Bewegter {
 
 void BeziehungenBewegen(Dokument &d, const Bezüge &bezüge, const Bewegter &p) {
     for (const int i : bezüge.Beziehungen(p.Nr)) {
-        Satzbau satz(d.cboBeziehungsLinien.Satz(i), BezFeld::Anzahl);
+        Feldbau satz(d.cboBeziehungsLinien.Satz(i), BezFeld::Anzahl);
         const bool erste = satz.Feld(BezFeld::PersNr1) == p.Nr;
         satz.Setzen(erste ? BezFeld::LinieX1 : BezFeld::LinieX2, Gerundet(p.X, 2));
         satz.Setzen(erste ? BezFeld::LinieY1 : BezFeld::LinieY2, Gerundet(p.Y, 2));
@@ -30,7 +30,7 @@ void BeziehungenBewegen(Dokument &d, const Bezüge &bezüge, const Bewegter &p) 
 
 /// The bar's new height when a group takes it along: the bar as it stands before this step must lie within the
 /// frame as it stands after the move. A bar that is selected itself has then moved already, and moves twice. Meant.
-std::optional<double> BalkenInDerGruppe(const Werkbank &w, const Satzbau &satz) {
+std::optional<double> BalkenInDerGruppe(const Werkbank &w, const Feldbau &satz) {
     if (w.lage.Aktion != Aktion::GruppeGewählt) return std::nullopt;
     const Auflagenform &rahmen = w.auflagen.shpBox;
     const double x1 = satz.Zahl(PLinieFeld::BalkenX1) + w.lage.DeltaX;
@@ -45,7 +45,7 @@ void PartnerschaftenBewegen(Werkbank &w, const Bezüge &bezüge, const Bewegter 
     const double x = Gerundet(Gerastert(p.X, raster), 1);
     const double y = Gerundet(Gerastert(p.Y, raster), 1);
     for (const int i : bezüge.Partnerschaften(p.Nr)) {
-        Satzbau satz(d.cboPartnerschaftsLinien.Satz(i), PLinieFeld::Anzahl);
+        Feldbau satz(d.cboPartnerschaftsLinien.Satz(i), PLinieFeld::Anzahl);
         if (satz.Feld(PLinieFeld::PersNr1) == p.Nr) {
             const auto balkenY = BalkenInDerGruppe(w, satz);
             satz.Setzen(PLinieFeld::BalkenX1, x);
@@ -73,7 +73,7 @@ std::optional<double> ZwillingsMitte(const Dokument &d, const Bezüge &bezüge, 
     return (PosX(d, person) + PosX(d, anderer)) / 2;
 }
 
-std::pair<double, double> BereichVon(const Dokument &d, const Bezüge &bezüge, const Satzbau &kindlinie, double sonst) {
+std::pair<double, double> BereichVon(const Dokument &d, const Bezüge &bezüge, const Feldbau &kindlinie, double sonst) {
     const int linie = bezüge.PLinie(kindlinie.Feld(KindFeld::PLinie));
     return linie < 0 ? std::pair(sonst, sonst) : Balkenbereich(d.cboPartnerschaftsLinien.Satz(linie));
 }
@@ -81,7 +81,7 @@ std::pair<double, double> BereichVon(const Dokument &d, const Bezüge &bezüge, 
 void AlsKindBewegen(Dokument &d, const Bezüge &bezüge, const Bewegter &p) {
     const int i = bezüge.Kindlinie(p.Nr);
     if (i < 0 || Felder(d.cboKindlinien.Satz(i)).Anzahl() < KindFeld::Anzahl) return;
-    Satzbau satz(d.cboKindlinien.Satz(i), KindFeld::Anzahl);
+    Feldbau satz(d.cboKindlinien.Satz(i), KindFeld::Anzahl);
     const auto [links, rechts] = BereichVon(d, bezüge, satz, satz.Zahl(KindFeld::LinieX));
     satz.Setzen(KindFeld::KindX, Gerundet(p.X, 2)).Setzen(KindFeld::KindY, Gerundet(p.Y, 2));
     satz.Setzen(KindFeld::LinieX, Gerundet(std::clamp(p.X, links, rechts), 2));
@@ -94,7 +94,7 @@ void AlsKindBewegen(Dokument &d, const Bezüge &bezüge, const Bewegter &p) {
     const std::string anderer = ZwillingNr(Felder(d.cboPersonen.Satz(person))[PersonFeld::Zwilling]);
     for (const int linie : {i, bezüge.Kindlinie(anderer)}) {
         if (linie < 0) continue;
-        Satzbau zwilling(d.cboKindlinien.Satz(linie), KindFeld::Anzahl);
+        Feldbau zwilling(d.cboKindlinien.Satz(linie), KindFeld::Anzahl);
         zwilling.Setzen(KindFeld::LinieX, Gerundet(std::clamp(*mitte, links, rechts), 2));
         d.cboKindlinien.Ersetzen(linie, zwilling.TextOhneBlanks());
     }
@@ -106,12 +106,12 @@ void GruppeLinien(Werkbank &w, const Bezüge &bezüge) {
     for (const auto &nr : w.auswahl.lstMovedPLines) {
         const int i = bezüge.PLinie(nr);
         if (i < 0) continue;
-        Satzbau satz(d.cboPartnerschaftsLinien.Satz(i), PLinieFeld::Anzahl);
+        Feldbau satz(d.cboPartnerschaftsLinien.Satz(i), PLinieFeld::Anzahl);
         satz.Erhöhen(PLinieFeld::BalkenX1, w.lage.DeltaX).Erhöhen(PLinieFeld::BalkenX2, w.lage.DeltaX);
         satz.Erhöhen(PLinieFeld::BalkenY1, w.lage.DeltaY).Erhöhen(PLinieFeld::BalkenY2, w.lage.DeltaY);
         d.cboPartnerschaftsLinien.Ersetzen(i, satz.Text());
         for (const int kind : bezüge.KinderVon(nr)) {
-            Satzbau linie(d.cboKindlinien.Satz(kind), KindFeld::Anzahl);
+            Feldbau linie(d.cboKindlinien.Satz(kind), KindFeld::Anzahl);
             linie.Erhöhen(KindFeld::LinieX, w.lage.DeltaX).Erhöhen(KindFeld::LinieY, w.lage.DeltaY);
             d.cboKindlinien.Ersetzen(kind, linie.Text());
         }
@@ -119,7 +119,7 @@ void GruppeLinien(Werkbank &w, const Bezüge &bezüge) {
 }
 
 /// Adds the way to two number fields; on the raster when there is one.
-void Verschieben(Satzbau &satz, int feldX, int feldY, const Leinwandlage &lage, double raster) {
+void Verschieben(Feldbau &satz, int feldX, int feldY, const Leinwandlage &lage, double raster) {
     const auto neu = [&](int feld, double um) {
         const double summe = satz.Zahl(feld) + um;
         satz.Setzen(feld, raster > 0 ? Gerundet(Gerastert(summe, raster), 1) : summe);
@@ -134,7 +134,7 @@ void GruppePersonen(Werkbank &w, const Bezüge &bezüge) {
     for (const auto &nr : w.auswahl.lstMovedPers) {
         const int i = bezüge.Person(nr);
         if (i < 0 || Felder(personen.Satz(i)).Anzahl() < PersonFeld::Anzahl) continue;
-        Satzbau satz(personen.Satz(i), PersonFeld::Anzahl);
+        Feldbau satz(personen.Satz(i), PersonFeld::Anzahl);
         Verschieben(satz, PersonFeld::PosX, PersonFeld::PosY, lage, w.ansicht.Rasterweite);
         personen.Ersetzen(i, satz.Text());
         lage.PersNr = satz.Feld(PersonFeld::Nr);
@@ -155,7 +155,7 @@ void GruppeÜbrige(Werkbank &w) {
     for (const auto &eintrag : w.auswahl.lstMovedText) {
         const int i = Position(eintrag, d.cboTextboxen, 0);
         if (i < 0) continue;
-        Satzbau satz(d.cboTextboxen.Satz(i), std::min(Felder(d.cboTextboxen.Satz(i)).Anzahl(), Felder::Höchstzahl));
+        Feldbau satz(d.cboTextboxen.Satz(i), std::min(Felder(d.cboTextboxen.Satz(i)).Anzahl(), Felder::Höchstzahl));
         Verschieben(satz, TextFeld::TextX, TextFeld::TextY, w.lage, w.ansicht.Rasterweite);
         d.cboTextboxen.Ersetzen(i, satz.Text());
     }
@@ -172,7 +172,7 @@ void GruppeÜbrige(Werkbank &w) {
     for (const auto &eintrag : w.auswahl.lstMovedPfeile) {
         const int i = Position(eintrag, d.cboPfeile, 0);
         if (i < 0) continue;
-        Satzbau satz(d.cboPfeile.Satz(i), PfeilFeld::Anzahl);
+        Feldbau satz(d.cboPfeile.Satz(i), PfeilFeld::Anzahl);
         Verschieben(satz, PfeilFeld::PfeilX1, PfeilFeld::PfeilY1, w.lage, 0);
         Verschieben(satz, PfeilFeld::PfeilX2, PfeilFeld::PfeilY2, w.lage, 0);
         d.cboPfeile.Ersetzen(i, satz.Text());
@@ -184,7 +184,7 @@ void GruppeÜbrige(Werkbank &w) {
 void KinderAnpassen(Dokument &d, const Bezüge &bezüge, std::string_view plinie, double x1, double x2, double balkenY) {
     const auto [links, rechts] = std::minmax(x1, x2);
     for (const int i : bezüge.KinderVon(plinie)) {
-        Satzbau satz(d.cboKindlinien.Satz(i), KindFeld::Anzahl);
+        Feldbau satz(d.cboKindlinien.Satz(i), KindFeld::Anzahl);
         const int person = bezüge.Person(satz.Feld(KindFeld::KindNr));
         const auto mitte = person < 0 ? std::nullopt : ZwillingsMitte(d, bezüge, person);
         const double x = mitte.value_or(satz.Zahl(KindFeld::KindX));
@@ -222,14 +222,14 @@ bool BalkenBewegen(Werkbank &w) {
     if (i < 0 || i >= d.cboPartnerschaftsLinien.Anzahl()) return false;
     const Auflagenlinie &linie = w.auflagen.Line1;
     const double y = Gerundet(linie.Y1, 2);
-    Satzbau satz(d.cboPartnerschaftsLinien.Satz(i), PLinieFeld::Anzahl);
+    Feldbau satz(d.cboPartnerschaftsLinien.Satz(i), PLinieFeld::Anzahl);
     if (satz.Zahl(PLinieFeld::BalkenY1) == y && satz.Zahl(PLinieFeld::BalkenY2) == y) return false;
     satz.Setzen(PLinieFeld::BalkenX1, Gerundet(linie.X1, 2)).Setzen(PLinieFeld::BalkenX2, Gerundet(linie.X2, 2));
     satz.Setzen(PLinieFeld::BalkenY1, y).Setzen(PLinieFeld::BalkenY2, y);
     d.cboPartnerschaftsLinien.Ersetzen(i, satz.Text());
     for (int kind = 0; kind < d.cboKindlinien.Anzahl(); ++kind) {
         if (Felder(d.cboKindlinien.Satz(kind)).OderLeer(KindFeld::PLinie) != satz.Feld(PLinieFeld::Nr)) continue;
-        Satzbau kindlinie(d.cboKindlinien.Satz(kind), KindFeld::Anzahl);
+        Feldbau kindlinie(d.cboKindlinien.Satz(kind), KindFeld::Anzahl);
         d.cboKindlinien.Ersetzen(kind, kindlinie.Setzen(KindFeld::LinieY, y).Text());
     }
     return true;
@@ -250,7 +250,7 @@ void Bez_LinieAnpassen(Werkbank &w, std::string_view beziehungsart) {
     Satzliste &linien = w.dokument.cboBeziehungsLinien;
     const int i = w.lage.BezAuswahl;
     if (i < 0 || i >= linien.Anzahl()) return;
-    Satzbau satz(linien.Satz(i), BezFeld::Anzahl);
+    Feldbau satz(linien.Satz(i), BezFeld::Anzahl);
     linien.Ersetzen(i, satz.Setzen(BezFeld::Beziehungsart, beziehungsart).Text());
     LinieAngepasst(w);
 }
@@ -259,7 +259,7 @@ void P_LinieAnpassen(Werkbank &w, std::string_view distanziert, std::string_view
     Satzliste &linien = w.dokument.cboPartnerschaftsLinien;
     const int i = w.lage.PLinieAuswahl;
     if (i < 0 || i >= linien.Anzahl()) return;
-    Satzbau satz(linien.Satz(i), PLinieFeld::Anzahl);
+    Feldbau satz(linien.Satz(i), PLinieFeld::Anzahl);
     satz.Setzen(PLinieFeld::Distanziert, distanziert).Setzen(PLinieFeld::Status, status);
     linien.Ersetzen(i, satz.Setzen(PLinieFeld::Daten, daten).Text());
     LinieAngepasst(w);

@@ -21,12 +21,12 @@ bool KindLinieAnlegen(Werkbank &w) {
     if (kind < 0 || kind >= d.cboPersonen.Anzahl()) return false;
     const std::string &partnerschaft = d.cboPartnerschaftsLinien.Satz(linie);
     const std::string plinie = partnerschaft.substr(0, 3);
-    Satzbau person(d.cboPersonen.Satz(kind), PersonFeld::Anzahl);
+    Feldbau person(d.cboPersonen.Satz(kind), PersonFeld::Anzahl);
     d.cboPersonen.Ersetzen(kind, person.Setzen(PersonFeld::ElternLinie, plinie).Text());
 
     const auto [links, rechts] = Balkenbereich(partnerschaft);
     const double x = person.Zahl(PersonFeld::PosX);
-    Satzbau satz("", KindFeld::Anzahl);
+    Feldbau satz("", KindFeld::Anzahl);
     satz.Setzen(KindFeld::KindNr, person.Feld(PersonFeld::Nr)).Setzen(KindFeld::Kindart, "0");
     satz.Setzen(KindFeld::PLinie, plinie)
         .Setzen(KindFeld::KindX, Gerundet(x, 1))
@@ -41,7 +41,7 @@ void KindArtSetzen(Werkbank &w, std::string_view art) {
     Satzliste &linien = w.dokument.cboKindlinien;
     const int i = w.lage.KindAuswahl;
     if (i < 0 || i >= linien.Anzahl()) return;
-    Satzbau satz(linien.Satz(i), KindFeld::Anzahl);
+    Feldbau satz(linien.Satz(i), KindFeld::Anzahl);
     const std::string alt(satz.Feld(KindFeld::Kindart));
     linien.Ersetzen(i, satz.Setzen(KindFeld::Kindart, art == "A" ? "1" : art == "P" ? "2" : "0").Text());
     w.lage.Aktion = Aktion::Nichts;
@@ -55,7 +55,7 @@ void KindLinieEntfernen(Werkbank &w) {
     if (i < 0 || i >= d.cboKindlinien.Anzahl()) return;
     const auto ändern = [&](int person, bool auchEltern) {
         if (person < 0) return;
-        Satzbau satz(d.cboPersonen.Satz(person), PersonFeld::Anzahl);
+        Feldbau satz(d.cboPersonen.Satz(person), PersonFeld::Anzahl);
         if (auchEltern) satz.Setzen(PersonFeld::ElternLinie, "");
         d.cboPersonen.Ersetzen(person, satz.Setzen(PersonFeld::Zwilling, "").Text());
     };

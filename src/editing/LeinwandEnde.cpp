@@ -141,7 +141,7 @@ void Leinwand::PersonLoslassen(const Ereignis &e) {
     lage.NeuX = Gerundet(lage.AuswahlX + lage.SymbolGröße / 2, 2);
     lage.NeuY = Gerundet(lage.AuswahlY + lage.SymbolGröße / 2, 2);
     lage.MarkerBreite = lage.MarkerHöhe = lage.SymbolGröße;
-    Satzbau satz(dokument.cboPersonen.Satz(i), PersonFeld::Anzahl);
+    Feldbau satz(dokument.cboPersonen.Satz(i), PersonFeld::Anzahl);
     dokument.cboPersonen.Ersetzen(i, satz.Text());
     const Dokument vorher = dokument;
     lage.PersRecord = satz.Setzen(PersonFeld::PosX, lage.NeuX).Setzen(PersonFeld::PosY, lage.NeuY).Text();
@@ -166,7 +166,7 @@ void Leinwand::TextLoslassen(const Ereignis &e) {
     lage.Aktion = Aktion::TextGewählt;
     if (!HatSichBewegt(e) || lage.TextAuswahl < 0 || lage.TextAuswahl >= boxen.Anzahl()) return;
     const std::string alt = boxen.Satz(lage.TextAuswahl);
-    Satzbau satz(alt, std::min(Felder(alt).Anzahl(), Felder::Höchstzahl)); // its measures stay, if it has them
+    Feldbau satz(alt, std::min(Felder(alt).Anzahl(), Felder::Höchstzahl)); // its measures stay, if it has them
     satz.Setzen(TextFeld::TextX, RasterZehntel(maske.Left)).Setzen(TextFeld::TextY, RasterZehntel(maske.Top));
     lage.TextRecord = satz.Text();
     boxen.Ersetzen(lage.TextAuswahl, lage.TextRecord);
@@ -234,7 +234,7 @@ void Leinwand::PfeilGezogen(const Ereignis &e) {
     lage.Aktion = Aktion::Nichts;
     if (Kleiner(std::fabs(e.X - lage.AnkerX), KürzesterPfeil) && Kleiner(std::fabs(e.Y - lage.AnkerY), KürzesterPfeil))
         return;
-    Satzbau satz("", PfeilFeld::Anzahl);
+    Feldbau satz("", PfeilFeld::Anzahl);
     lage.PfeilEndeX = RasterZehntel(e.X);
     lage.PfeilEndeY = RasterZehntel(e.Y);
     satz.Setzen(PfeilFeld::Pfeilart, lage.PfeilArt);
@@ -255,7 +255,7 @@ void Leinwand::PfeilEndeLoslassen(const Ereignis &e) {
     const bool zweites = lage.Aktion == Aktion::PfeilEnde2;
     const int feldX = zweites ? PfeilFeld::PfeilX2 : PfeilFeld::PfeilX1;
     const int feldY = zweites ? PfeilFeld::PfeilY2 : PfeilFeld::PfeilY1;
-    Satzbau satz(dokument.cboPfeile.Satz(lage.PfeilAuswahl), PfeilFeld::Anzahl);
+    Feldbau satz(dokument.cboPfeile.Satz(lage.PfeilAuswahl), PfeilFeld::Anzahl);
     const double x = RasterZehntel(zweites ? auflagen.Line5.X2 : auflagen.Line5.X1);
     const double y = RasterZehntel(zweites ? auflagen.Line5.Y2 : auflagen.Line5.Y1);
     if (!HatSichBewegt(e) || (satz.Zahl(feldX) == x && satz.Zahl(feldY) == y)) return;
@@ -278,7 +278,7 @@ void Leinwand::PfeilLoslassen(const Ereignis &e) {
     if (!HatSichBewegt(e) || lage.PfeilAuswahl < 0 || lage.PfeilAuswahl >= dokument.cboPfeile.Anzahl()) return;
     const Auflagenlinie &linie = auflagen.Line5;
     const std::string alt = dokument.cboPfeile.Satz(lage.PfeilAuswahl);
-    Satzbau satz(alt, PfeilFeld::Anzahl);
+    Feldbau satz(alt, PfeilFeld::Anzahl);
     satz.Setzen(PfeilFeld::PfeilX1, RasterZehntel(linie.X1)).Setzen(PfeilFeld::PfeilY1, RasterZehntel(linie.Y1));
     satz.Setzen(PfeilFeld::PfeilX2, RasterZehntel(linie.X2)).Setzen(PfeilFeld::PfeilY2, RasterZehntel(linie.Y2));
     dokument.cboPfeile.Ersetzen(lage.PfeilAuswahl, satz.Text());

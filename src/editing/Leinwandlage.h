@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/saetze/Person.h"
 #include "editing/Auflagen.h"
 #include "rendering/Auswahl.h"
 
@@ -12,15 +13,6 @@ namespace kw {
 constexpr double GrößeNormal = 1.2;   ///< cm; size of a new symbol
 constexpr double GrößeKlein = 0.6;    ///< of a new small symbol: pregnancy to abortion
 constexpr double BalkenAbstand = 1.8; ///< drop of a new partnership bar below the lower partner
-
-/// Kinds of persons that editing tells apart.
-constexpr int TypMännlich = 1;
-constexpr int TypWeiblich = 2;
-constexpr int TypSchwangerschaft = 3;
-constexpr int TypInstitution = 9;
-constexpr int TypWeiblichZuMännlich = 10;
-constexpr int TypMännlichZuWeiblich = 11;
-constexpr int TypDivers = 12;
 
 enum class Mauszeiger { Pfeil, Verschieben, Person, Textfeld, Kreuz };
 

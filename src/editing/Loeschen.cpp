@@ -44,7 +44,7 @@ void PartnerschaftEntfernen(Dokument &d, int linie) {
         if (feld.OderLeer(PersonFeld::ElternLinie) != nr) continue;
         const auto zwilling = feld.OderLeer(PersonFeld::Zwilling);
         if (zwilling.starts_with("1E")) ZwillingsbandEntfernen(d, feld[PersonFeld::Nr], zwilling.substr(2));
-        Satzbau satz(d.cboPersonen.Satz(i), PersonFeld::Anzahl);
+        Feldbau satz(d.cboPersonen.Satz(i), PersonFeld::Anzahl);
         satz.Setzen(PersonFeld::ElternLinie, "").Setzen(PersonFeld::Zwilling, "");
         d.cboPersonen.Ersetzen(i, satz.Text());
     }
@@ -81,7 +81,7 @@ void PersonEntfernen(Werkbank &w, const std::string &nr) {
     d.cboPersonen.Entfernen(person);
     const int anderer = zwilling.empty() ? -1 : PersonMitNr(d, zwilling);
     if (anderer >= 0) {
-        Satzbau satz(d.cboPersonen.Satz(anderer), PersonFeld::Anzahl);
+        Feldbau satz(d.cboPersonen.Satz(anderer), PersonFeld::Anzahl);
         d.cboPersonen.Ersetzen(anderer, satz.Setzen(PersonFeld::Zwilling, "").Text());
     }
     w.auflagen.shpMask.Parken();

@@ -12,20 +12,20 @@ namespace kw {
 
 /// A record being rewritten. It has exactly the fields of its kind afterwards: missing ones are empty, further
 /// ones go. Numbers get the form that records have.
-class Satzbau {
+class Feldbau {
   public:
-    Satzbau(std::string_view satz, int felder) : anzahl_(felder) {
+    Feldbau(std::string_view satz, int felder) : anzahl_(felder) {
         const Felder alt(satz);
         for (int i = 0; i < felder; ++i) felder_[static_cast<size_t>(i)] = alt.OderLeer(i);
     }
 
-    Satzbau &Setzen(int feld, std::string_view text) {
+    Feldbau &Setzen(int feld, std::string_view text) {
         felder_[static_cast<size_t>(feld)] = text;
         return *this;
     }
-    Satzbau &Setzen(int feld, double zahl) { return Setzen(feld, std::string_view(ZahlSchreiben(zahl))); }
+    Feldbau &Setzen(int feld, double zahl) { return Setzen(feld, std::string_view(ZahlSchreiben(zahl))); }
     /// Adds to the number of a field.
-    Satzbau &Erhöhen(int feld, double um) { return Setzen(feld, Zahl(feld) + um); }
+    Feldbau &Erhöhen(int feld, double um) { return Setzen(feld, Zahl(feld) + um); }
 
     double Zahl(int feld) const { return ZahlLesen(felder_[static_cast<size_t>(feld)]); }
     std::string_view Feld(int feld) const { return felder_[static_cast<size_t>(feld)]; }

@@ -45,7 +45,7 @@ void GrößeÄndern(Werkbank &w, double delta) {
     for (const auto &eintrag : w.auswahl.lstMovedPers) {
         const int i = PersonMitNr(w.dokument, Getrimmt(eintrag));
         if (i < 0 || Felder(personen.Satz(i)).Anzahl() < PersonFeld::Anzahl) continue;
-        Satzbau satz(personen.Satz(i), PersonFeld::Anzahl);
+        Feldbau satz(personen.Satz(i), PersonFeld::Anzahl);
         const Familie &familie = FamilieVon(satz.Feld(PersonFeld::Symboltyp));
         const double neu = std::clamp(satz.Zahl(PersonFeld::Groesse) + delta, familie.Kleinste, familie.Größte);
         personen.Ersetzen(i, satz.Setzen(PersonFeld::Groesse, neu).Text());

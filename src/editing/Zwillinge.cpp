@@ -49,7 +49,7 @@ void Anlegen(Werkbank &w, int linie) {
     Dokument &d = w.dokument;
     const Zwillingsart &art = Arten[w.lage.ZwillingsArt - 1];
     const std::string plinie = d.cboPartnerschaftsLinien.Satz(linie).substr(0, 3);
-    const Satzbau balken(d.cboPartnerschaftsLinien.Satz(linie), PLinieFeld::Anzahl);
+    const Feldbau balken(d.cboPartnerschaftsLinien.Satz(linie), PLinieFeld::Anzahl);
     const double mitte = (balken.Zahl(PLinieFeld::BalkenX1) + balken.Zahl(PLinieFeld::BalkenX2)) / 2;
     const double raster = w.ansicht.Rasterweite;
     const double gerastert = Gerastert(mitte, raster);
@@ -146,7 +146,7 @@ void ZwillingeErklären(Werkbank &w, std::string_view mark) {
     if (paar.empty() || linie < 0 || a < 0 || b < 0) return;
     double summe = 0;
     for (const auto &[person, anderer] : {std::pair(a, teile[1]), std::pair(b, teile[0])}) {
-        Satzbau satz(d.cboPersonen.Satz(person), PersonFeld::Anzahl);
+        Feldbau satz(d.cboPersonen.Satz(person), PersonFeld::Anzahl);
         summe += satz.Zahl(PersonFeld::PosX);
         satz.Setzen(PersonFeld::Zwilling, std::string(mark).append(anderer));
         d.cboPersonen.Ersetzen(person, satz.Text());
@@ -155,7 +155,7 @@ void ZwillingeErklären(Werkbank &w, std::string_view mark) {
     const double mitte = Gerundet(std::clamp(summe / 2, links, rechts), 2);
     for (const int i : {KindLinieVon(d, teile[0]), KindLinieVon(d, teile[1])}) {
         if (i < 0) continue;
-        Satzbau satz(d.cboKindlinien.Satz(i), KindFeld::Anzahl);
+        Feldbau satz(d.cboKindlinien.Satz(i), KindFeld::Anzahl);
         d.cboKindlinien.Ersetzen(i, satz.Setzen(KindFeld::LinieX, mitte).Text());
     }
     w.bedienung["mnuMakeTwins"].Visible = false;

@@ -23,7 +23,7 @@ using Nummern = std::map<std::string, std::string, std::less<>>;
 /// Every record of `liste` rewritten by `ändern`.
 template <typename Ändern> void Umschreiben(Satzliste &liste, int felder, Ändern ändern) {
     for (int i = 0; i < liste.Anzahl(); ++i) {
-        Satzbau satz(liste.Satz(i), felder);
+        Feldbau satz(liste.Satz(i), felder);
         ändern(satz);
         liste.Ersetzen(i, satz.Text());
     }
@@ -69,7 +69,7 @@ void FamilieKopieren(Werkbank &w) {
             za.ZA_KindLinien.Anhängen(d.cboKindlinien.Satz(kind));
     }
     const auto personen = NummernIn(za.ZA_Personen);
-    Umschreiben(za.ZA_Personen, PersonFeld::Anzahl, [&](Satzbau &satz) {
+    Umschreiben(za.ZA_Personen, PersonFeld::Anzahl, [&](Feldbau &satz) {
         if (!linien.contains(std::string(satz.Feld(PersonFeld::ElternLinie)))) satz.Setzen(PersonFeld::ElternLinie, "");
         if (!personen.contains(ZwillingNr(satz.Feld(PersonFeld::Zwilling)))) satz.Setzen(PersonFeld::Zwilling, "");
     });
@@ -88,7 +88,7 @@ Nummern NeueNummern(const Satzliste &liste, Satzliste &freie, const Satzliste &s
 }
 
 /// The new number for what field `feld` names, behind its first `vorspann` characters.
-void Umnummern(Satzbau &satz, int feld, const Nummern &neu, size_t vorspann = 0) {
+void Umnummern(Feldbau &satz, int feld, const Nummern &neu, size_t vorspann = 0) {
     const std::string alt(satz.Feld(feld));
     if (alt.size() <= vorspann) return;
     const auto i = neu.find(std::string_view(alt).substr(vorspann));
@@ -102,23 +102,23 @@ void AllesUmnummern(Werkbank &w) {
     Zwischenablage &za = w.ablage;
     const Nummern personen = NeueNummern(za.ZA_Personen, d.lstGelöschtePersNr, d.cboPersonen);
     const Nummern linien = NeueNummern(za.ZA_PLines, d.lstGelöschtePLinien, d.cboPartnerschaftsLinien);
-    Umschreiben(za.ZA_Personen, PersonFeld::Anzahl, [&](Satzbau &satz) {
+    Umschreiben(za.ZA_Personen, PersonFeld::Anzahl, [&](Feldbau &satz) {
         Umnummern(satz, PersonFeld::Nr, personen);
         Umnummern(satz, PersonFeld::ElternLinie, linien);
         Umnummern(satz, PersonFeld::Zwilling, personen, 2);
     });
-    Umschreiben(za.ZA_PLines, PLinieFeld::Anzahl, [&](Satzbau &satz) {
+    Umschreiben(za.ZA_PLines, PLinieFeld::Anzahl, [&](Feldbau &satz) {
         Umnummern(satz, PLinieFeld::Nr, linien);
         Umnummern(satz, PLinieFeld::PersNr1, personen);
         Umnummern(satz, PLinieFeld::PersNr2, personen);
     });
-    Umschreiben(za.ZA_KindLinien, KindFeld::Anzahl, [&](Satzbau &satz) {
+    Umschreiben(za.ZA_KindLinien, KindFeld::Anzahl, [&](Feldbau &satz) {
         Umnummern(satz, KindFeld::KindNr, personen);
         Umnummern(satz, KindFeld::PLinie, linien);
     });
 }
 
-void FelderVersetzen(Satzbau &satz, std::initializer_list<int> felder) {
+void FelderVersetzen(Feldbau &satz, std::initializer_list<int> felder) {
     for (const int feld : felder) satz.Erhöhen(feld, Versatz);
 }
 
@@ -133,30 +133,30 @@ std::string KreisVersetzen(std::string_view satz) {
 
 /// The shift stays in the clipboard: each further paste lands a further step away.
 void AllesVersetzen(Zwischenablage &za) {
-    Umschreiben(za.ZA_Personen, PersonFeld::Anzahl, [](Satzbau &satz) {
+    Umschreiben(za.ZA_Personen, PersonFeld::Anzahl, [](Feldbau &satz) {
         for (const int feld : {PersonFeld::PosX, PersonFeld::PosY})
             satz.Setzen(feld, Gerundet(satz.Zahl(feld) + Versatz, 1));
     });
-    Umschreiben(za.ZA_PLines, PLinieFeld::Anzahl, [](Satzbau &satz) {
+    Umschreiben(za.ZA_PLines, PLinieFeld::Anzahl, [](Feldbau &satz) {
         FelderVersetzen(satz, {PLinieFeld::BalkenX1, PLinieFeld::BalkenY1, PLinieFeld::BalkenX2, PLinieFeld::BalkenY2,
                                PLinieFeld::AnschlussX1, PLinieFeld::AnschlussY1, PLinieFeld::AnschlussX2,
                                PLinieFeld::AnschlussY2});
     });
-    Umschreiben(za.ZA_KindLinien, KindFeld::Anzahl, [](Satzbau &satz) {
+    Umschreiben(za.ZA_KindLinien, KindFeld::Anzahl, [](Feldbau &satz) {
         FelderVersetzen(satz, {KindFeld::KindX, KindFeld::KindY, KindFeld::LinieX, KindFeld::LinieY});
     });
-    Umschreiben(za.ZA_Pfeile, PfeilFeld::Anzahl, [](Satzbau &satz) {
+    Umschreiben(za.ZA_Pfeile, PfeilFeld::Anzahl, [](Feldbau &satz) {
         FelderVersetzen(satz, {PfeilFeld::PfeilX1, PfeilFeld::PfeilY1, PfeilFeld::PfeilX2, PfeilFeld::PfeilY2});
     });
     for (int i = 0; i < za.ZA_Textboxen.Anzahl(); ++i) {
         const std::string &alt = za.ZA_Textboxen.Satz(i);
-        Satzbau satz(alt, std::min(Felder(alt).Anzahl(), Felder::Höchstzahl));
+        Feldbau satz(alt, std::min(Felder(alt).Anzahl(), Felder::Höchstzahl));
         FelderVersetzen(satz, {TextFeld::TextX, TextFeld::TextY});
         za.ZA_Textboxen.Ersetzen(i, satz.Text());
     }
     for (int i = 0; i < za.ZA_Kreislinien.Anzahl(); ++i)
         za.ZA_Kreislinien.Ersetzen(i, KreisVersetzen(za.ZA_Kreislinien.Satz(i)));
-    Satzbau punkt(za.KopierPunkt, 2);
+    Feldbau punkt(za.KopierPunkt, 2);
     FelderVersetzen(punkt, {0, 1});
     za.KopierPunkt = punkt.Text();
 }
@@ -188,19 +188,19 @@ struct Umgebung {
 void RahmenUm(Auflagenform &rahmen, const Zwischenablage &za) {
     Umgebung u;
     for (const auto &satz : za.ZA_Personen) {
-        const Satzbau p(satz, PersonFeld::Anzahl);
+        const Feldbau p(satz, PersonFeld::Anzahl);
         const double größe = p.Zahl(PersonFeld::Groesse);
         u.Aufnehmen(p.Zahl(PersonFeld::PosX) - größe / 2, p.Zahl(PersonFeld::PosY) - größe / 2, größe, größe);
     }
     for (const auto &satz : za.ZA_Textboxen) {
-        const Satzbau t(satz, TextFeld::Anzahl);
+        const Feldbau t(satz, TextFeld::Anzahl);
         u.Aufnehmen(t.Zahl(TextFeld::TextX), t.Zahl(TextFeld::TextY), t.Zahl(TextFeld::TextBreite),
                     t.Zahl(TextFeld::TextHoehe));
     }
     for (const auto &satz : za.ZA_Kreislinien)
         for (const auto &[x, y] : KreisPunkte(satz)) u.Aufnehmen(x, y);
     for (const auto &satz : za.ZA_Pfeile) {
-        const Satzbau p(satz, PfeilFeld::Anzahl);
+        const Feldbau p(satz, PfeilFeld::Anzahl);
         u.Aufnehmen(p.Zahl(PfeilFeld::PfeilX1), p.Zahl(PfeilFeld::PfeilY1));
         u.Aufnehmen(p.Zahl(PfeilFeld::PfeilX2), p.Zahl(PfeilFeld::PfeilY2));
     }
@@ -231,7 +231,7 @@ void EingefügtesAuswählen(Werkbank &w) {
         w.auswahl.lstMovedText = gewählt;
         w.lage.Aktion = Aktion::TextGewählt;
     } else {
-        const Satzbau punkt(za.KopierPunkt, 2);
+        const Feldbau punkt(za.KopierPunkt, 2);
         Auflagenform &rahmen = w.auflagen.shpBox;
         rahmen.Legen(punkt.Zahl(0), punkt.Zahl(1), za.KopierBreite, za.KopierHöhe);
         if (za.KopierBreite <= 0 || za.KopierHöhe <= 0) RahmenUm(rahmen, za);

@@ -1,6 +1,6 @@
 #include "Zufallsnutzer.h"
 
-#include "editing/Satzbau.h"
+#include "document/saetze/Satz.h"
 
 #include <cmath>
 #include <fstream>
