@@ -1,6 +1,6 @@
 #include "document/Dokument.h"
 
-#include "document/Zahlen.h"
+#include "document/saetze/Satz.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,9 +20,7 @@ const std::array<SpeicherZeile, 7> SpeicherTabelle{{
 
 namespace {
 
-constexpr size_t Nummernbreite = 3;
-
-double NummerAmAnfang(const std::string &satz) { return ZahlLesen(std::string_view(satz).substr(0, Nummernbreite)); }
+double NummerAmAnfang(const std::string &satz) { return ZahlLesen(Nummer(satz)); }
 
 std::string NeueNummer(Satzliste &freie, const Satzliste &speicher) {
     if (freie.Leer()) return Dreistellig(speicher.Anzahl() + 1);
@@ -61,18 +59,6 @@ std::string Dokument::NeuePLinienNr() { return NeueNummer(lstGelöschtePLinien, 
 void Dokument::FreieNummernAufbauen() {
     FreieAufbauen(cboPersonen, lstGelöschtePersNr);
     FreieAufbauen(cboPartnerschaftsLinien, lstGelöschtePLinien);
-}
-
-Nummernverzeichnis::Nummernverzeichnis(const Satzliste &speicher) {
-    positionen_.reserve(static_cast<size_t>(speicher.Anzahl()));
-    int position = 0;
-    for (const auto &satz : speicher)
-        positionen_.try_emplace(std::string_view(satz).substr(0, Nummernbreite), position++);
-}
-
-int Nummernverzeichnis::Position(std::string_view nr) const {
-    const auto gefunden = positionen_.find(nr);
-    return gefunden == positionen_.end() ? -1 : gefunden->second;
 }
 
 } // namespace kw

@@ -5,7 +5,6 @@
 #include <array>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
 namespace kw {
 
@@ -89,17 +88,5 @@ struct SpeicherZeile {
 
 /// In the order in which a project is loaded: persons, then text boxes, then the lines A to E.
 extern const std::array<SpeicherZeile, 7> SpeicherTabelle;
-
-/// Positions of records by the number in their first three characters; the first record with a number
-/// wins. Views into the store, which must not change while this is used.
-class Nummernverzeichnis {
-  public:
-    explicit Nummernverzeichnis(const Satzliste &speicher);
-    /// Position of the record with `nr`, or -1.
-    int Position(std::string_view nr) const;
-
-  private:
-    std::unordered_map<std::string_view, int> positionen_;
-};
 
 } // namespace kw

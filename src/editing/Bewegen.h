@@ -1,6 +1,6 @@
 #pragma once
 
-#include "editing/Bezuege.h"
+#include "document/Nachschlagen.h"
 #include "editing/Werkbank.h"
 
 #include <string_view>

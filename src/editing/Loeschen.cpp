@@ -103,8 +103,6 @@ int Sätze(const Dokument &d) {
     return summe;
 }
 
-bool Gültig(const Satzliste &speicher, int position) { return position >= 0 && position < speicher.Anzahl(); }
-
 void GruppenPersonenLöschen(Werkbank &w) {
     const Satzliste personen = w.auswahl.lstMovedPers;
     for (int i = personen.Anzahl() - 1; i >= 0; --i) {

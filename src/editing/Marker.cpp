@@ -12,14 +12,6 @@ namespace {
 constexpr double TextRandLinks = 0.1;  ///< the frame of a text box begins that far left of it
 constexpr double TextMaskeMehr = 0.22; ///< the drag mask is that much wider than the text
 
-int MitAnfang(const Satzliste &speicher, std::string_view nr) {
-    const std::string_view gesucht = nr.substr(0, 3);
-    if (gesucht.empty()) return -1;
-    for (int i = 0; i < speicher.Anzahl(); ++i)
-        if (std::string_view(speicher.Satz(i)).substr(0, 3) == gesucht) return i;
-    return -1;
-}
-
 Umriss MaskenForm(int typ) {
     switch (typ) {
     case 1:
@@ -141,14 +133,6 @@ void KreisAuswählen(Werkbank &w, int position) {
     w.auswahl.lstMovedKreisLinien.Anhängen(std::to_string(position + 1));
     lage.KreisPunkte = KreisPunkte(w.dokument.cboFreehandlines.Satz(position));
 }
-
-int PersonMitNr(const Dokument &dokument, std::string_view nr) { return MitAnfang(dokument.cboPersonen, nr); }
-
-int PLinieMitNr(const Dokument &dokument, std::string_view nr) {
-    return MitAnfang(dokument.cboPartnerschaftsLinien, nr);
-}
-
-int KindLinieVon(const Dokument &dokument, std::string_view nr) { return MitAnfang(dokument.cboKindlinien, nr); }
 
 std::string ZwillingNr(std::string_view zwilling) {
     return std::string(zwilling.size() > 2 ? zwilling.substr(2) : std::string_view{});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/Nachschlagen.h"
 #include "editing/Werkbank.h"
 
 // Selecting and unselecting, and putting the shapes over the page out of the way.
@@ -29,13 +30,6 @@ void PersonAuswählen(Werkbank &w, int position);
 void TextboxAuswählen(Werkbank &w, int position);
 /// Selects the circle line at `position` (from 0) alone; `Aktion` 19.
 void KreisAuswählen(Werkbank &w, int position);
-
-/// Position of the person with number `nr`, the first three characters compared; -1 none.
-int PersonMitNr(const Dokument &dokument, std::string_view nr);
-/// The same for partnership lines.
-int PLinieMitNr(const Dokument &dokument, std::string_view nr);
-/// The child line of child `nr`.
-int KindLinieVon(const Dokument &dokument, std::string_view nr);
 
 /// Number of the other twin in field `Zwilling`, behind its mark; empty when there is none.
 std::string ZwillingNr(std::string_view zwilling);

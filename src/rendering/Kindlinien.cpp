@@ -1,4 +1,5 @@
 #include "document/Felder.h"
+#include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
 #include "rendering/Ebenen.h"
 

@@ -1,3 +1,4 @@
+#include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
 #include "rendering/Beschriftung.h"
 #include "rendering/Ebenen.h"

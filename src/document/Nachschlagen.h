@@ -1,13 +1,41 @@
 #pragma once
 
-#include "document/Dokument.h"
+#include "document/Satzliste.h"
 
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
+// Every way from a number, or from an entry of a selection list, to a position in a store. Positions count from 0, -1
+// is none.
 namespace kw {
+
+struct Dokument;
+
+/// Position of the person with number `nr`, the first three characters compared; the first record with it wins.
+int PersonMitNr(const Dokument &dokument, std::string_view nr);
+/// The same for partnership lines.
+int PLinieMitNr(const Dokument &dokument, std::string_view nr);
+/// The child line of child `nr`.
+int KindLinieVon(const Dokument &dokument, std::string_view nr);
+
+/// The position that an entry of a selection list stands for, in a store that the list counts from `erste`.
+int PositionAus(std::string_view eintrag, const Satzliste &speicher, int erste);
+/// Whether a store has that position.
+inline bool Gültig(const Satzliste &speicher, int position) { return position >= 0 && position < speicher.Anzahl(); }
+
+/// Positions of records by the number that they begin with. Views into the store, which must not change while this is
+/// used.
+class Nummernverzeichnis {
+  public:
+    explicit Nummernverzeichnis(const Satzliste &speicher);
+    /// Position of the record with `nr`, or -1.
+    int Position(std::string_view nr) const;
+
+  private:
+    std::unordered_map<std::string_view, int> positionen_;
+};
 
 /// Which records name which person and which partnership, by position. Built once for a gesture that rewrites many
 /// records; stays right as long as no record comes, goes or changes its numbers. Without it a group move would
@@ -21,7 +49,7 @@ class Bezüge {
     int PLinie(std::string_view nr) const { return Erste(plinien_, nr); }
     /// The child line of a child.
     int Kindlinie(std::string_view kindNr) const { return Erste(kindlinien_, kindNr); }
-    /// Lines that name the person at either end.
+    /// Lines that name the person at either end. Damaged ones name nobody.
     const Positionen &Partnerschaften(std::string_view nr) const { return Alle(partnerschaften_, nr); }
     const Positionen &Beziehungen(std::string_view nr) const { return Alle(beziehungen_, nr); }
     /// Child lines of a partnership.
