@@ -1,6 +1,7 @@
 #include "app/Befehle.h"
 
 #include "app/frmMain.h"
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
 #include "editing/Kinder.h"

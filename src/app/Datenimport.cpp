@@ -2,7 +2,7 @@
 
 #include "app/frmMain.h"
 #include "document/Dateien.h"
-#include "document/Zahlen.h"
+#include "document/Texte.h"
 #include "editing/Verbindungen.h"
 
 #include <algorithm>

@@ -6,7 +6,7 @@
 #include "dialogs/frmEinstellungen.h"
 #include "document/Dateien.h"
 #include "document/Papier.h"
-#include "document/Zahlen.h"
+#include "document/Texte.h"
 #include "editing/Marker.h"
 #include "editing/Werkzeuge.h"
 #include "rendering/Seite.h"

@@ -1,5 +1,6 @@
 #include "dialogs/Schriftlisten.h"
 
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "dialogs/frmDrucken.h"
 
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 
 #include <algorithm>

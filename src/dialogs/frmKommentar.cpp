@@ -3,6 +3,7 @@
 #include "dialogs/Schriftlisten.h"
 #include "dialogs/frmSchrift.h"
 #include "document/Felder.h"
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"

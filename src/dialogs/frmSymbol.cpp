@@ -1,6 +1,7 @@
 #include "dialogs/frmSymbol.h"
 
 #include "dialogs/Personenbild.h"
+#include "document/Texte.h"
 #include "editing/Loeschen.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"

@@ -1,5 +1,6 @@
 #include "dialogs/frmSymbol.h"
 #include "document/Felder.h"
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 
 // The date of birth and the age: the one that has the focus sets the other.

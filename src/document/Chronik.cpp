@@ -1,6 +1,6 @@
 #include "document/Chronik.h"
 
-#include "document/Zahlen.h"
+#include "document/Texte.h"
 
 #include <algorithm>
 

@@ -2,6 +2,7 @@
 
 #include "document/Codepage.h"
 #include "document/Felder.h"
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 
 #include <algorithm>

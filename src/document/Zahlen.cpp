@@ -91,18 +91,6 @@ int Ganzzahl16(double wert) {
     return static_cast<int>(std::clamp(std::nearbyint(wert), -32768.0, 32767.0));
 }
 
-int Zeichenzahl(std::string_view text) {
-    constexpr unsigned Fortsetzung = 0x80; // the bytes of a character behind its first
-    return static_cast<int>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != Fortsetzung; }));
-}
-
-std::string_view Getrimmt(std::string_view text) {
-    const auto anfang = text.find_first_not_of(' ');
-    if (anfang == std::string_view::npos) return {};
-    return text.substr(anfang, text.find_last_not_of(' ') - anfang + 1);
-}
-
 std::string Dreistellig(int nummer) {
     auto ziffern = std::to_string(std::abs(nummer));
     if (ziffern.size() < 3) ziffern.insert(0, 3 - ziffern.size(), '0');

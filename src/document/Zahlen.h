@@ -29,12 +29,6 @@ inline bool Kleiner(double a, double b) { return b - a > 1e-6; }
 /// `wert` rounded half to even and held within the 16 bits that a whole number of a record has.
 int Ganzzahl16(double wert);
 
-/// Characters of a UTF-8 text.
-int Zeichenzahl(std::string_view text);
-
-/// `text` without the blanks around it.
-std::string_view Getrimmt(std::string_view text);
-
 /// `nummer` in "000" format: at least three digits, as the numbers of persons and lines are written.
 std::string Dreistellig(int nummer);
 

@@ -1,5 +1,6 @@
 #include "document/basAltersberechnung.h"
 
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 
 #include <algorithm>

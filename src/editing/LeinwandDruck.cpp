@@ -1,6 +1,7 @@
 #include "editing/Leinwand.h"
 
 #include "document/Felder.h"
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Kinder.h"
 #include "editing/Marker.h"

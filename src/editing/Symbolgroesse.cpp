@@ -1,5 +1,6 @@
 #include "editing/Symbolgroesse.h"
 
+#include "document/Texte.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
 

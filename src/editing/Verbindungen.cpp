@@ -1,6 +1,7 @@
 #include "editing/Verbindungen.h"
 
 #include "document/Felder.h"
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Marker.h"
 #include "editing/Treffer.h"

@@ -1,6 +1,7 @@
 #include "editing/Werkzeuge.h"
 
 #include "document/Felder.h"
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Marker.h"
 #include "editing/Verbindungen.h"

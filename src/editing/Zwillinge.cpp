@@ -1,3 +1,4 @@
+#include "document/Texte.h"
 #include "editing/Kinder.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"

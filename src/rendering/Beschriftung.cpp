@@ -1,7 +1,7 @@
 #include "rendering/Beschriftung.h"
 
 #include "document/Dokument.h"
-#include "document/Zahlen.h"
+#include "document/Texte.h"
 
 #include <algorithm>
 

@@ -1,4 +1,5 @@
 #include "document/Felder.h"
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "rendering/Ebenen.h"
 

@@ -1,5 +1,5 @@
 #include "commands/Menuetafel.h"
-#include "document/Zahlen.h"
+#include "document/Texte.h"
 #include "replay/Skriptbefehle.h"
 
 #include <cmath>
