@@ -32,7 +32,7 @@ std::string Zeichenfolge(std::string_view text, int ab, int anzahl) {
     std::string teil;
     int stelle = -1;
     for (const char c : text) {
-        if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) ++stelle; // no byte of the character before
+        if (!IstFortsetzung(c)) ++stelle;
         if (stelle >= ab && stelle < ab + anzahl) teil += c;
     }
     return teil;

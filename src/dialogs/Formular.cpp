@@ -1,5 +1,7 @@
 #include "dialogs/Formular.h"
 
+#include "document/Texte.h"
+
 namespace kw {
 
 Steuerelement &Formular::operator[](std::string_view name) {
@@ -61,8 +63,7 @@ void Formular::Tippen(std::string_view name, std::string_view zeichen) {
     if (!element.Enabled || !element.Visible) return;
     std::string text = element.Text;
     if (zeichen == "\b") {
-        constexpr unsigned Fortsetzung = 0x80; // the bytes of a character behind its first
-        while (!text.empty() && (static_cast<unsigned char>(text.back()) & 0xC0U) == Fortsetzung) text.pop_back();
+        while (!text.empty() && IstFortsetzung(text.back())) text.pop_back();
         if (!text.empty()) text.pop_back();
     } else {
         if (!TasteErlaubt(name, zeichen)) return;

@@ -15,7 +15,6 @@ namespace kw {
 
 namespace {
 
-constexpr std::string_view Absatz = "¶"; ///< stands for an underscore in stored texts
 constexpr int MittlereListenstelle = 2;
 constexpr int Mittel = 1;
 
@@ -75,21 +74,15 @@ constexpr Aufschrift Aufschriften[] = {
     {"Command3", Art::Knopf, "Abbrechen", "Cancel"},
 };
 
-std::string Ersetzt(std::string text, std::string_view alt, std::string_view neu) {
-    for (size_t i = text.find(alt); i != std::string::npos; i = text.find(alt, i + neu.size()))
-        text.replace(i, alt.size(), neu);
-    return text;
-}
-
 std::string Kodiert(std::string text) {
     std::erase(text, '\r'); // pasted lines can end so
-    return Ersetzt(Ersetzt(Ersetzt(std::move(text), Absatz, ""), "\n", "#"), "_", Absatz);
+    return MitAbsatzzeichen(Ersetzt(Ersetzt(std::move(text), Absatzzeichen, ""), "\n", "#"));
 }
 
-std::string Dekodiert(std::string_view text) { return Ersetzt(Ersetzt(std::string(text), Absatz, "_"), "#", "\n"); }
+std::string Dekodiert(std::string_view text) { return Ersetzt(OhneAbsatzzeichen(text), "#", "\n"); }
 
 bool IstLeer(const std::string &text) {
-    return Ersetzt(text, Absatz, "").find_first_not_of(" \r\n") == std::string::npos;
+    return Ersetzt(text, Absatzzeichen, "").find_first_not_of(" \r\n") == std::string::npos;
 }
 
 /// A typed font or size, without what would be one field too many.
@@ -148,7 +141,7 @@ void frmKommentar::TextboxAufnehmen(std::string_view satz) {
 }
 
 bool frmKommentar::TasteErlaubt(std::string_view name, std::string_view zeichen) const {
-    return name != "Text1" || (zeichen != "#" && zeichen != Absatz);
+    return name != "Text1" || (zeichen != "#" && zeichen != Absatzzeichen);
 }
 
 void frmKommentar::Geändert(std::string_view name) {

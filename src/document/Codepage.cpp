@@ -1,5 +1,7 @@
 #include "document/Codepage.h"
 
+#include "document/Texte.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -39,9 +41,8 @@ Gelesen ErstesZeichen(std::string_view text) {
     if (erstes < 0xC2 || erstes > 0xF4 || text.size() < länge) return {0, 0};
     char32_t zeichen = erstes & (0xFFU >> (länge + 1));
     for (size_t i = 1; i < länge; ++i) {
-        const auto folge = static_cast<unsigned char>(text[i]);
-        if ((folge & 0xC0) != 0x80) return {0, 0};
-        zeichen = zeichen << 6 | (folge & 0x3F);
+        if (!IstFortsetzung(text[i])) return {0, 0};
+        zeichen = zeichen << 6 | (static_cast<unsigned char>(text[i]) & 0x3F);
     }
     static constexpr std::array<char32_t, 5> Kleinstes{0, 0, 0x80, 0x800, 0x10000};
     const bool ersatz = zeichen >= 0xD800 && zeichen <= 0xDFFF;

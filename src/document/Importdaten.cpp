@@ -17,14 +17,7 @@ constexpr double ErsteZeile = 6;
 constexpr double Personengröße = 1.2;
 constexpr int HöchstzahlZeilen = 32767; ///< rows are counted in 16 bits
 
-/// A text as the text boxes keep it: the mark between fields has a stand-in there.
-std::string AlsText(std::string_view text) {
-    std::string ersetzt;
-    for (const char c : text) ersetzt += c == '_' ? "¶" : std::string(1, c);
-    return ersetzt;
-}
-
-/// A text as a field of a person, who has no such stand-in: the mark would begin another field.
+/// A text as a field of a person, who has no stand-in for the mark between fields: it would begin another one.
 std::string AlsFeld(std::string_view text) {
     std::string feld(text);
     std::replace(feld.begin(), feld.end(), '_', ' ');
@@ -47,7 +40,7 @@ std::vector<std::string> Nummern(const Profil &daten) {
 } // namespace
 
 std::vector<std::string> ImportTexte(const Profil &daten) {
-    const auto wert = [&](std::string_view schlüssel) { return AlsText(daten.Lesen("INFO", schlüssel)); };
+    const auto wert = [&](std::string_view schlüssel) { return MitAbsatzzeichen(daten.Lesen("INFO", schlüssel)); };
     return {"1.2_1.2_Arial_14_0_0_0_0_0_" + wert("title"),
             "1.2_2.4_Arial_9_0_0_0_0_0_Hilfebeginn:   " + wert("help_start") +
                 "#Hilfeart:   " + wert("assistance_type") + "#Hilfeumfang:   " + wert("hours_week") +

@@ -18,15 +18,6 @@ struct Maße {
 
 double MitMindestmaß(double maß) { return maß <= KleinstesMaß ? KleinstesMaß : maß; }
 
-/// Stored texts carry "¶" for an underscore, which separates fields.
-std::string OhneAbsatzzeichen(std::string_view zeile) {
-    constexpr std::string_view Absatz = "¶";
-    std::string text(zeile);
-    for (size_t i = text.find(Absatz); i != std::string::npos; i = text.find(Absatz, i + 1))
-        text.replace(i, Absatz.size(), "_");
-    return text;
-}
-
 double Zeilenanfang(std::string_view ausrichtung, double textX, double boxBreite, double breite) {
     if (ausrichtung == "1") return textX + boxBreite - breite;
     if (ausrichtung == "2") return textX + boxBreite / 2 - breite / 2;

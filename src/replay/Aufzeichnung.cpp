@@ -1,5 +1,7 @@
 #include "replay/Aufzeichnung.h"
 
+#include "document/Texte.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -25,10 +27,6 @@ std::string Reihe(std::initializer_list<double> werte) {
 }
 
 bool Geparkt(double rechts, double unten) { return rechts < Rand || unten < Rand; }
-
-auto Zeichenzahl(std::string_view utf8) {
-    return std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; });
-}
 
 } // namespace
 
@@ -97,9 +95,7 @@ void Aufzeichnung::TextZeichnen(std::string_view text) {
             " color=" + Hex(ForeColor) + " opaque=" + std::to_string(!FontTransparent) + "\n";
 }
 
-double Aufzeichnung::TextWidth(std::string_view text) {
-    return static_cast<double>(Zeichenzahl(text)) * 0.6 * FontSize * Punkt();
-}
+double Aufzeichnung::TextWidth(std::string_view text) { return Zeichenzahl(text) * 0.6 * FontSize * Punkt(); }
 
 double Aufzeichnung::TextHeight() { return 1.2 * FontSize * Punkt(); }
 

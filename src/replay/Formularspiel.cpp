@@ -1,6 +1,6 @@
 #include "replay/Formularspiel.h"
 
-#include "document/Zahlen.h"
+#include "document/Texte.h"
 #include "replay/Skript.h"
 
 #include <algorithm>
@@ -24,11 +24,6 @@ std::string Inhalt(const Steuerelement &element) {
     }
 }
 
-std::string EineZeile(std::string text) {
-    for (size_t i = text.find('\n'); i != std::string::npos; i = text.find('\n', i)) text.replace(i, 1, "\\n");
-    return text;
-}
-
 /// The characters of a text; "\n" and "\b" written out are Enter and Backspace.
 std::vector<std::string> Tasten(std::string_view text) {
     std::vector<std::string> tasten;
@@ -39,16 +34,11 @@ std::vector<std::string> Tasten(std::string_view text) {
             continue;
         }
         size_t länge = 1;
-        while (i + länge < text.size() && (static_cast<unsigned char>(text[i + länge]) & 0xC0U) == 0x80U) ++länge;
+        while (i + länge < text.size() && IstFortsetzung(text[i + länge])) ++länge;
         tasten.emplace_back(text.substr(i, länge));
         i += länge;
     }
     return tasten;
-}
-
-std::string OhneUmbruchzeichen(std::string text) {
-    for (size_t i = text.find("\\n"); i != std::string::npos; i = text.find("\\n", i + 1)) text.replace(i, 2, "\n");
-    return text;
 }
 
 } // namespace
@@ -154,7 +144,7 @@ void Formularspiel::Zeile(const std::string &zeile) {
     } else if (befehl == "set" && schaltbar) {
         if (form_.Finden(name)->Value != (text == "1")) form_.Drücken(name);
     } else if (befehl == "set") {
-        form_.TextEingeben(name, OhneUmbruchzeichen(text));
+        form_.TextEingeben(name, Ersetzt(text, "\\n", "\n"));
     } else if (befehl == "pick") {
         form_.Wählen(name, Zahl(text));
     } else if (befehl == "press") {

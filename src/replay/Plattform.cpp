@@ -5,6 +5,7 @@
 #include "document/Dateien.h"
 #include "document/Zahlen.h"
 #include "replay/Aufzeichnung.h"
+#include "replay/Woerter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -12,11 +13,6 @@
 namespace kw {
 
 namespace {
-
-std::string EineZeile(std::string text) {
-    for (size_t i = text.find('\n'); i != std::string::npos; i = text.find('\n', i)) text.replace(i, 1, "\\n");
-    return text;
-}
 
 const char *KnopfText(Knöpfe knöpfe) {
     switch (knöpfe) {

@@ -1,6 +1,7 @@
 #include "replay/Woerter.h"
 
 #include "document/Felder.h"
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 
 #include <algorithm>
@@ -47,6 +48,8 @@ std::string Ab(const Wörter &w, size_t i) {
     for (++i; i < w.size(); ++i) text += " " + w[i];
     return text;
 }
+
+std::string EineZeile(const std::string &text) { return Ersetzt(text, "\n", "\\n"); }
 
 double Dezimalzahl(const std::string &text) {
     const auto ziffern = std::string_view(text).substr(text.starts_with('-') ? 1 : 0);

@@ -22,6 +22,8 @@ Wörter Geteilt(std::string_view text, char trenner);
 const std::string &Wort(const Wörter &w, size_t i);
 /// The words from `i` on, blanks between them.
 std::string Ab(const Wörter &w, size_t i);
+/// A text in one line of output: what ends a line is written out, "\n".
+std::string EineZeile(const std::string &text);
 
 /// A word that is a decimal number, "." being the decimal mark.
 double Dezimalzahl(const std::string &text);
