@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <chrono>
 #include <vector>
 
 namespace kw {
@@ -19,11 +20,10 @@ struct Teil {
     size_t Ziffern;
 };
 
-bool IstSchaltjahr(int jahr) { return (jahr % 4 == 0 && jahr % 100 != 0) || jahr % 400 == 0; }
-
-int TageImMonat(int monat, int jahr) {
-    static constexpr std::array<int, 12> Tage{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    return monat == 2 && IstSchaltjahr(jahr) ? 29 : Tage[static_cast<size_t>(monat - 1)];
+/// The calendar keeps month and day in a byte each: they have at most two digits here.
+bool IstTag(const Datum &d) {
+    using namespace std::chrono;
+    return year_month_day{year{d.Jahr}, month{static_cast<unsigned>(d.Monat)}, day{static_cast<unsigned>(d.Tag)}}.ok();
 }
 
 std::optional<std::array<Teil, 3>> Zerlegt(std::string_view text) {
@@ -49,8 +49,7 @@ int VollesJahr(Teil jahr) {
 std::optional<Datum> Gültig(Teil jahr, Teil monat, Teil tag) {
     if (monat.Ziffern > 2 || tag.Ziffern > 2) return {};
     const Datum datum{VollesJahr(jahr), monat.Wert, tag.Wert};
-    if (datum.Jahr < KleinstesJahr || datum.Monat < 1 || datum.Monat > 12) return {};
-    if (datum.Tag < 1 || datum.Tag > TageImMonat(datum.Monat, datum.Jahr)) return {};
+    if (datum.Jahr < KleinstesJahr || !IstTag(datum)) return {};
     return datum;
 }
 
