@@ -34,7 +34,6 @@ struct Ansicht {
     double Skalierung = 1; ///< displayed centimetres by paper centimetres, of the canvas
 
     bool PfeilMarkiert = false; ///< the last redraw showed an arrow with its handles
-    int MarkierterPfeil = -1;
 };
 
 } // namespace kw

@@ -14,7 +14,7 @@ void PartnerschaftslinienZeichnen(Zeichenfläche &fläche, const Zeichnung &z, d
 void KindlinienZeichnen(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
 
 void KreislinienEbene(Zeichenfläche &fläche, const Zeichnung &z);
-/// Also sets the view's `Pfeilfarbe`, and which arrow shows its handles.
+/// Also sets the view's `Pfeilfarbe`, and whether an arrow shows its handles.
 void PfeilEbene(Zeichenfläche &fläche, Zeichnung &z);
 
 /// Persons with their labels, then the text boxes. In print the base line width becomes 6 here.

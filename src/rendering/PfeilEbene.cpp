@@ -87,7 +87,6 @@ void PfeilEbene(Zeichenfläche &f, Zeichnung &z) {
         if (!gewählt.contains(i)) continue;
         GriffeZeichnen(f, p);
         a.PfeilMarkiert = true;
-        a.MarkierterPfeil = i;
     }
 }
 
