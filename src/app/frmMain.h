@@ -24,6 +24,8 @@
 
 namespace kw {
 
+struct Einblick;
+
 /// The platform as the main window sees it.
 struct Plattform {
     Benutzer &benutzer;
@@ -142,6 +144,8 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     Auswahlliste Combo3; ///< font styles
 
   private:
+    friend struct Einblick; // for scripts and tests
+
     void NachEreignis();
     void NachSchrittImRing();
     void NichtsAuswählen();

@@ -11,9 +11,9 @@ namespace {
 
 /// What the user chooses, wherever it stands; menus, toolbar and palette need no roads of their own.
 void Auslösen(Wiedergabe &lauf, const std::string &name) {
-    frmMain &haupt = lauf.Läuft().haupt;
-    if (!haupt.bedienung.Finden(name) && !BefehlFinden(name)) throw Skriptfehler("unknown name: " + name);
-    if (!haupt.BefehlAusführen(name)) lauf.aus << "disabled " << name << "\n";
+    Programm &p = lauf.Läuft();
+    if (!p.innen.bedienung.Finden(name) && !BefehlFinden(name)) throw Skriptfehler("unknown name: " + name);
+    if (!p.haupt.BefehlAusführen(name)) lauf.aus << "disabled " << name << "\n";
 }
 
 void WerkzeugWählen(Wiedergabe &lauf, const std::string &wort) {
@@ -69,25 +69,25 @@ void Beantworten(Wiedergabe &lauf, const Wörter &w) {
 /// The lists of the toolbar, and what a choice in them does.
 struct Wahlliste {
     std::string_view Name;
-    const Auswahlliste &(*Liste)(frmMain &);
-    void (*Wählen)(frmMain &, int);
+    const Auswahlliste &(*Liste)(const Einblick &);
+    void (*Wählen)(const Einblick &, int);
 };
 
 constexpr Wahlliste Wahllisten[] = {
-    {"cboBildGröße", [](frmMain &h) -> const Auswahlliste & { return h.bereich.cboBildGröße; },
-     [](frmMain &h, int i) { h.bereich.ZoomWählen(i); }},
-    {"cboRaster", [](frmMain &h) -> const Auswahlliste & { return h.cboRaster; },
-     [](frmMain &h, int i) { h.anzeige.RasterWählen(i); }},
+    {"cboBildGröße", [](const Einblick &h) -> const Auswahlliste & { return h.bereich.cboBildGröße; },
+     [](const Einblick &h, int i) { h.bereich.ZoomWählen(i); }},
+    {"cboRaster", [](const Einblick &h) -> const Auswahlliste & { return h.cboRaster; },
+     [](const Einblick &h, int i) { h.anzeige.RasterWählen(i); }},
 };
 
 void Wählen(Wiedergabe &lauf, const std::string &name, const std::string &index) {
     const auto wahl = std::find_if(std::begin(Wahllisten), std::end(Wahllisten),
                                    [&](const Wahlliste &liste) { return liste.Name == name; });
     if (wahl == std::end(Wahllisten)) throw Skriptfehler("unknown list: " + name);
-    frmMain &haupt = lauf.Läuft().haupt;
+    const Einblick &innen = lauf.Läuft().innen;
     const int i = Zahl(index);
-    if (i < 0 || i >= wahl->Liste(haupt).Anzahl()) throw Skriptfehler("no such entry: " + index);
-    wahl->Wählen(haupt, i);
+    if (i < 0 || i >= wahl->Liste(innen).Anzahl()) throw Skriptfehler("no such entry: " + index);
+    wahl->Wählen(innen, i);
 }
 
 void ZeitgeberAuslösen(Programm &p, const std::string &name) {
@@ -112,11 +112,11 @@ void Warten(Programm &p, int ms) {
 }
 
 void Ablegen(Wiedergabe &lauf, const Wörter &w) {
-    frmMain &haupt = lauf.Läuft().haupt;
+    Programm &p = lauf.Läuft();
     const int zeile = Zahl(Wort(w, 1));
-    if (zeile < 0 || zeile >= static_cast<int>(haupt.import.Listenzeilen.size()))
+    if (zeile < 0 || zeile >= static_cast<int>(p.innen.import.Listenzeilen.size()))
         throw Skriptfehler("no such row: " + w[1]);
-    haupt.ImportzeileAblegen(zeile, Dezimalzahl(Wort(w, 2)), Dezimalzahl(Wort(w, 3)));
+    p.haupt.ImportzeileAblegen(zeile, Dezimalzahl(Wort(w, 2)), Dezimalzahl(Wort(w, 3)));
 }
 
 constexpr Skriptbefehl Tabelle[] = {
@@ -132,7 +132,7 @@ constexpr Skriptbefehl Tabelle[] = {
     {"hover", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt.PaletteBerührt(Zahl(Wort(w, 1))); }},
     {"drop", [](auto &lauf, auto &w, auto &) { Ablegen(lauf, w); }},
     {"resize",
-     [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
+     [](auto &lauf, auto &w, auto &) { lauf.Läuft().innen.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
     {"close", [](auto &lauf, auto &, auto &) { lauf.aus << (lauf.Läuft().haupt.Schließen() ? "closed\n" : "open\n"); }},
     {"wait", [](auto &lauf, auto &w, auto &) { Warten(lauf.Läuft(), Zahl(Wort(w, 1))); }},
     {"raise", [](auto &lauf, auto &w, auto &) { ZeitgeberAuslösen(lauf.Läuft(), Wort(w, 1)); }},

@@ -8,7 +8,7 @@ int Ganzzahl(const std::string &text) { return AusText<int>(text); }
 
 } // namespace
 
-Namen::Namen(frmMain &h) {
+Namen::Namen(const Einblick &h) {
     Programmnamen(h);
     Dokumentnamen(h);
     Ansichtsnamen(h);
@@ -18,7 +18,7 @@ Namen::Namen(frmMain &h) {
     Auflagennamen(h.auflagen);
 }
 
-void Namen::Programmnamen(frmMain &h) {
+void Namen::Programmnamen(const Einblick &h) {
     Variablen.insert({
         {"Programmversion", Abgeleitet([] { return std::string(frmMain::Programmversion); })},
         {"IniDatei", Von(h.IniDatei)},
@@ -39,20 +39,20 @@ void Namen::Programmnamen(frmMain &h) {
         {"BalkenAbstand", Abgeleitet([] { return BalkenAbstand; })},
         {"Textvorlage", Von(h.Textvorlage)},
         {"UndoTiefe", Abgeleitet([] { return UndoRing::UndoTiefe; })},
-        {"UndoPos", Abgeleitet([&h] { return h.ring.UndoPos(); })},
-        {"UndoSchritte", Abgeleitet([&h] { return h.ring.UndoSchritte(); })},
-        {"RedoSchritte", Abgeleitet([&h] { return h.ring.RedoSchritte(); })},
-        {"UndoFüllung", Abgeleitet([&h] { return h.ring.UndoFüllung(); })},
+        {"UndoPos", Abgeleitet([h] { return h.ring.UndoPos(); })},
+        {"UndoSchritte", Abgeleitet([h] { return h.ring.UndoSchritte(); })},
+        {"RedoSchritte", Abgeleitet([h] { return h.ring.RedoSchritte(); })},
+        {"UndoFüllung", Abgeleitet([h] { return h.ring.UndoFüllung(); })},
         {"KopierModus", Von(h.ablage.KopierModus)},
         {"KopierPunkt", Von(h.ablage.KopierPunkt)},
         {"KopierBreite", Von(h.ablage.KopierBreite)},
         {"KopierHöhe", Von(h.ablage.KopierHöhe)},
     });
     for (int i = 1; i <= Chronik::Plätze; ++i)
-        Variablen["Chronik(" + std::to_string(i) + ")"] = Abgeleitet([&h, i] { return h.einstellungen.Zuletzt[i]; });
+        Variablen["Chronik(" + std::to_string(i) + ")"] = Abgeleitet([h, i] { return h.einstellungen.Zuletzt[i]; });
 }
 
-void Namen::Dokumentnamen(frmMain &h) {
+void Namen::Dokumentnamen(const Einblick &h) {
     Dokument &d = h.dokument;
     Variablen.insert({
         {"Papiercode", Von(d.Papiercode)},
@@ -87,7 +87,7 @@ void Namen::Dokumentnamen(frmMain &h) {
                    {"ZA_Pfeile", &h.ablage.ZA_Pfeile}});
 }
 
-void Namen::Ansichtsnamen(frmMain &h) {
+void Namen::Ansichtsnamen(const Einblick &h) {
     Ansicht &a = h.ansicht;
     Variablen.insert({
         {"Sprache",
@@ -113,7 +113,7 @@ void Namen::Ansichtsnamen(frmMain &h) {
         Variablen["Linienfarben(" + std::to_string(i + 1) + ")"] = Von(a.Linienfarben[i]);
 }
 
-void Namen::Auswahllisten(frmMain &h) {
+void Namen::Auswahllisten(const Einblick &h) {
     const std::map<std::string, Auswahlliste *> auswahllisten{{"cboRaster", &h.cboRaster},
                                                               {"cboPaperSize", &h.cboPaperSize},
                                                               {"cboBildGröße", &h.bereich.cboBildGröße},
@@ -125,8 +125,8 @@ void Namen::Auswahllisten(frmMain &h) {
         Variablen[name + ".index"] = Von(liste->ListIndex);
     }
     // These two apply a choice at once.
-    Variablen["cboBildGröße.index"].Setzen = [&h](const std::string &text) { h.bereich.ZoomWählen(Ganzzahl(text)); };
-    Variablen["cboRaster.index"].Setzen = [&h](const std::string &text) { h.anzeige.RasterWählen(Ganzzahl(text)); };
+    Variablen["cboBildGröße.index"].Setzen = [h](const std::string &text) { h.bereich.ZoomWählen(Ganzzahl(text)); };
+    Variablen["cboRaster.index"].Setzen = [h](const std::string &text) { h.anzeige.RasterWählen(Ganzzahl(text)); };
     Listen["cboBildGr_e"] = Listen["cboBildGröße"];
     Variablen["cboBildGr_e.index"] = Variablen["cboBildGröße.index"];
 }

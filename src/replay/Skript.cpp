@@ -68,7 +68,7 @@ void PlattformEinrichten(Programm &p, Angaben &angaben) {
 
 Programm::Programm(std::ostream &aus, const Startangaben &start)
     : benutzer(aus, wirkungen), haupt({benutzer, drucker, bilder, uhr}, leinwand, start) {
-    benutzer.bedienung = &haupt.bedienung;
+    benutzer.bedienung = &innen.bedienung;
 }
 
 Wiedergabe::Wiedergabe(std::ostream &aus_) : aus(aus_) {

@@ -25,7 +25,8 @@ struct Programm {
     Aufzeichnung leinwand;
     DrehbuchBilder bilder{leinwand, wirkungen};
     frmMain haupt;
-    Namen namen{haupt};
+    Einblick innen{haupt};
+    Namen namen{innen};
     Altersberechnung alter{uhr};
     int Taste = TasteKeine; ///< the mouse button that is down
 };

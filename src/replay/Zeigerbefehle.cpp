@@ -48,7 +48,7 @@ void Ziehen(Programm &p, Ort von, Ort nach) {
 
 void Rad(Programm &p, const std::string &richtung) {
     if (richtung != "up" && richtung != "down") throw Skriptfehler("unknown word: " + richtung);
-    p.haupt.bereich.Mausrad(richtung == "up");
+    p.innen.bereich.Mausrad(richtung == "up");
 }
 
 constexpr Skriptbefehl Tabelle[] = {

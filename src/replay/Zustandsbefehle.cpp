@@ -38,7 +38,7 @@ std::string Wert(const Programm &p, const std::string &name) {
 std::string Zustand(const Programm &p, const std::string &frage, const std::string &name) {
     if (const auto s = p.namen.Sichtbar.find(name); frage == "visible" && s != p.namen.Sichtbar.end())
         return std::to_string(s->second());
-    const Bedienelement *element = p.haupt.bedienung.Finden(name);
+    const Bedienelement *element = p.innen.bedienung.Finden(name);
     if (!element) throw Skriptfehler("unknown element: " + name);
     if (frage == "caption") return element->Caption;
     if (frage == "enabled") return std::to_string(element->Enabled);
@@ -95,15 +95,15 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
 }
 
 /// One print run, on a surface of the page's size.
-std::string DruckText(frmMain &haupt) {
-    const Ansicht &a = haupt.ansicht;
+std::string DruckText(const Einblick &h) {
+    const Ansicht &a = h.ansicht;
     const auto twips = [](double cm) { return static_cast<int>(std::nearbyint(cm * TwipsJeCm)); };
     Aufzeichnung papier;
     papier.GrößeSetzen(twips(a.SeitenBreite), twips(a.SeitenHöhe));
     papier.PixelJeCm = DruckPixelJeCm;
     papier.Scale(a.SeitenBreite, a.SeitenHöhe, 1);
     papier.Schreibt = true;
-    Zeichnung bild = haupt.DasBild();
+    Zeichnung bild = h.DasBild();
     DruckZeichnen(papier, bild);
     return papier.Text;
 }
@@ -111,7 +111,7 @@ std::string DruckText(frmMain &haupt) {
 std::string VorschauText(Programm &p) {
     p.leinwand.Text.clear();
     p.leinwand.Schreibt = true;
-    p.haupt.Vorschau();
+    p.innen.fenster.Vorschau();
     p.leinwand.Schreibt = false;
     return p.leinwand.Text;
 }
@@ -119,7 +119,7 @@ std::string VorschauText(Programm &p) {
 void Zeichnen(Wiedergabe &lauf, const Wörter &w) {
     if (w.size() > 1 && w[1] != "printing") throw Skriptfehler("unknown word: " + w[1]);
     Programm &p = lauf.Läuft();
-    lauf.aus << (w.size() > 1 ? DruckText(p.haupt) : VorschauText(p));
+    lauf.aus << (w.size() > 1 ? DruckText(p.innen) : VorschauText(p));
 }
 
 /// Every row of the commands' table, as its name and its first caption in that language.
@@ -130,8 +130,8 @@ void Beschriftungen(std::ostream &aus, const std::string &sprache) {
 }
 
 constexpr Skriptbefehl Tabelle[] = {
-    {"load", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt.projekt.Öffnen(Ab(w, 1)); }},
-    {"save", [](auto &lauf, auto &w, auto &) { Speichern(lauf.Läuft().haupt.projekt, Ab(w, 1)); }},
+    {"load", [](auto &lauf, auto &w, auto &) { lauf.Läuft().innen.projekt.Öffnen(Ab(w, 1)); }},
+    {"save", [](auto &lauf, auto &w, auto &) { Speichern(lauf.Läuft().innen.projekt, Ab(w, 1)); }},
     {"store", [](auto &lauf, auto &w, auto &) { Ablegen(lauf.Läuft(), w); }},
     {"set", [](auto &lauf, auto &w, auto &) { Setzen(lauf.Läuft(), w); }},
     {"print", [](auto &lauf, auto &w, auto &) { Drucken(lauf, w); }},

@@ -3,6 +3,7 @@
 
 #include "Familien.h"
 
+#include "app/Einblick.h"
 #include "app/frmMain.h"
 #include "editing/Loeschen.h"
 #include "editing/Treffer.h"
@@ -21,9 +22,9 @@ struct Sitzung {
     explicit Sitzung(benchmark::State &lauf)
         : haupt({benutzer, drucker, bilder, uhr}, leinwand, {"", "", "", "", 28800, 16200}) {
         haupt.Laden();
-        haupt.dokument = Familien(static_cast<int>(lauf.range(0)));
-        haupt.Vorschau();
-        haupt.Sichern();
+        innen.dokument = Familien(static_cast<int>(lauf.range(0)));
+        innen.fenster.Vorschau();
+        innen.fenster.Sichern();
     }
     void Ziehen(double x1, double y1, double x2, double y2) {
         haupt.MouseDown(TasteLinks, x1, y1);
@@ -41,12 +42,13 @@ struct Sitzung {
     Aufzeichnung leinwand;
     DrehbuchBilder bilder{leinwand, wirkungen};
     frmMain haupt;
+    Einblick innen{haupt};
 };
 
 /// Every hit test, at a place where all of them miss.
 void Treffer(benchmark::State &lauf) {
     const Sitzung s(lauf);
-    const Dokument &d = s.haupt.dokument;
+    const Dokument &d = s.innen.dokument;
     for (auto _ : lauf)
         benchmark::DoNotOptimize(KreisLinieBei(d, 29, 20) + PersonBei(d, 29, 20) + BezLinieBei(d, 29, 20) +
                                  PLinieBei(d, 29, 20) + KindLinieBei(d, 29, 20, 1.2) + PfeilBei(d, 29, 20) +
@@ -68,7 +70,7 @@ void GruppeBewegen(benchmark::State &lauf) {
     s.HälfteWählen();
     double weg = 0.3;
     for (auto _ : lauf) {
-        const Auflagenform &rahmen = s.haupt.auflagen.shpBox;
+        const Auflagenform &rahmen = s.innen.auflagen.shpBox;
         const double x = rahmen.Left + 1;
         const double y = rahmen.Top + 1;
         s.Ziehen(x, y, x + weg, y + weg);
@@ -78,19 +80,19 @@ void GruppeBewegen(benchmark::State &lauf) {
 
 void Löschen(benchmark::State &lauf) {
     Sitzung s(lauf);
-    const Dokument ganz = s.haupt.dokument;
+    const Dokument ganz = s.innen.dokument;
     for (auto _ : lauf) {
         lauf.PauseTiming();
-        s.haupt.dokument = ganz;
+        s.innen.dokument = ganz;
         s.HälfteWählen();
         lauf.ResumeTiming();
-        mnuLöschen1(s.haupt.werkbank);
+        mnuLöschen1(s.innen.werkbank);
     }
 }
 
 void UndoUndRedo(benchmark::State &lauf) {
     Sitzung s(lauf);
-    s.haupt.Sichern();
+    s.innen.fenster.Sichern();
     for (auto _ : lauf) {
         s.haupt.cmdUndo();
         s.haupt.cmdredo();

@@ -190,7 +190,7 @@ bool Enthält(const Satzliste &liste, const std::string &wer) {
 
 // clang-format off
 /// What menus, toolbar or canvas show that isn't so.
-std::string Anzeigefehler(frmMain &h) {
+std::string Anzeigefehler(const Einblick &h) {
     const Ansicht &a = h.ansicht;
     const int zoom = h.bereich.cboBildGröße.ListIndex, papier = h.dokument.Papiercode, lage = h.dokument.Seitenlage;
     const auto ist = [&](std::string_view name) { return h.bedienung[name].Checked; };
@@ -263,21 +263,21 @@ const Macke Macken[] = {
 void Prüfung::BeiFormularenZusehen() {
     Programm &p = wiedergabe_.Läuft();
     const auto übriges = [&p] {
-        std::ifstream datei(p.haupt.start.IniDatei);
-        return std::tuple(Ringstand(p.haupt.ring), std::string(std::istreambuf_iterator(datei), {}));
+        std::ifstream datei(p.innen.start.IniDatei);
+        return std::tuple(Ringstand(p.innen.ring), std::string(std::istreambuf_iterator(datei), {}));
     };
     auto &spielen = p.benutzer.FormularSpielen;
     spielen = [=, this, &p, vorige = spielen](Formular &form, const std::vector<std::string> &zeilen) {
-        Dokument vorher = p.haupt.dokument;
-        if (form.Name() == "frmBezLinien" && p.haupt.lage.Aktion == Aktion::BeziehungZiehen)
-            vorher.cboBeziehungsLinien.Entfernen(p.haupt.lage.BezAuswahl);
+        Dokument vorher = p.innen.dokument;
+        if (form.Name() == "frmBezLinien" && p.innen.lage.Aktion == Aktion::BeziehungZiehen)
+            vorher.cboBeziehungsLinien.Entfernen(p.innen.lage.BezAuswahl);
         const auto sonst = übriges();
         vorige(form, zeilen);
         const auto warnt = [&](const char *rahmen) { return form.Finden(rahmen) && form.Finden(rahmen)->Visible; };
         const auto knopf = zeilen.empty() ? "" : zeilen.back().substr(zeilen.back().find(' ') + 1);
         if (knopf == form.Vorgabeknopf && !warnt("shpFalsch") && !warnt("shpFalsch2")) return;
         if (const auto *element = form.Finden(knopf); element && element->Caption == "Delete") return;
-        std::string falsch = Unterschied(vorher, p.haupt.dokument);
+        std::string falsch = Unterschied(vorher, p.innen.dokument);
         if (sonst != übriges()) falsch += " in undo ring or settings file";
         if (!falsch.empty()) verworfen_ = "dismissed " + form.Name() + " changes something" + falsch;
     };
@@ -297,7 +297,7 @@ std::string Prüfung::Zeile(const std::string &zeile) {
     p.benutzer.Antworten.clear();
     p.benutzer.Menüwahlen.clear();
     if (zeile.find("start") != zeile.npos) BeiFormularenZusehen();
-    frmMain &h = p.haupt;
+    const Einblick &h = p.innen;
     alt_ = std::exchange(jetzt_,
                          {h.dokument, h.lage, h.auswahl, h.ring, h.bereich.cboBildGröße.ListIndex, h.projekt.Geändert});
     const Schritt schritt{alt_, jetzt_, zeile_, entschuldigt_};
@@ -318,8 +318,8 @@ std::string Prüfung::Zeile(const std::string &zeile) {
 /// What is wrong with another project: it must be what a fresh program shows of the file.
 std::string Prüfung::Projektwechsel(bool neu) {
     Wiedergabe frisch(aus_);
-    if (!neu) frisch.Zeile("load " + Haupt().projekt.Projektdatei);
-    const Dokument &soll = frisch.Läuft().haupt.dokument, &d = jetzt_.dokument;
+    if (!neu) frisch.Zeile("load " + Innen().projekt.Projektdatei);
+    const Dokument &soll = frisch.Läuft().innen.dokument, &d = jetzt_.dokument;
     const auto seite = [](const Dokument &x) { return std::tie(x.Papiercode, x.Seitenlage, x.LegendeSichtbar); };
     const bool gleich = Unterschied(soll, d).empty() && (neu || seite(soll) == seite(d));
     const bool frei = Frei(soll) == Frei(d) || (!neu && soll.GleicheSätze({})); // no project: they stay
@@ -356,7 +356,7 @@ std::string Prüfung::Übergang() {
     const bool zeigt = beginnt("wheel", "pick") || in("mnuDatei", "mnuAnsicht", "mnuHelp", Werkzeugband, Fensterteile);
     const bool tut = zurück || vor || in("mnuSymbolGröße") || ist("btnClipboard", "btnAuswahlZuBild");
     if (zeigt && !tut && !anders.empty()) return "changed by showing" + anders;
-    if (alt_.zoom != jetzt_.zoom && (!zoomt || Haupt().ansicht.StrichFaktor != 1 + (jetzt_.zoom > 7))) return "zoom";
+    if (alt_.zoom != jetzt_.zoom && (!zoomt || Innen().ansicht.StrichFaktor != 1 + (jetzt_.zoom > 7))) return "zoom";
     if (beginnt("click", "drag") && jetzt_.lage.BildAuswahl) return "region survives a release";
     if (zurück || vor) {
         const int ziel = (vorher + (zurück ? UndoRing::UndoTiefe - 2 : 0)) % UndoRing::UndoTiefe + 1;

@@ -75,7 +75,7 @@ void Zufallsnutzer::Merken(std::vector<Ort> &orte, const Satzliste &speicher, st
 }
 
 void Zufallsnutzer::Umsehen() {
-    const Dokument &d = haupt_->dokument;
+    const Dokument &d = innen_->dokument;
     for (auto *orte : {&personen_, &balken_, &alle_}) orte->clear();
     Merken(personen_, d.cboPersonen, "mnuPerson", PersonFeld::PosX, PersonFeld::PosX);
     Merken(balken_, d.cboPartnerschaftsLinien, "mnuPLinie", PLinieFeld::BalkenX1, PLinieFeld::BalkenX2);
@@ -88,8 +88,8 @@ void Zufallsnutzer::Umsehen() {
         alle_.push_back({ZahlLesen(satz), ZahlLesen(satz.substr(satz.find('^') + 1)) + 0.05, "mnuKreislinie"});
     for (const auto *orte : {&personen_, &balken_}) alle_.insert(alle_.end(), orte->begin(), orte->end());
     if (d.LegendeSichtbar) alle_.push_back({d.LegendeX + 0.2, d.LegendeY + 0.2});
-    if (haupt_->lage.Aktion == Aktion::GruppeGewählt)
-        alle_.push_back({haupt_->auflagen.shpBox.Left + 0.2, haupt_->auflagen.shpBox.Top + 0.2, "mnuAuswahlBox"});
+    if (innen_->lage.Aktion == Aktion::GruppeGewählt)
+        alle_.push_back({innen_->auflagen.shpBox.Left + 0.2, innen_->auflagen.shpBox.Top + 0.2, "mnuAuswahlBox"});
 }
 
 /// One of them, seldom a place where nothing is, often a little off.
@@ -111,8 +111,7 @@ std::string Zufallsnutzer::Eintrag(std::string_view menü) {
 /// Lines for that form, whatever controls it has; without a last button it is left by its close box. An institution's
 /// "_" would be one field too many, by the form's own rules.
 std::string Zufallsnutzer::Formularzeilen(std::string_view name) {
-    frmMain &h = *haupt_;
-    Dialogumgebung umgebung{h.werkbank, h.einstellungen, h.start.IniDatei, h.plattform.uhr, h.plattform.drucker, h};
+    Dialogumgebung umgebung = innen_->Umgebung();
     const auto form = FormularErzeugen(name, umgebung);
     std::string zeilen = "answer colour 255\nform " + std::string(name) + (Würfel(3) ? "\nwait 200\n" : "\n"), danach;
     bool offen = true;
@@ -176,12 +175,12 @@ std::string Zufallsnutzer::Eingesetzt(char platzhalter) {
     return text(letzter_.X, letzter_.Y);
 }
 
-std::vector<std::string> Zufallsnutzer::Nächstes(frmMain &haupt) {
-    haupt_ = &haupt;
+std::vector<std::string> Zufallsnutzer::Nächstes(const Einblick &innen) {
+    innen_ = &innen;
     Umsehen();
     std::string_view handlung = Anfang;
     const auto hat = [&](std::string_view wort) { return handlung.find(wort) != std::string_view::npos; };
-    while (!neu_ && (handlung == Anfang || (hat("drop") && haupt.import.Listenzeilen.empty()) ||
+    while (!neu_ && (handlung == Anfang || (hat("drop") && innen.import.Listenzeilen.empty()) ||
                      (genau_ && (hat("load") || hat("Ctrl+V") || hat("Ctrl+Z") || hat("ffnen") || hat("Recent")))))
         handlung = Handlungen[zufall_() % std::size(Handlungen)];
     if (alle_.size() > 60 && (handlung.starts_with("tool") || hat("Ctrl+V"))) handlung = "drag %F|key Del";

@@ -41,7 +41,7 @@ class Prüfung {
     /// Runs a line, or several that are one deed: what is left of their forms and answers goes behind them. The first
     /// fault as "kind: whom", empty when all is well.
     std::string Zeile(const std::string &zeile);
-    frmMain &Haupt() { return wiedergabe_.Läuft().haupt; }
+    const Einblick &Innen() { return wiedergabe_.Läuft().innen; }
 
   private:
     void BeiFormularenZusehen();
@@ -62,7 +62,7 @@ class Zufallsnutzer {
   public:
     explicit Zufallsnutzer(unsigned saat) : zufall_(saat) {}
     /// What he does next, a few steps that belong together. A step is a line, or lines that only work as one.
-    std::vector<std::string> Nächstes(frmMain &haupt);
+    std::vector<std::string> Nächstes(const Einblick &innen);
 
   private:
     struct Ort {
@@ -79,7 +79,7 @@ class Zufallsnutzer {
     std::string Eingesetzt(char platzhalter);
 
     std::mt19937_64 zufall_;
-    frmMain *haupt_ = nullptr;
+    const Einblick *innen_ = nullptr;
     const bool genau_ = Würfel(2) == 0; ///< leaves out what can give a number twice, so that all rules are kept
     bool neu_ = true;
     std::vector<Ort> personen_, balken_, alle_; ///< what a pointer can hit

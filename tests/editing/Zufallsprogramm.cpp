@@ -100,7 +100,7 @@ int main(int argc, char **argv) {
     for (int saat = angaben["--seed"]; saat < angaben["--seed"] + angaben["--scripts"]; ++saat) {
         kw::Zufallsnutzer nutzer(static_cast<unsigned>(saat));
         const Lauf lauf =
-            Laufen([&](kw::Prüfung &p) { return nutzer.Nächstes(p.Haupt()); }, static_cast<size_t>(angaben["--steps"]));
+            Laufen([&](kw::Prüfung &p) { return nutzer.Nächstes(p.Innen()); }, static_cast<size_t>(angaben["--steps"]));
         zeilen += lauf.Zeilen.size();
         if (lauf.Fehler.empty() || ++fehler[lauf.Art()] > 1) continue;
         const Lauf kurz = Gekürzt(lauf);

@@ -1,5 +1,6 @@
 // What the hand does: pointer on the canvas, palette, menus. Events go to the real widgets, what came of them is
 // read in the records and in the pixels that show.
+#include "app/Einblick.h"
 #include "app/frmMain.h"
 #include "document/Felder.h"
 #include "document/Zahlen.h"
@@ -54,9 +55,9 @@ class Bedienung : public testing::Test {
         fläche.resize(1000, 700);
         fläche.Verbinden(haupt, [] {});
         haupt.Laden();
-        haupt.bereich.GrößeÄndern(fläche.Innengröße().width(), fläche.Innengröße().height());
-        haupt.bereich.WerkzeugleisteZeigen();
-        haupt.bereich.ZoomWählen(Zoom100);
+        innen.bereich.GrößeÄndern(fläche.Innengröße().width(), fläche.Innengröße().height());
+        innen.bereich.WerkzeugleisteZeigen();
+        innen.bereich.ZoomWählen(Zoom100);
     }
 
     void Zeigen() {
@@ -86,7 +87,7 @@ class Bedienung : public testing::Test {
 
     QImage Bild() { return fläche.grab().toImage().convertToFormat(QImage::Format_RGB32); }
     /// The field of the only person, cm.
-    double Person(int feld) { return ZahlLesen(Felder(haupt.dokument.cboPersonen.Satz(0))[feld]); }
+    double Person(int feld) { return ZahlLesen(Felder(innen.dokument.cboPersonen.Satz(0))[feld]); }
 
     std::ostringstream aus;
     std::string wirkungen;
@@ -97,6 +98,7 @@ class Bedienung : public testing::Test {
     DrehbuchBilder dateien{leinwand, wirkungen};
     frmMain haupt{
         {benutzer, drucker, dateien, uhr}, leinwand, {"", "/nonexistent/prog.ini", "", "", 1920 * 15, 1080 * 15}};
+    Einblick innen{haupt};
     Arbeitsflaeche fläche{leinwand};
 };
 
@@ -115,19 +117,19 @@ TEST_F(Bedienung, PersonStehtWoGeklicktWird) {
     };
     for (const Fall fall :
          {Fall{Zoom100, 0, 0}, Fall{Zoom100, 0, 900}, Fall{Zoom250, 0, 0}, Fall{Zoom250, 9000, 6000}}) {
-        haupt.dokument.SpeicherLeeren();
-        haupt.bereich.ZoomWählen(fall.Zoom);
-        haupt.bereich.Scrollen(fall.Rechts, fall.Unten);
+        innen.dokument.SpeicherLeeren();
+        innen.bereich.ZoomWählen(fall.Zoom);
+        innen.bereich.Scrollen(fall.Rechts, fall.Unten);
         Zeigen();
         const QPoint ort(500, 300);
         PersonSetzen(ort);
-        ASSERT_EQ(haupt.dokument.cboPersonen.Anzahl(), 1);
+        ASSERT_EQ(innen.dokument.cboPersonen.Anzahl(), 1);
         const double verhältnis = fläche.devicePixelRatioF();
         const QRect gerät = Fleck(Bild(), Symbolfarbe);
         const QRectF symbol(QPointF(gerät.topLeft()) / verhältnis, QSizeF(gerät.size()) / verhältnis);
-        const double pixelJeCm = haupt.bereich.picVorschau().Width / 15.0 / haupt.ansicht.SeitenBreite;
+        const double pixelJeCm = innen.bereich.picVorschau().Width / 15.0 / innen.ansicht.SeitenBreite;
         // The symbol snaps to the grid, so it is off by half a step at most.
-        const double erlaubt = haupt.ansicht.Rasterweite / 2 * pixelJeCm + 2;
+        const double erlaubt = innen.ansicht.Rasterweite / 2 * pixelJeCm + 2;
         EXPECT_NEAR(symbol.center().x(), ort.x(), erlaubt) << fall.Zoom << ' ' << fall.Rechts;
         EXPECT_NEAR(symbol.center().y(), ort.y(), erlaubt) << fall.Zoom << ' ' << fall.Unten;
     }
@@ -143,21 +145,21 @@ TEST_F(Bedienung, ZiehenKostetKeinBild) {
     const int bilder = leinwand.Bilder;
     for (int i = 1; i <= 20; ++i) Bewegen(ort + QPoint(6 * i, 3 * i), Qt::LeftButton);
     EXPECT_EQ(leinwand.Bilder, bilder);
-    EXPECT_TRUE(ZeigtAuflagen(haupt.auflagen));
+    EXPECT_TRUE(ZeigtAuflagen(innen.auflagen));
     EXPECT_NE(Bild(), vorher); // the mask follows
     const double x = Person(PersonFeld::PosX);
     Lassen(ort + QPoint(120, 60));
     EXPECT_GT(leinwand.Bilder, bilder);
     EXPECT_GT(Person(PersonFeld::PosX), x);
-    EXPECT_FALSE(ZeigtAuflagen(haupt.auflagen));
+    EXPECT_FALSE(ZeigtAuflagen(innen.auflagen));
 }
 
 /// What lies beside the page is no canvas: an armed tool would place what nobody sees.
 TEST_F(Bedienung, NebenDerSeiteGeschiehtNichts) {
     Zeigen();
     PersonSetzen({69, 3});
-    EXPECT_EQ(haupt.dokument.cboPersonen.Anzahl(), 0);
-    EXPECT_EQ(haupt.lage.Aktion, Aktion::PersonSetzen);
+    EXPECT_EQ(innen.dokument.cboPersonen.Anzahl(), 0);
+    EXPECT_EQ(innen.lage.Aktion, Aktion::PersonSetzen);
 }
 
 /// A popup or a box can swallow a release; a second button is no new press; the middle one is none at all.
@@ -238,8 +240,8 @@ TEST_F(Palettentest, TasteUndMausDrücken) {
     Taste(Qt::Key_Tab);
     for (const int taste : {Qt::Key_Right, Qt::Key_Return}) Taste(taste); // the second tool: female
     palette.Auffrischen();
-    EXPECT_EQ(haupt.lage.Aktion, Aktion::PersonSetzen);
-    EXPECT_EQ(haupt.lage.SymbolTyp, TypWeiblich);
+    EXPECT_EQ(innen.lage.Aktion, Aktion::PersonSetzen);
+    EXPECT_EQ(innen.lage.SymbolTyp, TypWeiblich);
     EXPECT_TRUE(Knöpfe()[1]->isChecked());
     EXPECT_FALSE(Knöpfe()[0]->isChecked());
     Palettenknopf *männlich = Knöpfe()[0];
@@ -248,10 +250,10 @@ TEST_F(Palettentest, TasteUndMausDrücken) {
                              art == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
         QApplication::sendEvent(männlich, &ereignis);
     }
-    EXPECT_EQ(haupt.lage.SymbolTyp, TypMännlich);
+    EXPECT_EQ(innen.lage.SymbolTyp, TypMännlich);
 
     fläche.setFocus();
-    haupt.bereich.WerkzeugleisteVerbergen();
+    innen.bereich.WerkzeugleisteVerbergen();
     palette.Auffrischen();
     Taste(Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), &fläche); // the hidden palette is no stop
@@ -275,20 +277,20 @@ TEST_F(Palettentest, BerührterKnopfWirdGenannt) {
     fläche.setFocus();
     EXPECT_TRUE(hinweise().isEmpty());
     berühren(4, QEvent::Enter); // the fifth button isn't the fifth tool
-    EXPECT_EQ(haupt.bedienung["lblTool"].Caption, "Transgender - Female To Male");
+    EXPECT_EQ(innen.bedienung["lblTool"].Caption, "Transgender - Female To Male");
     EXPECT_EQ(hinweise(), QStringList(QStringLiteral("Transgender - Female To Male")));
     berühren(4, QEvent::Leave);
-    EXPECT_EQ(haupt.bedienung["lblTool"].Caption, "");
+    EXPECT_EQ(innen.bedienung["lblTool"].Caption, "");
     EXPECT_TRUE(hinweise().isEmpty());
     Taste(Qt::Key_Tab);
-    EXPECT_EQ(haupt.bedienung["lblTool"].Caption, "Male");
+    EXPECT_EQ(innen.bedienung["lblTool"].Caption, "Male");
     Bewegen({400, 300});
-    EXPECT_EQ(haupt.bedienung["lblTool"].Caption, "");
+    EXPECT_EQ(innen.bedienung["lblTool"].Caption, "");
 }
 
 TEST_F(Bedienung, ImportzeileFälltNurAufDieSeite) {
     for (const char *zeile : {"1;Jörg;Öz;M;;N;N;N;J", "2;Eva;;W;1.2.1980;J", "3;Kim;Ude;X"})
-        haupt.import.Listenzeilen.push_back(ImportpersonAus(zeile));
+        innen.import.Listenzeilen.push_back(ImportpersonAus(zeile));
     Zeigen();
     Importliste liste(haupt);
     QAbstractItemModel &modell = *liste.findChild<QAbstractItemView *>()->model();
@@ -308,12 +310,12 @@ TEST_F(Bedienung, ImportzeileFälltNurAufDieSeite) {
     QMimeData fremdes;
     fremdes.setText(QStringLiteral("0"));
     ziehen(fremdes, {400, 300});
-    EXPECT_EQ(haupt.dokument.cboPersonen.Anzahl(), 0);
+    EXPECT_EQ(innen.dokument.cboPersonen.Anzahl(), 0);
     ziehen(*erste, {400, 300});
-    ASSERT_EQ(haupt.dokument.cboPersonen.Anzahl(), 1);
+    ASSERT_EQ(innen.dokument.cboPersonen.Anzahl(), 1);
     Zeigen();
     EXPECT_TRUE(Fleck(Bild(), Symbolfarbe).contains(395, 300));
-    EXPECT_TRUE(haupt.dokument.cboPersonen.Satz(0).ends_with("_0_$_0_0_Jörg_Öz___"));
+    EXPECT_TRUE(innen.dokument.cboPersonen.Satz(0).ends_with("_0_$_0_0_Jörg_Öz___"));
 }
 
 /// A resolution in the file would print the page at a size that nobody has chosen.
@@ -356,7 +358,7 @@ TEST_F(Bedienung, MenüsZeigenNurWasGeht) {
     Klicken({400, 300});
     menüs.Auffrischen();
     löschen->trigger();
-    EXPECT_EQ(haupt.dokument.cboPersonen.Anzahl(), 0);
+    EXPECT_EQ(innen.dokument.cboPersonen.Anzahl(), 0);
 }
 
 } // namespace

@@ -1,0 +1,20 @@
+#include "app/Einblick.h"
+
+#include "app/frmMain.h"
+
+namespace kw {
+
+Einblick::Einblick(frmMain &haupt)
+    : start(haupt.start), picVorschau(haupt.picVorschau), dokument(haupt.dokument), ansicht(haupt.ansicht),
+      auswahl(haupt.auswahl), lage(haupt.lage), auflagen(haupt.auflagen), ablage(haupt.ablage), legende(haupt.legende),
+      ring(haupt.ring), bereich(haupt.bereich), bedienung(haupt.bedienung), einstellungen(haupt.einstellungen),
+      anzeige(haupt.anzeige), druck(haupt.druck), import(haupt.import), projekt(haupt.projekt),
+      werkbank(haupt.werkbank), Kommandozeile(haupt.Kommandozeile), IniDatei(haupt.IniDatei),
+      Textvorlage(haupt.Textvorlage), cboRaster(haupt.cboRaster), cboPaperSize(haupt.cboPaperSize),
+      Combo1(haupt.Combo1), Combo2(haupt.Combo2), Combo3(haupt.Combo3), fenster(haupt), haupt_(haupt) {}
+
+Zeichnung Einblick::DasBild() const { return haupt_.DasBild(); }
+
+Dialogumgebung Einblick::Umgebung() const { return haupt_.Umgebung(); }
+
+} // namespace kw

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <string>
+
+namespace kw {
+
+class Anzeige;
+class Arbeitsbereich;
+class Bedienelemente;
+class Datenimport;
+class Dialogdienste;
+class Druckwerk;
+class Fensterdienste;
+class Projekt;
+class UndoRing;
+class Zeichenfläche;
+class frmMain;
+struct Ansicht;
+struct Auflagen;
+struct Auswahl;
+struct Auswahlliste;
+struct Dialogumgebung;
+struct Dokument;
+struct Einstellungen;
+struct Leinwandlage;
+struct Legendenblatt;
+struct Startangaben;
+struct Werkbank;
+struct Zeichnung;
+struct Zwischenablage;
+
+/// The parts of a main window, laid open for those who look into the program from outside: scripts, the random user,
+/// benchmarks, tests. No part of the program includes this (tests/rooms.sh); a face has `frmMain`. `haupt` must
+/// outlive it.
+struct Einblick {
+    explicit Einblick(frmMain &haupt);
+
+    /// What a draw routine and what a form work on.
+    Zeichnung DasBild() const;
+    Dialogumgebung Umgebung() const;
+
+    const Startangaben &start;
+    Zeichenfläche &picVorschau;
+    Dokument &dokument;
+    Ansicht &ansicht;
+    Auswahl &auswahl;
+    Leinwandlage &lage;
+    Auflagen &auflagen;
+    Zwischenablage &ablage;
+    Legendenblatt &legende;
+    UndoRing &ring;
+    Arbeitsbereich &bereich;
+    Bedienelemente &bedienung;
+    Einstellungen &einstellungen;
+    Anzeige &anzeige;
+    Druckwerk &druck;
+    Datenimport &import;
+    Projekt &projekt;
+    Werkbank &werkbank;
+    std::string &Kommandozeile;
+    std::string &IniDatei;
+    std::string &Textvorlage;
+    Auswahlliste &cboRaster;
+    Auswahlliste &cboPaperSize;
+    Auswahlliste &Combo1;
+    Auswahlliste &Combo2;
+    Auswahlliste &Combo3;
+    Fensterdienste &fenster;
+
+  private:
+    frmMain &haupt_;
+};
+
+} // namespace kw
