@@ -69,13 +69,10 @@ void Anzeige::ChronikZeigen() {
 
 void Anzeige::SeiteZeigen() {
     frmMain &h = haupt_;
-    for (int i = 0; i < static_cast<int>(Papiere.size()); ++i) {
-        const Papier &papier = Papiere[static_cast<size_t>(i)];
+    for (const Papier &papier : Papiere) {
         const bool gilt = papier.Code == h.dokument.Papiercode;
         h.bedienung[Papierschlüssel(papier)].Checked = gilt;
-        if (!gilt) continue;
-        h.bedienung["btnPapier"].Caption = papier.Name;
-        h.cboPaperSize.ListIndex = i;
+        if (gilt) h.bedienung["btnPapier"].Caption = papier.Name;
     }
     h.bedienung["btnHochformat"].Checked = h.dokument.Seitenlage == 1;
     h.bedienung["btnQuerformat"].Checked = h.dokument.Seitenlage != 1;

@@ -10,8 +10,7 @@ Einblick::Einblick(frmMain &haupt)
       ring(haupt.ring), bereich(haupt.bereich), bedienung(haupt.bedienung), einstellungen(haupt.einstellungen),
       anzeige(haupt.anzeige), druck(haupt.druck), import(haupt.import), projekt(haupt.projekt),
       werkbank(haupt.werkbank), Kommandozeile(haupt.Kommandozeile), IniDatei(haupt.IniDatei),
-      Textvorlage(haupt.Textvorlage), cboRaster(haupt.cboRaster), cboPaperSize(haupt.cboPaperSize),
-      Combo1(haupt.Combo1), Combo2(haupt.Combo2), Combo3(haupt.Combo3), fenster(haupt), haupt_(haupt) {}
+      cboRaster(haupt.cboRaster), fenster(haupt), haupt_(haupt) {}
 
 Zeichnung Einblick::DasBild() const { return haupt_.DasBild(); }
 

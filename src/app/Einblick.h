@@ -59,12 +59,7 @@ struct Einblick {
     Werkbank &werkbank;
     std::string &Kommandozeile;
     std::string &IniDatei;
-    std::string &Textvorlage;
     Auswahlliste &cboRaster;
-    Auswahlliste &cboPaperSize;
-    Auswahlliste &Combo1;
-    Auswahlliste &Combo2;
-    Auswahlliste &Combo3;
     Fensterdienste &fenster;
 
   private:

@@ -5,8 +5,8 @@
 #include "commands/basLanguage.h"
 #include "dialogs/frmEinstellungen.h"
 #include "document/Dateien.h"
-#include "document/Papier.h"
 #include "document/Texte.h"
+#include "document/Zahlen.h"
 #include "editing/Marker.h"
 #include "editing/Werkzeuge.h"
 #include "rendering/Seite.h"
@@ -42,11 +42,8 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
 
 void frmMain::Laden() {
     ansicht.Sprache = Sprache::Englisch;
-    // Asking for printers or fonts can take longer than all the rest of the start.
-    plattform.benutzer.NachErstemBild([this] {
-        SchriftlisteFüllen();
-        DruckerErmitteln();
-    });
+    // Asking for printers can take longer than all the rest of the start.
+    plattform.benutzer.NachErstemBild([this] { DruckerErmitteln(); });
     ansicht.StrichFaktor = 1;
     SeiteBestimmen(dokument, ansicht);
     ListenFüllen();
@@ -78,10 +75,6 @@ void frmMain::ZeitgeberStellen() {
 void frmMain::ListenFüllen() {
     cboRaster.Einträge = {"3", "6", "9"};
     anzeige.RasterSetzen(0);
-    Combo2.Einträge = {"8", "9", "10", "11", "12", "14", "16", "18", "20", "22", "24", "26", "28", "36"};
-    Combo3.Einträge = {"Standard", "Fett", "Kursiv", "Fett-Kursiv"};
-    for (const Papier &papier : Papiere) cboPaperSize.Einträge.Anhängen(std::string(papier.Name));
-    cboPaperSize.ListIndex = 1;
     bereich.ZoomListeFuellen();
 }
 
@@ -89,8 +82,6 @@ void frmMain::ListenFüllen() {
 void frmMain::ZweiteStufe() {
     IniDatei = start.IniDatei;
     einstellungen = EinstellungenAus(IniDatei);
-
-    Textvorlage = "-5_-5_" + einstellungen.stdfontname + "_" + einstellungen.stdfont_m + "_0_0_0_0_0__0_0";
     ansicht.Farbschema = einstellungen.Farbschema;
     ansicht.Altersanzeige = einstellungen.Altersanzeige;
     ansicht.Sprache = einstellungen.Sprache;
@@ -107,14 +98,6 @@ void frmMain::DruckerErmitteln() {
     constexpr int Nachfragen = 2000; // ms
     if (!druck.Ermitteln()) plattform.benutzer.ZeitgeberStarten("tmrDrucker", Nachfragen);
     RänderknopfBeschriften(bedienung, ansicht.Sprache, druck.DefaultPrinter);
-}
-
-void frmMain::SchriftlisteFüllen() {
-    Combo1.Einträge.Leeren();
-    for (auto &name : plattform.benutzer.Schriftarten()) Combo1.Einträge.Anhängen(std::move(name));
-    Combo1.ListIndex = Combo1.Einträge.Leer() ? -1 : 0;
-    Combo2.ListIndex = 2;
-    Combo3.ListIndex = 0;
 }
 
 bool frmMain::Schließen() {

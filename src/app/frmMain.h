@@ -136,12 +136,7 @@ class frmMain : public Fensterdienste, public Dialogdienste {
 
     std::string Kommandozeile; ///< trimmed and unquoted
     std::string IniDatei;      ///< settings or project, whichever was read or written last
-    std::string Textvorlage;   ///< what a new text box starts from
     Auswahlliste cboRaster;    ///< millimetres
-    Auswahlliste cboPaperSize;
-    Auswahlliste Combo1; ///< fonts
-    Auswahlliste Combo2; ///< font sizes
-    Auswahlliste Combo3; ///< font styles
 
   private:
     friend struct Einblick; // for scripts and tests
@@ -151,7 +146,6 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void NichtsAuswählen();
     void ZweiteStufe();
     void ListenFüllen();
-    void SchriftlisteFüllen();
     void DruckerErmitteln();
     void ZeitgeberStellen();
     void SpracheErfragen();

@@ -93,7 +93,6 @@ void Arbeitsbereich::GrößeÄndern(int breite, int höhe) {
     höhe_ = std::max(höhe, KleinsteHöhe);
     picBack.Width = breite_ - PaletteUndRand;
     picBack.Height = höhe_ - FrameOben;
-    Coolbar1.Width = picBack.Width + 100;
     BildlaufleistenSetzen();
     VScroll1.Left = breite_ - BalkenRechts;
     VScroll1.Top = picBack.Top;
@@ -101,8 +100,6 @@ void Arbeitsbereich::GrößeÄndern(int breite, int höhe) {
     HScroll1.Left = picBack.Left;
     HScroll1.Width = picBack.Width;
     HScroll1.Top = picBack.Height + FrameOben + BalkenUnten;
-    imgCorner.Left = breite_ - 320;
-    imgCorner.Top = höhe_ - 890;
     ArbeitsbereichAnordnen();
 }
 

@@ -42,8 +42,6 @@ class Arbeitsbereich {
     Auswahlliste cboBildGröße; ///< "  80 %" to "250 %"
     int MausradIndex = 2;      ///< the wheel's own counter, which no other zoom command updates. Meant.
     Steuerfläche picBack;
-    Steuerfläche Coolbar1;
-    Steuerfläche imgCorner;
     Steuerfläche shpSchatten; ///< the page's shadow
     Bildlaufleiste VScroll1;
     Bildlaufleiste HScroll1;

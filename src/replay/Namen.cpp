@@ -1,14 +1,24 @@
 #include "replay/Namen.h"
 
+#include "document/Papier.h"
+
+#include <algorithm>
+
 namespace kw {
 
 namespace {
+
+// Twips: what of the window nothing in the program lays out.
+constexpr int BandÜberstand = 100;
+constexpr int EckeLinks = 320;
+constexpr int EckeOben = 890;
 
 int Ganzzahl(const std::string &text) { return AusText<int>(text); }
 
 } // namespace
 
-Namen::Namen(const Einblick &h) {
+Namen::Namen(const Einblick &h, const Benutzer &benutzer) {
+    Startwerte(h, benutzer);
     Programmnamen(h);
     Dokumentnamen(h);
     Ansichtsnamen(h);
@@ -16,6 +26,20 @@ Namen::Namen(const Einblick &h) {
     Arbeitsflächen(h.bereich);
     Leinwandnamen(h.lage);
     Auflagennamen(h.auflagen);
+}
+
+void Namen::Startwerte(const Einblick &h, const Benutzer &benutzer) {
+    const Einstellungen &e = h.einstellungen;
+    textvorlage_ = "-5_-5_" + e.stdfontname + "_" + e.stdfont_m + "_0_0_0_0_0__0_0";
+    Variablen["Textvorlage"] = Von(textvorlage_);
+    for (const Papier &papier : Papiere) cboPaperSize_.Einträge.Anhängen(std::string(papier.Name));
+    cboPaperSize_.ListIndex = 1;
+    for (auto &name : benutzer.Schriftarten()) combo1_.Einträge.Anhängen(std::move(name));
+    combo2_.Einträge = {"8", "9", "10", "11", "12", "14", "16", "18", "20", "22", "24", "26", "28", "36"};
+    combo3_.Einträge = {"Standard", "Fett", "Kursiv", "Fett-Kursiv"};
+    combo1_.ListIndex = combo1_.Einträge.Leer() ? -1 : 0;
+    combo2_.ListIndex = 2;
+    combo3_.ListIndex = 0;
 }
 
 void Namen::Programmnamen(const Einblick &h) {
@@ -37,7 +61,6 @@ void Namen::Programmnamen(const Einblick &h) {
         {"GrößeNormal", Abgeleitet([] { return GrößeNormal; })},
         {"GrößeKlein", Abgeleitet([] { return GrößeKlein; })},
         {"BalkenAbstand", Abgeleitet([] { return BalkenAbstand; })},
-        {"Textvorlage", Von(h.Textvorlage)},
         {"UndoTiefe", Abgeleitet([] { return UndoRing::UndoTiefe; })},
         {"UndoPos", Abgeleitet([h] { return h.ring.UndoPos(); })},
         {"UndoSchritte", Abgeleitet([h] { return h.ring.UndoSchritte(); })},
@@ -115,15 +138,26 @@ void Namen::Ansichtsnamen(const Einblick &h) {
 
 void Namen::Auswahllisten(const Einblick &h) {
     const std::map<std::string, Auswahlliste *> auswahllisten{{"cboRaster", &h.cboRaster},
-                                                              {"cboPaperSize", &h.cboPaperSize},
+                                                              {"cboPaperSize", &cboPaperSize_},
                                                               {"cboBildGröße", &h.bereich.cboBildGröße},
-                                                              {"Combo1", &h.Combo1},
-                                                              {"Combo2", &h.Combo2},
-                                                              {"Combo3", &h.Combo3}};
+                                                              {"Combo1", &combo1_},
+                                                              {"Combo2", &combo2_},
+                                                              {"Combo3", &combo3_}};
     for (const auto &[name, liste] : auswahllisten) {
         Listen[name] = &liste->Einträge;
         Variablen[name + ".index"] = Von(liste->ListIndex);
     }
+    const auto angekreuzt = [&elemente = h.bedienung](const std::string &papier) {
+        std::string schlüssel = "key" + papier;
+        std::erase(schlüssel, ' ');
+        return elemente[schlüssel].Checked;
+    };
+    Variablen["cboPaperSize.index"].Lesen = [&liste = cboPaperSize_, angekreuzt] {
+        const auto &papiere = liste.Einträge;
+        const auto papier = std::find_if(papiere.begin(), papiere.end(), angekreuzt);
+        if (papier != papiere.end()) liste.ListIndex = static_cast<int>(papier - papiere.begin());
+        return std::to_string(liste.ListIndex); // of a paper that has no name, the last one that had
+    };
     // These two apply a choice at once.
     Variablen["cboBildGröße.index"].Setzen = [h](const std::string &text) { h.bereich.ZoomWählen(Ganzzahl(text)); };
     Variablen["cboRaster.index"].Setzen = [h](const std::string &text) { h.anzeige.RasterWählen(Ganzzahl(text)); };
@@ -135,8 +169,15 @@ void Namen::Arbeitsflächen(Arbeitsbereich &b) {
     const std::map<std::string, std::function<Steuerfläche()>> flächen{
         {"picBack", [&b] { return b.picBack; }},
         {"picVorschau", [&b] { return b.picVorschau(); }},
-        {"Coolbar1", [&b] { return b.Coolbar1; }},
-        {"imgCorner", [&b] { return b.imgCorner; }},
+        {"Coolbar1",
+         [&b] {
+             return Steuerfläche{0, 0, b.HScroll1.Width + BandÜberstand};
+         }},
+        {"imgCorner",
+         [&b] {
+             return Steuerfläche{b.VScroll1.Left + b.BalkenRechts - EckeLinks,
+                                 b.picBack.Height + b.FrameOben - EckeOben};
+         }},
         {"VScroll1", [&b]() -> Steuerfläche { return b.VScroll1; }},
         {"HScroll1", [&b]() -> Steuerfläche { return b.HScroll1; }},
         {"shpSchatten", [&b] { return b.shpSchatten; }}};

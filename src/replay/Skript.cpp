@@ -71,6 +71,11 @@ Programm::Programm(std::ostream &aus, const Startangaben &start)
     benutzer.bedienung = &innen.bedienung;
 }
 
+void Programm::Laden() {
+    haupt.Laden();
+    namen = std::make_unique<Namen>(innen, benutzer);
+}
+
 Wiedergabe::Wiedergabe(std::ostream &aus_) : aus(aus_) {
     std::error_code fehler;
     std::string muster = (std::filesystem::temp_directory_path(fehler) / "kinwright-replay-XXXXXX").string();
@@ -135,7 +140,7 @@ void Wiedergabe::Starten(const Wörter &w) {
         Formularspiel(*this, form).Spielen(zeilen);
     };
     PlattformEinrichten(*programm_, angaben);
-    programm_->haupt.Laden();
+    programm_->Laden();
 }
 
 Programm &Wiedergabe::Läuft() {

@@ -17,6 +17,7 @@ namespace kw {
 /// One start of the program, with the platform that the script speaks for.
 struct Programm {
     Programm(std::ostream &aus, const Startangaben &start);
+    void Laden();
 
     std::string wirkungen; ///< what went outside since it was last asked for, a line each
     DrehbuchBenutzer benutzer;
@@ -26,7 +27,7 @@ struct Programm {
     DrehbuchBilder bilder{leinwand, wirkungen};
     frmMain haupt;
     Einblick innen{haupt};
-    Namen namen{innen};
+    std::unique_ptr<Namen> namen; ///< when the program has started
     Altersberechnung alter{uhr};
     int Taste = TasteKeine; ///< the mouse button that is down
 };

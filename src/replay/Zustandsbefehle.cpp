@@ -15,28 +15,29 @@ void Speichern(Projekt &projekt, const std::string &datei) {
 }
 
 void Ablegen(Programm &p, const Wörter &w) {
-    const auto liste = p.namen.Listen.find(Wort(w, 1));
-    if (liste == p.namen.Listen.end()) throw Skriptfehler("unknown store: " + w[1]);
+    const auto liste = p.namen->Listen.find(Wort(w, 1));
+    if (liste == p.namen->Listen.end()) throw Skriptfehler("unknown store: " + w[1]);
     liste->second->Anhängen(Ab(w, 2));
 }
 
 void Setzen(Programm &p, const Wörter &w) {
-    const auto variable = p.namen.Variablen.find(Wort(w, 1));
-    if (variable == p.namen.Variablen.end() || !variable->second.Setzen)
+    const auto variable = p.namen->Variablen.find(Wort(w, 1));
+    if (variable == p.namen->Variablen.end() || !variable->second.Setzen)
         throw Skriptfehler("no variable to set: " + w[1]);
     variable->second.Setzen(w.size() > 2 ? Ab(w, 2) : "");
 }
 
 std::string Wert(const Programm &p, const std::string &name) {
-    if (const auto v = p.namen.Variablen.find(name); v != p.namen.Variablen.end()) return v->second.Lesen();
-    if (const auto l = p.namen.Listen.find(name); l != p.namen.Listen.end()) return std::to_string(l->second->Anzahl());
+    if (const auto v = p.namen->Variablen.find(name); v != p.namen->Variablen.end()) return v->second.Lesen();
+    if (const auto l = p.namen->Listen.find(name); l != p.namen->Listen.end())
+        return std::to_string(l->second->Anzahl());
     const auto &formulare = p.benutzer.Formularwerte_;
     if (const auto f = formulare.find(name); f != formulare.end()) return f->second;
     throw Skriptfehler("unknown name: " + name);
 }
 
 std::string Zustand(const Programm &p, const std::string &frage, const std::string &name) {
-    if (const auto s = p.namen.Sichtbar.find(name); frage == "visible" && s != p.namen.Sichtbar.end())
+    if (const auto s = p.namen->Sichtbar.find(name); frage == "visible" && s != p.namen->Sichtbar.end())
         return std::to_string(s->second());
     const Bedienelement *element = p.innen.bedienung.Finden(name);
     if (!element) throw Skriptfehler("unknown element: " + name);
@@ -60,9 +61,9 @@ void Erwarten(Wiedergabe &lauf, const std::string &zeile) {
 }
 
 std::string FormText(const Programm &p, const std::string &name) {
-    const auto form = p.namen.Formen.find(name);
-    if (form == p.namen.Formen.end()) throw Skriptfehler("unknown shape: " + name);
-    return name + " " + form->second() + (p.namen.Sichtbar.at(name)() ? " visible" : " hidden");
+    const auto form = p.namen->Formen.find(name);
+    if (form == p.namen->Formen.end()) throw Skriptfehler("unknown shape: " + name);
+    return name + " " + form->second() + (p.namen->Sichtbar.at(name)() ? " visible" : " hidden");
 }
 
 void Drucken(Wiedergabe &lauf, const Wörter &w) {
@@ -85,7 +86,7 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
         lauf.aus << name << " " << w[2] << " = " << zustand << "\n";
         return;
     }
-    if (const auto liste = p.namen.Listen.find(name); liste != p.namen.Listen.end()) {
+    if (const auto liste = p.namen->Listen.find(name); liste != p.namen->Listen.end()) {
         lauf.aus << name << " " << liste->second->Anzahl() << "\n";
         for (const auto &satz : *liste->second) lauf.aus << "  " << satz << "\n";
         return;
