@@ -1,17 +1,23 @@
 #include "app/Anzeige.h"
 
-#include "app/frmMain.h"
 #include "commands/basLanguage.h"
+#include "document/Auswahlliste.h"
+#include "document/Chronik.h"
 #include "document/Dateien.h"
+#include "document/Dokument.h"
 #include "document/Papier.h"
+#include "document/UndoRing.h"
 #include "document/Zahlen.h"
-#include "editing/Werkzeuge.h"
+#include "editing/Zwischenablage.h"
+#include "output/Arbeitsbereich.h"
+#include "output/Druckwerk.h"
+#include "platform/Bedienelemente.h"
+#include "rendering/Ansicht.h"
+#include "rendering/Auswahl.h"
 
 namespace kw {
 
 namespace {
-
-constexpr int HinweisVerzögerung = 500; ///< ms
 
 struct Schema {
     const char *Menü;
@@ -30,7 +36,8 @@ constexpr Schaltertext Rastertext{"Raster ausblenden", "Hide Grid", "Raster anze
 constexpr Schaltertext Palettentext{"Werkzeugleiste ausblenden", "Hide Toolbar", "Werkzeugleiste einblenden",
                                     "Show Toolbar"};
 
-const char *Text(const Schaltertext &text, bool sichtbar, bool deutsch) {
+const char *Text(const Schaltertext &text, bool sichtbar, const Ansicht &ansicht) {
+    const bool deutsch = ansicht.Sprache == Sprache::Deutsch;
     if (sichtbar) return deutsch ? text.AusDeutsch : text.AusEnglisch;
     return deutsch ? text.EinDeutsch : text.EinEnglisch;
 }
@@ -45,118 +52,78 @@ std::string Papierschlüssel(const Papier &papier) {
 } // namespace
 
 void Anzeige::Beschriften() {
-    frmMain &h = haupt_;
-    MenuesBeschriften(h.bedienung, h.ansicht.Sprache, h.druck.DefaultPrinter);
-    LegendenknopfBeschriften();
+    MenuesBeschriften(bedienung_, z_.ansicht.Sprache, z_.druck.DefaultPrinter);
+    LegendeZeigen();
 }
 
-void Anzeige::LegendenknopfBeschriften() {
-    haupt_.bedienung["btnLegende"].Caption = Text(Legendentext, haupt_.dokument.LegendeSichtbar, haupt_.IstDeutsch());
+void Anzeige::DruckerZeigen() { RänderknopfBeschriften(bedienung_, z_.ansicht.Sprache, z_.druck.DefaultPrinter); }
+
+void Anzeige::LegendeZeigen() {
+    Bedienelement &knopf = bedienung_["btnLegende"];
+    knopf.Checked = z_.dokument.LegendeSichtbar;
+    knopf.Caption = Text(Legendentext, knopf.Checked, z_.ansicht);
 }
 
 void Anzeige::ChronikZeigen() {
     bool einer = false;
     for (int i = 1; i <= Chronik::Plätze; ++i) {
-        const std::string &pfad = haupt_.einstellungen.Zuletzt[i];
-        Bedienelement &eintrag = haupt_.bedienung["mnuRecent(" + std::to_string(i) + ")"];
+        const std::string &pfad = z_.zuletzt[i];
+        Bedienelement &eintrag = bedienung_["mnuRecent(" + std::to_string(i) + ")"];
         eintrag.Caption = "  " + std::to_string(i) + " " + DateiName(pfad);
         eintrag.Visible = !pfad.empty();
         einer = einer || eintrag.Visible;
     }
-    Bedienelement &menü = haupt_.bedienung["mnuZuletztGeöffnet"];
-    menü.Enabled = menü.Visible = haupt_.bedienung["mnuStr3"].Visible = einer;
+    Bedienelement &menü = bedienung_["mnuZuletztGeöffnet"];
+    menü.Enabled = menü.Visible = bedienung_["mnuStr3"].Visible = einer;
 }
 
 void Anzeige::SeiteZeigen() {
-    frmMain &h = haupt_;
     for (const Papier &papier : Papiere) {
-        const bool gilt = papier.Code == h.dokument.Papiercode;
-        h.bedienung[Papierschlüssel(papier)].Checked = gilt;
-        if (gilt) h.bedienung["btnPapier"].Caption = papier.Name;
+        const bool gilt = papier.Code == z_.dokument.Papiercode;
+        bedienung_[Papierschlüssel(papier)].Checked = gilt;
+        if (gilt) bedienung_["btnPapier"].Caption = papier.Name;
     }
-    h.bedienung["btnHochformat"].Checked = h.dokument.Seitenlage == 1;
-    h.bedienung["btnQuerformat"].Checked = h.dokument.Seitenlage != 1;
+    bedienung_["btnHochformat"].Checked = z_.dokument.Seitenlage == 1;
+    bedienung_["btnQuerformat"].Checked = z_.dokument.Seitenlage != 1;
 }
 
+void Anzeige::DruckränderZeigen() { bedienung_["btnBlattränder"].Checked = z_.ansicht.bDruckrandAnzeigen; }
+
 void Anzeige::ZoomZeigen() {
-    frmMain &h = haupt_;
-    const std::string zoom = h.bereich.cboBildGröße.Text();
-    h.bedienung["btnZoom"].Caption = zoom;
-    h.bedienung.NurAnkreuzen("keyZoom", "keyZoom" + ZahlSchreiben(ZahlLesen(zoom)));
-    h.bedienung["btnBildGrößer"].Enabled = h.bereich.KannVergrößern();
-    h.bedienung["btnBildKleiner"].Enabled = h.bereich.KannVerkleinern();
+    const std::string &zoom = z_.bereich.cboBildGröße.Text();
+    bedienung_["btnZoom"].Caption = zoom;
+    bedienung_.NurAnkreuzen("keyZoom", "keyZoom" + ZahlSchreiben(ZahlLesen(zoom)));
+    bedienung_["btnBildGrößer"].Enabled = z_.bereich.KannVergrößern();
+    bedienung_["btnBildKleiner"].Enabled = z_.bereich.KannVerkleinern();
 }
 
 void Anzeige::FarbschemaZeigen() {
     for (int i = 0; i < static_cast<int>(std::size(Schemata)); ++i)
-        haupt_.bedienung[Schemata[i].Menü].Checked = haupt_.bedienung[Schemata[i].Knopf].Checked =
-            i == haupt_.ansicht.Farbschema;
+        bedienung_[Schemata[i].Menü].Checked = bedienung_[Schemata[i].Knopf].Checked = i == z_.ansicht.Farbschema;
 }
 
-void Anzeige::RasterUmschalten() {
-    const bool sichtbar = haupt_.ansicht.bRasterAnzeigen = !haupt_.ansicht.bRasterAnzeigen;
-    haupt_.bedienung["btnGitterZeichnen"].Checked = sichtbar;
-    haupt_.bedienung["mnuRasterAnzeigen"].Caption = Text(Rastertext, sichtbar, haupt_.IstDeutsch());
-    haupt_.Vorschau();
+void Anzeige::RasterZeigen() {
+    bedienung_["btnGitterZeichnen"].Checked = z_.ansicht.bRasterAnzeigen;
+    bedienung_["mnuRasterAnzeigen"].Caption = Text(Rastertext, z_.ansicht.bRasterAnzeigen, z_.ansicht);
 }
 
-/// The third entry stands in no menu and ticks the large one. Meant.
-void Anzeige::RasterSetzen(int listIndex) {
-    if (listIndex < 0 || listIndex >= haupt_.cboRaster.Anzahl()) return;
-    haupt_.cboRaster.ListIndex = listIndex;
-    haupt_.ansicht.Rasterweite = ZahlLesen(haupt_.cboRaster.Text()) / 10;
-    haupt_.bedienung["mnuRasterGroß"].Checked = listIndex != 0;
-    haupt_.bedienung["mnuRasterKlein"].Checked = listIndex == 0;
+void Anzeige::RasterweiteZeigen() {
+    bedienung_["mnuRasterGroß"].Checked = z_.cboRaster.ListIndex != 0;
+    bedienung_["mnuRasterKlein"].Checked = z_.cboRaster.ListIndex == 0;
 }
 
-void Anzeige::RasterWählen(int listIndex) {
-    RasterSetzen(listIndex);
-    haupt_.Vorschau();
+void Anzeige::WerkzeugleisteZeigen() {
+    bedienung_["mnuWerkzeugleiste"].Caption = Text(Palettentext, z_.bereich.WerkzeugleisteSichtbar(), z_.ansicht);
 }
 
-void Anzeige::FarbschemaWählen(int schema) {
-    haupt_.ansicht.Farbschema = schema;
-    FarbschemaZeigen();
-    LinienfarbenSetzen();
-    haupt_.Vorschau();
+void Anzeige::UndoKnöpfeZeigen() {
+    bedienung_["btnUndo"].Enabled = bedienung_["mnuRückgängig"].Enabled = z_.ring.UndoSchritte() >= 1;
+    bedienung_["btnRedo"].Enabled = bedienung_["mnuWiederholen"].Enabled = z_.ring.RedoSchritte() >= 1;
 }
 
-void Anzeige::LinienfarbenSetzen() { haupt_.ansicht.Linienfarben = LinienfarbenFür(haupt_.ansicht.Farbschema); }
-
-void Anzeige::WerkzeugleisteUmschalten() {
-    const bool zeigen = !haupt_.bereich.WerkzeugleisteSichtbar();
-    if (zeigen) haupt_.bereich.WerkzeugleisteZeigen();
-    else haupt_.bereich.WerkzeugleisteVerbergen();
-    haupt_.bedienung["mnuWerkzeugleiste"].Caption = Text(Palettentext, zeigen, haupt_.IstDeutsch());
+void Anzeige::BearbeitenZeigen() {
+    bedienung_["mnuAusschneiden"].Enabled = bedienung_["mnuKopieren"].Enabled = z_.auswahl.HatKopierbares();
+    bedienung_["mnuEinfügen"].Enabled = z_.ablage.HatEtwas();
 }
-
-void Anzeige::PapierWählen(int papiercode) {
-    if (haupt_.dokument.Papiercode != papiercode) haupt_.projekt.Geändert = true;
-    haupt_.dokument.Papiercode = papiercode;
-    SeiteGeändert();
-}
-
-void Anzeige::LageWählen(int seitenlage) {
-    if (haupt_.dokument.Seitenlage != seitenlage) haupt_.projekt.Geändert = true;
-    haupt_.dokument.Seitenlage = seitenlage;
-    SeiteGeändert();
-}
-
-void Anzeige::SeiteGeändert() {
-    SeiteZeigen();
-    haupt_.bereich.Bildgrößenveränderung();
-}
-
-void Anzeige::PaletteBerührt(int werkzeug) {
-    if (werkzeug == berührt_) return;
-    berührt_ = werkzeug;
-    const std::string name = werkzeug > 0 ? haupt_.bedienung[WerkzeugName(werkzeug)].Caption : "";
-    haupt_.bedienung["lblTool"].Caption = haupt_.bedienung["picToolTipp"].Caption = name;
-    haupt_.bedienung["picToolTipp"].Visible = false;
-    if (werkzeug > 0) haupt_.plattform.benutzer.ZeitgeberStarten("tmrToolTipp", HinweisVerzögerung);
-    haupt_.plattform.benutzer.AnzeigeAuffrischen();
-}
-
-void Anzeige::PalettenhinweisZeigen() { haupt_.bedienung["picToolTipp"].Visible = berührt_ > 0; }
 
 } // namespace kw

@@ -2,51 +2,65 @@
 
 namespace kw {
 
-class frmMain;
+class Arbeitsbereich;
+class Bedienelemente;
+class Chronik;
+class Druckwerk;
+class UndoRing;
+struct Ansicht;
+struct Auswahl;
+struct Auswahlliste;
+struct Dokument;
+struct Zwischenablage;
 
-/// What menus and toolbar show of the model's state, and the commands that change only how things are shown. Owned
-/// by the main window, whose parts it reads.
+/// What menus and toolbar show of the model's state: captions, ticks, what can be pressed. It reads the state and
+/// writes nothing else. Owned by the main window.
 class Anzeige {
   public:
-    explicit Anzeige(frmMain &haupt) : haupt_(haupt) {}
+    /// What it looks at.
+    struct Zustand {
+        const Dokument &dokument;
+        const Ansicht &ansicht;
+        const Auswahl &auswahl;
+        const Zwischenablage &ablage;
+        const UndoRing &ring;
+        const Chronik &zuletzt;
+        const Arbeitsbereich &bereich;
+        const Auswahlliste &cboRaster;
+        const Druckwerk &druck;
+    };
+    Anzeige(Bedienelemente &bedienung, Zustand zustand) : bedienung_(bedienung), z_(zustand) {}
 
     /// All captions in the program's language.
     void Beschriften();
-    /// Caption of the legend button, as the legend is shown or not.
-    void LegendenknopfBeschriften();
+    /// The tool tip that names the printer.
+    void DruckerZeigen();
+    /// The legend's button, pressed and named as the legend is shown or not.
+    void LegendeZeigen();
     /// Captions of the recent files.
     void ChronikZeigen();
-    /// The document's paper and orientation on the toolbar.
+    /// The document's paper and orientation.
     void SeiteZeigen();
-    /// The zoom in force on the toolbar.
+    /// Whether the margins' frame is shown.
+    void DruckränderZeigen();
+    /// The zoom in force, and whether there is a greater and a smaller one.
     void ZoomZeigen();
+    /// The colour scheme in force.
     void FarbschemaZeigen();
-
-    /// Shows or hides the grid; snapping doesn't care.
-    void RasterUmschalten();
-    /// An entry of `cboRaster` becomes the snap step; no redraw. Other indices do nothing.
-    void RasterSetzen(int listIndex);
-    /// The same as the user's choice.
-    void RasterWählen(int listIndex);
-    void FarbschemaWählen(int schema);
-    /// Sets the colours of the lines from the scheme in force.
-    void LinienfarbenSetzen();
-    /// Shows or hides the tool palette.
-    void WerkzeugleisteUmschalten();
-    /// The document's page is another one: toolbar and canvas follow.
-    void SeiteGeändert();
-    /// Other paper, or another orientation (1 portrait, 2 landscape): the project holds both, no snapshot does.
-    void PapierWählen(int papiercode);
-    void LageWählen(int seitenlage);
-
-    /// The pointer is over the palette's button `werkzeug`, or over none (0).
-    void PaletteBerührt(int werkzeug);
-    /// It has rested there.
-    void PalettenhinweisZeigen();
+    /// Whether the grid is shown.
+    void RasterZeigen();
+    /// The snap step. The third one stands in no menu and ticks the large one. Meant.
+    void RasterweiteZeigen();
+    /// Whether the tool palette is shown.
+    void WerkzeugleisteZeigen();
+    /// Undo and redo, as the ring has steps.
+    void UndoKnöpfeZeigen();
+    /// Cut, copy and paste in the edit menu.
+    void BearbeitenZeigen();
 
   private:
-    frmMain &haupt_;
-    int berührt_ = 0; ///< the palette's button under the pointer
+    Bedienelemente &bedienung_;
+    const Zustand z_;
 };
 
 } // namespace kw

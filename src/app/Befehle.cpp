@@ -26,11 +26,11 @@ void Zwillinge(frmMain &h, int art) { ZwillingeEinfügen(h.werkbank, art); }
 
 void Bildauswahl(frmMain &h, int inDatei) { BildauswahlBeginnen(h.werkbank, inDatei != 0); }
 
-void Farbschema(frmMain &h, int schema) { h.anzeige.FarbschemaWählen(schema); }
+void Farbschema(frmMain &h, int schema) { h.darstellung.FarbschemaWählen(schema); }
 
-void Papier(frmMain &h, int code) { h.anzeige.PapierWählen(code); }
+void Papier(frmMain &h, int code) { h.darstellung.PapierWählen(code); }
 
-void Lage(frmMain &h, int seitenlage) { h.anzeige.LageWählen(seitenlage); }
+void Lage(frmMain &h, int seitenlage) { h.darstellung.LageWählen(seitenlage); }
 
 /// The paste entries of the context menus go when they have been used.
 void EinfügenImKontext(frmMain &h, int) {
@@ -156,10 +156,10 @@ constexpr Zeile Tabelle[] = {
     {"mnuTextbearbeiten", TextBearbeiten},
     {"mnuTextboxLöschen", Auf<TextLöschen>},
 
-    {"mnuWerkzeugleiste", [](frmMain &h, int) { h.anzeige.WerkzeugleisteUmschalten(); }},
-    {"mnuRasterAnzeigen", [](frmMain &h, int) { h.anzeige.RasterUmschalten(); }},
-    {"mnuRasterKlein", [](frmMain &h, int) { h.anzeige.RasterWählen(0); }},
-    {"mnuRasterGroß", [](frmMain &h, int) { h.anzeige.RasterWählen(1); }},
+    {"mnuWerkzeugleiste", [](frmMain &h, int) { h.darstellung.WerkzeugleisteUmschalten(); }},
+    {"mnuRasterAnzeigen", [](frmMain &h, int) { h.darstellung.RasterUmschalten(); }},
+    {"mnuRasterKlein", [](frmMain &h, int) { h.darstellung.RasterWählen(0); }},
+    {"mnuRasterGroß", [](frmMain &h, int) { h.darstellung.RasterWählen(1); }},
     {"mnuLegendeEinstellungen", [](frmMain &h, int) { h.FormÖffnen("frmLegende"); }},
     {"mnuLegendeAktualisieren", LegendeAktualisieren},
     {"mnuLegendeAnzeigen", LegendeUmschalten},

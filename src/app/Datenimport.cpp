@@ -58,7 +58,6 @@ void Datenimport::Startaufruf() {
         h.projekt.ImportModus = true;
         h.projekt.Öffnen(h.projekt.Projektdatei);
     } else if (IstSchalter(zeile.substr(0, Schalterlänge))) {
-        h.bedienung["btnSpeichern"].Enabled = true;
         h.projekt.ImportModus = true;
         DatenEinlesen(ordner + std::string(Getrimmt(std::string_view(zeile).substr(Schalterlänge))));
         ListeFüllen();

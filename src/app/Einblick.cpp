@@ -8,7 +8,7 @@ Einblick::Einblick(frmMain &haupt)
     : start(haupt.start), picVorschau(haupt.picVorschau), dokument(haupt.dokument), ansicht(haupt.ansicht),
       auswahl(haupt.auswahl), lage(haupt.lage), auflagen(haupt.auflagen), ablage(haupt.ablage), legende(haupt.legende),
       ring(haupt.ring), bereich(haupt.bereich), bedienung(haupt.bedienung), einstellungen(haupt.einstellungen),
-      anzeige(haupt.anzeige), druck(haupt.druck), import(haupt.import), projekt(haupt.projekt),
+      darstellung(haupt.darstellung), druck(haupt.druck), import(haupt.import), projekt(haupt.projekt),
       werkbank(haupt.werkbank), Kommandozeile(haupt.Kommandozeile), IniDatei(haupt.IniDatei),
       cboRaster(haupt.cboRaster), fenster(haupt), haupt_(haupt) {}
 

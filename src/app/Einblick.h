@@ -4,9 +4,9 @@
 
 namespace kw {
 
-class Anzeige;
 class Arbeitsbereich;
 class Bedienelemente;
+class Darstellung;
 class Datenimport;
 class Dialogdienste;
 class Druckwerk;
@@ -52,7 +52,7 @@ struct Einblick {
     Arbeitsbereich &bereich;
     Bedienelemente &bedienung;
     Einstellungen &einstellungen;
-    Anzeige &anzeige;
+    Darstellung &darstellung;
     Druckwerk &druck;
     Datenimport &import;
     Projekt &projekt;

@@ -11,10 +11,9 @@ namespace kw {
 
 void Projekt::ProjektLaden() {
     frmMain &h = haupt_;
-    h.bedienung["btnLegende"].Checked = false;
     h.dokument.LegendeSichtbar = false;
     h.legende.lstLegende.Leeren();
-    h.anzeige.LegendenknopfBeschriften();
+    h.anzeige.LegendeZeigen();
     h.einstellungen.Zuletzt.Aktualisieren(Projektdatei);
     h.anzeige.ChronikZeigen();
     h.IniDatei = Projektdatei;
@@ -40,9 +39,7 @@ void Projekt::InhaltLesen() {
     try {
         SpeicherLesen(profil, h.dokument);
         LegendeLesen(profil, h.dokument);
-        h.bedienung["btnLegende"].Checked = h.dokument.LegendeSichtbar;
-        h.bedienung["btnSpeichern"].Enabled = true;
-        h.anzeige.LegendenknopfBeschriften();
+        h.anzeige.LegendeZeigen();
         LegendeAufbauen(h.dokument, h.legende);
         h.dokument.FreieNummernAufbauen();
     } catch (const FeldFehlt &) { // a damaged project, or an old one without a legend

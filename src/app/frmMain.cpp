@@ -2,7 +2,6 @@
 
 #include "app/Befehle.h"
 #include "app/Formulare.h"
-#include "commands/basLanguage.h"
 #include "dialogs/frmEinstellungen.h"
 #include "document/Dateien.h"
 #include "document/Texte.h"
@@ -31,7 +30,9 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
     : plattform(plattform_), start(std::move(startangaben)), picVorschau(canvas),
       bereich(canvas, ansicht, start.BildschirmBreite, start.BildschirmHöhe,
               {[this] { Vorschau(); }, [this] { anzeige.ZoomZeigen(); }}),
-      anzeige(*this), druck(plattform.drucker, plattform.benutzer, ansicht, bedienung),
+      druck(plattform.drucker, plattform.benutzer, ansicht, bedienung),
+      anzeige(bedienung, {dokument, ansicht, auswahl, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster, druck}),
+      darstellung(ansicht, dokument, cboRaster, bereich, anzeige, *this), hinweis(bedienung, plattform.benutzer),
       bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(); }), import(*this),
       projekt(*this), werkbank{dokument, ansicht, auswahl,   lage,        auflagen,
                                ablage,   legende, bedienung, picVorschau, plattform.benutzer,
@@ -48,7 +49,7 @@ void frmMain::Laden() {
     SeiteBestimmen(dokument, ansicht);
     ListenFüllen();
     ZweiteStufe();
-    anzeige.LinienfarbenSetzen();
+    darstellung.LinienfarbenSetzen();
     anzeige.FarbschemaZeigen();
     // Every start begins in landscape and in colour. The ticks and the colours of the lines can still
     // follow the scheme of the last run: that mismatch is meant.
@@ -56,7 +57,7 @@ void frmMain::Laden() {
     ansicht.Farbschema = SchemaFarbig;
     anzeige.SeiteZeigen();
     bereich.GrößeÄndern(start.BildschirmBreite, start.BildschirmHöhe);
-    if (!einstellungen.Werkzeugleiste) anzeige.WerkzeugleisteUmschalten();
+    if (!einstellungen.Werkzeugleiste) darstellung.WerkzeugleisteUmschalten();
     Sichern();
     bereich.Bildgrößenveränderung();
     ZeitgeberStellen();
@@ -74,7 +75,7 @@ void frmMain::ZeitgeberStellen() {
 
 void frmMain::ListenFüllen() {
     cboRaster.Einträge = {"3", "6", "9"};
-    anzeige.RasterSetzen(0);
+    darstellung.RasterSetzen(0);
     bereich.ZoomListeFuellen();
 }
 
@@ -87,7 +88,7 @@ void frmMain::ZweiteStufe() {
     ansicht.Sprache = einstellungen.Sprache;
     dokument.Seitenlage = einstellungen.Orientation;
     anzeige.Beschriften();
-    anzeige.RasterSetzen(einstellungen.Raster);
+    darstellung.RasterSetzen(einstellungen.Raster);
     bereich.cboBildGröße.ListIndex = ZoomBeimStart;
     anzeige.ChronikZeigen();
     dokument.Papiercode = einstellungen.Papiercode;
@@ -97,7 +98,7 @@ void frmMain::ZweiteStufe() {
 void frmMain::DruckerErmitteln() {
     constexpr int Nachfragen = 2000; // ms
     if (!druck.Ermitteln()) plattform.benutzer.ZeitgeberStarten("tmrDrucker", Nachfragen);
-    RänderknopfBeschriften(bedienung, ansicht.Sprache, druck.DefaultPrinter);
+    anzeige.DruckerZeigen();
 }
 
 bool frmMain::Schließen() {
@@ -128,7 +129,7 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "Timer5") import.Startaufruf();
     if (name == "tmrDrucker") DruckerErmitteln();
     if (name == "tmrLanguage") SpracheErfragen();
-    if (name == "tmrToolTipp") anzeige.PalettenhinweisZeigen();
+    if (name == "tmrToolTipp") hinweis.Zeigen();
     NachEreignis();
 }
 
@@ -144,7 +145,7 @@ void frmMain::MouseDown(int taste, double x, double y) {
 }
 
 void frmMain::MouseMove(int taste, double x, double y) {
-    anzeige.PaletteBerührt(0);
+    hinweis.PaletteBerührt(0);
     leinwand.MouseMove(taste, x, y);
 }
 
@@ -200,13 +201,15 @@ void frmMain::SpracheErfragen() {
 }
 
 void frmMain::LegendeZeigen(bool sichtbar) {
-    bedienung["btnLegende"].Checked = sichtbar;
-    Legende();
+    dokument.LegendeSichtbar = sichtbar;
+    anzeige.LegendeZeigen();
+    if (sichtbar) LegendeAufbauen(dokument, legende);
+    Vorschau();
 }
 
 void frmMain::SeiteAnwenden() {
-    bedienung["btnBlattränder"].Checked = ansicht.bDruckrandAnzeigen;
-    anzeige.SeiteGeändert();
+    anzeige.DruckränderZeigen();
+    darstellung.SeiteGeändert();
 }
 
 bool frmMain::GenogrammDrucken() { return druck.GenogrammDrucken(DasBild(), projekt.Projektdatei); }
@@ -227,10 +230,7 @@ void frmMain::HilfeÖffnen() {
     if (sprache) plattform.benutzer.AdresseÖffnen("file://" + start.Hilfeordner + "/" + sprache + "/index.htm");
 }
 
-void frmMain::mnuBearbeiten_Öffnen() {
-    bedienung["mnuAusschneiden"].Enabled = bedienung["mnuKopieren"].Enabled = auswahl.HatKopierbares();
-    bedienung["mnuEinfügen"].Enabled = ablage.HatEtwas();
-}
+void frmMain::mnuBearbeiten_Öffnen() { anzeige.BearbeitenZeigen(); }
 
 void frmMain::cmdUndo() {
     if (ring.Rückgängig(dokument)) NachSchrittImRing();
@@ -264,10 +264,7 @@ void frmMain::Sichern() {
     projekt.Geändert = true;
 }
 
-void frmMain::UndoKnöpfeSetzen() {
-    bedienung["btnUndo"].Enabled = bedienung["mnuRückgängig"].Enabled = ring.UndoSchritte() >= 1;
-    bedienung["btnRedo"].Enabled = bedienung["mnuWiederholen"].Enabled = ring.RedoSchritte() >= 1;
-}
+void frmMain::UndoKnöpfeSetzen() { anzeige.UndoKnöpfeZeigen(); }
 
 void frmMain::UndoKnöpfeSperren() { bedienung["btnUndo"].Enabled = bedienung["btnRedo"].Enabled = false; }
 
@@ -275,13 +272,6 @@ void frmMain::AuswahlUndRingLeeren() {
     ring.Leeren();
     UndoKnöpfeSetzen();
     NichtsAuswählen();
-}
-
-void frmMain::Legende() {
-    dokument.LegendeSichtbar = bedienung["btnLegende"].Checked;
-    anzeige.LegendenknopfBeschriften();
-    if (dokument.LegendeSichtbar) LegendeAufbauen(dokument, legende);
-    Vorschau();
 }
 
 } // namespace kw

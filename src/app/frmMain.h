@@ -1,8 +1,10 @@
 #pragma once
 
 #include "app/Anzeige.h"
+#include "app/Darstellung.h"
 #include "app/Datenimport.h"
 #include "app/Projekt.h"
+#include "app/Werkzeughinweis.h"
 #include "commands/Menuetafel.h"
 #include "dialogs/Dialogumgebung.h"
 #include "document/Auswahlliste.h"
@@ -94,7 +96,7 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     /// A line of the import list, from 0, has been dragged onto the page.
     void ImportzeileAblegen(int zeile, double x, double y);
     /// The pointer has come over the palette's button `werkzeug`, or is over none (0).
-    void PaletteBerührt(int werkzeug) { anzeige.PaletteBerührt(werkzeug); }
+    void PaletteBerührt(int werkzeug) { hinweis.PaletteBerührt(werkzeug); }
 
     /// Runs the command `name` as a user's choice: its menu opens first, with the states that this refreshes.
     /// False, and nothing done, when there is none or it is disabled or hidden.
@@ -104,8 +106,6 @@ class frmMain : public Fensterdienste, public Dialogdienste {
 
     /// Empties the undo ring, the selection and the gesture in progress, before another project comes.
     void AuswahlUndRingLeeren();
-    /// Shows or hides the legend as its button stands.
-    void Legende();
     bool IstDeutsch() const { return ansicht.Sprache == Sprache::Deutsch; }
     /// What a draw routine looks at.
     Zeichnung DasBild() { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
@@ -126,8 +126,11 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     Arbeitsbereich bereich;
     Bedienelemente bedienung;
     Einstellungen einstellungen;
-    Anzeige anzeige;
+    Auswahlliste cboRaster; ///< millimetres
     Druckwerk druck;
+    Anzeige anzeige;
+    Darstellung darstellung;
+    Werkzeughinweis hinweis;
     Bildexport bildexport;
     Datenimport import;
     Projekt projekt;
@@ -136,7 +139,6 @@ class frmMain : public Fensterdienste, public Dialogdienste {
 
     std::string Kommandozeile; ///< trimmed and unquoted
     std::string IniDatei;      ///< settings or project, whichever was read or written last
-    Auswahlliste cboRaster;    ///< millimetres
 
   private:
     friend struct Einblick; // for scripts and tests

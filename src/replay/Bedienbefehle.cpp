@@ -77,7 +77,7 @@ constexpr Wahlliste Wahllisten[] = {
     {"cboBildGröße", [](const Einblick &h) -> const Auswahlliste & { return h.bereich.cboBildGröße; },
      [](const Einblick &h, int i) { h.bereich.ZoomWählen(i); }},
     {"cboRaster", [](const Einblick &h) -> const Auswahlliste & { return h.cboRaster; },
-     [](const Einblick &h, int i) { h.anzeige.RasterWählen(i); }},
+     [](const Einblick &h, int i) { h.darstellung.RasterWählen(i); }},
 };
 
 void Wählen(Wiedergabe &lauf, const std::string &name, const std::string &index) {

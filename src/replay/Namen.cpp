@@ -160,7 +160,7 @@ void Namen::Auswahllisten(const Einblick &h) {
     };
     // These two apply a choice at once.
     Variablen["cboBildGröße.index"].Setzen = [h](const std::string &text) { h.bereich.ZoomWählen(Ganzzahl(text)); };
-    Variablen["cboRaster.index"].Setzen = [h](const std::string &text) { h.anzeige.RasterWählen(Ganzzahl(text)); };
+    Variablen["cboRaster.index"].Setzen = [h](const std::string &text) { h.darstellung.RasterWählen(Ganzzahl(text)); };
     Listen["cboBildGr_e"] = Listen["cboBildGröße"];
     Variablen["cboBildGr_e.index"] = Variablen["cboBildGröße.index"];
 }

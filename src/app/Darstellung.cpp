@@ -1,0 +1,58 @@
+#include "app/Darstellung.h"
+
+#include "app/Anzeige.h"
+#include "document/Zahlen.h"
+#include "editing/Werkbank.h"
+#include "output/Arbeitsbereich.h"
+
+namespace kw {
+
+void Darstellung::RasterUmschalten() {
+    ansicht_.bRasterAnzeigen = !ansicht_.bRasterAnzeigen;
+    anzeige_.RasterZeigen();
+    fenster_.Vorschau();
+}
+
+void Darstellung::RasterSetzen(int listIndex) {
+    if (listIndex < 0 || listIndex >= cboRaster_.Anzahl()) return;
+    cboRaster_.ListIndex = listIndex;
+    ansicht_.Rasterweite = ZahlLesen(cboRaster_.Text()) / 10;
+    anzeige_.RasterweiteZeigen();
+}
+
+void Darstellung::RasterWählen(int listIndex) {
+    RasterSetzen(listIndex);
+    fenster_.Vorschau();
+}
+
+void Darstellung::FarbschemaWählen(int schema) {
+    ansicht_.Farbschema = schema;
+    anzeige_.FarbschemaZeigen();
+    LinienfarbenSetzen();
+    fenster_.Vorschau();
+}
+
+void Darstellung::LinienfarbenSetzen() { ansicht_.Linienfarben = LinienfarbenFür(ansicht_.Farbschema); }
+
+void Darstellung::WerkzeugleisteUmschalten() {
+    if (bereich_.WerkzeugleisteSichtbar()) bereich_.WerkzeugleisteVerbergen();
+    else bereich_.WerkzeugleisteZeigen();
+    anzeige_.WerkzeugleisteZeigen();
+}
+
+void Darstellung::SeiteGeändert() {
+    anzeige_.SeiteZeigen();
+    bereich_.Bildgrößenveränderung();
+}
+
+void Darstellung::SeiteWählen(int Dokument::*was, int wert) {
+    if (dokument_.*was != wert) fenster_.AlsGeändertMerken();
+    dokument_.*was = wert;
+    SeiteGeändert();
+}
+
+void Darstellung::PapierWählen(int papiercode) { SeiteWählen(&Dokument::Papiercode, papiercode); }
+
+void Darstellung::LageWählen(int seitenlage) { SeiteWählen(&Dokument::Seitenlage, seitenlage); }
+
+} // namespace kw
