@@ -71,9 +71,9 @@ void Datenimport::Startaufruf() {
 
 void Datenimport::DatenEinlesen(const std::string &basis) {
     frmMain &h = haupt_;
-    h.IniDatei = basis + ".xyz";
+    h.projekt.IniDatei = basis + ".xyz";
     std::string inhalt;
-    DateiLesen(h.IniDatei, inhalt); // a file that can't be read is an empty one
+    DateiLesen(h.projekt.IniDatei, inhalt); // a file that can't be read is an empty one
     const Profil daten(std::move(inhalt));
     for (const std::string &text : ImportTexte(daten)) {
         h.dokument.cboTextboxen.Anhängen(text);

@@ -9,8 +9,8 @@ Einblick::Einblick(frmMain &haupt)
       auswahl(haupt.auswahl), lage(haupt.lage), auflagen(haupt.auflagen), ablage(haupt.ablage), legende(haupt.legende),
       ring(haupt.ring), bereich(haupt.bereich), bedienung(haupt.bedienung), einstellungen(haupt.einstellungen),
       darstellung(haupt.darstellung), druck(haupt.druck), import(haupt.import), projekt(haupt.projekt),
-      werkbank(haupt.werkbank), Kommandozeile(haupt.Kommandozeile), IniDatei(haupt.IniDatei),
-      cboRaster(haupt.cboRaster), fenster(haupt), haupt_(haupt) {}
+      werkbank(haupt.werkbank), Kommandozeile(haupt.Kommandozeile), cboRaster(haupt.cboRaster), fenster(haupt),
+      haupt_(haupt) {}
 
 Zeichnung Einblick::DasBild() const { return haupt_.DasBild(); }
 

@@ -58,7 +58,6 @@ struct Einblick {
     Projekt &projekt;
     Werkbank &werkbank;
     std::string &Kommandozeile;
-    std::string &IniDatei;
     Auswahlliste &cboRaster;
     Fensterdienste &fenster;
 

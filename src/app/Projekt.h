@@ -1,22 +1,51 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace kw {
 
-class frmMain;
+class Anzeige;
+class Benutzer;
+class Chronik;
+class Dialogdienste;
+class Fensterdienste;
+class UndoRing;
+struct Ansicht;
+struct Dokument;
+struct Legendenblatt;
+struct Zwischenablage;
 
 /// The project as a file: its name, whether it has unsaved changes, and the roads of opening and saving.
-/// Owned by the main window, of whose parts it fills the document and shows what it read.
+/// Owned by the main window.
 class Projekt {
   public:
-    explicit Projekt(frmMain &haupt) : haupt_(haupt) {}
+    /// What another project fills, empties or enters itself in.
+    struct Inhalt {
+        Dokument &dokument;
+        Legendenblatt &legende;
+        UndoRing &ring;
+        Zwischenablage &ablage;
+        Chronik &zuletzt;
+    };
+    /// What it asks, and what has to follow. `abwählen` ends the selection and the gesture in progress.
+    struct Umfeld {
+        const Ansicht &ansicht; ///< for the language
+        Anzeige &anzeige;
+        Benutzer &benutzer;
+        Fensterdienste &fenster;
+        Dialogdienste &dienste;
+        std::function<void()> abwählen;
+    };
+    /// `einstellungsDatei` knows the folder of the last project.
+    Projekt(Inhalt inhalt, Umfeld umfeld, std::string einstellungsDatei);
 
     std::string Projektdatei; ///< full path, empty for a project not yet saved
     std::string Titel = "Kinwright";
     bool Geändert = false;
     bool SpeichernAbgebrochen = false; ///< a file dialog for saving was cancelled
     bool ImportModus = false;          ///< made from handed-over data: saved under its name without asking
+    std::string IniDatei;              ///< settings, project or import data, whichever was read or written last
 
     /// Loads `Projektdatei`. Any failure leaves what was read so far and says nothing; the file's name is
     /// in the title and the document counts as unchanged.
@@ -37,7 +66,7 @@ class Projekt {
     /// Opens entry `platz`, 1 to 4, of the recent files, which comes to the first place. Unsaved changes are dropped
     /// without a question. Meant.
     void mnuRecent(int platz);
-    /// Empties ring, stores and free numbers.
+    /// Empties stores and free numbers.
     void DokumentLeeren();
 
     /// Asks about unsaved changes, if there are any. True when the caller may go on: they were saved,
@@ -45,10 +74,15 @@ class Projekt {
     bool NachÄnderungenFragen();
 
   private:
+    bool IstDeutsch() const;
     bool ProjektNeu();
     void InhaltLesen();
+    void FreieNummernLeeren();
+    void RingUndAuswahlLeeren();
 
-    frmMain &haupt_;
+    Inhalt inhalt_;
+    Umfeld umfeld_;
+    std::string einstellungsDatei_;
 };
 
 } // namespace kw

@@ -34,9 +34,10 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       anzeige(bedienung, {dokument, ansicht, auswahl, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster, druck}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, *this), hinweis(bedienung, plattform.benutzer),
       bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(); }), import(*this),
-      projekt(*this), werkbank{dokument, ansicht, auswahl,   lage,        auflagen,
-                               ablage,   legende, bedienung, picVorschau, plattform.benutzer,
-                               *this},
+      projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt},
+              {ansicht, anzeige, plattform.benutzer, *this, *this, [this] { NichtsAuswählen(); }}, start.IniDatei),
+      werkbank{dokument,           ansicht, auswahl, lage, auflagen, ablage, legende, bedienung, picVorschau,
+               plattform.benutzer, *this},
       leinwand(werkbank), Kommandozeile(Entpackt(start.Kommandozeile)) {
     BedienelementeAnlegen(bedienung);
 }
@@ -81,8 +82,8 @@ void frmMain::ListenFüllen() {
 
 /// The settings, with their defaults; a damaged file gives defaults and no message.
 void frmMain::ZweiteStufe() {
-    IniDatei = start.IniDatei;
-    einstellungen = EinstellungenAus(IniDatei);
+    projekt.IniDatei = start.IniDatei;
+    einstellungen = EinstellungenAus(start.IniDatei);
     ansicht.Farbschema = einstellungen.Farbschema;
     ansicht.Altersanzeige = einstellungen.Altersanzeige;
     ansicht.Sprache = einstellungen.Sprache;
@@ -111,7 +112,7 @@ bool frmMain::Schließen() {
 }
 
 void frmMain::EinstellungenSichern() {
-    IniDatei = start.IniDatei; // it may still name a project
+    projekt.IniDatei = start.IniDatei;
     einstellungen.Orientation = plattform.drucker.DeviceName() ? plattform.drucker.Orientation() : dokument.Seitenlage;
     einstellungen.LetzterPfad = Pfad(projekt.Projektdatei);
     einstellungen.Zoom = bereich.cboBildGröße.ListIndex;
@@ -119,7 +120,7 @@ void frmMain::EinstellungenSichern() {
     einstellungen.Papiercode = dokument.Papiercode;
     einstellungen.Raster = cboRaster.ListIndex;
     einstellungen.Werkzeugleiste = bereich.WerkzeugleisteSichtbar();
-    EinstellungenSchreiben(einstellungen, IniDatei);
+    EinstellungenSchreiben(einstellungen, start.IniDatei);
 }
 
 void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
@@ -267,11 +268,5 @@ void frmMain::Sichern() {
 void frmMain::UndoKnöpfeSetzen() { anzeige.UndoKnöpfeZeigen(); }
 
 void frmMain::UndoKnöpfeSperren() { bedienung["btnUndo"].Enabled = bedienung["btnRedo"].Enabled = false; }
-
-void frmMain::AuswahlUndRingLeeren() {
-    ring.Leeren();
-    UndoKnöpfeSetzen();
-    NichtsAuswählen();
-}
 
 } // namespace kw

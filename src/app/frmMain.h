@@ -104,8 +104,6 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     /// Brings the states of cut, copy and paste up to date, as opening the edit menu does.
     void mnuBearbeiten_Öffnen();
 
-    /// Empties the undo ring, the selection and the gesture in progress, before another project comes.
-    void AuswahlUndRingLeeren();
     bool IstDeutsch() const { return ansicht.Sprache == Sprache::Deutsch; }
     /// What a draw routine looks at.
     Zeichnung DasBild() { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
@@ -138,7 +136,6 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     Leinwand leinwand;
 
     std::string Kommandozeile; ///< trimmed and unquoted
-    std::string IniDatei;      ///< settings or project, whichever was read or written last
 
   private:
     friend struct Einblick; // for scripts and tests

@@ -45,7 +45,7 @@ void Namen::Startwerte(const Einblick &h, const Benutzer &benutzer) {
 void Namen::Programmnamen(const Einblick &h) {
     Variablen.insert({
         {"Programmversion", Abgeleitet([] { return std::string(frmMain::Programmversion); })},
-        {"IniDatei", Von(h.IniDatei)},
+        {"IniDatei", Von(h.projekt.IniDatei)},
         {"Projektdatei", Von(h.projekt.Projektdatei)},
         {"Kommandozeile", Von(h.Kommandozeile)},
         {"title", Von(h.projekt.Titel)},
