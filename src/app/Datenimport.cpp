@@ -1,7 +1,9 @@
 #include "app/Datenimport.h"
 
-#include "app/frmMain.h"
+#include "app/Projekt.h"
+#include "app/Startangaben.h"
 #include "document/Dateien.h"
+#include "document/Profil.h"
 #include "document/Texte.h"
 #include "editing/Verbindungen.h"
 
@@ -47,77 +49,76 @@ bool Datenimport::IstVerlangt(const std::string &kommandozeile) {
 /// Of the forms that have no switch, "-i " and "\t " can't be met, since eleven characters are compared with three
 /// and a trimmed line ends in no blank; they would do nothing. Meant.
 void Datenimport::Startaufruf() {
-    frmMain &h = haupt_;
-    h.plattform.benutzer.AnzeigeAuffrischen();
-    h.bereich.Bildgrößenveränderung();
-    const std::string zeile = OhneAnführung(h.start.Kommandozeile);
-    if (Getrimmt(h.start.Kommandozeile).empty()) return;
-    const std::string ordner = h.start.Programmordner + "/";
-    h.projekt.Projektdatei = ordner + "Genogramme/" + Zeichenfolge(zeile, NameAb, Namenslänge) + ".kwp";
-    if (DateiVorhanden(h.projekt.Projektdatei)) {
-        h.projekt.ImportModus = true;
-        h.projekt.Öffnen(h.projekt.Projektdatei);
+    if (Getrimmt(start_.Kommandozeile).empty()) return;
+    const std::string zeile = OhneAnführung(start_.Kommandozeile);
+    const std::string ordner = start_.Programmordner + "/";
+    projekt_.Projektdatei = ordner + "Genogramme/" + Zeichenfolge(zeile, NameAb, Namenslänge) + ".kwp";
+    if (DateiVorhanden(projekt_.Projektdatei)) {
+        projekt_.ImportModus = true;
+        projekt_.Öffnen(projekt_.Projektdatei);
     } else if (IstSchalter(zeile.substr(0, Schalterlänge))) {
-        h.projekt.ImportModus = true;
+        projekt_.ImportModus = true;
         DatenEinlesen(ordner + std::string(Getrimmt(std::string_view(zeile).substr(Schalterlänge))));
         ListeFüllen();
     } else if (zeile.ends_with(".kwp")) {
-        std::string datei = h.start.Kommandozeile;
+        std::string datei = start_.Kommandozeile;
         std::erase(datei, '"');
-        h.projekt.DokumentLeeren();
-        h.projekt.Öffnen(datei);
+        projekt_.DokumentLeeren();
+        projekt_.Öffnen(datei);
     }
 }
 
-void Datenimport::DatenEinlesen(const std::string &basis) {
-    frmMain &h = haupt_;
-    h.projekt.IniDatei = basis + ".xyz";
+void Datenimport::FallEinlesen(const std::string &datei) {
+    projekt_.IniDatei = datei;
     std::string inhalt;
-    DateiLesen(h.projekt.IniDatei, inhalt); // a file that can't be read is an empty one
+    DateiLesen(datei, inhalt); // a file that can't be read is an empty one
     const Profil daten(std::move(inhalt));
     for (const std::string &text : ImportTexte(daten)) {
-        h.dokument.cboTextboxen.Anhängen(text);
-        h.lage.Aktion = Aktion::TextGesetzt;
-        h.Vorschau(); // measures the box
+        ziel_.dokument.cboTextboxen.Anhängen(text);
+        ziel_.geste.Aktion = Aktion::TextGesetzt;
+        fenster_.Vorschau(); // measures the box
     }
-    for (const std::string &person : ImportPersonen(daten, h.ansicht.SeitenBreite))
-        h.dokument.cboPersonen.Anhängen(person);
+    for (const std::string &person : ImportPersonen(daten, ziel_.ansicht.SeitenBreite))
+        ziel_.dokument.cboPersonen.Anhängen(person);
+}
+
+void Datenimport::DatenEinlesen(const std::string &basis) {
+    FallEinlesen(basis + ".xyz");
     std::string liste;
-    const bool gelesen = DateiLesen(h.start.Programmordner + "/muster.txt", liste).Gelungen();
+    const bool gelesen = DateiLesen(start_.Programmordner + "/muster.txt", liste).Gelungen();
     cboTextDateizeilen = Importzeilen(liste);
-    h.Vorschau();
-    h.Sichern();
+    fenster_.Vorschau();
+    fenster_.Sichern();
     if (gelesen) return;
-    h.plattform.benutzer.Fragen({"Fehler",
-                                 "Beim Einlesen der Personendaten ist ein Fehler aufgetreten!\n"
-                                 "Die Datei 'muster.txt' ist entweder im Anwendungsverzeichnis nicht vorhanden oder "
-                                 "beschädigt.",
-                                 Knöpfe::Ok, Zeichen::Halt});
+    benutzer_.Fragen({"Fehler",
+                      "Beim Einlesen der Personendaten ist ein Fehler aufgetreten!\n"
+                      "Die Datei 'muster.txt' ist entweder im Anwendungsverzeichnis nicht vorhanden oder "
+                      "beschädigt.",
+                      Knöpfe::Ok, Zeichen::Halt});
 }
 
 void Datenimport::ListeFüllen() {
     Listenzeilen.clear();
     for (const std::string &zeile : cboTextDateizeilen) Listenzeilen.push_back(ImportpersonAus(zeile));
     const bool gefüllt = !Listenzeilen.empty();
-    haupt_.bedienung["imgVariable"].Visible = gefüllt;
-    haupt_.bedienung["btnImport"].Visible = haupt_.bedienung["btnImport"].Enabled = gefüllt;
-    haupt_.bedienung["btnImport"].Checked = gefüllt;
+    bedienung_["btnImport"].Visible = bedienung_["btnImport"].Enabled = gefüllt;
+    ListeZeigen(gefüllt);
 }
 
-void Datenimport::ListeUmschalten() {
-    Bedienelement &feld = haupt_.bedienung["imgVariable"];
-    feld.Visible = !feld.Visible;
-    haupt_.bedienung["btnImport"].Checked = feld.Visible;
+void Datenimport::ListeZeigen(bool sichtbar) {
+    bedienung_["imgVariable"].Visible = bedienung_["btnImport"].Checked = sichtbar;
 }
 
-void Datenimport::Ablegen(int zeile, double x, double y) {
+void Datenimport::ListeUmschalten() { ListeZeigen(!bedienung_["imgVariable"].Visible); }
+
+void Datenimport::Ablegen(Werkbank &w, int zeile, double x, double y) const {
     if (zeile < 0 || zeile >= static_cast<int>(Listenzeilen.size())) return;
-    haupt_.lage.MausX = x;
-    haupt_.lage.MausY = y;
-    haupt_.lage.Aktion = Aktion::PersonSetzen;
-    PersonAnlegen(haupt_.werkbank, &Listenzeilen[static_cast<size_t>(zeile)]);
-    haupt_.Sichern();
-    haupt_.lage.Aktion = Aktion::Nichts;
+    w.lage.MausX = x;
+    w.lage.MausY = y;
+    w.lage.Aktion = Aktion::PersonSetzen;
+    PersonAnlegen(w, &Listenzeilen[static_cast<size_t>(zeile)]);
+    w.fenster.Sichern();
+    w.lage.Aktion = Aktion::Nichts;
 }
 
 } // namespace kw

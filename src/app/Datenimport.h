@@ -8,14 +8,30 @@
 
 namespace kw {
 
-class frmMain;
+class Bedienelemente;
+class Benutzer;
+class Fensterdienste;
+class Projekt;
+struct Ansicht;
+struct Dokument;
+struct Gestenlage;
+struct Startangaben;
+struct Werkbank;
 
 /// Persons that another application hands over: the command line's forms, the data of a case laid out as a first
-/// picture, and a list of persons to drag onto the page. Owned by the main window, of whose parts it fills some.
-/// Files stand in the program's folder.
+/// picture, and a list of persons to drag onto the page. Owned by the main window. Files stand in the program's folder.
 class Datenimport {
   public:
-    explicit Datenimport(frmMain &haupt) : haupt_(haupt) {}
+    /// What a case's data fill.
+    struct Ziel {
+        Dokument &dokument;
+        Gestenlage &geste; ///< a text box is measured as one that has just been placed
+        const Ansicht &ansicht;
+    };
+    Datenimport(const Startangaben &start, Ziel ziel, Projekt &projekt, Bedienelemente &bedienung, Benutzer &benutzer,
+                Fensterdienste &fenster)
+        : start_(start), ziel_(ziel), projekt_(projekt), bedienung_(bedienung), benutzer_(benutzer), fenster_(fenster) {
+    }
 
     Satzliste cboTextDateizeilen;           ///< lines of the list, as they were read
     std::vector<Importperson> Listenzeilen; ///< the list that the panel shows
@@ -32,10 +48,18 @@ class Datenimport {
     void ListeUmschalten();
     /// A line of the list, from 0, dropped on the page, where nothing is selected: one person there. Other rows do
     /// nothing.
-    void Ablegen(int zeile, double x, double y);
+    void Ablegen(Werkbank &w, int zeile, double x, double y) const;
 
   private:
-    frmMain &haupt_;
+    void FallEinlesen(const std::string &datei);
+    void ListeZeigen(bool sichtbar);
+
+    const Startangaben &start_;
+    Ziel ziel_;
+    Projekt &projekt_;
+    Bedienelemente &bedienung_;
+    Benutzer &benutzer_;
+    Fensterdienste &fenster_;
 };
 
 } // namespace kw

@@ -33,9 +33,10 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       druck(plattform.drucker, plattform.benutzer, ansicht, bedienung),
       anzeige(bedienung, {dokument, ansicht, auswahl, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster, druck}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, *this), hinweis(bedienung, plattform.benutzer),
-      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(); }), import(*this),
+      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(); }),
       projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt},
               {ansicht, anzeige, plattform.benutzer, *this, *this, [this] { NichtsAuswählen(); }}, start.IniDatei),
+      import(start, {dokument, lage, ansicht}, projekt, bedienung, plattform.benutzer, *this),
       werkbank{dokument,           ansicht, auswahl, lage, auflagen, ablage, legende, bedienung, picVorschau,
                plattform.benutzer, *this},
       leinwand(werkbank), Kommandozeile(Entpackt(start.Kommandozeile)) {
@@ -127,7 +128,7 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "Timer2" && !Getrimmt(Kommandozeile).empty()) projekt.Öffnen(Kommandozeile);
     if (name == "Timer3" && !Getrimmt(lage.PersRecord).empty()) FormÖffnen("frmSymbol");
     if (name == "Timer4") Vorschau();
-    if (name == "Timer5") import.Startaufruf();
+    if (name == "Timer5") DatenÜbernehmen();
     if (name == "tmrDrucker") DruckerErmitteln();
     if (name == "tmrLanguage") SpracheErfragen();
     if (name == "tmrToolTipp") hinweis.Zeigen();
@@ -163,7 +164,7 @@ void frmMain::DblClick(double x, double y) {
 void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
     leinwand.GesteAbbrechen();
     NichtsAuswählen();
-    import.Ablegen(zeile, x, y);
+    import.Ablegen(werkbank, zeile, x, y);
     NachEreignis();
 }
 
@@ -199,6 +200,13 @@ void frmMain::SpracheErfragen() {
     Dialogumgebung umgebung = Umgebung();
     frmEinstellungen form(umgebung, true);
     plattform.benutzer.FormZeigen(form);
+}
+
+/// What the command line hands over comes on a page that is laid out.
+void frmMain::DatenÜbernehmen() {
+    plattform.benutzer.AnzeigeAuffrischen();
+    bereich.Bildgrößenveränderung();
+    import.Startaufruf();
 }
 
 void frmMain::LegendeZeigen(bool sichtbar) {

@@ -4,6 +4,7 @@
 #include "app/Darstellung.h"
 #include "app/Datenimport.h"
 #include "app/Projekt.h"
+#include "app/Startangaben.h"
 #include "app/Werkzeughinweis.h"
 #include "commands/Menuetafel.h"
 #include "dialogs/Dialogumgebung.h"
@@ -34,16 +35,6 @@ struct Plattform {
     Drucker &drucker;
     Bilder &bilder;
     const Uhr &uhr;
-};
-
-/// What the process was started with.
-struct Startangaben {
-    std::string Kommandozeile;  ///< raw, quotes and all
-    std::string IniDatei;       ///< path of the settings file
-    std::string Programmordner; ///< without a closing "/"; import files and the update program stand there
-    std::string Hilfeordner;    ///< the same; of the manual
-    int BildschirmBreite = 0;   ///< twips
-    int BildschirmHöhe = 0;
 };
 
 /// The main window as a model: owns every part of the program and wires them. It keeps only what is truly
@@ -130,8 +121,8 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     Darstellung darstellung;
     Werkzeughinweis hinweis;
     Bildexport bildexport;
-    Datenimport import;
     Projekt projekt;
+    Datenimport import;
     Werkbank werkbank;
     Leinwand leinwand;
 
@@ -148,6 +139,7 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void DruckerErmitteln();
     void ZeitgeberStellen();
     void SpracheErfragen();
+    void DatenÜbernehmen();
     void EinstellungenSichern();
     Dialogumgebung Umgebung();
 };

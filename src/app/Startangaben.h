@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+
+namespace kw {
+
+/// What the process was started with.
+struct Startangaben {
+    std::string Kommandozeile;  ///< raw, quotes and all
+    std::string IniDatei;       ///< path of the settings file
+    std::string Programmordner; ///< without a closing "/"; import files and the update program stand there
+    std::string Hilfeordner;    ///< the same; of the manual
+    int BildschirmBreite = 0;   ///< twips
+    int BildschirmHöhe = 0;
+};
+
+} // namespace kw
