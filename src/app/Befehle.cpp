@@ -1,7 +1,13 @@
 #include "app/Befehle.h"
 
-#include "app/frmMain.h"
+#include "app/Darstellung.h"
+#include "app/Datenimport.h"
+#include "app/Projekt.h"
+#include "app/Startangaben.h"
+#include "commands/Menuetafel.h"
+#include "dialogs/Dialogumgebung.h"
 #include "document/Texte.h"
+#include "document/UndoRing.h"
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
 #include "editing/Kinder.h"
@@ -10,6 +16,9 @@
 #include "editing/Symbolgroesse.h"
 #include "editing/Verbindungen.h"
 #include "editing/Werkzeuge.h"
+#include "output/Arbeitsbereich.h"
+#include "output/Druckwerk.h"
+#include "output/basBildExport.h"
 
 #include <algorithm>
 
@@ -18,79 +27,101 @@ namespace kw {
 namespace {
 
 /// An editing routine as a command.
-template <void (*Routine)(Werkbank &)> void Auf(frmMain &h, int) { Routine(h.werkbank); }
+template <void (*Routine)(Werkbank &)> void Auf(Befehlsumgebung &u, int) { Routine(u.werkbank); }
 
-void Werkzeug(frmMain &h, int nummer) { WerkzeugDrücken(h.werkbank, nummer); }
+void Werkzeug(Befehlsumgebung &u, int nummer) { WerkzeugDrücken(u.werkbank, nummer); }
 
-void Zwillinge(frmMain &h, int art) { ZwillingeEinfügen(h.werkbank, art); }
+void Zwillinge(Befehlsumgebung &u, int art) { ZwillingeEinfügen(u.werkbank, art); }
 
-void Bildauswahl(frmMain &h, int inDatei) { BildauswahlBeginnen(h.werkbank, inDatei != 0); }
+void Bildauswahl(Befehlsumgebung &u, int inDatei) { BildauswahlBeginnen(u.werkbank, inDatei != 0); }
 
-void Farbschema(frmMain &h, int schema) { h.darstellung.FarbschemaWählen(schema); }
+void Farbschema(Befehlsumgebung &u, int schema) { u.darstellung.FarbschemaWählen(schema); }
 
-void Papier(frmMain &h, int code) { h.darstellung.PapierWählen(code); }
+void Papier(Befehlsumgebung &u, int code) { u.darstellung.PapierWählen(code); }
 
-void Lage(frmMain &h, int seitenlage) { h.darstellung.LageWählen(seitenlage); }
+void Lage(Befehlsumgebung &u, int seitenlage) { u.darstellung.LageWählen(seitenlage); }
 
 /// The paste entries of the context menus go when they have been used.
-void EinfügenImKontext(frmMain &h, int) {
-    h.bedienung["mnuEinfügen8"].Visible = h.bedienung["mnustr15"].Visible = false;
-    Einfügen(h.werkbank);
+void EinfügenImKontext(Befehlsumgebung &u, int) {
+    u.werkbank.bedienung["mnuEinfügen8"].Visible = u.werkbank.bedienung["mnustr15"].Visible = false;
+    Einfügen(u.werkbank);
 }
 
-void AuswahlLöschenImKontext(frmMain &h, int) {
-    AuswahlLöschen(h.werkbank);
-    MarkierungsListBoxenLöschen(h.werkbank);
+void AuswahlLöschenImKontext(Befehlsumgebung &u, int) {
+    AuswahlLöschen(u.werkbank);
+    MarkierungsListBoxenLöschen(u.werkbank);
 }
 
-void SymbolBearbeiten(frmMain &h, int) {
-    if (!Getrimmt(h.lage.PersRecord).empty()) h.FormÖffnen("frmSymbol");
+void SymbolBearbeiten(Befehlsumgebung &u, int) {
+    if (!Getrimmt(u.werkbank.lage.PersRecord).empty()) u.werkbank.fenster.FormÖffnen("frmSymbol");
 }
 
-void PLinieBearbeiten(frmMain &h, int) {
-    h.FormÖffnen("frmPLinien");
-    h.lage.Aktion = Aktion::PLinieBearbeitet;
+void PLinieBearbeiten(Befehlsumgebung &u, int) {
+    u.werkbank.fenster.FormÖffnen("frmPLinien");
+    u.werkbank.lage.Aktion = Aktion::PLinieBearbeitet;
 }
 
-void TextBearbeiten(frmMain &h, int) {
-    h.lage.Aktion = Aktion::TextDialog;
-    h.FormÖffnen("frmKommentar");
+void TextBearbeiten(Befehlsumgebung &u, int) {
+    u.werkbank.lage.Aktion = Aktion::TextDialog;
+    u.werkbank.fenster.FormÖffnen("frmKommentar");
 }
 
-void LegendeAktualisieren(frmMain &h, int) {
-    LegendeAufbauen(h.dokument, h.legende);
-    h.Vorschau();
+void LegendeAktualisieren(Befehlsumgebung &u, int) {
+    LegendeAufbauen(u.werkbank.dokument, u.werkbank.legende);
+    u.werkbank.fenster.Vorschau();
 }
 
-void DruckränderUmschalten(frmMain &h, int) {
-    if (h.druck.RänderUmschalten()) h.Vorschau();
+/// One step back or forward in the ring; afterwards nothing is selected and no gesture runs.
+template <bool (UndoRing::*Gehen)(Dokument &)> void Schritt(Befehlsumgebung &u, int) {
+    if (!(u.ring.*Gehen)(u.werkbank.dokument)) return;
+    u.werkbank.fenster.UndoKnöpfeSetzen();
+    u.abwählen();
+    u.werkbank.fenster.Vorschau();
 }
 
-void LegendeUmschalten(frmMain &h, int) {
-    h.LegendeZeigen(!h.bedienung["btnLegende"].Checked);
-    h.projekt.Geändert = true; // the project holds it, no snapshot does
+/// The page as a PDF file, by the printer that writes such; it stays the current one.
+void PdfErzeugen(Befehlsumgebung &u, int) {
+    if (u.druck.PdfDruckerWählen()) u.dienste.GenogrammDrucken();
+}
+
+/// The manual, in the default browser. The caption of the menu bar tells the language, whatever the settings say.
+/// Meant.
+void HilfeÖffnen(Befehlsumgebung &u, int) {
+    const std::string &datei = u.werkbank.bedienung["mnuDatei"].Caption;
+    const char *sprache = datei == "Datei" ? "de" : datei == "File" ? "en" : nullptr;
+    if (!sprache) return;
+    u.werkbank.benutzer.AdresseÖffnen("file://" + u.start.Hilfeordner + "/" + sprache + "/index.htm");
+}
+
+void DruckränderUmschalten(Befehlsumgebung &u, int) {
+    if (u.druck.RänderUmschalten()) u.werkbank.fenster.Vorschau();
+}
+
+void LegendeUmschalten(Befehlsumgebung &u, int) {
+    u.dienste.LegendeZeigen(!u.werkbank.dokument.LegendeSichtbar);
+    u.werkbank.fenster.AlsGeändertMerken(); // the project holds it, no snapshot does
 }
 
 struct Zeile {
     std::string_view Name;
-    void (*Ausführen)(frmMain &, int wert);
+    void (*Ausführen)(Befehlsumgebung &, int wert);
     int Wert = 0;
 };
 constexpr Zeile Tabelle[] = {
-    {"mnuNeu", [](frmMain &h, int) { h.projekt.mnuNeu(); }},
-    {"mnuÖffnen", [](frmMain &h, int) { h.projekt.mnuÖffnen(); }},
-    {"mnuSpeichern", [](frmMain &h, int) { h.projekt.Speichern(); }},
-    {"mnuSichernUnter", [](frmMain &h, int) { h.projekt.SpeichernUnter(); }},
-    {"mnuExportieren", [](frmMain &h, int) { h.bildexport.SeiteExportieren(h.projekt.Projektdatei); }},
-    {"mnuPDF_Export", [](frmMain &h, int) { h.PdfErzeugen(); }},
+    {"mnuNeu", [](Befehlsumgebung &u, int) { u.projekt.mnuNeu(); }},
+    {"mnuÖffnen", [](Befehlsumgebung &u, int) { u.projekt.mnuÖffnen(); }},
+    {"mnuSpeichern", [](Befehlsumgebung &u, int) { u.projekt.Speichern(); }},
+    {"mnuSichernUnter", [](Befehlsumgebung &u, int) { u.projekt.SpeichernUnter(); }},
+    {"mnuExportieren", [](Befehlsumgebung &u, int) { u.bildexport.SeiteExportieren(u.projekt.Projektdatei); }},
+    {"mnuPDF_Export", PdfErzeugen},
     {"btnClipboard", Bildauswahl, false},
     {"btnAuswahlZuBild", Bildauswahl, true},
-    {"mnuBeenden", [](frmMain &h, int) { h.plattform.benutzer.FensterSchließen(); }},
+    {"mnuBeenden", [](Befehlsumgebung &u, int) { u.werkbank.benutzer.FensterSchließen(); }},
 
-    {"mnuRückgängig", [](frmMain &h, int) { h.cmdUndo(); }},
-    {"mnuWiederholen", [](frmMain &h, int) { h.cmdredo(); }},
-    {"cmdUndo", [](frmMain &h, int) { h.cmdUndo(); }},
-    {"cmdredo", [](frmMain &h, int) { h.cmdredo(); }},
+    {"mnuRückgängig", Schritt<&UndoRing::Rückgängig>},
+    {"mnuWiederholen", Schritt<&UndoRing::Wiederholen>},
+    {"cmdUndo", Schritt<&UndoRing::Rückgängig>},
+    {"cmdredo", Schritt<&UndoRing::Wiederholen>},
     {"mnuAusschneiden", Auf<Ausschneiden>},
     {"mnuAusschneiden2", Auf<Ausschneiden>},
     {"mnuAusschneiden4", Auf<Ausschneiden>},
@@ -133,8 +164,8 @@ constexpr Zeile Tabelle[] = {
     {"mnuZwillingeEineiig_männlich_weiblich", Zwillinge, 4},
     {"mnuZwillingeEineiig_weiblich_weiblich", Zwillinge, 5},
     {"mnuZwillingeeineiig_männlich_männlich", Zwillinge, 6},
-    {"mnuTwinszweiiig", [](frmMain &h, int) { ZwillingeErklären(h.werkbank, "2E"); }},
-    {"mnuTwinsEineiig", [](frmMain &h, int) { ZwillingeErklären(h.werkbank, "1E"); }},
+    {"mnuTwinszweiiig", [](Befehlsumgebung &u, int) { ZwillingeErklären(u.werkbank, "2E"); }},
+    {"mnuTwinsEineiig", [](Befehlsumgebung &u, int) { ZwillingeErklären(u.werkbank, "1E"); }},
 
     {"mnuSymbolBearbeiten", SymbolBearbeiten},
     {"mnuBeziehungErstellen2", Auf<mnuBeziehungErstellen2>},
@@ -143,49 +174,49 @@ constexpr Zeile Tabelle[] = {
     {"mnuSymbolVergrößern", Auf<mnuSymbolVergrößern>},
     {"mnuSymbolVerkleinern", Auf<mnuSymbolVerkleinern>},
     {"mnuSymbolLöschen", Auf<mnuSymbolLöschen>},
-    {"mnuBLinieBearbeiten", [](frmMain &h, int) { h.FormÖffnen("frmBezLinien"); }},
+    {"mnuBLinieBearbeiten", [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen("frmBezLinien"); }},
     {"mnuBezLinieLöschen", Auf<BezLinieLöschen>},
     {"mnuPLiniebearbeiten", PLinieBearbeiten},
     {"mnuPLineLöschen", Auf<PLinieLöschen>},
-    {"mnuLeiblichesKind", [](frmMain &h, int) { KindArtSetzen(h.werkbank, ""); }},
-    {"mnuAdoptiert", [](frmMain &h, int) { KindArtSetzen(h.werkbank, "A"); }},
-    {"mnuPflegekind", [](frmMain &h, int) { KindArtSetzen(h.werkbank, "P"); }},
+    {"mnuLeiblichesKind", [](Befehlsumgebung &u, int) { KindArtSetzen(u.werkbank, ""); }},
+    {"mnuAdoptiert", [](Befehlsumgebung &u, int) { KindArtSetzen(u.werkbank, "A"); }},
+    {"mnuPflegekind", [](Befehlsumgebung &u, int) { KindArtSetzen(u.werkbank, "P"); }},
     {"mnuKindLinieLöschen", Auf<KindLinieEntfernen>},
     {"mnuPfeilLöschen", Auf<PfeilLöschen>},
     {"mnuKreisLinieLöschen", Auf<KreisLinieLöschen>},
     {"mnuTextbearbeiten", TextBearbeiten},
     {"mnuTextboxLöschen", Auf<TextLöschen>},
 
-    {"mnuWerkzeugleiste", [](frmMain &h, int) { h.darstellung.WerkzeugleisteUmschalten(); }},
-    {"mnuRasterAnzeigen", [](frmMain &h, int) { h.darstellung.RasterUmschalten(); }},
-    {"mnuRasterKlein", [](frmMain &h, int) { h.darstellung.RasterWählen(0); }},
-    {"mnuRasterGroß", [](frmMain &h, int) { h.darstellung.RasterWählen(1); }},
-    {"mnuLegendeEinstellungen", [](frmMain &h, int) { h.FormÖffnen("frmLegende"); }},
+    {"mnuWerkzeugleiste", [](Befehlsumgebung &u, int) { u.darstellung.WerkzeugleisteUmschalten(); }},
+    {"mnuRasterAnzeigen", [](Befehlsumgebung &u, int) { u.darstellung.RasterUmschalten(); }},
+    {"mnuRasterKlein", [](Befehlsumgebung &u, int) { u.darstellung.RasterWählen(0); }},
+    {"mnuRasterGroß", [](Befehlsumgebung &u, int) { u.darstellung.RasterWählen(1); }},
+    {"mnuLegendeEinstellungen", [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen("frmLegende"); }},
     {"mnuLegendeAktualisieren", LegendeAktualisieren},
     {"mnuLegendeAnzeigen", LegendeUmschalten},
     {"mnuSchwarzWeiß", Farbschema, SchemaSchwarzWeiß},
     {"mnuGraustufen", Farbschema, SchemaGraustufen},
     {"mnuFarbig", Farbschema, SchemaFarbig},
-    {"mnuSchriftart", [](frmMain &h, int) { h.FormÖffnen("frmSchrift"); }},
-    {"mnuAltersangabe", [](frmMain &h, int) { h.FormÖffnen("frmSymbGlobal"); }},
-    {"mnuSeiteEinrichten", [](frmMain &h, int) { h.FormÖffnen("frmSeiteEinrichten"); }},
+    {"mnuSchriftart", [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen("frmSchrift"); }},
+    {"mnuAltersangabe", [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen("frmSymbGlobal"); }},
+    {"mnuSeiteEinrichten", [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen("frmSeiteEinrichten"); }},
     {"btnHochformat", Lage, 1},
     {"btnQuerformat", Lage, 2},
     {"keyDINA4", Papier, 9},
     {"keyDINA5", Papier, 11},
     {"keyUSLetter", Papier, 1},
     {"btnBlattränder", DruckränderUmschalten},
-    {"cmdRänder", [](frmMain &h, int) { h.druck.DruckrandBericht(); }},
-    {"mnuDrucken", [](frmMain &h, int) { h.FormÖffnen("frmDrucken"); }},
-    {"mnuEinstellungen", [](frmMain &h, int) { h.FormÖffnen("frmEinstellungen"); }},
-    {"mnuHilfethemen", [](frmMain &h, int) { h.HilfeÖffnen(); }},
-    {"mnuUpdate", [](frmMain &h, int) { h.plattform.benutzer.ProgrammStarten("kw_update"); }},
-    {"btnImport", [](frmMain &h, int) { h.import.ListeUmschalten(); }},
-    {"mnuInfo", [](frmMain &h, int) { h.FormÖffnen("frmInfo"); }},
-    {"mnuSymbolKleiner", [](frmMain &h, int) { GrößeÄndern(h.werkbank, -GrößenSchritt); }},
-    {"mnuSymbolGrößer", [](frmMain &h, int) { GrößeÄndern(h.werkbank, GrößenSchritt); }},
-    {"btnBildGrößer", [](frmMain &h, int) { h.bereich.Vergrößern(); }},
-    {"btnBildKleiner", [](frmMain &h, int) { h.bereich.Verkleinern(); }},
+    {"cmdRänder", [](Befehlsumgebung &u, int) { u.druck.DruckrandBericht(); }},
+    {"mnuDrucken", [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen("frmDrucken"); }},
+    {"mnuEinstellungen", [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen("frmEinstellungen"); }},
+    {"mnuHilfethemen", HilfeÖffnen},
+    {"mnuUpdate", [](Befehlsumgebung &u, int) { u.werkbank.benutzer.ProgrammStarten("kw_update"); }},
+    {"btnImport", [](Befehlsumgebung &u, int) { u.import.ListeUmschalten(); }},
+    {"mnuInfo", [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen("frmInfo"); }},
+    {"mnuSymbolKleiner", [](Befehlsumgebung &u, int) { GrößeÄndern(u.werkbank, -GrößenSchritt); }},
+    {"mnuSymbolGrößer", [](Befehlsumgebung &u, int) { GrößeÄndern(u.werkbank, GrößenSchritt); }},
+    {"btnBildGrößer", [](Befehlsumgebung &u, int) { u.bereich.Vergrößern(); }},
+    {"btnBildKleiner", [](Befehlsumgebung &u, int) { u.bereich.Verkleinern(); }},
 
     {"cmdZwillinge", Auf<cmdZwillinge>},
 };
@@ -194,12 +225,12 @@ constexpr Zeile Tabelle[] = {
 struct Reihe {
     std::string_view Anfang, Ende; ///< of the name, around the number
     int Von, Bis;
-    void (*Ausführen)(frmMain &, int nummer);
+    void (*Ausführen)(Befehlsumgebung &, int nummer);
 };
 constexpr Reihe Reihen[] = {
     {"cmdSymb(", ")", 1, WerkzeugAnzahl, Werkzeug},
-    {"mnuRecent(", ")", 1, Chronik::Plätze, [](frmMain &h, int nummer) { h.projekt.mnuRecent(nummer); }},
-    {"keyZoom", "", 80, 250, [](frmMain &h, int nummer) { h.bereich.ZoomWählen((nummer - 80) / 10); }},
+    {"mnuRecent(", ")", 1, Chronik::Plätze, [](Befehlsumgebung &u, int nummer) { u.projekt.mnuRecent(nummer); }},
+    {"keyZoom", "", 80, 250, [](Befehlsumgebung &u, int nummer) { u.bereich.ZoomWählen((nummer - 80) / 10); }},
 };
 
 Befehl AusReihe(std::string_view name) {

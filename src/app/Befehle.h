@@ -1,14 +1,39 @@
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 namespace kw {
 
-class frmMain;
+class Arbeitsbereich;
+class Bildexport;
+class Darstellung;
+class Datenimport;
+class Dialogdienste;
+class Druckwerk;
+class Projekt;
+class UndoRing;
+struct Startangaben;
+struct Werkbank;
+
+/// All that the commands work on: a row needs one or two of these.
+struct Befehlsumgebung {
+    Werkbank &werkbank;
+    Projekt &projekt;
+    Darstellung &darstellung;
+    Arbeitsbereich &bereich;
+    Datenimport &import;
+    Druckwerk &druck;
+    Bildexport &bildexport;
+    UndoRing &ring;
+    Dialogdienste &dienste;
+    const Startangaben &start;
+    std::function<void()> abwählen; ///< ends the selection and the gesture in progress
+};
 
 /// What a row of the commands' table does.
 struct Befehl {
-    void (*Ausführen)(frmMain &, int nummer) = nullptr;
+    void (*Ausführen)(Befehlsumgebung &, int nummer) = nullptr;
     int Nummer = 0; ///< of a row that has one in its name: 7 of "cmdSymb(7)"
 
     explicit operator bool() const { return Ausführen != nullptr; }

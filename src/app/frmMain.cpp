@@ -175,7 +175,18 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     for (const Menüzeile *zeile = MenüzeileFinden(name); zeile; zeile = MenüzeileFinden(zeile->Menü))
         if (const Bedienelement &element = bedienung[zeile->Name]; !element.Enabled || !element.Visible) return false;
     leinwand.GesteAbbrechen();
-    befehl.Ausführen(*this, befehl.Nummer);
+    Befehlsumgebung umgebung{werkbank,
+                             projekt,
+                             darstellung,
+                             bereich,
+                             import,
+                             druck,
+                             bildexport,
+                             ring,
+                             *this,
+                             start,
+                             [this] { NichtsAuswählen(); }};
+    befehl.Ausführen(umgebung, befehl.Nummer);
     NachEreignis();
     return true;
 }
@@ -223,37 +234,12 @@ void frmMain::SeiteAnwenden() {
 
 bool frmMain::GenogrammDrucken() { return druck.GenogrammDrucken(DasBild(), projekt.Projektdatei); }
 
-void frmMain::PdfErzeugen() {
-    if (druck.PdfDruckerWählen()) GenogrammDrucken();
-}
-
 void frmMain::AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) {
     if (inDatei) bildexport.AuswahlAlsBildSpeichern(cm, projekt.Projektdatei);
     else bildexport.AusschnittKopieren(cm);
 }
 
-/// The caption of the menu bar tells the language, whatever the settings say. Meant.
-void frmMain::HilfeÖffnen() {
-    const std::string &datei = bedienung["mnuDatei"].Caption;
-    const char *sprache = datei == "Datei" ? "de" : datei == "File" ? "en" : nullptr;
-    if (sprache) plattform.benutzer.AdresseÖffnen("file://" + start.Hilfeordner + "/" + sprache + "/index.htm");
-}
-
 void frmMain::mnuBearbeiten_Öffnen() { anzeige.BearbeitenZeigen(); }
-
-void frmMain::cmdUndo() {
-    if (ring.Rückgängig(dokument)) NachSchrittImRing();
-}
-
-void frmMain::cmdredo() {
-    if (ring.Wiederholen(dokument)) NachSchrittImRing();
-}
-
-void frmMain::NachSchrittImRing() {
-    UndoKnöpfeSetzen();
-    NichtsAuswählen();
-    Vorschau();
-}
 
 void frmMain::NichtsAuswählen() {
     AllesAbwählen(werkbank);

@@ -69,13 +69,6 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void SeiteAnwenden() override;
     bool GenogrammDrucken() override;
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
-    /// The page as a PDF file, by the printer that writes such; it stays the current one.
-    void PdfErzeugen();
-    /// The manual, in the default browser.
-    void HilfeÖffnen();
-    /// One step back or forward in the ring; afterwards nothing is selected and no gesture runs.
-    void cmdUndo();
-    void cmdredo();
 
     /// Pointer events on the canvas, centimetres on the page; see `Leinwand`. After a press, a release and a double
     /// click the face is asked to refresh; a move changes the overlays only, which the face repaints itself.
@@ -132,7 +125,6 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     friend struct Einblick; // for scripts and tests
 
     void NachEreignis();
-    void NachSchrittImRing();
     void NichtsAuswählen();
     void ZweiteStufe();
     void ListenFüllen();

@@ -94,8 +94,8 @@ void UndoUndRedo(benchmark::State &lauf) {
     Sitzung s(lauf);
     s.innen.fenster.Sichern();
     for (auto _ : lauf) {
-        s.haupt.cmdUndo();
-        s.haupt.cmdredo();
+        s.haupt.BefehlAusführen("cmdUndo");
+        s.haupt.BefehlAusführen("cmdredo");
     }
 }
 
