@@ -1,6 +1,6 @@
 #include "app/Formulare.h"
 
-#include "app/frmMain.h"
+#include "app/Programmversion.h"
 #include "dialogs/frmBezLinien.h"
 #include "dialogs/frmDrucken.h"
 #include "dialogs/frmEinstellungen.h"
@@ -42,9 +42,7 @@ constexpr Bauplan Baupläne[] = {
     {"frmSeiteEinrichten", Bauen<frmSeiteEinrichten>},
     {"frmEinstellungen", Bauen<frmEinstellungen>},
     {"frmInfo",
-     [](Dialogumgebung &u) -> std::unique_ptr<Formular> {
-         return std::make_unique<frmInfo>(u, frmMain::Programmversion);
-     }},
+     [](Dialogumgebung &u) -> std::unique_ptr<Formular> { return std::make_unique<frmInfo>(u, Programmversion); }},
 };
 
 } // namespace

@@ -39,7 +39,10 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       import(start, {dokument, lage, ansicht}, projekt, bedienung, plattform.benutzer, *this),
       werkbank{dokument,           ansicht, auswahl, lage, auflagen, ablage, legende, bedienung, picVorschau,
                plattform.benutzer, *this},
-      leinwand(werkbank), Kommandozeile(Entpackt(start.Kommandozeile)) {
+      leinwand(werkbank),
+      Kommandozeile(Entpackt(start.Kommandozeile)), anblick{
+                                                        projekt.Titel, ansicht, bedienung,           bereich,
+                                                        auflagen,      lage,    import.Listenzeilen, plattform.uhr} {
     BedienelementeAnlegen(bedienung);
 }
 
@@ -159,6 +162,12 @@ void frmMain::MouseUp(int taste, double x, double y) {
 void frmMain::DblClick(double x, double y) {
     leinwand.DblClick(x, y);
     NachEreignis();
+}
+
+/// The palette stands beside the frame.
+void frmMain::GrößeÄndern(int breite, int höhe) {
+    bereich.GrößeÄndern(breite, höhe);
+    plattform.benutzer.AnzeigeAuffrischen();
 }
 
 void frmMain::ImportzeileAblegen(int zeile, double x, double y) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Anblick.h"
 #include "app/Anzeige.h"
 #include "app/Darstellung.h"
 #include "app/Datenimport.h"
@@ -39,7 +40,7 @@ struct Plattform {
 
 /// The main window as a model: owns every part of the program and wires them. It keeps only what is truly
 /// its own: the order of starting, redrawing, closing. Routines stand with the state that they change.
-class frmMain : public Fensterdienste, public Dialogdienste {
+class frmMain : private Fensterdienste, private Dialogdienste {
   public:
     /// `canvas` becomes `picVorschau`. Nothing happens before `Laden`.
     frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben startangaben);
@@ -54,21 +55,10 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     /// A timer that was started under this name has run out. Unknown names do nothing.
     void ZeitgeberAbgelaufen(std::string_view name);
 
+    /// What a face shows.
+    const Anblick &DerAnblick() const { return anblick; }
     /// Redraws the whole canvas from the stores.
     void Vorschau() override;
-    /// Takes an undo snapshot and marks the document as changed.
-    void Sichern() override;
-    /// Enables undo and redo as the ring has steps.
-    void UndoKnöpfeSetzen() override;
-    /// Both off, whatever the ring holds: the document is about to go.
-    void UndoKnöpfeSperren();
-    void AlsGeändertMerken() override { projekt.Geändert = true; }
-    void PopupÖffnen(std::string_view menü) override;
-    void FormÖffnen(std::string_view name) override;
-    void LegendeZeigen(bool sichtbar) override;
-    void SeiteAnwenden() override;
-    bool GenogrammDrucken() override;
-    void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
 
     /// Pointer events on the canvas, centimetres on the page; see `Leinwand`. After a press, a release and a double
     /// click the face is asked to refresh; a move changes the overlays only, which the face repaints itself.
@@ -76,6 +66,12 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     void MouseMove(int taste, double x, double y);
     void MouseUp(int taste, double x, double y);
     void DblClick(double x, double y);
+
+    /// The window has another inner size, twips; see `Arbeitsbereich`, as for the next three.
+    void GrößeÄndern(int breite, int höhe);
+    void Scrollen(int hValue, int vValue) { bereich.Scrollen(hValue, vValue); }
+    void MausradZählen(bool hoch) { bereich.MausradZählen(hoch); }
+    void MausradFolgen() { bereich.MausradFolgen(); }
 
     /// A line of the import list, from 0, has been dragged onto the page.
     void ImportzeileAblegen(int zeile, double x, double y);
@@ -88,11 +84,33 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     /// Brings the states of cut, copy and paste up to date, as opening the edit menu does.
     void mnuBearbeiten_Öffnen();
 
-    bool IstDeutsch() const { return ansicht.Sprache == Sprache::Deutsch; }
-    /// What a draw routine looks at.
-    Zeichnung DasBild() { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
+  private:
+    friend struct Einblick; // for scripts and tests
 
-    static constexpr std::string_view Programmversion = "1.3.015";
+    // What editing and forms ask of the window.
+    void Sichern() override;
+    void UndoKnöpfeSetzen() override;
+    void AlsGeändertMerken() override { projekt.Geändert = true; }
+    void PopupÖffnen(std::string_view menü) override;
+    void FormÖffnen(std::string_view name) override;
+    void LegendeZeigen(bool sichtbar) override;
+    void SeiteAnwenden() override;
+    bool GenogrammDrucken() override;
+    void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
+
+    /// Both off, whatever the ring holds: the document is about to go.
+    void UndoKnöpfeSperren();
+    void NachEreignis();
+    void NichtsAuswählen();
+    void ZweiteStufe();
+    void ListenFüllen();
+    void DruckerErmitteln();
+    void ZeitgeberStellen();
+    void SpracheErfragen();
+    void DatenÜbernehmen();
+    void EinstellungenSichern();
+    Zeichnung DasBild() { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
+    Dialogumgebung Umgebung();
 
     Plattform plattform;
     Startangaben start;
@@ -118,22 +136,8 @@ class frmMain : public Fensterdienste, public Dialogdienste {
     Datenimport import;
     Werkbank werkbank;
     Leinwand leinwand;
-
     std::string Kommandozeile; ///< trimmed and unquoted
-
-  private:
-    friend struct Einblick; // for scripts and tests
-
-    void NachEreignis();
-    void NichtsAuswählen();
-    void ZweiteStufe();
-    void ListenFüllen();
-    void DruckerErmitteln();
-    void ZeitgeberStellen();
-    void SpracheErfragen();
-    void DatenÜbernehmen();
-    void EinstellungenSichern();
-    Dialogumgebung Umgebung();
+    const Anblick anblick;
 };
 
 /// The command line as the program takes it: trimmed, one pair of enclosing quotation marks removed.

@@ -1,5 +1,6 @@
 #include "replay/Namen.h"
 
+#include "app/Programmversion.h"
 #include "document/Papier.h"
 
 #include <algorithm>
@@ -44,7 +45,7 @@ void Namen::Startwerte(const Einblick &h, const Benutzer &benutzer) {
 
 void Namen::Programmnamen(const Einblick &h) {
     Variablen.insert({
-        {"Programmversion", Abgeleitet([] { return std::string(frmMain::Programmversion); })},
+        {"Programmversion", Abgeleitet([] { return std::string(Programmversion); })},
         {"IniDatei", Von(h.projekt.IniDatei)},
         {"Projektdatei", Von(h.projekt.Projektdatei)},
         {"Kommandozeile", Von(h.Kommandozeile)},

@@ -43,7 +43,8 @@ TEST(Band, ZeigtWasDasModellSagt) {
     QMainWindow fenster;
     auto *fläche = new Arbeitsflaeche(leinwand);
     fenster.setCentralWidget(fläche);
-    auto *band = new Symbolleiste(haupt, *fläche, [&](std::string_view name) { haupt.BefehlAusführen(name); });
+    auto *band =
+        new Symbolleiste(haupt.DerAnblick(), *fläche, [&](std::string_view name) { haupt.BefehlAusführen(name); });
     fenster.addToolBar(band);
     fenster.show();
     QApplication::processEvents();

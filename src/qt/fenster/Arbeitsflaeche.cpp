@@ -67,6 +67,7 @@ Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand) 
 
 void Arbeitsflaeche::Verbinden(frmMain &haupt, std::function<void()> erstesBild) {
     haupt_ = &haupt;
+    anblick_ = &haupt.DerAnblick();
     erstesBild_ = std::move(erstesBild);
 }
 
@@ -77,9 +78,8 @@ QSize Arbeitsflaeche::Innengröße() const {
 
 void Arbeitsflaeche::resizeEvent(QResizeEvent *) {
     if (!haupt_) return;
-    haupt_->bereich.GrößeÄndern(Innengröße().width(), Innengröße().height());
+    haupt_->GrößeÄndern(Innengröße().width(), Innengröße().height());
     Auffrischen();
-    haupt_->plattform.benutzer.AnzeigeAuffrischen(); // the palette beside the frame
 }
 
 void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &modell) {
@@ -92,8 +92,9 @@ void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &mod
 
 void Arbeitsflaeche::Auffrischen() {
     if (!haupt_) return;
-    setAccessibleName(haupt_->IstDeutsch() ? QStringLiteral("Genogramm") : QStringLiteral("Genogram"));
-    const Arbeitsbereich &b = haupt_->bereich;
+    setAccessibleName(anblick_->ansicht.Sprache == Sprache::Deutsch ? QStringLiteral("Genogramm")
+                                                                    : QStringLiteral("Genogram"));
+    const Arbeitsbereich &b = anblick_->bereich;
     const int breite = vScroll_.sizeHint().width();
     const int höhe = hScroll_.sizeHint().height();
     const QRect senkrecht = Fläche(b.VScroll1).translated(0, -Pixel(FrameOben)).toRect();
@@ -109,21 +110,21 @@ void Arbeitsflaeche::Auffrischen() {
 }
 
 QRectF Arbeitsflaeche::Seite() const {
-    const Arbeitsbereich &b = haupt_->bereich;
+    const Arbeitsbereich &b = anblick_->bereich;
     return Fläche(b.picVorschau()).translated(Fläche(b.picBack).topLeft()).translated(0, -Pixel(FrameOben));
 }
 
 QPointF Arbeitsflaeche::InCm(QPointF ort) const {
     const QRectF seite = Seite();
-    return (ort - seite.topLeft()) * (haupt_->ansicht.SeitenBreite / seite.width());
+    return (ort - seite.topLeft()) * (anblick_->ansicht.SeitenBreite / seite.width());
 }
 
 bool Arbeitsflaeche::AufSeite(QPointF ort) const {
-    return Seite().contains(ort) && ort.x() >= Pixel(haupt_->bereich.picBack.Left);
+    return Seite().contains(ort) && ort.x() >= Pixel(anblick_->bereich.picBack.Left);
 }
 
 void Arbeitsflaeche::Scrollen() {
-    haupt_->bereich.Scrollen(hScroll_.value(), vScroll_.value());
+    haupt_->Scrollen(hScroll_.value(), vScroll_.value());
     update();
 }
 
@@ -131,12 +132,12 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     QPainter p(this);
     p.fillRect(ereignis->rect(), Hintergrund);
     if (!haupt_) return;
-    p.fillRect(QRectF(0, 0, Pixel(haupt_->bereich.picBack.Left), height()), palette().window()); // the tool palette's
+    p.fillRect(QRectF(0, 0, Pixel(anblick_->bereich.picBack.Left), height()), palette().window()); // the tool palette's
     if (leinwand_.Pixelverhältnis() != devicePixelRatioF()) { // the window came to another screen
         leinwand_.PixelverhältnisSetzen(devicePixelRatioF());
         haupt_->Vorschau();
     }
-    const Arbeitsbereich &b = haupt_->bereich;
+    const Arbeitsbereich &b = anblick_->bereich;
     // The page shows up to the scroll bars, which stand a little outside the frame that it is laid out in.
     const QRectF rahmen = Fläche(b.picBack).translated(0, -Pixel(FrameOben));
     const double unten = b.HScroll1.Visible ? Pixel(b.HScroll1.Top - FrameOben) : height();
@@ -146,7 +147,7 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     AufPixelRücken(p, seite.topLeft());
     p.translate(seite.topLeft());
     p.drawImage(QPointF(), leinwand_.Bild());
-    AuflagenMalen(p, haupt_->auflagen, haupt_->lage.PfeilArt, seite.width() / haupt_->ansicht.SeitenBreite);
+    AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, seite.width() / anblick_->ansicht.SeitenBreite);
     if (auto erstesBild = std::exchange(erstesBild_, nullptr)) QTimer::singleShot(0, this, erstesBild);
 }
 
@@ -154,13 +155,12 @@ void Arbeitsflaeche::wheelEvent(QWheelEvent *ereignis) {
     ereignis->accept();
     radrest_ += ereignis->angleDelta().y();
     if (std::abs(radrest_) < Raste) return; // part of a notch, or none
-    for (; std::abs(radrest_) >= Raste; radrest_ -= radrest_ > 0 ? Raste : -Raste)
-        haupt_->bereich.MausradZählen(radrest_ > 0);
+    for (; std::abs(radrest_) >= Raste; radrest_ -= radrest_ > 0 ? Raste : -Raste) haupt_->MausradZählen(radrest_ > 0);
     // The page is drawn when no more notches wait.
     if (!std::exchange(zoomSteht_, true))
         QTimer::singleShot(0, this, [this] {
             zoomSteht_ = false;
-            haupt_->bereich.MausradFolgen();
+            haupt_->MausradFolgen();
         });
 }
 
@@ -169,13 +169,13 @@ void Arbeitsflaeche::wheelEvent(QWheelEvent *ereignis) {
 bool Arbeitsflaeche::Melden(const std::function<void()> &ereignis) {
     const QPointer<Arbeitsflaeche> ich = this;
     const bool vorher = std::exchange(imModell_, true);
-    const bool zeigteAuflagen = ZeigtAuflagen(haupt_->auflagen);
+    const bool zeigteAuflagen = ZeigtAuflagen(anblick_->auflagen);
     ereignis();
     if (!ich) return false;
     imModell_ = vorher;
     ZeigerSetzen();
     // The kept picture is copied and the shapes painted over it; nothing of the page is drawn anew.
-    if (zeigteAuflagen || taste_ != Qt::NoButton || ZeigtAuflagen(haupt_->auflagen)) update();
+    if (zeigteAuflagen || taste_ != Qt::NoButton || ZeigtAuflagen(anblick_->auflagen)) update();
     return true;
 }
 
@@ -249,7 +249,7 @@ void Arbeitsflaeche::dropEvent(QDropEvent *ereignis) {
 }
 
 void Arbeitsflaeche::ZeigerSetzen() {
-    const Mauszeiger zeiger = AufSeite(ort_) ? haupt_->lage.Zeiger : Mauszeiger::Pfeil;
+    const Mauszeiger zeiger = AufSeite(ort_) ? anblick_->lage.Zeiger : Mauszeiger::Pfeil;
     if (zeiger == zeiger_ && zeigerverhältnis_ == devicePixelRatioF()) return;
     zeiger_ = zeiger;
     zeigerverhältnis_ = devicePixelRatioF();

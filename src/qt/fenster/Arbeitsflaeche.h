@@ -11,6 +11,7 @@
 namespace kw {
 
 class frmMain;
+struct Anblick;
 
 /// The inside of the main window: the dark frame, the page with its shadow, the overlay shapes, the scroll bars.
 /// Shows what the model's work area says, in pixels; the model's inner area begins above and ends below it, so
@@ -53,6 +54,7 @@ class Arbeitsflaeche : public QWidget {
 
     LeinwandFläche &leinwand_;
     frmMain *haupt_ = nullptr;
+    const Anblick *anblick_ = nullptr; ///< what it shows
     std::function<void()> erstesBild_;
     QScrollBar vScroll_{Qt::Vertical, this};
     QScrollBar hScroll_{Qt::Horizontal, this};

@@ -102,7 +102,7 @@ void Hauptfenster::LeistenBauen() {
     setContentsMargins(0, 0, 0, 0);
     menüs_.Bauen(*menuBar());
     menuBar()->show();
-    band_ = new Symbolleiste(haupt_, *fläche_, [this](std::string_view name) { Ausführen(name); });
+    band_ = new Symbolleiste(haupt_.DerAnblick(), *fläche_, [this](std::string_view name) { Ausführen(name); });
     addToolBar(band_);
     band_->show();
     status_ = new Statuszeile([this](std::string_view name) { Ausführen(name); });
@@ -126,14 +126,14 @@ void Hauptfenster::AnzeigeAuffrischen() {
 void Hauptfenster::Anzeigen() {
     auffrischungSteht_ = false;
     // The toolkit has a use of its own for this mark.
-    setWindowTitle(Text(haupt_.projekt.Titel).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+    setWindowTitle(Text(haupt_.DerAnblick().Titel).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
     menüs_.Auffrischen();
     if (band_) band_->Auffrischen();
     fläche_->Auffrischen();
     if (palette_) palette_->Auffrischen();
-    if (status_) status_->Auffrischen(haupt_);
-    if (!importliste_ && Importliste::IstVerlangt(haupt_))
-        addDockWidget(Qt::RightDockWidgetArea, importliste_ = new Importliste(haupt_));
+    if (status_) status_->Auffrischen(haupt_.DerAnblick());
+    if (!importliste_ && Importliste::IstVerlangt(haupt_.DerAnblick()))
+        addDockWidget(Qt::RightDockWidgetArea, importliste_ = new Importliste(haupt_.DerAnblick()));
     if (importliste_) importliste_->Auffrischen();
 }
 

@@ -1,6 +1,8 @@
 #include "qt/fenster/Importliste.h"
 
-#include "app/frmMain.h"
+#include "app/Anblick.h"
+#include "document/Importdaten.h"
+#include "platform/Bedienelemente.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Zeilenbild.h"
 
@@ -35,10 +37,10 @@ QIcon Leerbild() {
 /// The rows as the import has read them. There can be tens of thousands, so nothing is kept but a picture of each kind.
 class Importmodell : public QAbstractListModel {
   public:
-    Importmodell(const frmMain &haupt, QObject *eltern) : QAbstractListModel(eltern), haupt_(haupt) {}
+    Importmodell(const Anblick &anblick, QObject *eltern) : QAbstractListModel(eltern), anblick_(anblick) {}
 
     void Auffrischen() {
-        const auto &zeilen = haupt_.import.Listenzeilen;
+        const auto &zeilen = anblick_.Importzeilen;
         if (zeilen.data() == erste_ && zeilen.size() == anzahl_) return;
         beginResetModel();
         erste_ = zeilen.data();
@@ -70,21 +72,21 @@ class Importmodell : public QAbstractListModel {
         const Importperson &person = Person(zeile);
         Sinnbild bild = ImportSinnbild(person);
         if (bild.dokument.cboPersonen.Leer()) bild = WerkzeugSinnbild(person.Symboltyp);
-        return Symbolbild(std::move(bild), haupt_.plattform.uhr, Ziehkante, pixelverhältnis);
+        return Symbolbild(std::move(bild), anblick_.uhr, Ziehkante, pixelverhältnis);
     }
 
   private:
-    const Importperson &Person(int zeile) const { return haupt_.import.Listenzeilen[static_cast<size_t>(zeile)]; }
+    const Importperson &Person(int zeile) const { return anblick_.Importzeilen[static_cast<size_t>(zeile)]; }
     QIcon Bild(const Importperson &person) const {
         auto [i, neu] = bilder_.try_emplace({person.Geschlecht, person.IndexPerson, person.Verstorben});
         if (!neu) return i->second;
         Sinnbild bild = ImportSinnbild(person);
         if (bild.dokument.cboPersonen.Leer()) i->second = Leerbild(); // the names stay below each other
-        else i->second = Sinnbildicon(std::move(bild), haupt_.plattform.uhr);
+        else i->second = Sinnbildicon(std::move(bild), anblick_.uhr);
         return i->second;
     }
 
-    const frmMain &haupt_;
+    const Anblick &anblick_;
     const Importperson *erste_ = nullptr; ///< the list that the view knows
     size_t anzahl_ = 0;
     mutable std::map<std::tuple<std::string, bool, bool>, QIcon> bilder_;
@@ -124,7 +126,7 @@ class Listenfeld : public QListView {
 
 } // namespace
 
-Importliste::Importliste(const frmMain &haupt) : haupt_(haupt), modell_(new Importmodell(haupt, this)) {
+Importliste::Importliste(const Anblick &anblick) : anblick_(anblick), modell_(new Importmodell(anblick, this)) {
     constexpr int KleinsteBreite = 160;
     setObjectName(QStringLiteral("imgVariable"));
     setFeatures(NoDockWidgetFeatures);
@@ -134,12 +136,12 @@ Importliste::Importliste(const frmMain &haupt) : haupt_(haupt), modell_(new Impo
     Auffrischen();
 }
 
-bool Importliste::IstVerlangt(const frmMain &haupt) { return haupt.bedienung.Finden("imgVariable")->Visible; }
+bool Importliste::IstVerlangt(const Anblick &anblick) { return anblick.bedienung.Finden("imgVariable")->Visible; }
 
 void Importliste::Auffrischen() {
     modell_->Auffrischen();
-    widget()->setAccessibleName(Text(haupt_.bedienung.Finden("btnImport")->Caption));
-    setVisible(IstVerlangt(haupt_));
+    widget()->setAccessibleName(Text(anblick_.bedienung.Finden("btnImport")->Caption));
+    setVisible(IstVerlangt(anblick_));
 }
 
 std::optional<int> GezogeneZeile(const QMimeData &inhalt) {

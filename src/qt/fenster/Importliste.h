@@ -8,21 +8,21 @@ class QMimeData;
 
 namespace kw {
 
-class frmMain;
 class Importmodell;
+struct Anblick;
 
 /// The persons of the import, to be dragged onto the page. Stands at the window's right while the model says so.
 class Importliste : public QDockWidget {
   public:
-    explicit Importliste(const frmMain &haupt);
+    explicit Importliste(const Anblick &anblick);
 
     /// Whether the model wants the list seen: until then none needs to be made.
-    static bool IstVerlangt(const frmMain &haupt);
+    static bool IstVerlangt(const Anblick &anblick);
     /// Copies the model's state.
     void Auffrischen();
 
   private:
-    const frmMain &haupt_;
+    const Anblick &anblick_;
     Importmodell *modell_;
 };
 

@@ -78,7 +78,7 @@ int Zeilenhöhe() {
 }
 
 Menüs::Menüs(frmMain &haupt, std::function<void(std::string_view)> ausführen)
-    : haupt_(haupt), ausführen_(std::move(ausführen)) {}
+    : haupt_(haupt), anblick_(haupt.DerAnblick()), ausführen_(std::move(ausführen)) {}
 
 void Menüs::Füllen(QMenu &menü, std::string_view name, std::vector<Eintrag> &einträge) {
     for (const Menüzeile &zeile : Menütafel()) {
@@ -87,11 +87,11 @@ void Menüs::Füllen(QMenu &menü, std::string_view name, std::vector<Eintrag> &
             einträge.push_back({&zeile, menü.addSeparator()});
         } else if (IstMenü(zeile)) {
             QMenu *unter = menü.addMenu(QString());
-            unter->setIcon(Menübild(zeile.Name, haupt_.plattform.uhr));
+            unter->setIcon(Menübild(zeile.Name, anblick_.uhr));
             einträge.push_back({&zeile, unter->menuAction()});
             Füllen(*unter, zeile.Name, einträge);
         } else {
-            QAction *aktion = menü.addAction(Menübild(zeile.Name, haupt_.plattform.uhr), QString());
+            QAction *aktion = menü.addAction(Menübild(zeile.Name, anblick_.uhr), QString());
             aktion->setData(Text(zeile.Name));
             einträge.push_back({&zeile, aktion});
         }
@@ -124,7 +124,7 @@ void Menüs::Bauen(QMenuBar &leiste) {
 }
 
 void Menüs::Zeigen(const Eintrag &eintrag) {
-    const Bedienelement *element = haupt_.bedienung.Finden(eintrag.Zeile->Name);
+    const Bedienelement *element = anblick_.bedienung.Finden(eintrag.Zeile->Name);
     if (!element) return;
     eintrag.Aktion->setVisible(element->Visible);
     if (eintrag.Aktion->isSeparator()) return;

@@ -18,6 +18,7 @@ class QWidget;
 namespace kw {
 
 class frmMain;
+struct Anblick;
 
 /// A line of text in the program's font with room to spare, pixels. Reckoned, for to measure a font is to load the
 /// fonts of the system.
@@ -48,6 +49,7 @@ class Menüs {
     void Zeigen(const Eintrag &eintrag);
 
     frmMain &haupt_;
+    const Anblick &anblick_;
     std::function<void(std::string_view)> ausführen_;
     std::vector<Eintrag> einträge_; ///< of the menu bar
 };

@@ -1,6 +1,7 @@
 #include "qt/fenster/Statuszeile.h"
 
-#include "app/frmMain.h"
+#include "app/Anblick.h"
+#include "platform/Bedienelemente.h"
 #include "qt/fenster/Menues.h"
 #include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
@@ -41,9 +42,9 @@ Statuszeile::Statuszeile(std::function<void(std::string_view)> ausführen) {
     addPermanentWidget(cmdRänder_);
 }
 
-void Statuszeile::Auffrischen(const frmMain &haupt) {
-    lblTool_->setText(Text(haupt.bedienung.Finden("lblTool")->Caption));
-    const Bedienelement &knopf = *haupt.bedienung.Finden(Rändername);
+void Statuszeile::Auffrischen(const Anblick &anblick) {
+    lblTool_->setText(Text(anblick.bedienung.Finden("lblTool")->Caption));
+    const Bedienelement &knopf = *anblick.bedienung.Finden(Rändername);
     cmdRänder_->setText(Text(knopf.Caption));
     cmdRänder_->setEnabled(knopf.Enabled);
     cmdRänder_->setVisible(knopf.Visible);

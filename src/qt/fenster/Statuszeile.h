@@ -10,7 +10,7 @@ class QToolButton;
 
 namespace kw {
 
-class frmMain;
+struct Anblick;
 
 /// The row below the page: what the pointer is over at the left, the printer's margins at the right.
 class Statuszeile : public QStatusBar {
@@ -21,7 +21,7 @@ class Statuszeile : public QStatusBar {
     /// How high it will be, without a look at the system's fonts: for who keeps its place free until it comes.
     static int Höhe();
     /// Copies captions and states.
-    void Auffrischen(const frmMain &haupt);
+    void Auffrischen(const Anblick &anblick);
 
   private:
     QLabel *lblTool_ = nullptr;

@@ -1,11 +1,12 @@
 #include "qt/fenster/Symbolleiste.h"
 
-#include "app/frmMain.h"
+#include "app/Anblick.h"
 #include "commands/Bildertafel.h"
 #include "qt/fenster/Bandknopf.h"
 #include "qt/fenster/Menues.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Svgsinnbild.h"
+#include "rendering/Ansicht.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -42,8 +43,8 @@ QString Kürzel(std::string_view name) {
 
 } // namespace
 
-Symbolleiste::Symbolleiste(frmMain &haupt, QWidget &leinwand, std::function<void(std::string_view)> ausführen)
-    : haupt_(haupt), leinwand_(leinwand), ausführen_(std::move(ausführen)) {
+Symbolleiste::Symbolleiste(const Anblick &anblick, QWidget &leinwand, std::function<void(std::string_view)> ausführen)
+    : anblick_(anblick), leinwand_(leinwand), ausführen_(std::move(ausführen)) {
     setObjectName(Text(Werkzeugband));
     setMovable(false);
     setMinimumHeight(Höhe());
@@ -125,13 +126,13 @@ void Symbolleiste::Auffrischen() {
     TrennerZeigen();
     TabstoppSetzen();
     if (!mehr_) return;
-    const QString name = Text(haupt_.IstDeutsch() ? "Mehr" : "More");
+    const QString name = Text(anblick_.ansicht.Sprache == Sprache::Deutsch ? "Mehr" : "More");
     mehr_->setToolTip(name);
     mehr_->setAccessibleName(name);
 }
 
 void Symbolleiste::Zeigen(Knopf &knopf) {
-    const Bedienelement *element = haupt_.bedienung.Finden(knopf.Zeile->Name);
+    const Bedienelement *element = anblick_.bedienung.Finden(knopf.Zeile->Name);
     if (!element) return;
     knopf.Platz->setVisible(element->Visible);
     knopf.Aktion->setEnabled(element->Enabled);
@@ -153,7 +154,7 @@ void Symbolleiste::NameZeigen(const Knopf &knopf, const Bedienelement &element) 
 void Symbolleiste::AuswahlZeigen(Knopf &knopf) {
     std::string_view bildzeile = knopf.Zeile->Name;
     for (const Wahl &wahl : knopf.Auswahl) {
-        const Bedienelement *element = haupt_.bedienung.Finden(wahl.Zeile->Name);
+        const Bedienelement *element = anblick_.bedienung.Finden(wahl.Zeile->Name);
         if (!element) continue;
         wahl.Aktion->setText(Text(element->Caption));
         wahl.Aktion->setVisible(element->Visible);

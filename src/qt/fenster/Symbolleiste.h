@@ -15,14 +15,14 @@ class QToolButton;
 namespace kw {
 
 class Bandknopf;
-class frmMain;
+struct Anblick;
 
 /// The toolbar of the table. Captions and states are the model's.
 /// One stop of the tab order; the arrow keys go from button to button.
 class Symbolleiste : public QToolBar {
   public:
     /// A press by mouse gives the focus to `leinwand`; `ausführen` runs the command of what was pressed or picked.
-    Symbolleiste(frmMain &haupt, QWidget &leinwand, std::function<void(std::string_view)> ausführen);
+    Symbolleiste(const Anblick &anblick, QWidget &leinwand, std::function<void(std::string_view)> ausführen);
 
     /// How high it will be, without a look at the system's fonts: for who keeps its place free until it comes.
     static int Höhe();
@@ -59,7 +59,7 @@ class Symbolleiste : public QToolBar {
     void TabstoppSetzen();
     bool Taste(QToolButton &feld, int taste);
 
-    frmMain &haupt_;
+    const Anblick &anblick_;
     QWidget &leinwand_;
     std::function<void(std::string_view)> ausführen_;
     std::vector<Knopf> knöpfe_;

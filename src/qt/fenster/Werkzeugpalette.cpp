@@ -64,14 +64,13 @@ Bildmacher BildVon(Sinnbild sinnbild, const Uhr &uhr) {
 } // namespace
 
 Werkzeugpalette::Werkzeugpalette(QWidget *fläche, frmMain &haupt, std::function<void(std::string_view)> ausführen)
-    : QWidget(fläche), haupt_(haupt), ausführen_(std::move(ausführen)) {
+    : QWidget(fläche), haupt_(haupt), anblick_(haupt.DerAnblick()), ausführen_(std::move(ausführen)) {
     setAttribute(Qt::WA_NoMousePropagation); // what is pressed here is no press on the canvas
     setAutoFillBackground(true);
     setCursor(Qt::ArrowCursor);
     KnöpfeAnlegen();
     for (int i = 0; i < MerkmalAnzahl; ++i)
-        merkmale_.push_back(
-            new Merkmalfeld(BildVon(MerkmalSinnbild(static_cast<Merkmal>(i)), haupt.plattform.uhr), this));
+        merkmale_.push_back(new Merkmalfeld(BildVon(MerkmalSinnbild(static_cast<Merkmal>(i)), anblick_.uhr), this));
     Auffrischen();
 }
 
@@ -79,7 +78,7 @@ void Werkzeugpalette::KnöpfeAnlegen() {
     for (int i = 0; i < Anzahl; ++i) {
         const int werkzeug = Werkzeuge[static_cast<size_t>(i)];
         const Bildmacher bild =
-            werkzeug == Löschen ? Bildmacher(Papierkorb) : BildVon(WerkzeugSinnbild(werkzeug), haupt_.plattform.uhr);
+            werkzeug == Löschen ? Bildmacher(Papierkorb) : BildVon(WerkzeugSinnbild(werkzeug), anblick_.uhr);
         auto *knopf = new Palettenknopf(bild, this);
         knopf->TasteWeitergeben = [this, i](int taste) { return Gehen(i, taste); };
         if (werkzeug != Löschen) knopf->Berührt = [this, i](bool darauf) { Berühren(i, darauf); };
@@ -90,11 +89,11 @@ void Werkzeugpalette::KnöpfeAnlegen() {
 }
 
 void Werkzeugpalette::Auffrischen() {
-    const int breite = haupt_.bereich.picBack.Left / TwipsJePixel;
+    const int breite = anblick_.bereich.picBack.Left / TwipsJePixel;
     setGeometry(0, 0, std::max(breite, 1), parentWidget()->height());
     setVisible(breite > 0);
     for (int i = 0; i < Anzahl; ++i) {
-        const Bedienelement *element = haupt_.bedienung.Finden(Elementname(Werkzeuge[static_cast<size_t>(i)]));
+        const Bedienelement *element = anblick_.bedienung.Finden(Elementname(Werkzeuge[static_cast<size_t>(i)]));
         if (!element) continue;
         const QString name = Text(element->Caption).trimmed();
         Palettenknopf &knopf = *knöpfe_[static_cast<size_t>(i)];
@@ -105,8 +104,9 @@ void Werkzeugpalette::Auffrischen() {
     }
     for (size_t i = 0; i < merkmale_.size(); ++i) {
         const Merkmalname &m = Merkmalnamen[i];
-        merkmale_[i]->Zeigen(Text(haupt_.IstDeutsch() ? m.Deutsch : m.Englisch), haupt_.lage.Info.*m.Gilt);
-        merkmale_[i]->setVisible(haupt_.lage.Info.Visible);
+        merkmale_[i]->Zeigen(Text(anblick_.ansicht.Sprache == Sprache::Deutsch ? m.Deutsch : m.Englisch),
+                             anblick_.lage.Info.*m.Gilt);
+        merkmale_[i]->setVisible(anblick_.lage.Info.Visible);
     }
     fokus_.StoppSetzen();
     HinweisZeigen();
@@ -119,7 +119,7 @@ void Werkzeugpalette::Berühren(int stelle, bool darauf) {
 
 /// Beside the button, over the page.
 void Werkzeugpalette::HinweisZeigen() {
-    const Bedienelement &element = *haupt_.bedienung.Finden("picToolTipp");
+    const Bedienelement &element = *anblick_.bedienung.Finden("picToolTipp");
     if (!hinweis_ && element.Visible) hinweis_ = new Palettenhinweis(parentWidget());
     if (!hinweis_) return;
     hinweis_->setVisible(element.Visible && isVisible());

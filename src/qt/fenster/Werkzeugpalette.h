@@ -12,6 +12,7 @@
 namespace kw {
 
 class frmMain;
+struct Anblick;
 class Merkmalfeld;
 class Palettenhinweis;
 class Palettenknopf;
@@ -40,6 +41,7 @@ class Werkzeugpalette : public QWidget {
     void HinweisZeigen();
 
     frmMain &haupt_;
+    const Anblick &anblick_;
     std::function<void(std::string_view)> ausführen_;
     std::vector<Palettenknopf *> knöpfe_; ///< by their places
     std::vector<Merkmalfeld *> merkmale_;

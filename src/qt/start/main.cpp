@@ -1,4 +1,5 @@
 #include "app/Einzelbild.h"
+#include "app/Programmversion.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/fenster/Hauptfenster.h"
 #include "qt/grund/QtPlattform.h"
@@ -95,7 +96,7 @@ int main(int argc, char **argv) {
     const Aufruf aufruf = AufrufLesen({argv + std::min(argc, 1), argv + argc});
     switch (aufruf.Was) {
     case Aufruf::Art::Hilfe: return Ausgegeben(Hilfetext());
-    case Aufruf::Art::Version: return Ausgegeben("kinwright " + std::string(frmMain::Programmversion) + "\n");
+    case Aufruf::Art::Version: return Ausgegeben("kinwright " + std::string(Programmversion) + "\n");
     case Aufruf::Art::Falsch: return Melden(aufruf.Fehler + "; see kinwright --help", 2);
     case Aufruf::Art::Export: return Exportieren(aufruf, argc, argv);
     case Aufruf::Art::Fenster: break;

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace kw {
+
+class Arbeitsbereich;
+class Bedienelemente;
+class Uhr;
+struct Ansicht;
+struct Auflagen;
+struct Importperson;
+struct Leinwandlage;
+
+/// What a face shows of the main window, as it stands after each event. A face changes nothing of it: what the user
+/// does goes to the operations of `frmMain`, in which this lives.
+struct Anblick {
+    const std::string &Titel;
+    const Ansicht &ansicht;          ///< the language, the size of the page
+    const Bedienelemente &bedienung; ///< menus, toolbar, palette, status row
+    const Arbeitsbereich &bereich;   ///< where frame, page and scroll bars stand
+    const Auflagen &auflagen;        ///< the shapes over the page
+    const Leinwandlage &lage;        ///< the pointer's picture, and what is told of the selected person
+    const std::vector<Importperson> &Importzeilen;
+    const Uhr &uhr; ///< the pictures of symbols are drawn with it
+};
+
+} // namespace kw
