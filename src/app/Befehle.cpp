@@ -120,8 +120,6 @@ constexpr Zeile Tabelle[] = {
 
     {"mnuRückgängig", Schritt<&UndoRing::Rückgängig>},
     {"mnuWiederholen", Schritt<&UndoRing::Wiederholen>},
-    {"cmdUndo", Schritt<&UndoRing::Rückgängig>},
-    {"cmdredo", Schritt<&UndoRing::Wiederholen>},
     {"mnuAusschneiden", Auf<Ausschneiden>},
     {"mnuAusschneiden2", Auf<Ausschneiden>},
     {"mnuAusschneiden4", Auf<Ausschneiden>},

@@ -177,12 +177,21 @@ void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
     NachEreignis();
 }
 
+/// Whether a user finds `name`, or else the menu entry that it stands for, and the menus around it, and can choose it.
+bool frmMain::IstFrei(std::string_view name) const {
+    const Menüzeile *zeile = MenüzeileFinden(name);
+    for (zeile = zeile ? zeile : MenüzeileFinden(Menügleich(name)); zeile; zeile = MenüzeileFinden(zeile->Menü)) {
+        const Bedienelement &element = *bedienung.Finden(zeile->Name);
+        if (!element.Enabled || !element.Visible) return false;
+    }
+    return true;
+}
+
 bool frmMain::BefehlAusführen(std::string_view name) {
     const Befehl befehl = BefehlFinden(name);
     if (!befehl) return false;
     if (GehörtZu(name, "mnuBearbeiten")) mnuBearbeiten_Öffnen();
-    for (const Menüzeile *zeile = MenüzeileFinden(name); zeile; zeile = MenüzeileFinden(zeile->Menü))
-        if (const Bedienelement &element = bedienung[zeile->Name]; !element.Enabled || !element.Visible) return false;
+    if (!IstFrei(name)) return false;
     leinwand.GesteAbbrechen();
     Befehlsumgebung umgebung{werkbank,
                              projekt,

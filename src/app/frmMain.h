@@ -100,6 +100,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
 
     /// Both off, whatever the ring holds: the document is about to go.
     void UndoKnöpfeSperren();
+    bool IstFrei(std::string_view name) const;
     void NachEreignis();
     void NichtsAuswählen();
     void ZweiteStufe();

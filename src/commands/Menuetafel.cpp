@@ -251,6 +251,8 @@ constexpr Paar Gleiche[] = {
     {"btnDrucken", "mnuDrucken"},
     {"btnUndo", "mnuRückgängig"},
     {"btnRedo", "mnuWiederholen"},
+    {"cmdUndo", "mnuRückgängig"},
+    {"cmdredo", "mnuWiederholen"},
     {"btnGitterZeichnen", "mnuRasterAnzeigen"},
     {"btnWerkzeugleiste", "mnuWerkzeugleiste"},
     {"btnLegende", "mnuLegendeAnzeigen"},

@@ -40,7 +40,7 @@ bool IstMenü(const Menüzeile &zeile);
 bool GehörtZu(std::string_view name, std::string_view menü);
 
 /// The menu entry that toolbar item `name` stands for, in what it does and in its shortcut; empty for an item of its
-/// own.
+/// own. Undo and redo have a second name, under which nothing shows.
 std::string_view Menügleich(std::string_view name);
 
 /// Creates the states of all rows, as at start, in English.
