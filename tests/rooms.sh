@@ -22,7 +22,7 @@ below() {
 # itself and what stands below, and parts on one floor don't see each other. What isn't named here stands on top.
 floors_within() {
     case $1 in
-    document) printf '%s\n' 'Felder Zahlen Satzliste' saetze/ ;;
+    document) printf '%s\n' 'Felder Texte Zahlen Satzliste' saetze/ ;;
     qt) printf '%s\n' grund/ malen/ 'drucken/ formulare/' fenster/ start/ ;;
     esac
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/Felder.h"
+#include "document/Texte.h"
 #include "document/Zahlen.h"
 
 #include <array>
