@@ -1,4 +1,5 @@
 #include "editing/Leinwand.h"
+#include "editing/LeinwandSchritte.h"
 
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
@@ -38,146 +39,139 @@ std::vector<std::pair<double, double>> Lückenpunkte(std::pair<double, double> l
 void Leinwand::MouseUp(int taste, double x, double y) {
     struct Ende {
         kw::Aktion Aktion;
-        void (Leinwand::*Loslassen)(const Ereignis &);
+        void (*Loslassen)(Werkbank &, const Ereignis &);
     };
     static constexpr Ende Enden[] = {
-        {Aktion::PersonSetzen, &Leinwand::PersonGesetzt},
-        {Aktion::PersonGewählt, &Leinwand::PersonLoslassen},
-        {Aktion::TextGefasst, &Leinwand::TextLoslassen},
-        {Aktion::PLinieGewählt, &Leinwand::BalkenLoslassen},
-        {Aktion::BeziehungGewählt, &Leinwand::BezLinieLoslassen},
-        {Aktion::KindlinieGewählt, &Leinwand::KindLinieLoslassen},
-        {Aktion::RahmenZiehen, &Leinwand::RahmenLoslassen},
-        {Aktion::GruppeGewählt, &Leinwand::GruppeLoslassen},
-        {Aktion::LegendeGefasst, &Leinwand::LegendeLoslassen},
-        {Aktion::KreisGewählt, &Leinwand::KreisLoslassen},
-        {Aktion::KreisZeichnen, &Leinwand::KreisSchließen},
-        {Aktion::PfeilZeichnen, &Leinwand::PfeilGezogen},
-        {Aktion::PfeilEnde1, &Leinwand::PfeilEndeLoslassen},
-        {Aktion::PfeilEnde2, &Leinwand::PfeilEndeLoslassen},
-        {Aktion::PfeilGefasst, &Leinwand::PfeilLoslassen},
+        {Aktion::PersonSetzen, PersonGesetzt},         {Aktion::PersonGewählt, PersonLoslassen},
+        {Aktion::TextGefasst, TextLoslassen},          {Aktion::PLinieGewählt, BalkenLoslassen},
+        {Aktion::BeziehungGewählt, BezLinieLoslassen}, {Aktion::KindlinieGewählt, KindLinieLoslassen},
+        {Aktion::RahmenZiehen, RahmenLoslassen},       {Aktion::GruppeGewählt, GruppeLoslassen},
+        {Aktion::LegendeGefasst, LegendeLoslassen},    {Aktion::KreisGewählt, KreisLoslassen},
+        {Aktion::KreisZeichnen, KreisSchließen},       {Aktion::PfeilZeichnen, PfeilGezogen},
+        {Aktion::PfeilEnde1, PfeilEndeLoslassen},      {Aktion::PfeilEnde2, PfeilEndeLoslassen},
+        {Aktion::PfeilGefasst, PfeilLoslassen},
     };
-    if (!std::exchange(lage.Gedrückt, false)) return;
-    for (Auflagenlinie &linie : auflagen.MarkLine) linie.Visible = false;
-    if (lage.BildAuswahl) return BildLoslassen();
-    auflagen.Line1.Visible = auflagen.Line5.Visible = false;
-    lage.Zeiger = Mauszeiger::Pfeil;
+    if (!std::exchange(w.lage.Gedrückt, false)) return;
+    for (Auflagenlinie &linie : w.auflagen.MarkLine) linie.Visible = false;
+    if (w.lage.BildAuswahl) return BildLoslassen(w);
+    w.auflagen.Line1.Visible = w.auflagen.Line5.Visible = false;
+    w.lage.Zeiger = Mauszeiger::Pfeil;
     Gummi2Parken(w);
     w.fenster.UndoKnöpfeSetzen();
     const Ereignis e{taste, x, y};
     for (const Ende &ende : Enden) {
-        if (ende.Aktion != lage.Aktion) continue;
-        (this->*ende.Loslassen)(e);
+        if (ende.Aktion != w.lage.Aktion) continue;
+        ende.Loslassen(w, e);
         return;
     }
 }
 
 /// A click, or a frame not much larger than one, is no region: it only puts the tool away.
-void Leinwand::BildLoslassen() {
+void BildLoslassen(Werkbank &w) {
     constexpr double Kleinstes = 1.2; // cm, on both axes
-    const Auflagenform &box = auflagen.shpBox;
+    const Auflagenform &box = w.auflagen.shpBox;
     const Bildausschnitt region{box.Left, box.Top, box.Width, box.Height};
     if (Kleiner(Kleinstes, region.Width) && Kleiner(Kleinstes, region.Height))
-        w.fenster.AusschnittAusgeben(region, lage.bAuswahlInDatei);
+        w.fenster.AusschnittAusgeben(region, w.lage.bAuswahlInDatei);
     AuswahlrahmenParken(w);
-    lage.BildAuswahl = false;
-    lage.Zeiger = Mauszeiger::Pfeil;
-    lage.Aktion = Aktion::Nichts;
+    w.lage.BildAuswahl = false;
+    w.lage.Zeiger = Mauszeiger::Pfeil;
+    w.lage.Aktion = Aktion::Nichts;
 }
 
 void Leinwand::GesteAbbrechen() {
-    LinkAbbrechen();
-    if (std::exchange(lage.Gedrückt, false)) ZugAbbrechen();
+    LinkAbbrechen(w);
+    if (std::exchange(w.lage.Gedrückt, false)) ZugAbbrechen(w);
 }
 
-void Leinwand::LinkAbbrechen() {
-    if (lage.Aktion != Aktion::BeziehungZiehen && lage.Aktion != Aktion::PartnerschaftZiehen &&
-        lage.Aktion != Aktion::KindZiehen)
+void LinkAbbrechen(Werkbank &w) {
+    if (w.lage.Aktion != Aktion::BeziehungZiehen && w.lage.Aktion != Aktion::PartnerschaftZiehen &&
+        w.lage.Aktion != Aktion::KindZiehen)
         return;
     LinkAufräumen(w);
     MarkierungsListBoxenLöschen(w); // positions of the two, which nothing else must take for numbers
-    lage.PLinieUnterMaus = false;
-    lage.Aktion = Aktion::Nichts;
+    w.lage.PLinieUnterMaus = false;
+    w.lage.Aktion = Aktion::Nichts;
 }
 
-void Leinwand::ZugAbbrechen() {
-    auflagen.shpMask.Visible = auflagen.Line1.Visible = auflagen.Line5.Visible = false;
-    lage.LinieVerschoben = false;
-    lage.Zeiger = Mauszeiger::Pfeil;
-    switch (lage.Aktion) {
-    case Aktion::KreisGewählt: KreisLoslassen({}); break;
-    case Aktion::PersonSetzen: PersonGesetzt({}); break; // it stands already
-    case Aktion::TextGefasst: lage.Aktion = Aktion::TextGewählt; break;
+void ZugAbbrechen(Werkbank &w) {
+    w.auflagen.shpMask.Visible = w.auflagen.Line1.Visible = w.auflagen.Line5.Visible = false;
+    w.lage.LinieVerschoben = false;
+    w.lage.Zeiger = Mauszeiger::Pfeil;
+    switch (w.lage.Aktion) {
+    case Aktion::KreisGewählt: KreisLoslassen(w, {}); break;
+    case Aktion::PersonSetzen: PersonGesetzt(w, {}); break; // it stands already
+    case Aktion::TextGefasst: w.lage.Aktion = Aktion::TextGewählt; break;
     case Aktion::GruppeGewählt:
-        auflagen.shpBox.Left = lage.AltX;
-        auflagen.shpBox.Top = lage.AltY;
+        w.auflagen.shpBox.Left = w.lage.AltX;
+        w.auflagen.shpBox.Top = w.lage.AltY;
         break;
     case Aktion::RahmenZiehen:
     case Aktion::KreisZeichnen:
     case Aktion::PfeilZeichnen:
     case Aktion::LegendeGefasst:
         AuswahlrahmenParken(w);
-        lage.PunktListe.clear();
-        lage.BildAuswahl = false;
-        lage.Aktion = Aktion::Nichts;
+        w.lage.PunktListe.clear();
+        w.lage.BildAuswahl = false;
+        w.lage.Aktion = Aktion::Nichts;
         break;
     default: break;
     }
 }
 
-void Leinwand::PersonGesetzt(const Ereignis &) {
+void PersonGesetzt(Werkbank &w, const Ereignis &) {
     w.fenster.Sichern();
-    lage.Aktion = Aktion::Nichts;
+    w.lage.Aktion = Aktion::Nichts;
 }
 
-void Leinwand::PersonLoslassen(const Ereignis &e) {
-    const int i = lage.PersAuswahl - 1;
-    if (i < 0 || i >= dokument.cboPersonen.Anzahl()) return;
-    const bool bewegt = HatSichBewegt(e);
+void PersonLoslassen(Werkbank &w, const Ereignis &e) {
+    const int i = w.lage.PersAuswahl - 1;
+    if (i < 0 || i >= w.dokument.cboPersonen.Anzahl()) return;
+    const bool bewegt = HatSichBewegt(w, e);
     if (bewegt) { // back on the spot it stays where it was, off the raster too
-        lage.AuswahlX = Gerundet(auflagen.shpMask.Left, 2);
-        lage.AuswahlY = Gerundet(auflagen.shpMask.Top, 2);
+        w.lage.AuswahlX = Gerundet(w.auflagen.shpMask.Left, 2);
+        w.lage.AuswahlY = Gerundet(w.auflagen.shpMask.Top, 2);
     }
-    lage.NeuX = Gerundet(lage.AuswahlX + lage.SymbolGröße / 2, 2);
-    lage.NeuY = Gerundet(lage.AuswahlY + lage.SymbolGröße / 2, 2);
-    lage.MarkerBreite = lage.MarkerHöhe = lage.SymbolGröße;
-    Feldbau satz(dokument.cboPersonen.Satz(i), PersonFeld::Anzahl);
-    dokument.cboPersonen.Ersetzen(i, satz.Text());
-    const Dokument vorher = dokument;
-    lage.PersRecord = satz.Setzen(PersonFeld::PosX, lage.NeuX).Setzen(PersonFeld::PosY, lage.NeuY).Text();
-    dokument.cboPersonen.Ersetzen(i, lage.PersRecord);
+    w.lage.NeuX = Gerundet(w.lage.AuswahlX + w.lage.SymbolGröße / 2, 2);
+    w.lage.NeuY = Gerundet(w.lage.AuswahlY + w.lage.SymbolGröße / 2, 2);
+    w.lage.MarkerBreite = w.lage.MarkerHöhe = w.lage.SymbolGröße;
+    Feldbau satz(w.dokument.cboPersonen.Satz(i), PersonFeld::Anzahl);
+    w.dokument.cboPersonen.Ersetzen(i, satz.Text());
+    const Dokument vorher = w.dokument;
+    w.lage.PersRecord = satz.Setzen(PersonFeld::PosX, w.lage.NeuX).Setzen(PersonFeld::PosY, w.lage.NeuY).Text();
+    w.dokument.cboPersonen.Ersetzen(i, w.lage.PersRecord);
     if (!bewegt) return;
-    ElementeBewegen(w, Bezüge(dokument));
-    lage.Aktion = Aktion::Nichts;
+    ElementeBewegen(w, Bezüge(w.dokument));
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
-    auflagen.shpMask.Parken();
-    if (!dokument.GleicheSätze(vorher)) w.fenster.Sichern();
+    w.auflagen.shpMask.Parken();
+    if (!w.dokument.GleicheSätze(vorher)) w.fenster.Sichern();
 }
 
-void Leinwand::TextLoslassen(const Ereignis &e) {
+void TextLoslassen(Werkbank &w, const Ereignis &e) {
     w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
     if (e.Rechts()) {
-        lage.Aktion = Aktion::MenüOffen;
+        w.lage.Aktion = Aktion::MenüOffen;
         w.fenster.PopupÖffnen("mnuTextBox");
         return;
     }
-    Satzliste &boxen = dokument.cboTextboxen;
-    const Auflagenform maske = std::exchange(auflagen.shpMask, {});
-    lage.Aktion = Aktion::TextGewählt;
-    if (!HatSichBewegt(e) || lage.TextAuswahl < 0 || lage.TextAuswahl >= boxen.Anzahl()) return;
-    const std::string alt = boxen.Satz(lage.TextAuswahl);
+    Satzliste &boxen = w.dokument.cboTextboxen;
+    const Auflagenform maske = std::exchange(w.auflagen.shpMask, {});
+    w.lage.Aktion = Aktion::TextGewählt;
+    if (!HatSichBewegt(w, e) || w.lage.TextAuswahl < 0 || w.lage.TextAuswahl >= boxen.Anzahl()) return;
+    const std::string alt = boxen.Satz(w.lage.TextAuswahl);
     Feldbau satz(alt, std::min(Felder(alt).Anzahl(), Felder::Höchstzahl)); // its measures stay, if it has them
-    satz.Setzen(TextFeld::TextX, RasterZehntel(maske.Left)).Setzen(TextFeld::TextY, RasterZehntel(maske.Top));
-    lage.TextRecord = satz.Text();
-    boxen.Ersetzen(lage.TextAuswahl, lage.TextRecord);
-    if (lage.TextRecord != alt) w.fenster.Sichern();
+    satz.Setzen(TextFeld::TextX, RasterZehntel(w, maske.Left)).Setzen(TextFeld::TextY, RasterZehntel(w, maske.Top));
+    w.lage.TextRecord = satz.Text();
+    boxen.Ersetzen(w.lage.TextAuswahl, w.lage.TextRecord);
+    if (w.lage.TextRecord != alt) w.fenster.Sichern();
     w.benutzer.ZeitgeberStarten("Timer4", NachDemEreignis); // redraws, once, behind the event
 }
 
-void Leinwand::BalkenLoslassen(const Ereignis &) {
-    const bool verschoben = std::exchange(lage.LinieVerschoben, false) && BalkenBewegen(w);
+void BalkenLoslassen(Werkbank &w, const Ereignis &) {
+    const bool verschoben = std::exchange(w.lage.LinieVerschoben, false) && BalkenBewegen(w);
     if (verschoben) {
-        lage.Aktion = Aktion::Nichts;
+        w.lage.Aktion = Aktion::Nichts;
         Gummi1Parken(w);
     }
     w.fenster.Vorschau();
@@ -185,104 +179,105 @@ void Leinwand::BalkenLoslassen(const Ereignis &) {
     w.bedienung["mnuLöschen1"].Enabled = !verschoben;
 }
 
-void Leinwand::BezLinieLoslassen(const Ereignis &e) {
+void BezLinieLoslassen(Werkbank &w, const Ereignis &e) {
     if (e.Rechts()) w.fenster.PopupÖffnen("mnuBezLinie");
 }
 
-void Leinwand::KindLinieLoslassen(const Ereignis &) { w.bedienung["mnuLöschen1"].Enabled = true; }
+void KindLinieLoslassen(Werkbank &w, const Ereignis &) { w.bedienung["mnuLöschen1"].Enabled = true; }
 
-void Leinwand::RahmenLoslassen(const Ereignis &) { RahmenAuswählen(w); }
+void RahmenLoslassen(Werkbank &w, const Ereignis &) { RahmenAuswählen(w); }
 
-void Leinwand::GruppeLoslassen(const Ereignis &) { GruppeBewegen(w); }
+void GruppeLoslassen(Werkbank &w, const Ereignis &) { GruppeBewegen(w); }
 
-void Leinwand::LegendeLoslassen(const Ereignis &) {
-    const double x = RasterZehntel(auflagen.shpMask.Left);
-    const double y = RasterZehntel(auflagen.shpMask.Top);
-    if (x != dokument.LegendeX || y != dokument.LegendeY) w.fenster.AlsGeändertMerken();
-    dokument.LegendeX = x;
-    dokument.LegendeY = y;
-    LegendeAufbauen(dokument, w.legende);
+void LegendeLoslassen(Werkbank &w, const Ereignis &) {
+    const double x = RasterZehntel(w, w.auflagen.shpMask.Left);
+    const double y = RasterZehntel(w, w.auflagen.shpMask.Top);
+    if (x != w.dokument.LegendeX || y != w.dokument.LegendeY) w.fenster.AlsGeändertMerken();
+    w.dokument.LegendeX = x;
+    w.dokument.LegendeY = y;
+    LegendeAufbauen(w.dokument, w.legende);
     w.fenster.Vorschau();
-    lage.Aktion = Aktion::Nichts;
-    auflagen.shpMask.Parken();
-    auflagen.shpMask.Visible = false;
+    w.lage.Aktion = Aktion::Nichts;
+    w.auflagen.shpMask.Parken();
+    w.auflagen.shpMask.Visible = false;
 }
 
 /// The record has followed the pointer already. One that is as it was stays selected: that was a click.
-void Leinwand::KreisLoslassen(const Ereignis &) {
-    const int i = lage.KreisAuswahl - 1;
-    if (i < 0 || i >= dokument.cboFreehandlines.Anzahl()) return;
-    if (KreisPunkte(dokument.cboFreehandlines.Satz(i)) == lage.KreisPunkte) return;
-    lage.Aktion = Aktion::Nichts;
+void KreisLoslassen(Werkbank &w, const Ereignis &) {
+    const int i = w.lage.KreisAuswahl - 1;
+    if (i < 0 || i >= w.dokument.cboFreehandlines.Anzahl()) return;
+    if (KreisPunkte(w.dokument.cboFreehandlines.Satz(i)) == w.lage.KreisPunkte) return;
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();
     w.fenster.Vorschau();
 }
 
-void Leinwand::KreisSchließen(const Ereignis &) {
-    lage.Aktion = Aktion::Nichts;
-    auto punkte = KreisPunkte(std::exchange(lage.PunktListe, {}));
+void KreisSchließen(Werkbank &w, const Ereignis &) {
+    w.lage.Aktion = Aktion::Nichts;
+    auto punkte = KreisPunkte(std::exchange(w.lage.PunktListe, {}));
     if (punkte.size() < 2) return; // nothing was drawn
     const auto lücke = Lückenpunkte(punkte.back(), punkte.front());
     punkte.insert(punkte.end(), lücke.begin(), lücke.end());
     punkte.push_back(punkte.front());
-    dokument.cboFreehandlines.Anhängen(KreisSatz(punkte));
+    w.dokument.cboFreehandlines.Anhängen(KreisSatz(punkte));
     w.fenster.Sichern();
     w.fenster.Vorschau();
 }
 
-void Leinwand::PfeilGezogen(const Ereignis &e) {
-    lage.Aktion = Aktion::Nichts;
-    if (Kleiner(std::fabs(e.X - lage.AnkerX), KürzesterPfeil) && Kleiner(std::fabs(e.Y - lage.AnkerY), KürzesterPfeil))
+void PfeilGezogen(Werkbank &w, const Ereignis &e) {
+    w.lage.Aktion = Aktion::Nichts;
+    if (Kleiner(std::fabs(e.X - w.lage.AnkerX), KürzesterPfeil) &&
+        Kleiner(std::fabs(e.Y - w.lage.AnkerY), KürzesterPfeil))
         return;
     Feldbau satz("", PfeilFeld::Anzahl);
-    lage.PfeilEndeX = RasterZehntel(e.X);
-    lage.PfeilEndeY = RasterZehntel(e.Y);
-    satz.Setzen(PfeilFeld::Pfeilart, lage.PfeilArt);
-    satz.Setzen(PfeilFeld::PfeilX1, Gerundet(lage.AnkerX, 1)).Setzen(PfeilFeld::PfeilY1, Gerundet(lage.AnkerY, 1));
-    satz.Setzen(PfeilFeld::PfeilX2, lage.PfeilEndeX).Setzen(PfeilFeld::PfeilY2, lage.PfeilEndeY);
-    dokument.cboPfeile.Anhängen(satz.Text());
+    w.lage.PfeilEndeX = RasterZehntel(w, e.X);
+    w.lage.PfeilEndeY = RasterZehntel(w, e.Y);
+    satz.Setzen(PfeilFeld::Pfeilart, w.lage.PfeilArt);
+    satz.Setzen(PfeilFeld::PfeilX1, Gerundet(w.lage.AnkerX, 1)).Setzen(PfeilFeld::PfeilY1, Gerundet(w.lage.AnkerY, 1));
+    satz.Setzen(PfeilFeld::PfeilX2, w.lage.PfeilEndeX).Setzen(PfeilFeld::PfeilY2, w.lage.PfeilEndeY);
+    w.dokument.cboPfeile.Anhängen(satz.Text());
     w.fenster.Sichern();
-    lage.PfeilAuswahl = dokument.cboPfeile.Anzahl() - 1;
-    w.auswahl.lstMovedPfeile.Anhängen(std::to_string(lage.PfeilAuswahl));
+    w.lage.PfeilAuswahl = w.dokument.cboPfeile.Anzahl() - 1;
+    w.auswahl.lstMovedPfeile.Anhängen(std::to_string(w.lage.PfeilAuswahl));
     w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
     w.fenster.Vorschau();
-    lage.Aktion = Aktion::PfeilGewählt;
+    w.lage.Aktion = Aktion::PfeilGewählt;
 }
 
 /// `Aktion` stays: the end can be taken again.
-void Leinwand::PfeilEndeLoslassen(const Ereignis &e) {
-    if (lage.PfeilAuswahl < 0 || lage.PfeilAuswahl >= dokument.cboPfeile.Anzahl()) return;
-    const bool zweites = lage.Aktion == Aktion::PfeilEnde2;
+void PfeilEndeLoslassen(Werkbank &w, const Ereignis &e) {
+    if (w.lage.PfeilAuswahl < 0 || w.lage.PfeilAuswahl >= w.dokument.cboPfeile.Anzahl()) return;
+    const bool zweites = w.lage.Aktion == Aktion::PfeilEnde2;
     const int feldX = zweites ? PfeilFeld::PfeilX2 : PfeilFeld::PfeilX1;
     const int feldY = zweites ? PfeilFeld::PfeilY2 : PfeilFeld::PfeilY1;
-    Feldbau satz(dokument.cboPfeile.Satz(lage.PfeilAuswahl), PfeilFeld::Anzahl);
-    const double x = RasterZehntel(zweites ? auflagen.Line5.X2 : auflagen.Line5.X1);
-    const double y = RasterZehntel(zweites ? auflagen.Line5.Y2 : auflagen.Line5.Y1);
-    if (!HatSichBewegt(e) || (satz.Zahl(feldX) == x && satz.Zahl(feldY) == y)) return;
+    Feldbau satz(w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl), PfeilFeld::Anzahl);
+    const double x = RasterZehntel(w, zweites ? w.auflagen.Line5.X2 : w.auflagen.Line5.X1);
+    const double y = RasterZehntel(w, zweites ? w.auflagen.Line5.Y2 : w.auflagen.Line5.Y1);
+    if (!HatSichBewegt(w, e) || (satz.Zahl(feldX) == x && satz.Zahl(feldY) == y)) return;
     if (zweites) {
-        lage.PfeilEndeX = x;
-        lage.PfeilEndeY = y;
+        w.lage.PfeilEndeX = x;
+        w.lage.PfeilEndeY = y;
     }
-    dokument.cboPfeile.Ersetzen(lage.PfeilAuswahl, satz.Setzen(feldX, x).Setzen(feldY, y).Text());
+    w.dokument.cboPfeile.Ersetzen(w.lage.PfeilAuswahl, satz.Setzen(feldX, x).Setzen(feldY, y).Text());
 
     w.fenster.Sichern();
     w.fenster.Vorschau();
 }
 
-void Leinwand::PfeilLoslassen(const Ereignis &e) {
+void PfeilLoslassen(Werkbank &w, const Ereignis &e) {
     w.bedienung["mnuLöschen1"].Enabled = true;
     if (e.Rechts()) {
         w.fenster.PopupÖffnen("mnuPfeil1");
         return;
     }
-    if (!HatSichBewegt(e) || lage.PfeilAuswahl < 0 || lage.PfeilAuswahl >= dokument.cboPfeile.Anzahl()) return;
-    const Auflagenlinie &linie = auflagen.Line5;
-    const std::string alt = dokument.cboPfeile.Satz(lage.PfeilAuswahl);
+    if (!HatSichBewegt(w, e) || w.lage.PfeilAuswahl < 0 || w.lage.PfeilAuswahl >= w.dokument.cboPfeile.Anzahl()) return;
+    const Auflagenlinie &linie = w.auflagen.Line5;
+    const std::string alt = w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl);
     Feldbau satz(alt, PfeilFeld::Anzahl);
-    satz.Setzen(PfeilFeld::PfeilX1, RasterZehntel(linie.X1)).Setzen(PfeilFeld::PfeilY1, RasterZehntel(linie.Y1));
-    satz.Setzen(PfeilFeld::PfeilX2, RasterZehntel(linie.X2)).Setzen(PfeilFeld::PfeilY2, RasterZehntel(linie.Y2));
-    dokument.cboPfeile.Ersetzen(lage.PfeilAuswahl, satz.Text());
-    lage.Aktion = Aktion::PfeilGewählt;
+    satz.Setzen(PfeilFeld::PfeilX1, RasterZehntel(w, linie.X1)).Setzen(PfeilFeld::PfeilY1, RasterZehntel(w, linie.Y1));
+    satz.Setzen(PfeilFeld::PfeilX2, RasterZehntel(w, linie.X2)).Setzen(PfeilFeld::PfeilY2, RasterZehntel(w, linie.Y2));
+    w.dokument.cboPfeile.Ersetzen(w.lage.PfeilAuswahl, satz.Text());
+    w.lage.Aktion = Aktion::PfeilGewählt;
     if (satz.Text() == alt) return;
     w.fenster.Sichern();
     w.fenster.Vorschau();

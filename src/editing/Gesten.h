@@ -1,0 +1,28 @@
+#pragma once
+
+#include "editing/Werkbank.h"
+
+#include <string_view>
+
+// What the gestures of all things share: the event, the raster, the context menu of a press.
+namespace kw {
+
+/// Mouse buttons as events carry them; 0 is none.
+enum : int { TasteKeine = 0, TasteLinks = 1, TasteRechts = 2 };
+
+/// A press, a move or a release, cm on the page.
+struct Ereignis {
+    int Taste;
+    double X, Y;
+    bool Links() const { return Taste == TasteLinks; }
+    bool Rechts() const { return Taste == TasteRechts; }
+};
+
+double Raster(const Werkbank &w, double wert);        ///< snapped
+double RasterZehntel(const Werkbank &w, double wert); ///< snapped and rounded to one decimal, as stored
+/// Whether the pointer has left the place of the press, by two decimals.
+bool HatSichBewegt(const Werkbank &w, const Ereignis &e);
+/// Opens a context menu from a press: its release will end no gesture.
+void PopupÖffnen(Werkbank &w, std::string_view menü);
+
+} // namespace kw

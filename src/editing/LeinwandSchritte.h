@@ -1,0 +1,66 @@
+#pragma once
+
+#include "editing/Gesten.h"
+
+// The steps of a press, what moves with the pointer, and how a gesture ends: what the tables of events name. A step of
+// a press says whether the event ends with it.
+namespace kw {
+
+bool Zurücksetzen(Werkbank &w, const Ereignis &e);
+bool BildBeginnen(Werkbank &w, const Ereignis &e);
+bool PfeilBeginnen(Werkbank &w, const Ereignis &e);
+bool TextSetzen(Werkbank &w, const Ereignis &e);
+bool OrtMerken(Werkbank &w, const Ereignis &e);
+bool KreisBeginnen(Werkbank &w, const Ereignis &e);
+bool LegendeFassen(Werkbank &w, const Ereignis &e);
+bool KreisTreffen(Werkbank &w, const Ereignis &e);
+bool KreisGewählt(Werkbank &w, const Ereignis &e);
+bool GruppeFassen(Werkbank &w, const Ereignis &e);
+bool TextWarGefasst(Werkbank &w, const Ereignis &e);
+bool KindLinkBeenden(Werkbank &w, const Ereignis &e);
+bool MenüWarOffen(Werkbank &w, const Ereignis &e);
+bool LinkBeenden(Werkbank &w, const Ereignis &e);
+bool PersonTreffen(Werkbank &w, const Ereignis &e);
+bool LinieWarGewählt(Werkbank &w, const Ereignis &e);
+bool LinieTreffen(Werkbank &w, const Ereignis &e);
+bool TextTreffen(Werkbank &w, const Ereignis &e);
+bool Setzen(Werkbank &w, const Ereignis &e);
+bool RahmenBeginnen(Werkbank &w, const Ereignis &e);
+bool BezLinieTreffer(Werkbank &w, double x, double y);
+bool PLinieTreffer(Werkbank &w, double x, double y);
+bool KindLinieTreffer(Werkbank &w, double x, double y);
+bool PfeilTreffer(Werkbank &w, double x, double y);
+bool PfeilEndeTreffer(Werkbank &w, double x, double y);
+void PfeilFassen(Werkbank &w);
+bool LegendeUnterMaus(const Werkbank &w);
+void PfeilAufziehen(Werkbank &w, const Ereignis &e);
+void PfeilZiehen(Werkbank &w, const Ereignis &e);
+void KreisZiehen(Werkbank &w, const Ereignis &e);
+void KreisZeichnen(Werkbank &w, const Ereignis &e);
+void LegendeZiehen(Werkbank &w, const Ereignis &e);
+void GruppeZiehen(Werkbank &w, const Ereignis &e);
+void LinkZiehen(Werkbank &w, const Ereignis &e);
+void KindLinkZiehen(Werkbank &w, const Ereignis &e);
+void TextZiehen(Werkbank &w, const Ereignis &e);
+void PersonZiehen(Werkbank &w, const Ereignis &e);
+void BalkenZiehen(Werkbank &w, const Ereignis &e);
+void RahmenZiehen(Werkbank &w, const Ereignis &e);
+void PersonGesetzt(Werkbank &w, const Ereignis &e);
+void PersonLoslassen(Werkbank &w, const Ereignis &e);
+void TextLoslassen(Werkbank &w, const Ereignis &e);
+void BalkenLoslassen(Werkbank &w, const Ereignis &e);
+void BezLinieLoslassen(Werkbank &w, const Ereignis &e);
+void KindLinieLoslassen(Werkbank &w, const Ereignis &e);
+void RahmenLoslassen(Werkbank &w, const Ereignis &e);
+void BildLoslassen(Werkbank &w);
+void GruppeLoslassen(Werkbank &w, const Ereignis &e);
+void LegendeLoslassen(Werkbank &w, const Ereignis &e);
+void KreisLoslassen(Werkbank &w, const Ereignis &e);
+void KreisSchließen(Werkbank &w, const Ereignis &e);
+void PfeilGezogen(Werkbank &w, const Ereignis &e);
+void PfeilEndeLoslassen(Werkbank &w, const Ereignis &e);
+void PfeilLoslassen(Werkbank &w, const Ereignis &e);
+void LinkAbbrechen(Werkbank &w);
+void ZugAbbrechen(Werkbank &w);
+
+} // namespace kw
