@@ -6,6 +6,7 @@
 #include "document/Zahlen.h"
 #include "editing/Kinder.h"
 #include "editing/Marker.h"
+#include "editing/Pfeile.h"
 #include "editing/Rahmenauswahl.h"
 #include "editing/Treffer.h"
 #include "editing/Verbindungen.h"
@@ -42,15 +43,6 @@ bool BildBeginnen(Werkbank &w, const Ereignis &e) {
     w.lage.Aktion = Aktion::RahmenZiehen;
     w.lage.AnkerX = Raster(w, e.X);
     w.lage.AnkerY = Raster(w, e.Y);
-    return true;
-}
-
-bool PfeilBeginnen(Werkbank &w, const Ereignis &e) {
-    if (w.lage.Aktion != Aktion::PfeilZeichnen) return false;
-    w.lage.AnkerX = Raster(w, e.X);
-    w.lage.AnkerY = Raster(w, e.Y);
-    w.auflagen.Line5.Legen(w.lage.AnkerX, w.lage.AnkerY, w.lage.AnkerX, w.lage.AnkerY); // not where the last arrow was
-    w.auflagen.Line5.Visible = true;
     return true;
 }
 
@@ -278,42 +270,6 @@ bool KindLinieTreffer(Werkbank &w, double x, double y) {
     w.lage.Aktion = Aktion::KindlinieGewählt;
     w.fenster.Vorschau();
     return true;
-}
-
-bool PfeilTreffer(Werkbank &w, double x, double y) {
-    const int i = PfeilBei(w.dokument, x, y);
-    if (i < 0) return false;
-    w.lage.PfeilAuswahl = i;
-    MarkierungsListBoxenLöschen(w);
-    w.auswahl.lstMovedPfeile.Anhängen(std::to_string(i));
-    w.bedienung["mnuAusschneiden"].Enabled = w.bedienung["mnuLöschen1"].Enabled = true;
-    PfeilFassen(w);
-    w.lage.Aktion = Aktion::PfeilGefasst;
-    w.fenster.Vorschau();
-    return true;
-}
-
-bool PfeilEndeTreffer(Werkbank &w, double x, double y) {
-    const int ende = PfeilEndeBei(w.dokument, w.lage.PfeilAuswahl, x, y);
-    if (ende == 0) return false;
-    PfeilFassen(w);
-    Auswahl übrige;
-    übrige.lstMovedPfeile = w.auswahl.lstMovedPfeile; // it may show its handles, or not
-    w.auswahl = übrige;
-    w.bedienung["mnuAusschneiden"].Enabled = w.bedienung["mnuLöschen1"].Enabled = true;
-    w.lage.Aktion = ende == 2 ? Aktion::PfeilEnde2 : Aktion::PfeilEnde1;
-    w.fenster.Vorschau();
-    return true;
-}
-
-/// Lays the arrow's overlay over it: where it stands at the release is what is stored.
-void PfeilFassen(Werkbank &w) {
-    const Felder feld(w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl));
-    w.lage.PfeilArt = Ganzzahl16(ZahlLesen(feld[PfeilFeld::Pfeilart]));
-    w.lage.PfeilEndeX = ZahlLesen(feld[PfeilFeld::PfeilX2]);
-    w.lage.PfeilEndeY = ZahlLesen(feld[PfeilFeld::PfeilY2]);
-    w.auflagen.Line5.Legen(ZahlLesen(feld[PfeilFeld::PfeilX1]), ZahlLesen(feld[PfeilFeld::PfeilY1]), w.lage.PfeilEndeX,
-                           w.lage.PfeilEndeY);
 }
 
 bool TextTreffen(Werkbank &w, const Ereignis &e) {

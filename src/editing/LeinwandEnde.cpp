@@ -4,6 +4,7 @@
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
 #include "editing/Marker.h"
+#include "editing/Pfeile.h"
 #include "editing/Rahmenauswahl.h"
 #include "editing/Satzbau.h"
 #include "editing/Treffer.h"
@@ -15,9 +16,8 @@ namespace kw {
 
 namespace {
 
-constexpr double KürzesterPfeil = 0.5; ///< on either axis, cm
-constexpr double LückenSchritt = 1.2;  ///< between the points that close a stroke, cm
-constexpr int NachDemEreignis = 60;    ///< ms
+constexpr double LückenSchritt = 1.2; ///< between the points that close a stroke, cm
+constexpr int NachDemEreignis = 60;   ///< ms
 
 /// The points between the last and the first one of a stroke. The last of them can lie up to half a step beyond
 /// the first point. Meant.
@@ -220,65 +220,6 @@ void KreisSchließen(Werkbank &w, const Ereignis &) {
     punkte.insert(punkte.end(), lücke.begin(), lücke.end());
     punkte.push_back(punkte.front());
     w.dokument.cboFreehandlines.Anhängen(KreisSatz(punkte));
-    w.fenster.Sichern();
-    w.fenster.Vorschau();
-}
-
-void PfeilGezogen(Werkbank &w, const Ereignis &e) {
-    w.lage.Aktion = Aktion::Nichts;
-    if (Kleiner(std::fabs(e.X - w.lage.AnkerX), KürzesterPfeil) &&
-        Kleiner(std::fabs(e.Y - w.lage.AnkerY), KürzesterPfeil))
-        return;
-    Feldbau satz("", PfeilFeld::Anzahl);
-    w.lage.PfeilEndeX = RasterZehntel(w, e.X);
-    w.lage.PfeilEndeY = RasterZehntel(w, e.Y);
-    satz.Setzen(PfeilFeld::Pfeilart, w.lage.PfeilArt);
-    satz.Setzen(PfeilFeld::PfeilX1, Gerundet(w.lage.AnkerX, 1)).Setzen(PfeilFeld::PfeilY1, Gerundet(w.lage.AnkerY, 1));
-    satz.Setzen(PfeilFeld::PfeilX2, w.lage.PfeilEndeX).Setzen(PfeilFeld::PfeilY2, w.lage.PfeilEndeY);
-    w.dokument.cboPfeile.Anhängen(satz.Text());
-    w.fenster.Sichern();
-    w.lage.PfeilAuswahl = w.dokument.cboPfeile.Anzahl() - 1;
-    w.auswahl.lstMovedPfeile.Anhängen(std::to_string(w.lage.PfeilAuswahl));
-    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
-    w.fenster.Vorschau();
-    w.lage.Aktion = Aktion::PfeilGewählt;
-}
-
-/// `Aktion` stays: the end can be taken again.
-void PfeilEndeLoslassen(Werkbank &w, const Ereignis &e) {
-    if (w.lage.PfeilAuswahl < 0 || w.lage.PfeilAuswahl >= w.dokument.cboPfeile.Anzahl()) return;
-    const bool zweites = w.lage.Aktion == Aktion::PfeilEnde2;
-    const int feldX = zweites ? PfeilFeld::PfeilX2 : PfeilFeld::PfeilX1;
-    const int feldY = zweites ? PfeilFeld::PfeilY2 : PfeilFeld::PfeilY1;
-    Feldbau satz(w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl), PfeilFeld::Anzahl);
-    const double x = RasterZehntel(w, zweites ? w.auflagen.Line5.X2 : w.auflagen.Line5.X1);
-    const double y = RasterZehntel(w, zweites ? w.auflagen.Line5.Y2 : w.auflagen.Line5.Y1);
-    if (!HatSichBewegt(w, e) || (satz.Zahl(feldX) == x && satz.Zahl(feldY) == y)) return;
-    if (zweites) {
-        w.lage.PfeilEndeX = x;
-        w.lage.PfeilEndeY = y;
-    }
-    w.dokument.cboPfeile.Ersetzen(w.lage.PfeilAuswahl, satz.Setzen(feldX, x).Setzen(feldY, y).Text());
-
-    w.fenster.Sichern();
-    w.fenster.Vorschau();
-}
-
-void PfeilLoslassen(Werkbank &w, const Ereignis &e) {
-    w.bedienung["mnuLöschen1"].Enabled = true;
-    if (e.Rechts()) {
-        w.fenster.PopupÖffnen("mnuPfeil1");
-        return;
-    }
-    if (!HatSichBewegt(w, e) || w.lage.PfeilAuswahl < 0 || w.lage.PfeilAuswahl >= w.dokument.cboPfeile.Anzahl()) return;
-    const Auflagenlinie &linie = w.auflagen.Line5;
-    const std::string alt = w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl);
-    Feldbau satz(alt, PfeilFeld::Anzahl);
-    satz.Setzen(PfeilFeld::PfeilX1, RasterZehntel(w, linie.X1)).Setzen(PfeilFeld::PfeilY1, RasterZehntel(w, linie.Y1));
-    satz.Setzen(PfeilFeld::PfeilX2, RasterZehntel(w, linie.X2)).Setzen(PfeilFeld::PfeilY2, RasterZehntel(w, linie.Y2));
-    w.dokument.cboPfeile.Ersetzen(w.lage.PfeilAuswahl, satz.Text());
-    w.lage.Aktion = Aktion::PfeilGewählt;
-    if (satz.Text() == alt) return;
     w.fenster.Sichern();
     w.fenster.Vorschau();
 }

@@ -8,7 +8,6 @@ namespace kw {
 
 bool Zurücksetzen(Werkbank &w, const Ereignis &e);
 bool BildBeginnen(Werkbank &w, const Ereignis &e);
-bool PfeilBeginnen(Werkbank &w, const Ereignis &e);
 bool TextSetzen(Werkbank &w, const Ereignis &e);
 bool OrtMerken(Werkbank &w, const Ereignis &e);
 bool KreisBeginnen(Werkbank &w, const Ereignis &e);
@@ -29,12 +28,7 @@ bool RahmenBeginnen(Werkbank &w, const Ereignis &e);
 bool BezLinieTreffer(Werkbank &w, double x, double y);
 bool PLinieTreffer(Werkbank &w, double x, double y);
 bool KindLinieTreffer(Werkbank &w, double x, double y);
-bool PfeilTreffer(Werkbank &w, double x, double y);
-bool PfeilEndeTreffer(Werkbank &w, double x, double y);
-void PfeilFassen(Werkbank &w);
 bool LegendeUnterMaus(const Werkbank &w);
-void PfeilAufziehen(Werkbank &w, const Ereignis &e);
-void PfeilZiehen(Werkbank &w, const Ereignis &e);
 void KreisZiehen(Werkbank &w, const Ereignis &e);
 void KreisZeichnen(Werkbank &w, const Ereignis &e);
 void LegendeZiehen(Werkbank &w, const Ereignis &e);
@@ -57,9 +51,6 @@ void GruppeLoslassen(Werkbank &w, const Ereignis &e);
 void LegendeLoslassen(Werkbank &w, const Ereignis &e);
 void KreisLoslassen(Werkbank &w, const Ereignis &e);
 void KreisSchließen(Werkbank &w, const Ereignis &e);
-void PfeilGezogen(Werkbank &w, const Ereignis &e);
-void PfeilEndeLoslassen(Werkbank &w, const Ereignis &e);
-void PfeilLoslassen(Werkbank &w, const Ereignis &e);
 void LinkAbbrechen(Werkbank &w);
 void ZugAbbrechen(Werkbank &w);
 

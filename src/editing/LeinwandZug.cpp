@@ -4,6 +4,7 @@
 #include "document/Felder.h"
 #include "document/Zahlen.h"
 #include "editing/Marker.h"
+#include "editing/Pfeile.h"
 #include "editing/Treffer.h"
 #include "editing/Verbindungen.h"
 
@@ -44,25 +45,6 @@ void Leinwand::MouseMove(int taste, double x, double y) {
     if (zug != std::end(Züge)) zug->Ziehen(w, e);
     if (w.lage.Aktion == Aktion::TextGesetzt) w.lage.Zeiger = Mauszeiger::Textfeld;
     if (w.lage.Aktion == Aktion::PersonSetzen) w.lage.Zeiger = Mauszeiger::Person;
-}
-
-void PfeilAufziehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.Line5.Legen(w.lage.AnkerX, w.lage.AnkerY, Raster(w, e.X), Raster(w, e.Y));
-}
-
-/// The whole arrow, or the end in hand.
-void PfeilZiehen(Werkbank &w, const Ereignis &e) {
-    // The second end has a handle; without one on show it doesn't follow. The first end does. Meant.
-    if (w.lage.Aktion == Aktion::PfeilEnde2 && !w.ansicht.PfeilMarkiert) return;
-    const Felder feld(w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl));
-    const double dx = Raster(w, e.X - w.lage.DownX);
-    const double dy = Raster(w, e.Y - w.lage.DownY);
-    const bool ende1 = w.lage.Aktion != Aktion::PfeilEnde2;
-    const bool ende2 = w.lage.Aktion != Aktion::PfeilEnde1;
-    w.auflagen.Line5.Legen(ZahlLesen(feld[PfeilFeld::PfeilX1]) + (ende1 ? dx : 0),
-                           ZahlLesen(feld[PfeilFeld::PfeilY1]) + (ende1 ? dy : 0), w.lage.PfeilEndeX + (ende2 ? dx : 0),
-                           w.lage.PfeilEndeY + (ende2 ? dy : 0));
-    w.auflagen.Line5.Visible = true;
 }
 
 void KreisZiehen(Werkbank &w, const Ereignis &e) {

@@ -2,6 +2,7 @@
 
 #include "editing/Kinder.h"
 #include "editing/Marker.h"
+#include "editing/Pfeile.h"
 #include "editing/Satzbau.h"
 
 namespace kw {
@@ -87,15 +88,6 @@ void PersonEntfernen(Werkbank &w, const std::string &nr) {
     w.auflagen.shpMask.Parken();
 }
 
-/// How every single delete ends.
-void Abschließen(Werkbank &w) {
-    PositionenVergessen(w.lage);
-    w.lage.Aktion = Aktion::Nichts;
-    w.fenster.Sichern();
-    w.bedienung["mnuLöschen1"].Enabled = false;
-    w.fenster.Vorschau();
-}
-
 /// Records of all stores: fewer of them tell that something was deleted.
 int Sätze(const Dokument &d) {
     int summe = 0;
@@ -140,27 +132,20 @@ void PLinieLöschen(Werkbank &w) {
     PartnerschaftEntfernen(w.dokument, w.lage.PLinieAuswahl);
     w.auswahl.lstMovedPLines.Leeren();
     Gummi1Parken(w);
-    Abschließen(w);
+    LöschenAbschließen(w);
 }
 
 void BezLinieLöschen(Werkbank &w) {
     if (!Gültig(w.dokument.cboBeziehungsLinien, w.lage.BezAuswahl)) return;
     w.dokument.cboBeziehungsLinien.Entfernen(w.lage.BezAuswahl);
-    Abschließen(w);
-}
-
-void PfeilLöschen(Werkbank &w) {
-    if (!Gültig(w.dokument.cboPfeile, w.lage.PfeilAuswahl)) return;
-    w.dokument.cboPfeile.Entfernen(w.lage.PfeilAuswahl);
-    w.auswahl.lstMovedPfeile.Leeren();
-    Abschließen(w);
+    LöschenAbschließen(w);
 }
 
 void KreisLinieLöschen(Werkbank &w) {
     if (!Gültig(w.dokument.cboFreehandlines, w.lage.KreisAuswahl - 1)) return;
     w.dokument.cboFreehandlines.Entfernen(w.lage.KreisAuswahl - 1);
     w.auswahl.lstMovedKreisLinien.Leeren();
-    Abschließen(w);
+    LöschenAbschließen(w);
 }
 
 void TextLöschen(Werkbank &w) {
@@ -168,7 +153,7 @@ void TextLöschen(Werkbank &w) {
     if (!Gültig(w.dokument.cboTextboxen, w.lage.TextAuswahl)) return;
     w.dokument.cboTextboxen.Entfernen(w.lage.TextAuswahl);
     MarkerParken(w);
-    Abschließen(w);
+    LöschenAbschließen(w);
 }
 
 void AuswahlLöschen(Werkbank &w) {

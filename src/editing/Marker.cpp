@@ -138,4 +138,12 @@ std::string ZwillingNr(std::string_view zwilling) {
     return std::string(zwilling.size() > 2 ? zwilling.substr(2) : std::string_view{});
 }
 
+void LöschenAbschließen(Werkbank &w) {
+    PositionenVergessen(w.lage);
+    w.lage.Aktion = Aktion::Nichts;
+    w.fenster.Sichern();
+    w.bedienung["mnuLöschen1"].Enabled = false;
+    w.fenster.Vorschau();
+}
+
 } // namespace kw

@@ -34,4 +34,7 @@ void KreisAuswählen(Werkbank &w, int position);
 /// Number of the other twin in field `Zwilling`, behind its mark; empty when there is none.
 std::string ZwillingNr(std::string_view zwilling);
 
+/// How the deleting of a single element ends: nothing selected, one snapshot, one redraw.
+void LöschenAbschließen(Werkbank &w);
+
 } // namespace kw

@@ -2,6 +2,7 @@
 
 #include "document/Felder.h"
 #include "document/Zahlen.h"
+#include "editing/Geometrie.h"
 #include "editing/Kinder.h"
 #include "editing/Marker.h"
 #include "editing/Treffer.h"
@@ -14,17 +15,6 @@ namespace kw {
 namespace {
 
 constexpr double SymbolÜberlappung = 0.1; ///< a symbol must reach that far into the box, on each axis
-
-struct Auswahlkasten {
-    double Links, Oben, Rechts, Unten;
-
-    bool Enthält(double x, double y) const {
-        return Kleiner(Links, x) && Kleiner(x, Rechts) && Kleiner(Oben, y) && Kleiner(y, Unten);
-    }
-    bool Überlappt(double links, double oben, double rechts, double unten) const {
-        return Kleiner(Links, rechts) && Kleiner(links, Rechts) && Kleiner(Oben, unten) && Kleiner(oben, Unten);
-    }
-};
 
 bool PersonImRahmen(const Felder &feld, const Auswahlkasten &k) {
     const double x = ZahlLesen(feld[PersonFeld::PosX]);

@@ -10,21 +10,8 @@ namespace kw {
 
 namespace {
 
-constexpr double LinienToleranz = 0.1;
-constexpr double EndeToleranz = 0.2;
 /// Of circle lines: so wide that the box of a stretch decides.
 constexpr double KreisGrenze = 100000.0;
-
-bool Zwischen(double wert, double unten, double oben) { return Kleiner(unten, wert) && Kleiner(wert, oben); }
-
-/// Upright and level lines only.
-bool AchsenlinieGetroffen(double x1, double y1, double x2, double y2, double x, double y) {
-    const auto [minX, maxX] = std::minmax(x1, x2);
-    const auto [minY, maxY] = std::minmax(y1, y2);
-    if (minX == maxX && Zwischen(y, minY, maxY)) return Zwischen(x, minX - LinienToleranz, minX + LinienToleranz);
-    if (minY == maxY && Zwischen(x, minX, maxX)) return Zwischen(y, minY - LinienToleranz, minY + LinienToleranz);
-    return false;
-}
 
 /// The first record of at least `felder` fields that `passt`.
 template <typename Passt> int Erster(const Satzliste &speicher, int felder, Passt passt) {
@@ -45,16 +32,6 @@ struct Strecke {
 };
 
 } // namespace
-
-bool SegmentGetroffen(double x1, double y1, double x2, double y2, double x, double y, double grenze) {
-    if (AchsenlinieGetroffen(x1, y1, x2, y2, x, y)) return true;
-    const auto [minX, maxX] = std::minmax(x1, x2);
-    const auto [minY, maxY] = std::minmax(y1, y2);
-    if (!Zwischen(x, minX, maxX) || !Zwischen(y, minY, maxY)) return false;
-    const double dx = x1 - x2;
-    const double dy = y1 - y2;
-    return Kleiner(std::fabs((-dx * y + dy * x) - (-dx * y1 + dy * x1)), grenze);
-}
 
 int PersonBei(const Dokument &d, double x, double y) {
     return Erster(d.cboPersonen, PersonFeld::Anzahl, [&](const Felder &feld) {
@@ -81,23 +58,6 @@ int KindLinieBei(const Dokument &d, double x, double y, double auswahlGröße) {
         return SegmentGetroffen(ZahlLesen(f[KindFeld::KindX]), ZahlLesen(f[KindFeld::KindY]) - auswahlGröße / 2,
                                 ZahlLesen(f[KindFeld::LinieX]), ZahlLesen(f[KindFeld::LinieY]), x, y);
     });
-}
-
-int PfeilBei(const Dokument &d, double x, double y) {
-    constexpr Strecke Schaft{PfeilFeld::PfeilX1, PfeilFeld::PfeilY1, PfeilFeld::PfeilX2, PfeilFeld::PfeilY2};
-    return Erster(d.cboPfeile, PfeilFeld::Anzahl, [&](const Felder &f) { return Schaft.Getroffen(f, x, y); });
-}
-
-int PfeilEndeBei(const Dokument &d, int pfeil, double x, double y) {
-    if (pfeil < 0 || pfeil >= d.cboPfeile.Anzahl()) return 0;
-    const Felder f(d.cboPfeile.Satz(pfeil));
-    if (f.Anzahl() < PfeilFeld::Anzahl) return 0;
-    const auto nahe = [&](int feldX, int feldY) {
-        return Kleiner(std::fabs(x - ZahlLesen(f[feldX])), EndeToleranz) &&
-               Kleiner(std::fabs(y - ZahlLesen(f[feldY])), EndeToleranz);
-    };
-    if (nahe(PfeilFeld::PfeilX2, PfeilFeld::PfeilY2)) return 2;
-    return nahe(PfeilFeld::PfeilX1, PfeilFeld::PfeilY1) ? 1 : 0;
 }
 
 int KreisLinieBei(const Dokument &d, double x, double y) {

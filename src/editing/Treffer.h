@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/Dokument.h"
+#include "editing/Geometrie.h"
 
 #include <utility>
 #include <vector>
@@ -12,25 +13,16 @@ namespace kw {
 /// Persons: the square round the centre, for round symbols too.
 int PersonBei(const Dokument &dokument, double x, double y);
 
-/// Near the straight line from (x1, y1) to (x2, y2): within 0.1 of an upright or level one, else within its box
-/// and distance times length below `grenze`. The measure isn't normalised: the longer the line, the nearer the
-/// point must be. Meant.
-bool SegmentGetroffen(double x1, double y1, double x2, double y2, double x, double y, double grenze = 1.0);
-
 int BezLinieBei(const Dokument &dokument, double x, double y);
 /// Bars; a bar that isn't level or upright is never hit.
 int PLinieBei(const Dokument &dokument, double x, double y);
 /// The lines end half of `auswahlGröße` above the child's centre. That is the size of the person last hit, whoever
 /// that was, not of the child. Meant.
 int KindLinieBei(const Dokument &dokument, double x, double y, double auswahlGröße);
-int PfeilBei(const Dokument &dokument, double x, double y);
 /// Circle lines: the box of any stretch between two points counts, however far from the stroke.
 int KreisLinieBei(const Dokument &dokument, double x, double y);
 /// Text boxes. A record without measures keeps those of the record before it. Meant.
 int TextboxBei(const Dokument &dokument, double x, double y);
-
-/// 2 near the arrow's second end, 1 near its first, 0 near none.
-int PfeilEndeBei(const Dokument &dokument, int pfeil, double x, double y);
 
 /// The points of a circle line's record, cm. A point without its second number is left out.
 std::vector<std::pair<double, double>> KreisPunkte(std::string_view satz);

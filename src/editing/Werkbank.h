@@ -1,9 +1,9 @@
 #pragma once
 
 #include "document/Dokument.h"
+#include "editing/Ablage.h"
 #include "editing/Auflagen.h"
 #include "editing/Leinwandlage.h"
-#include "editing/Zwischenablage.h"
 #include "platform/Bedienelemente.h"
 #include "platform/Benutzer.h"
 #include "platform/Bilder.h"

@@ -1,5 +1,6 @@
 #include "editing/Zwischenablage.h"
 
+#include "editing/Geometrie.h"
 #include "editing/Kinder.h"
 #include "editing/Loeschen.h"
 #include "editing/Marker.h"
@@ -169,20 +170,6 @@ void Anhängen(const Satzliste &quelle, Satzliste &speicher, Satzliste *nummern,
         speicher.Anhängen(satz);
     }
 }
-
-/// The smallest box that holds some places.
-struct Umgebung {
-    double Links = 0, Oben = 0, Rechts = 0, Unten = 0;
-    bool Leer = true;
-
-    void Aufnehmen(double x, double y, double breite = 0, double höhe = 0) {
-        Links = Leer ? x : std::min(Links, x);
-        Oben = Leer ? y : std::min(Oben, y);
-        Rechts = Leer ? x + breite : std::max(Rechts, x + breite);
-        Unten = Leer ? y + höhe : std::max(Unten, y + höhe);
-        Leer = false;
-    }
-};
 
 /// A frame round the clipboard's records, for what was copied without one.
 void RahmenUm(Auflagenform &rahmen, const Zwischenablage &za) {
