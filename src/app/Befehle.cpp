@@ -11,6 +11,7 @@
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
 #include "editing/Kinder.h"
+#include "editing/Kreislinien.h"
 #include "editing/Loeschen.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"

@@ -1,5 +1,6 @@
 #include "editing/Bewegen.h"
 
+#include "document/saetze/Kreislinie.h"
 #include "editing/Kinder.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
@@ -162,12 +163,7 @@ void GruppeÜbrige(Werkbank &w) {
     for (const auto &eintrag : w.auswahl.lstMovedKreisLinien) {
         const int i = Position(eintrag, d.cboFreehandlines, 1);
         if (i < 0) continue;
-        auto punkte = KreisPunkte(d.cboFreehandlines.Satz(i));
-        for (auto &[x, y] : punkte) { // not snapped: the shape is kept
-            x += w.lage.DeltaX;
-            y += w.lage.DeltaY;
-        }
-        d.cboFreehandlines.Ersetzen(i, KreisSatz(punkte));
+        d.cboFreehandlines.Ersetzen(i, KreisVerschoben(d.cboFreehandlines.Satz(i), w.lage.DeltaX, w.lage.DeltaY));
     }
     for (const auto &eintrag : w.auswahl.lstMovedPfeile) {
         const int i = Position(eintrag, d.cboPfeile, 0);

@@ -5,6 +5,7 @@
 #include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Kinder.h"
+#include "editing/Kreislinien.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Rahmenauswahl.h"
@@ -61,12 +62,6 @@ bool OrtMerken(Werkbank &w, const Ereignis &e) {
     return false;
 }
 
-bool KreisBeginnen(Werkbank &w, const Ereignis &e) {
-    if (w.lage.Aktion != Aktion::KreisZeichnen) return false;
-    w.lage.PunktListe = ZahlSchreiben(e.X) + "^" + ZahlSchreiben(e.Y) + "_";
-    return true;
-}
-
 /// By the place of the last move, not of the press. Meant.
 bool LegendeUnterMaus(const Werkbank &w) {
     const Dokument &d = w.dokument;
@@ -92,34 +87,6 @@ bool LegendeFassen(Werkbank &w, const Ereignis &e) {
     if (!e.Rechts()) return true;
     PopupÖffnen(w, "mnuLegende");
     if (w.lage.Aktion == Aktion::LegendeGefasst) w.lage.Aktion = Aktion::Nichts;
-    return true;
-}
-
-/// In every state that comes so far: an armed tool on a circle line selects the line and places nothing. Meant.
-bool KreisTreffen(Werkbank &w, const Ereignis &e) {
-    const int i = KreisLinieBei(w.dokument, e.X, e.Y);
-    w.lage.KreisGetroffen = i >= 0;
-    w.lage.KreisAuswahl = 0;
-    if (w.lage.KreisGetroffen) {
-        AuswahlrahmenParken(w);
-        LinkAufräumen(w);
-        KreisAuswählen(w, i);
-    }
-    w.fenster.Vorschau();
-    return false;
-}
-
-bool KreisGewählt(Werkbank &w, const Ereignis &e) {
-    if (w.lage.Aktion != Aktion::KreisGewählt) return false;
-    MarkerEntfernen(w);
-    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
-    if (!w.lage.KreisGetroffen) { // the press only ends the selection
-        w.auswahl.lstMovedKreisLinien.Leeren();
-        w.lage.Aktion = Aktion::Nichts;
-        w.fenster.Vorschau();
-    } else if (e.Rechts()) {
-        PopupÖffnen(w, "mnuKreislinie");
-    }
     return true;
 }
 

@@ -3,6 +3,7 @@
 
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
+#include "editing/Kreislinien.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Rahmenauswahl.h"
@@ -16,23 +17,7 @@ namespace kw {
 
 namespace {
 
-constexpr double LückenSchritt = 1.2; ///< between the points that close a stroke, cm
-constexpr int NachDemEreignis = 60;   ///< ms
-
-/// The points between the last and the first one of a stroke. The last of them can lie up to half a step beyond
-/// the first point. Meant.
-std::vector<std::pair<double, double>> Lückenpunkte(std::pair<double, double> letzter,
-                                                    std::pair<double, double> erster) {
-    std::vector<std::pair<double, double>> punkte;
-    const double dx = erster.first - letzter.first;
-    const double dy = erster.second - letzter.second;
-    const double länge = std::hypot(dx, dy);
-    const int anzahl = static_cast<int>(std::floor(länge / LückenSchritt + 0.5));
-    for (int i = 1; i <= anzahl; ++i)
-        punkte.emplace_back(Gerundet(letzter.first + i * LückenSchritt * dx / länge, 2),
-                            Gerundet(letzter.second + i * LückenSchritt * dy / länge, 2));
-    return punkte;
-}
+constexpr int NachDemEreignis = 60; ///< ms
 
 } // namespace
 
@@ -200,28 +185,6 @@ void LegendeLoslassen(Werkbank &w, const Ereignis &) {
     w.lage.Aktion = Aktion::Nichts;
     w.auflagen.shpMask.Parken();
     w.auflagen.shpMask.Visible = false;
-}
-
-/// The record has followed the pointer already. One that is as it was stays selected: that was a click.
-void KreisLoslassen(Werkbank &w, const Ereignis &) {
-    const int i = w.lage.KreisAuswahl - 1;
-    if (i < 0 || i >= w.dokument.cboFreehandlines.Anzahl()) return;
-    if (KreisPunkte(w.dokument.cboFreehandlines.Satz(i)) == w.lage.KreisPunkte) return;
-    w.lage.Aktion = Aktion::Nichts;
-    w.fenster.Sichern();
-    w.fenster.Vorschau();
-}
-
-void KreisSchließen(Werkbank &w, const Ereignis &) {
-    w.lage.Aktion = Aktion::Nichts;
-    auto punkte = KreisPunkte(std::exchange(w.lage.PunktListe, {}));
-    if (punkte.size() < 2) return; // nothing was drawn
-    const auto lücke = Lückenpunkte(punkte.back(), punkte.front());
-    punkte.insert(punkte.end(), lücke.begin(), lücke.end());
-    punkte.push_back(punkte.front());
-    w.dokument.cboFreehandlines.Anhängen(KreisSatz(punkte));
-    w.fenster.Sichern();
-    w.fenster.Vorschau();
 }
 
 } // namespace kw

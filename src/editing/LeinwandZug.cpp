@@ -3,6 +3,7 @@
 
 #include "document/Felder.h"
 #include "document/Zahlen.h"
+#include "editing/Kreislinien.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Treffer.h"
@@ -13,11 +14,7 @@
 
 namespace kw {
 
-namespace {
-
-constexpr double StrichSchritt = 0.9; ///< a stroke takes a new point when the pointer has gone that far, cm
-
-} // namespace
+namespace {} // namespace
 
 /// Only shapes over the page move, so nothing is redrawn; a dragged circle line is the exception.
 void Leinwand::MouseMove(int taste, double x, double y) {
@@ -45,37 +42,6 @@ void Leinwand::MouseMove(int taste, double x, double y) {
     if (zug != std::end(Züge)) zug->Ziehen(w, e);
     if (w.lage.Aktion == Aktion::TextGesetzt) w.lage.Zeiger = Mauszeiger::Textfeld;
     if (w.lage.Aktion == Aktion::PersonSetzen) w.lage.Zeiger = Mauszeiger::Person;
-}
-
-void KreisZiehen(Werkbank &w, const Ereignis &e) {
-    const double schritt = w.ansicht.Rasterweite;
-    if (!Kleiner(schritt, std::fabs(e.X - w.lage.DownX)) && !Kleiner(schritt, std::fabs(e.Y - w.lage.DownY))) return;
-    if (w.lage.KreisAuswahl < 1 || w.lage.KreisAuswahl > w.dokument.cboFreehandlines.Anzahl()) return;
-    auto punkte = w.lage.KreisPunkte;
-    for (auto &[x, y] : punkte) {
-        x += e.X - w.lage.LetztX;
-        y += e.Y - w.lage.LetztY;
-    }
-    w.dokument.cboFreehandlines.Ersetzen(w.lage.KreisAuswahl - 1, KreisSatz(punkte));
-    w.lage.DownX = Gerundet(e.X, 2);
-    w.lage.DownY = Gerundet(e.Y, 2);
-    w.fenster.Vorschau();
-}
-
-void KreisZeichnen(Werkbank &w, const Ereignis &e) {
-    const double dx = e.X - w.lage.LetztX;
-    const double dy = e.Y - w.lage.LetztY;
-    if (w.lage.PunktListe.empty() || !Kleiner(StrichSchritt, std::hypot(dx, dy))) return;
-    w.lage.PunktListe += ZahlSchreiben(e.X) + "^" + ZahlSchreiben(e.Y) + "_";
-    // On the kept picture itself: the next redraw takes the finished line in its place.
-    Zeichenfläche &f = w.picVorschau;
-    const int breite = std::exchange(f.DrawWidth, 1);
-    const int stil = std::exchange(f.DrawStyle, StilDurchgezogen);
-    f.Line(LinieFarbig, w.lage.LetztX, w.lage.LetztY, e.X, e.Y, w.ansicht.Pfeilfarbe);
-    f.DrawWidth = breite;
-    f.DrawStyle = stil;
-    w.lage.LetztX = Gerundet(e.X, 2);
-    w.lage.LetztY = Gerundet(e.Y, 2);
 }
 
 void LegendeZiehen(Werkbank &w, const Ereignis &e) {

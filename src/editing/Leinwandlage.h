@@ -1,11 +1,11 @@
 #pragma once
 
+#include "document/saetze/Kreislinie.h"
 #include "document/saetze/Person.h"
 #include "editing/Auflagen.h"
 #include "rendering/Auswahl.h"
 
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace kw {
@@ -66,9 +66,9 @@ struct Leinwandlage : Gestenlage {
     int PfeilArt = 1;             ///< 1 arrow, 2 double arrow
     double PfeilEndeX = 0;
     double PfeilEndeY = 0;
-    std::string PunktListe;                             ///< circle line in the making
-    std::vector<std::pair<double, double>> KreisPunkte; ///< the selected circle line as it was when selected
-    std::string lblPersAuswahl;                         ///< link target as last shown
+    std::string PunktListe;              ///< circle line in the making
+    std::vector<Kreispunkt> KreisPunkte; ///< the selected circle line as it was when selected
+    std::string lblPersAuswahl;          ///< link target as last shown
 
     double AuswahlX = Geparkt; ///< marker of the selected person or text box
     double AuswahlY = Geparkt;

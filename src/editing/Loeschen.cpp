@@ -1,6 +1,7 @@
 #include "editing/Loeschen.h"
 
 #include "editing/Kinder.h"
+#include "editing/Kreislinien.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Satzbau.h"
@@ -138,13 +139,6 @@ void PLinieLöschen(Werkbank &w) {
 void BezLinieLöschen(Werkbank &w) {
     if (!Gültig(w.dokument.cboBeziehungsLinien, w.lage.BezAuswahl)) return;
     w.dokument.cboBeziehungsLinien.Entfernen(w.lage.BezAuswahl);
-    LöschenAbschließen(w);
-}
-
-void KreisLinieLöschen(Werkbank &w) {
-    if (!Gültig(w.dokument.cboFreehandlines, w.lage.KreisAuswahl - 1)) return;
-    w.dokument.cboFreehandlines.Entfernen(w.lage.KreisAuswahl - 1);
-    w.auswahl.lstMovedKreisLinien.Leeren();
     LöschenAbschließen(w);
 }
 

@@ -64,6 +64,14 @@ void Gummi2Parken(Werkbank &w) { w.auflagen.Line2.Parken(); }
 
 void AuswahlrahmenParken(Werkbank &w) { w.auflagen.shpBox.Legen(Geparkt, Geparkt, 0, 0); }
 
+void LinkAufräumen(Werkbank &w) {
+    Gummi1Parken(w);
+    Gummi2Parken(w);
+    w.auflagen.Line1.Visible = w.auflagen.Line2.Visible = w.auflagen.shpPerson.Visible = false;
+    for (Auflagenlinie &linie : w.auflagen.MarkLine) linie.Visible = false;
+    w.lage.lblPersAuswahl.clear();
+}
+
 void PositionenVergessen(Leinwandlage &lage) {
     lage.PersAuswahl = lage.KreisAuswahl = 0;
     lage.TextAuswahl = lage.BezAuswahl = lage.PLinieAuswahl = lage.KindAuswahl = lage.PfeilAuswahl = -1;
@@ -122,16 +130,6 @@ void TextboxAuswählen(Werkbank &w, int position) {
     maske.Visible = false;
     maske.Shape = Umriss::Rechteck;
     maske.Legen(links, oben, lage.MarkerBreite, lage.MarkerHöhe);
-}
-
-void KreisAuswählen(Werkbank &w, int position) {
-    Leinwandlage &lage = w.lage;
-    lage.Aktion = Aktion::KreisGewählt;
-    lage.KreisAuswahl = position + 1;
-    lage.PersRecord.clear();
-    MarkierungsListBoxenLöschen(w);
-    w.auswahl.lstMovedKreisLinien.Anhängen(std::to_string(position + 1));
-    lage.KreisPunkte = KreisPunkte(w.dokument.cboFreehandlines.Satz(position));
 }
 
 std::string ZwillingNr(std::string_view zwilling) {

@@ -19,6 +19,8 @@ void Aktion_Nichts(Werkbank &w);
 void Gummi1Parken(Werkbank &w);
 void Gummi2Parken(Werkbank &w);
 void AuswahlrahmenParken(Werkbank &w);
+/// The end of a link gesture, however it ends: rubber lines and marks of the target go.
+void LinkAufräumen(Werkbank &w);
 /// Forgets the positions of single selected elements: after records have gone or others are selected.
 void PositionenVergessen(Leinwandlage &lage);
 /// Nothing selected, no gesture, every shape out of the way; no redraw. Before other records come into the stores.
@@ -28,9 +30,6 @@ void AllesAbwählen(Werkbank &w);
 void PersonAuswählen(Werkbank &w, int position);
 /// Selects the text box at `position`, with marker and drag mask. The lists are emptied; `Aktion` is the caller's.
 void TextboxAuswählen(Werkbank &w, int position);
-/// Selects the circle line at `position` (from 0) alone; `Aktion` 19.
-void KreisAuswählen(Werkbank &w, int position);
-
 /// Number of the other twin in field `Zwilling`, behind its mark; empty when there is none.
 std::string ZwillingNr(std::string_view zwilling);
 

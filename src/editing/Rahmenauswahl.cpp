@@ -2,6 +2,7 @@
 
 #include "document/Felder.h"
 #include "document/Zahlen.h"
+#include "document/saetze/Kreislinie.h"
 #include "editing/Geometrie.h"
 #include "editing/Kinder.h"
 #include "editing/Marker.h"
@@ -89,7 +90,7 @@ void RahmenAuswählen(Werkbank &w) {
     a.lstMovedKreisLinien.Leeren();
     for (int i = 0; i < d.cboFreehandlines.Anzahl(); ++i) {
         const auto punkte = KreisPunkte(d.cboFreehandlines.Satz(i));
-        if (std::any_of(punkte.begin(), punkte.end(), [&](const auto &p) { return k.Enthält(p.first, p.second); }))
+        if (std::any_of(punkte.begin(), punkte.end(), [&](const auto &p) { return k.Enthält(p.X, p.Y); }))
             a.lstMovedKreisLinien.Anhängen(std::to_string(i + 1));
     }
     Eintragen(a.lstMovedPfeile, d.cboPfeile, PfeilFeld::Anzahl, 0,

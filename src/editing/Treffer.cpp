@@ -10,9 +10,6 @@ namespace kw {
 
 namespace {
 
-/// Of circle lines: so wide that the box of a stretch decides.
-constexpr double KreisGrenze = 100000.0;
-
 /// The first record of at least `felder` fields that `passt`.
 template <typename Passt> int Erster(const Satzliste &speicher, int felder, Passt passt) {
     for (int i = 0; i < speicher.Anzahl(); ++i) {
@@ -60,17 +57,6 @@ int KindLinieBei(const Dokument &d, double x, double y, double auswahlGröße) {
     });
 }
 
-int KreisLinieBei(const Dokument &d, double x, double y) {
-    for (int i = 0; i < d.cboFreehandlines.Anzahl(); ++i) {
-        const auto punkte = KreisPunkte(d.cboFreehandlines.Satz(i));
-        for (size_t p = 1; p < punkte.size(); ++p)
-            if (SegmentGetroffen(punkte[p - 1].first, punkte[p - 1].second, punkte[p].first, punkte[p].second, x, y,
-                                 KreisGrenze))
-                return i;
-    }
-    return -1;
-}
-
 int TextboxBei(const Dokument &d, double x, double y) {
     double breite = 0;
     double höhe = 0;
@@ -83,23 +69,6 @@ int TextboxBei(const Dokument &d, double x, double y) {
         const double oben = ZahlLesen(f[TextFeld::TextY]);
         return Zwischen(x, links, links + breite) && Zwischen(y, oben, oben + höhe);
     });
-}
-
-std::vector<std::pair<double, double>> KreisPunkte(std::string_view satz) {
-    std::vector<std::pair<double, double>> punkte;
-    while (!satz.empty()) {
-        auto punkt = Abgetrennt(satz, '_');
-        if (punkt.find('^') == std::string_view::npos) continue;
-        const double x = ZahlLesen(Abgetrennt(punkt, '^'));
-        punkte.emplace_back(x, ZahlLesen(Abgetrennt(punkt, '^')));
-    }
-    return punkte;
-}
-
-std::string KreisSatz(const std::vector<std::pair<double, double>> &punkte) {
-    std::string satz;
-    for (const auto &[x, y] : punkte) satz += (satz.empty() ? "" : "_") + ZahlSchreiben(x) + "^" + ZahlSchreiben(y);
-    return satz;
 }
 
 } // namespace kw

@@ -3,9 +3,6 @@
 #include "document/Dokument.h"
 #include "editing/Geometrie.h"
 
-#include <utility>
-#include <vector>
-
 // What lies under a point of the page (cm). Every test is strict: a point exactly on an edge misses. The first
 // record in store order wins; damaged records are passed over. Positions count from 0, -1 is none.
 namespace kw {
@@ -19,14 +16,7 @@ int PLinieBei(const Dokument &dokument, double x, double y);
 /// The lines end half of `auswahlGröße` above the child's centre. That is the size of the person last hit, whoever
 /// that was, not of the child. Meant.
 int KindLinieBei(const Dokument &dokument, double x, double y, double auswahlGröße);
-/// Circle lines: the box of any stretch between two points counts, however far from the stroke.
-int KreisLinieBei(const Dokument &dokument, double x, double y);
 /// Text boxes. A record without measures keeps those of the record before it. Meant.
 int TextboxBei(const Dokument &dokument, double x, double y);
-
-/// The points of a circle line's record, cm. A point without its second number is left out.
-std::vector<std::pair<double, double>> KreisPunkte(std::string_view satz);
-/// The record of these points.
-std::string KreisSatz(const std::vector<std::pair<double, double>> &punkte);
 
 } // namespace kw

@@ -162,14 +162,6 @@ void mnuKindVon(Werkbank &w) {
     w.lage.PLinieUnterMaus = false;
 }
 
-void LinkAufräumen(Werkbank &w) {
-    Gummi1Parken(w);
-    Gummi2Parken(w);
-    w.auflagen.Line1.Visible = w.auflagen.Line2.Visible = w.auflagen.shpPerson.Visible = false;
-    for (Auflagenlinie &linie : w.auflagen.MarkLine) linie.Visible = false;
-    w.lage.lblPersAuswahl.clear();
-}
-
 void LinkZiehen(Werkbank &w, double x, double y) {
     Leinwandlage &lage = w.lage;
     lage.ZielPerson = PersonBei(w.dokument, x, y) + 1;

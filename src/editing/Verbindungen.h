@@ -29,9 +29,6 @@ void BeziehungAnlegen(Werkbank &w);
 /// there was none of it. A line that was there before stays.
 void BezLAbbrechen(Werkbank &w);
 
-/// The end of a link gesture, however it ends: rubber lines and marks of the target go.
-void LinkAufräumen(Werkbank &w);
-
 /// `Aktion` 12 or 13 under the pointer: sets `ZielPerson`, the rubber line and the marks on the target.
 void LinkZiehen(Werkbank &w, double x, double y);
 

@@ -1,7 +1,9 @@
 #include "editing/Zwischenablage.h"
 
+#include "document/saetze/Kreislinie.h"
 #include "editing/Geometrie.h"
 #include "editing/Kinder.h"
+#include "editing/Kreislinien.h"
 #include "editing/Loeschen.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
@@ -123,15 +125,6 @@ void FelderVersetzen(Feldbau &satz, std::initializer_list<int> felder) {
     for (const int feld : felder) satz.Erhöhen(feld, Versatz);
 }
 
-std::string KreisVersetzen(std::string_view satz) {
-    auto punkte = KreisPunkte(satz);
-    for (auto &[x, y] : punkte) {
-        x += Versatz;
-        y += Versatz;
-    }
-    return KreisSatz(punkte);
-}
-
 /// The shift stays in the clipboard: each further paste lands a further step away.
 void AllesVersetzen(Zwischenablage &za) {
     Umschreiben(za.ZA_Personen, PersonFeld::Anzahl, [](Feldbau &satz) {
@@ -156,7 +149,7 @@ void AllesVersetzen(Zwischenablage &za) {
         za.ZA_Textboxen.Ersetzen(i, satz.Text());
     }
     for (int i = 0; i < za.ZA_Kreislinien.Anzahl(); ++i)
-        za.ZA_Kreislinien.Ersetzen(i, KreisVersetzen(za.ZA_Kreislinien.Satz(i)));
+        za.ZA_Kreislinien.Ersetzen(i, KreisVerschoben(za.ZA_Kreislinien.Satz(i), Versatz, Versatz));
     Feldbau punkt(za.KopierPunkt, 2);
     FelderVersetzen(punkt, {0, 1});
     za.KopierPunkt = punkt.Text();

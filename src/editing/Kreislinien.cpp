@@ -1,0 +1,179 @@
+#include "editing/Kreislinien.h"
+
+#include "document/Nachschlagen.h"
+#include "document/Zahlen.h"
+#include "document/saetze/Kreislinie.h"
+#include "editing/Gesten.h"
+#include "editing/Marker.h"
+
+#include <cmath>
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+constexpr double StrichSchritt = 0.9;      ///< a stroke takes a new point when the pointer has gone that far, cm
+constexpr double LückenSchritt = 1.2;      ///< between the points that close a stroke, cm
+constexpr double TrefferGrenze = 100000.0; ///< so wide that the box of a stretch decides
+
+/// The points between the last and the first one of a stroke. The last of them can lie up to half a step beyond
+/// the first point. Meant.
+std::vector<Kreispunkt> Lückenpunkte(Kreispunkt letzter, Kreispunkt erster) {
+    std::vector<Kreispunkt> punkte;
+    const double dx = erster.X - letzter.X;
+    const double dy = erster.Y - letzter.Y;
+    const double länge = std::hypot(dx, dy);
+    const int anzahl = static_cast<int>(std::floor(länge / LückenSchritt + 0.5));
+    for (int i = 1; i <= anzahl; ++i)
+        punkte.push_back({Gerundet(letzter.X + i * LückenSchritt * dx / länge, 2),
+                          Gerundet(letzter.Y + i * LückenSchritt * dy / länge, 2)});
+    return punkte;
+}
+
+bool IstGetroffen(std::string_view satz, double x, double y) {
+    KreisSatz kreis(satz);
+    auto von = kreis.Nächster();
+    for (auto bis = von; von && (bis = kreis.Nächster()); von = bis)
+        if (SegmentGetroffen(von->X, von->Y, bis->X, bis->Y, x, y, TrefferGrenze)) return true;
+    return false;
+}
+
+bool ImKasten(std::string_view satz, const Auswahlkasten &kasten, double /*raster*/) {
+    KreisSatz kreis(satz);
+    while (const auto punkt = kreis.Nächster())
+        if (kasten.Enthält(punkt->X, punkt->Y)) return true;
+    return false;
+}
+
+/// Not snapped: the shape is kept.
+std::string Verschoben(std::string_view satz, double dx, double dy, double /*raster*/) {
+    return KreisVerschoben(satz, dx, dy);
+}
+
+void Umgeben(std::string_view satz, Umgebung &umgebung) {
+    KreisSatz kreis(satz);
+    while (const auto punkt = kreis.Nächster()) umgebung.Aufnehmen(punkt->X, punkt->Y);
+}
+
+} // namespace
+
+const Gruppenart KreislinienInGruppen{&Dokument::cboFreehandlines,
+                                      &Auswahl::lstMovedKreisLinien,
+                                      1,
+                                      &Zwischenablage::ZA_Kreislinien,
+                                      ImKasten,
+                                      Verschoben,
+                                      Umgeben};
+
+int KreisLinieBei(const Dokument &d, double x, double y) {
+    for (int i = 0; i < d.cboFreehandlines.Anzahl(); ++i)
+        if (IstGetroffen(d.cboFreehandlines.Satz(i), x, y)) return i;
+    return -1;
+}
+
+void KreisAuswählen(Werkbank &w, int position) {
+    w.lage.Aktion = Aktion::KreisGewählt;
+    w.lage.KreisAuswahl = position + 1;
+    w.lage.PersRecord.clear();
+    MarkierungsListBoxenLöschen(w);
+    w.auswahl.lstMovedKreisLinien.Anhängen(std::to_string(position + 1));
+    w.lage.KreisPunkte = KreisPunkte(w.dokument.cboFreehandlines.Satz(position));
+}
+
+bool KreisBeginnen(Werkbank &w, const Ereignis &e) {
+    if (w.lage.Aktion != Aktion::KreisZeichnen) return false;
+    w.lage.PunktListe.clear();
+    KreisPunktAnhängen(w.lage.PunktListe, {e.X, e.Y});
+    return true;
+}
+
+/// In every state that comes so far: an armed tool on a circle line selects the line and places nothing. Meant.
+bool KreisTreffen(Werkbank &w, const Ereignis &e) {
+    const int i = KreisLinieBei(w.dokument, e.X, e.Y);
+    w.lage.KreisGetroffen = i >= 0;
+    w.lage.KreisAuswahl = 0;
+    if (w.lage.KreisGetroffen) {
+        AuswahlrahmenParken(w);
+        LinkAufräumen(w);
+        KreisAuswählen(w, i);
+    }
+    w.fenster.Vorschau();
+    return false;
+}
+
+bool KreisGewählt(Werkbank &w, const Ereignis &e) {
+    if (w.lage.Aktion != Aktion::KreisGewählt) return false;
+    MarkerEntfernen(w);
+    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
+    if (!w.lage.KreisGetroffen) { // the press only ends the selection
+        w.auswahl.lstMovedKreisLinien.Leeren();
+        w.lage.Aktion = Aktion::Nichts;
+        w.fenster.Vorschau();
+    } else if (e.Rechts()) {
+        PopupÖffnen(w, "mnuKreislinie");
+    }
+    return true;
+}
+
+void KreisZiehen(Werkbank &w, const Ereignis &e) {
+    const double schritt = w.ansicht.Rasterweite;
+    if (!Kleiner(schritt, std::fabs(e.X - w.lage.DownX)) && !Kleiner(schritt, std::fabs(e.Y - w.lage.DownY))) return;
+    if (!Gültig(w.dokument.cboFreehandlines, w.lage.KreisAuswahl - 1)) return;
+    auto punkte = w.lage.KreisPunkte;
+    for (Kreispunkt &punkt : punkte) {
+        punkt.X += e.X - w.lage.LetztX;
+        punkt.Y += e.Y - w.lage.LetztY;
+    }
+    w.dokument.cboFreehandlines.Ersetzen(w.lage.KreisAuswahl - 1, KreisText(punkte));
+    w.lage.DownX = Gerundet(e.X, 2);
+    w.lage.DownY = Gerundet(e.Y, 2);
+    w.fenster.Vorschau();
+}
+
+void KreisZeichnen(Werkbank &w, const Ereignis &e) {
+    const double dx = e.X - w.lage.LetztX;
+    const double dy = e.Y - w.lage.LetztY;
+    if (w.lage.PunktListe.empty() || !Kleiner(StrichSchritt, std::hypot(dx, dy))) return;
+    KreisPunktAnhängen(w.lage.PunktListe, {e.X, e.Y});
+    // On the kept picture itself: the next redraw takes the finished line in its place.
+    Zeichenfläche &f = w.picVorschau;
+    const int breite = std::exchange(f.DrawWidth, 1);
+    const int stil = std::exchange(f.DrawStyle, StilDurchgezogen);
+    f.Line(LinieFarbig, w.lage.LetztX, w.lage.LetztY, e.X, e.Y, w.ansicht.Pfeilfarbe);
+    f.DrawWidth = breite;
+    f.DrawStyle = stil;
+    w.lage.LetztX = Gerundet(e.X, 2);
+    w.lage.LetztY = Gerundet(e.Y, 2);
+}
+
+/// The record has followed the pointer already. One that is as it was stays selected: that was a click.
+void KreisLoslassen(Werkbank &w, const Ereignis &) {
+    const int i = w.lage.KreisAuswahl - 1;
+    if (!Gültig(w.dokument.cboFreehandlines, i)) return;
+    if (KreisPunkte(w.dokument.cboFreehandlines.Satz(i)) == w.lage.KreisPunkte) return;
+    w.lage.Aktion = Aktion::Nichts;
+    w.fenster.Sichern();
+    w.fenster.Vorschau();
+}
+
+void KreisSchließen(Werkbank &w, const Ereignis &) {
+    w.lage.Aktion = Aktion::Nichts;
+    auto punkte = KreisPunkte(std::exchange(w.lage.PunktListe, {}));
+    if (punkte.size() < 2) return; // nothing was drawn
+    const auto lücke = Lückenpunkte(punkte.back(), punkte.front());
+    punkte.insert(punkte.end(), lücke.begin(), lücke.end());
+    punkte.push_back(punkte.front());
+    w.dokument.cboFreehandlines.Anhängen(KreisText(punkte));
+    w.fenster.Sichern();
+    w.fenster.Vorschau();
+}
+
+void KreisLinieLöschen(Werkbank &w) {
+    if (!Gültig(w.dokument.cboFreehandlines, w.lage.KreisAuswahl - 1)) return;
+    w.dokument.cboFreehandlines.Entfernen(w.lage.KreisAuswahl - 1);
+    w.auswahl.lstMovedKreisLinien.Leeren();
+    LöschenAbschließen(w);
+}
+
+} // namespace kw

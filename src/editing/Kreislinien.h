@@ -1,0 +1,35 @@
+#pragma once
+
+#include "editing/Gruppenart.h"
+
+// Circle lines: closed strokes drawn by hand.
+namespace kw {
+
+struct Ereignis;
+struct Werkbank;
+
+/// Position of the first circle line that has a stretch between two points in whose box the point lies, however far
+/// from the stroke; -1 none.
+int KreisLinieBei(const Dokument &dokument, double x, double y);
+/// Selects the circle line at `position` (from 0) alone; `Aktion` 19.
+void KreisAuswählen(Werkbank &w, int position);
+
+// A press: with the tool in hand; on a line, which is looked for in every state; with a line selected. Each says
+// whether the event ends with it.
+bool KreisBeginnen(Werkbank &w, const Ereignis &e);
+bool KreisTreffen(Werkbank &w, const Ereignis &e);
+bool KreisGewählt(Werkbank &w, const Ereignis &e);
+
+// What follows the pointer: the selected line, whose record changes at once; the stroke in the making.
+void KreisZiehen(Werkbank &w, const Ereignis &e);
+void KreisZeichnen(Werkbank &w, const Ereignis &e);
+
+// The release.
+void KreisLoslassen(Werkbank &w, const Ereignis &e);
+void KreisSchließen(Werkbank &w, const Ereignis &e);
+
+void KreisLinieLöschen(Werkbank &w);
+
+extern const Gruppenart KreislinienInGruppen;
+
+} // namespace kw
