@@ -16,6 +16,7 @@
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Symbolgroesse.h"
+#include "editing/Texte.h"
 #include "editing/Verbindungen.h"
 #include "editing/Werkzeuge.h"
 #include "editing/Zwischenablage.h"

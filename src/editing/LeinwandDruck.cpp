@@ -9,6 +9,7 @@
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Rahmenauswahl.h"
+#include "editing/Texte.h"
 #include "editing/Treffer.h"
 #include "editing/Verbindungen.h"
 
@@ -44,15 +45,6 @@ bool BildBeginnen(Werkbank &w, const Ereignis &e) {
     w.lage.Aktion = Aktion::RahmenZiehen;
     w.lage.AnkerX = Raster(w, e.X);
     w.lage.AnkerY = Raster(w, e.Y);
-    return true;
-}
-
-bool TextSetzen(Werkbank &w, const Ereignis &e) {
-    if (w.lage.Aktion != Aktion::TextGesetzt) return false;
-    w.lage.AuswahlX = RasterZehntel(w, e.X);
-    w.lage.AuswahlY = RasterZehntel(w, e.Y);
-    w.fenster.FormÖffnen("frmKommentar");
-    w.lage.Zeiger = Mauszeiger::Pfeil;
     return true;
 }
 
@@ -113,14 +105,6 @@ bool GruppeFassen(Werkbank &w, const Ereignis &e) {
         PopupÖffnen(w, "mnuAuswahlBox");
     }
     return true;
-}
-
-/// The release of a grabbed text box got lost.
-bool TextWarGefasst(Werkbank &w, const Ereignis &) {
-    if (w.lage.Aktion != Aktion::TextGefasst) return false;
-    w.lage.Aktion = Aktion::TextDialog;
-    w.fenster.FormÖffnen("frmKommentar");
-    return false;
 }
 
 bool KindLinkBeenden(Werkbank &w, const Ereignis &) {
@@ -235,18 +219,6 @@ bool KindLinieTreffer(Werkbank &w, double x, double y) {
     w.lage.KindAuswahl = i;
     MarkierungsListBoxenLöschen(w);
     w.lage.Aktion = Aktion::KindlinieGewählt;
-    w.fenster.Vorschau();
-    return true;
-}
-
-bool TextTreffen(Werkbank &w, const Ereignis &e) {
-    const int i = TextboxBei(w.dokument, e.X, e.Y);
-    if (i < 0) return false;
-    TextboxAuswählen(w, i);
-    w.auswahl.lstMovedText.Anhängen(std::to_string(i));
-    w.lage.VersatzX = e.X - w.auflagen.shpMask.Left;
-    w.lage.VersatzY = e.Y - w.auflagen.shpMask.Top;
-    w.lage.Aktion = Aktion::TextGefasst;
     w.fenster.Vorschau();
     return true;
 }

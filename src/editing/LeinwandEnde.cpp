@@ -8,6 +8,7 @@
 #include "editing/Pfeile.h"
 #include "editing/Rahmenauswahl.h"
 #include "editing/Satzbau.h"
+#include "editing/Texte.h"
 #include "editing/Treffer.h"
 #include "editing/Verbindungen.h"
 
@@ -15,11 +16,7 @@
 
 namespace kw {
 
-namespace {
-
-constexpr int NachDemEreignis = 60; ///< ms
-
-} // namespace
+namespace {} // namespace
 
 void Leinwand::MouseUp(int taste, double x, double y) {
     struct Ende {
@@ -131,26 +128,6 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e) {
     w.fenster.Vorschau();
     w.auflagen.shpMask.Parken();
     if (!w.dokument.GleicheSätze(vorher)) w.fenster.Sichern();
-}
-
-void TextLoslassen(Werkbank &w, const Ereignis &e) {
-    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
-    if (e.Rechts()) {
-        w.lage.Aktion = Aktion::MenüOffen;
-        w.fenster.PopupÖffnen("mnuTextBox");
-        return;
-    }
-    Satzliste &boxen = w.dokument.cboTextboxen;
-    const Auflagenform maske = std::exchange(w.auflagen.shpMask, {});
-    w.lage.Aktion = Aktion::TextGewählt;
-    if (!HatSichBewegt(w, e) || w.lage.TextAuswahl < 0 || w.lage.TextAuswahl >= boxen.Anzahl()) return;
-    const std::string alt = boxen.Satz(w.lage.TextAuswahl);
-    Feldbau satz(alt, std::min(Felder(alt).Anzahl(), Felder::Höchstzahl)); // its measures stay, if it has them
-    satz.Setzen(TextFeld::TextX, RasterZehntel(w, maske.Left)).Setzen(TextFeld::TextY, RasterZehntel(w, maske.Top));
-    w.lage.TextRecord = satz.Text();
-    boxen.Ersetzen(w.lage.TextAuswahl, w.lage.TextRecord);
-    if (w.lage.TextRecord != alt) w.fenster.Sichern();
-    w.benutzer.ZeitgeberStarten("Timer4", NachDemEreignis); // redraws, once, behind the event
 }
 
 void BalkenLoslassen(Werkbank &w, const Ereignis &) {

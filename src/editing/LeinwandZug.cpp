@@ -6,6 +6,7 @@
 #include "editing/Kreislinien.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
+#include "editing/Texte.h"
 #include "editing/Treffer.h"
 #include "editing/Verbindungen.h"
 
@@ -64,14 +65,6 @@ void KindLinkZiehen(Werkbank &w, const Ereignis &e) {
     const int vorige = w.lage.PLinieAuswahl;
     w.lage.PLinieUnterMaus = PLinieTreffer(w, e.X, e.Y);
     if (w.lage.PLinieUnterMaus != vorher || (vorher && w.lage.PLinieAuswahl != vorige)) w.fenster.Vorschau();
-}
-
-void TextZiehen(Werkbank &w, const Ereignis &e) {
-    Auflagenform &maske = w.auflagen.shpMask;
-    const Felder feld(w.lage.TextRecord);
-    maske.Legen(Raster(w, e.X - w.lage.VersatzX), Raster(w, e.Y - w.lage.VersatzY),
-                ZahlLesen(feld.OderLeer(TextFeld::TextBreite)), ZahlLesen(feld.OderLeer(TextFeld::TextHoehe)));
-    maske.Visible = true;
 }
 
 /// A small drag leaves the mask unshown; that is the whole threshold.

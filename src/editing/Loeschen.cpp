@@ -5,6 +5,7 @@
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Satzbau.h"
+#include "editing/Texte.h"
 
 namespace kw {
 
@@ -108,17 +109,7 @@ void GruppenPersonenLöschen(Werkbank &w) {
 } // namespace
 
 void SymbolLöschen(Werkbank &w) {
-    Satzliste &boxen = w.dokument.cboTextboxen;
-    if (w.lage.ElementArt == "Textbox") {
-        w.lage.ElementArt.clear();
-        if (!Gültig(boxen, w.lage.TextAuswahl)) return;
-        boxen.Entfernen(w.lage.TextAuswahl);
-        PositionenVergessen(w.lage);
-        w.auswahl.lstMovedText.Leeren();
-        w.fenster.Vorschau();
-        w.fenster.Sichern();
-        return;
-    }
+    if (w.lage.ElementArt == "Textbox") return LetzteTextboxLöschen(w);
     if (w.dokument.cboPersonen.Leer()) return;
     const int vorher = w.dokument.cboPersonen.Anzahl();
     PersonEntfernen(w, w.lage.PersNr);
@@ -139,14 +130,6 @@ void PLinieLöschen(Werkbank &w) {
 void BezLinieLöschen(Werkbank &w) {
     if (!Gültig(w.dokument.cboBeziehungsLinien, w.lage.BezAuswahl)) return;
     w.dokument.cboBeziehungsLinien.Entfernen(w.lage.BezAuswahl);
-    LöschenAbschließen(w);
-}
-
-void TextLöschen(Werkbank &w) {
-    w.auswahl.lstMovedText.Leeren();
-    if (!Gültig(w.dokument.cboTextboxen, w.lage.TextAuswahl)) return;
-    w.dokument.cboTextboxen.Entfernen(w.lage.TextAuswahl);
-    MarkerParken(w);
     LöschenAbschließen(w);
 }
 

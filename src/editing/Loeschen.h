@@ -10,7 +10,6 @@ namespace kw {
 void SymbolLöschen(Werkbank &w);
 void PLinieLöschen(Werkbank &w);
 void BezLinieLöschen(Werkbank &w);
-void TextLöschen(Werkbank &w);
 /// Everything in the selection lists but partnership lines: those go with a partner only.
 void AuswahlLöschen(Werkbank &w);
 

@@ -9,9 +9,6 @@ namespace kw {
 
 namespace {
 
-constexpr double TextRandLinks = 0.1;  ///< the frame of a text box begins that far left of it
-constexpr double TextMaskeMehr = 0.22; ///< the drag mask is that much wider than the text
-
 Umriss MaskenForm(int typ) {
     switch (typ) {
     case 1:
@@ -109,27 +106,6 @@ void PersonAuswählen(Werkbank &w, int position) {
     lage.Aktion = Aktion::PersonGewählt;
     GrößeMenüsPrüfen(w);
     PersonInfoAnzeigen(w, feld);
-}
-
-void TextboxAuswählen(Werkbank &w, int position) {
-    Leinwandlage &lage = w.lage;
-    Gummi1Parken(w);
-    MarkierungsListBoxenLöschen(w);
-    lage.PersRecord.clear();
-    lage.TextAuswahl = position;
-    lage.ElementArt = "Textbox";
-    lage.TextRecord = w.dokument.cboTextboxen.Satz(position);
-    const Felder feld(lage.TextRecord);
-    const double links = ZahlLesen(feld.OderLeer(TextFeld::TextX));
-    const double oben = ZahlLesen(feld.OderLeer(TextFeld::TextY));
-    lage.AuswahlX = links - TextRandLinks;
-    lage.AuswahlY = oben;
-    lage.MarkerBreite = ZahlLesen(feld.OderLeer(TextFeld::TextBreite)) + TextMaskeMehr;
-    lage.MarkerHöhe = lage.TextRahmenUnten;
-    Auflagenform &maske = w.auflagen.shpMask;
-    maske.Visible = false;
-    maske.Shape = Umriss::Rechteck;
-    maske.Legen(links, oben, lage.MarkerBreite, lage.MarkerHöhe);
 }
 
 std::string ZwillingNr(std::string_view zwilling) {

@@ -28,8 +28,6 @@ void AllesAbwählen(Werkbank &w);
 
 /// Selects the person at `position` alone: lists, marker, drag mask and panel; `Aktion` 3.
 void PersonAuswählen(Werkbank &w, int position);
-/// Selects the text box at `position`, with marker and drag mask. The lists are emptied; `Aktion` is the caller's.
-void TextboxAuswählen(Werkbank &w, int position);
 /// Number of the other twin in field `Zwilling`, behind its mark; empty when there is none.
 std::string ZwillingNr(std::string_view zwilling);
 

@@ -57,18 +57,4 @@ int KindLinieBei(const Dokument &d, double x, double y, double auswahlGröße) {
     });
 }
 
-int TextboxBei(const Dokument &d, double x, double y) {
-    double breite = 0;
-    double höhe = 0;
-    return Erster(d.cboTextboxen, TextFeld::TextY + 1, [&](const Felder &f) {
-        if (f.Anzahl() > TextFeld::TextBreite) {
-            breite = ZahlLesen(f[TextFeld::TextBreite]);
-            höhe = ZahlLesen(f.OderLeer(TextFeld::TextHoehe));
-        }
-        const double links = ZahlLesen(f[TextFeld::TextX]);
-        const double oben = ZahlLesen(f[TextFeld::TextY]);
-        return Zwischen(x, links, links + breite) && Zwischen(y, oben, oben + höhe);
-    });
-}
-
 } // namespace kw

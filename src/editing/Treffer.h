@@ -16,7 +16,4 @@ int PLinieBei(const Dokument &dokument, double x, double y);
 /// The lines end half of `auswahlGröße` above the child's centre. That is the size of the person last hit, whoever
 /// that was, not of the child. Meant.
 int KindLinieBei(const Dokument &dokument, double x, double y, double auswahlGröße);
-/// Text boxes. A record without measures keeps those of the record before it. Meant.
-int TextboxBei(const Dokument &dokument, double x, double y);
-
 } // namespace kw

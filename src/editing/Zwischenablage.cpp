@@ -7,7 +7,7 @@
 #include "editing/Loeschen.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
-#include "editing/Treffer.h"
+#include "editing/Texte.h"
 
 #include <algorithm>
 #include <map>

@@ -1,0 +1,146 @@
+#include "editing/Texte.h"
+
+#include "document/Nachschlagen.h"
+#include "document/saetze/Textbox.h"
+#include "editing/Gesten.h"
+#include "editing/Marker.h"
+
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+constexpr double RandLinks = 0.1;   ///< the frame of a text box begins that far left of it
+constexpr double MaskeMehr = 0.22;  ///< the drag mask is that much wider than the text
+constexpr int NachDemEreignis = 60; ///< ms
+
+bool ImKasten(std::string_view satz, const Auswahlkasten &kasten, double /*raster*/) {
+    const TextSatz box(satz);
+    return box.HatMaße() &&
+           kasten.Überlappt(box.TextX(), box.TextY(), box.TextX() + box.TextBreite(), box.TextY() + box.TextHoehe());
+}
+
+std::string Verschoben(std::string_view satz, double dx, double dy, double raster) {
+    TextBau bau(satz);
+    if (raster <= 0) return bau.Verschieben(dx, dy).Text();
+    const auto gerastert = [&](double ort) { return Gerundet(Gerastert(ort, raster), 1); };
+    return bau.Ort(gerastert(bau.Stand().TextX() + dx), gerastert(bau.Stand().TextY() + dy)).Text();
+}
+
+void Umgeben(std::string_view satz, Umgebung &umgebung) {
+    const TextSatz box(satz, Lücken::Leer);
+    umgebung.Aufnehmen(box.TextX(), box.TextY(), box.TextBreite(), box.TextHoehe());
+}
+
+} // namespace
+
+const Gruppenart TexteInGruppen{
+    &Dokument::cboTextboxen, &Auswahl::lstMovedText, 0, &Zwischenablage::ZA_Textboxen, ImKasten, Verschoben, Umgeben};
+
+int TextboxBei(const Dokument &d, double x, double y) {
+    double breite = 0;
+    double höhe = 0;
+    for (int i = 0; i < d.cboTextboxen.Anzahl(); ++i) {
+        const TextSatz box(d.cboTextboxen.Satz(i), Lücken::Leer);
+        if (!box.HatOrt()) continue;
+        if (box.HatBreite()) {
+            breite = box.TextBreite();
+            höhe = box.TextHoehe();
+        }
+        if (Zwischen(x, box.TextX(), box.TextX() + breite) && Zwischen(y, box.TextY(), box.TextY() + höhe)) return i;
+    }
+    return -1;
+}
+
+void TextboxAuswählen(Werkbank &w, int position) {
+    Leinwandlage &lage = w.lage;
+    Gummi1Parken(w);
+    MarkierungsListBoxenLöschen(w);
+    lage.PersRecord.clear();
+    lage.TextAuswahl = position;
+    lage.ElementArt = "Textbox";
+    lage.TextRecord = w.dokument.cboTextboxen.Satz(position);
+    const TextSatz box(lage.TextRecord, Lücken::Leer);
+    lage.AuswahlX = box.TextX() - RandLinks;
+    lage.AuswahlY = box.TextY();
+    lage.MarkerBreite = box.TextBreite() + MaskeMehr;
+    lage.MarkerHöhe = lage.TextRahmenUnten;
+    Auflagenform &maske = w.auflagen.shpMask;
+    maske.Visible = false;
+    maske.Shape = Umriss::Rechteck;
+    maske.Legen(box.TextX(), box.TextY(), lage.MarkerBreite, lage.MarkerHöhe);
+}
+
+bool TextSetzen(Werkbank &w, const Ereignis &e) {
+    if (w.lage.Aktion != Aktion::TextGesetzt) return false;
+    w.lage.AuswahlX = RasterZehntel(w, e.X);
+    w.lage.AuswahlY = RasterZehntel(w, e.Y);
+    w.fenster.FormÖffnen("frmKommentar");
+    w.lage.Zeiger = Mauszeiger::Pfeil;
+    return true;
+}
+
+bool TextWarGefasst(Werkbank &w, const Ereignis &) {
+    if (w.lage.Aktion != Aktion::TextGefasst) return false;
+    w.lage.Aktion = Aktion::TextDialog;
+    w.fenster.FormÖffnen("frmKommentar");
+    return false;
+}
+
+bool TextTreffen(Werkbank &w, const Ereignis &e) {
+    const int i = TextboxBei(w.dokument, e.X, e.Y);
+    if (i < 0) return false;
+    TextboxAuswählen(w, i);
+    w.auswahl.lstMovedText.Anhängen(std::to_string(i));
+    w.lage.VersatzX = e.X - w.auflagen.shpMask.Left;
+    w.lage.VersatzY = e.Y - w.auflagen.shpMask.Top;
+    w.lage.Aktion = Aktion::TextGefasst;
+    w.fenster.Vorschau();
+    return true;
+}
+
+void TextZiehen(Werkbank &w, const Ereignis &e) {
+    const TextSatz box(w.lage.TextRecord, Lücken::Leer);
+    Auflagenform &maske = w.auflagen.shpMask;
+    maske.Legen(Raster(w, e.X - w.lage.VersatzX), Raster(w, e.Y - w.lage.VersatzY), box.TextBreite(), box.TextHoehe());
+    maske.Visible = true;
+}
+
+void TextLoslassen(Werkbank &w, const Ereignis &e) {
+    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
+    if (e.Rechts()) {
+        w.lage.Aktion = Aktion::MenüOffen;
+        w.fenster.PopupÖffnen("mnuTextBox");
+        return;
+    }
+    Satzliste &boxen = w.dokument.cboTextboxen;
+    const Auflagenform maske = std::exchange(w.auflagen.shpMask, {});
+    w.lage.Aktion = Aktion::TextGewählt;
+    if (!HatSichBewegt(w, e) || !Gültig(boxen, w.lage.TextAuswahl)) return;
+    const std::string alt = boxen.Satz(w.lage.TextAuswahl);
+    w.lage.TextRecord = TextBau(alt).Ort(RasterZehntel(w, maske.Left), RasterZehntel(w, maske.Top)).Text();
+    boxen.Ersetzen(w.lage.TextAuswahl, w.lage.TextRecord);
+    if (w.lage.TextRecord != alt) w.fenster.Sichern();
+    w.benutzer.ZeitgeberStarten("Timer4", NachDemEreignis); // redraws, once, behind the event
+}
+
+void TextLöschen(Werkbank &w) {
+    w.auswahl.lstMovedText.Leeren();
+    if (!Gültig(w.dokument.cboTextboxen, w.lage.TextAuswahl)) return;
+    w.dokument.cboTextboxen.Entfernen(w.lage.TextAuswahl);
+    MarkerParken(w);
+    LöschenAbschließen(w);
+}
+
+void LetzteTextboxLöschen(Werkbank &w) {
+    w.lage.ElementArt.clear();
+    if (!Gültig(w.dokument.cboTextboxen, w.lage.TextAuswahl)) return;
+    w.dokument.cboTextboxen.Entfernen(w.lage.TextAuswahl);
+    PositionenVergessen(w.lage);
+    w.auswahl.lstMovedText.Leeren();
+    w.fenster.Vorschau();
+    w.fenster.Sichern();
+}
+
+} // namespace kw

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "editing/Gruppenart.h"
+
+// Text boxes.
+namespace kw {
+
+struct Ereignis;
+struct Werkbank;
+
+/// Position of the first text box under the point, -1 none. A record without measures keeps those of the record before
+/// it. Meant.
+int TextboxBei(const Dokument &dokument, double x, double y);
+/// Selects the text box at `position`, with marker and drag mask. The lists are emptied; `Aktion` is the caller's.
+void TextboxAuswählen(Werkbank &w, int position);
+
+// A press: with the tool in hand; with a box in hand whose release got lost; on a box. Each says whether the event ends
+// with it.
+bool TextSetzen(Werkbank &w, const Ereignis &e);
+bool TextWarGefasst(Werkbank &w, const Ereignis &e);
+bool TextTreffen(Werkbank &w, const Ereignis &e);
+
+void TextZiehen(Werkbank &w, const Ereignis &e);
+void TextLoslassen(Werkbank &w, const Ereignis &e);
+
+/// The selected box.
+void TextLöschen(Werkbank &w);
+/// The box that was selected last, however: what deleting does while `ElementArt` says "Textbox".
+void LetzteTextboxLöschen(Werkbank &w);
+
+extern const Gruppenart TexteInGruppen;
+
+} // namespace kw
