@@ -6,6 +6,7 @@
 #include "document/Zahlen.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
+#include "editing/Legende.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Rahmenauswahl.h"
@@ -52,34 +53,6 @@ bool OrtMerken(Werkbank &w, const Ereignis &e) {
     w.lage.LetztX = w.lage.DownX = Gerundet(e.X, 2);
     w.lage.LetztY = w.lage.DownY = Gerundet(e.Y, 2);
     return false;
-}
-
-/// By the place of the last move, not of the press. Meant.
-bool LegendeUnterMaus(const Werkbank &w) {
-    const Dokument &d = w.dokument;
-    return w.bedienung["btnLegende"].Checked && Kleiner(d.LegendeX, w.lage.MausX) &&
-           Kleiner(d.LegendeY, w.lage.MausY) && Kleiner(w.lage.MausX, d.LegendeX + w.legende.LegendeBreite) &&
-           Kleiner(w.lage.MausY, d.LegendeY + w.legende.LegendeHoehe);
-}
-
-bool LegendeFassen(Werkbank &w, const Ereignis &e) {
-    if (!LegendeUnterMaus(w)) return false;
-    LinkAbbrechen(w);
-    if (w.lage.Aktion == Aktion::GruppeGewählt) {
-        AuswahlrahmenParken(w);
-        MarkierungsListBoxenLöschen(w);
-    }
-    w.lage.Aktion = Aktion::LegendeGefasst;
-    Auflagenform &maske = w.auflagen.shpMask;
-    maske.Shape = Umriss::Rechteck;
-    maske.Legen(w.dokument.LegendeX, w.dokument.LegendeY, w.legende.LegendeBreite, w.legende.LegendeHoehe);
-    maske.Visible = e.Links();
-    w.lage.VersatzX = e.X - maske.Left;
-    w.lage.VersatzY = e.Y - maske.Top;
-    if (!e.Rechts()) return true;
-    PopupÖffnen(w, "mnuLegende");
-    if (w.lage.Aktion == Aktion::LegendeGefasst) w.lage.Aktion = Aktion::Nichts;
-    return true;
 }
 
 bool GruppeFassen(Werkbank &w, const Ereignis &e) {

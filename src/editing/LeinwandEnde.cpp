@@ -4,6 +4,7 @@
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
 #include "editing/Kreislinien.h"
+#include "editing/Legende.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Rahmenauswahl.h"
@@ -64,16 +65,6 @@ void BildLoslassen(Werkbank &w) {
 void Leinwand::GesteAbbrechen() {
     LinkAbbrechen(w);
     if (std::exchange(w.lage.Gedrückt, false)) ZugAbbrechen(w);
-}
-
-void LinkAbbrechen(Werkbank &w) {
-    if (w.lage.Aktion != Aktion::BeziehungZiehen && w.lage.Aktion != Aktion::PartnerschaftZiehen &&
-        w.lage.Aktion != Aktion::KindZiehen)
-        return;
-    LinkAufräumen(w);
-    MarkierungsListBoxenLöschen(w); // positions of the two, which nothing else must take for numbers
-    w.lage.PLinieUnterMaus = false;
-    w.lage.Aktion = Aktion::Nichts;
 }
 
 void ZugAbbrechen(Werkbank &w) {
@@ -150,18 +141,5 @@ void KindLinieLoslassen(Werkbank &w, const Ereignis &) { w.bedienung["mnuLösche
 void RahmenLoslassen(Werkbank &w, const Ereignis &) { RahmenAuswählen(w); }
 
 void GruppeLoslassen(Werkbank &w, const Ereignis &) { GruppeBewegen(w); }
-
-void LegendeLoslassen(Werkbank &w, const Ereignis &) {
-    const double x = RasterZehntel(w, w.auflagen.shpMask.Left);
-    const double y = RasterZehntel(w, w.auflagen.shpMask.Top);
-    if (x != w.dokument.LegendeX || y != w.dokument.LegendeY) w.fenster.AlsGeändertMerken();
-    w.dokument.LegendeX = x;
-    w.dokument.LegendeY = y;
-    LegendeAufbauen(w.dokument, w.legende);
-    w.fenster.Vorschau();
-    w.lage.Aktion = Aktion::Nichts;
-    w.auflagen.shpMask.Parken();
-    w.auflagen.shpMask.Visible = false;
-}
 
 } // namespace kw

@@ -9,7 +9,6 @@ namespace kw {
 bool Zurücksetzen(Werkbank &w, const Ereignis &e);
 bool BildBeginnen(Werkbank &w, const Ereignis &e);
 bool OrtMerken(Werkbank &w, const Ereignis &e);
-bool LegendeFassen(Werkbank &w, const Ereignis &e);
 bool GruppeFassen(Werkbank &w, const Ereignis &e);
 bool KindLinkBeenden(Werkbank &w, const Ereignis &e);
 bool MenüWarOffen(Werkbank &w, const Ereignis &e);
@@ -22,8 +21,6 @@ bool RahmenBeginnen(Werkbank &w, const Ereignis &e);
 bool BezLinieTreffer(Werkbank &w, double x, double y);
 bool PLinieTreffer(Werkbank &w, double x, double y);
 bool KindLinieTreffer(Werkbank &w, double x, double y);
-bool LegendeUnterMaus(const Werkbank &w);
-void LegendeZiehen(Werkbank &w, const Ereignis &e);
 void GruppeZiehen(Werkbank &w, const Ereignis &e);
 void LinkZiehen(Werkbank &w, const Ereignis &e);
 void KindLinkZiehen(Werkbank &w, const Ereignis &e);
@@ -38,8 +35,6 @@ void KindLinieLoslassen(Werkbank &w, const Ereignis &e);
 void RahmenLoslassen(Werkbank &w, const Ereignis &e);
 void BildLoslassen(Werkbank &w);
 void GruppeLoslassen(Werkbank &w, const Ereignis &e);
-void LegendeLoslassen(Werkbank &w, const Ereignis &e);
-void LinkAbbrechen(Werkbank &w);
 void ZugAbbrechen(Werkbank &w);
 
 } // namespace kw

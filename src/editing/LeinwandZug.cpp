@@ -4,6 +4,7 @@
 #include "document/Felder.h"
 #include "document/Zahlen.h"
 #include "editing/Kreislinien.h"
+#include "editing/Legende.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
@@ -43,11 +44,6 @@ void Leinwand::MouseMove(int taste, double x, double y) {
     if (zug != std::end(Züge)) zug->Ziehen(w, e);
     if (w.lage.Aktion == Aktion::TextGesetzt) w.lage.Zeiger = Mauszeiger::Textfeld;
     if (w.lage.Aktion == Aktion::PersonSetzen) w.lage.Zeiger = Mauszeiger::Person;
-}
-
-void LegendeZiehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.shpMask.Left = Raster(w, e.X - w.lage.VersatzX);
-    w.auflagen.shpMask.Top = Raster(w, e.Y - w.lage.VersatzY);
 }
 
 void GruppeZiehen(Werkbank &w, const Ereignis &e) {

@@ -69,6 +69,16 @@ void LinkAufräumen(Werkbank &w) {
     w.lage.lblPersAuswahl.clear();
 }
 
+void LinkAbbrechen(Werkbank &w) {
+    if (w.lage.Aktion != Aktion::BeziehungZiehen && w.lage.Aktion != Aktion::PartnerschaftZiehen &&
+        w.lage.Aktion != Aktion::KindZiehen)
+        return;
+    LinkAufräumen(w);
+    MarkierungsListBoxenLöschen(w); // positions of the two, which nothing else must take for numbers
+    w.lage.PLinieUnterMaus = false;
+    w.lage.Aktion = Aktion::Nichts;
+}
+
 void PositionenVergessen(Leinwandlage &lage) {
     lage.PersAuswahl = lage.KreisAuswahl = 0;
     lage.TextAuswahl = lage.BezAuswahl = lage.PLinieAuswahl = lage.KindAuswahl = lage.PfeilAuswahl = -1;

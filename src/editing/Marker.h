@@ -21,6 +21,8 @@ void Gummi2Parken(Werkbank &w);
 void AuswahlrahmenParken(Werkbank &w);
 /// The end of a link gesture, however it ends: rubber lines and marks of the target go.
 void LinkAufräumen(Werkbank &w);
+/// Ends a link gesture with nothing made, if there is one.
+void LinkAbbrechen(Werkbank &w);
 /// Forgets the positions of single selected elements: after records have gone or others are selected.
 void PositionenVergessen(Leinwandlage &lage);
 /// Nothing selected, no gesture, every shape out of the way; no redraw. Before other records come into the stores.

@@ -1,0 +1,53 @@
+#include "editing/Legende.h"
+
+#include "editing/Gesten.h"
+#include "editing/Marker.h"
+
+namespace kw {
+
+bool LegendeUnterMaus(const Werkbank &w) {
+    const Dokument &d = w.dokument;
+    return w.bedienung["btnLegende"].Checked && Kleiner(d.LegendeX, w.lage.MausX) &&
+           Kleiner(d.LegendeY, w.lage.MausY) && Kleiner(w.lage.MausX, d.LegendeX + w.legende.LegendeBreite) &&
+           Kleiner(w.lage.MausY, d.LegendeY + w.legende.LegendeHoehe);
+}
+
+bool LegendeFassen(Werkbank &w, const Ereignis &e) {
+    if (!LegendeUnterMaus(w)) return false;
+    LinkAbbrechen(w);
+    if (w.lage.Aktion == Aktion::GruppeGewählt) {
+        AuswahlrahmenParken(w);
+        MarkierungsListBoxenLöschen(w);
+    }
+    w.lage.Aktion = Aktion::LegendeGefasst;
+    Auflagenform &maske = w.auflagen.shpMask;
+    maske.Shape = Umriss::Rechteck;
+    maske.Legen(w.dokument.LegendeX, w.dokument.LegendeY, w.legende.LegendeBreite, w.legende.LegendeHoehe);
+    maske.Visible = e.Links();
+    w.lage.VersatzX = e.X - maske.Left;
+    w.lage.VersatzY = e.Y - maske.Top;
+    if (!e.Rechts()) return true;
+    PopupÖffnen(w, "mnuLegende");
+    if (w.lage.Aktion == Aktion::LegendeGefasst) w.lage.Aktion = Aktion::Nichts;
+    return true;
+}
+
+void LegendeZiehen(Werkbank &w, const Ereignis &e) {
+    w.auflagen.shpMask.Left = Raster(w, e.X - w.lage.VersatzX);
+    w.auflagen.shpMask.Top = Raster(w, e.Y - w.lage.VersatzY);
+}
+
+void LegendeLoslassen(Werkbank &w, const Ereignis &) {
+    const double x = RasterZehntel(w, w.auflagen.shpMask.Left);
+    const double y = RasterZehntel(w, w.auflagen.shpMask.Top);
+    if (x != w.dokument.LegendeX || y != w.dokument.LegendeY) w.fenster.AlsGeändertMerken();
+    w.dokument.LegendeX = x;
+    w.dokument.LegendeY = y;
+    LegendeAufbauen(w.dokument, w.legende);
+    w.fenster.Vorschau();
+    w.lage.Aktion = Aktion::Nichts;
+    w.auflagen.shpMask.Parken();
+    w.auflagen.shpMask.Visible = false;
+}
+
+} // namespace kw
