@@ -10,6 +10,7 @@
 #include "document/UndoRing.h"
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
+#include "editing/Bildausschnitt.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
 #include "editing/Loeschen.h"

@@ -4,6 +4,7 @@
 #include "document/Felder.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
+#include "editing/Bildausschnitt.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
 #include "editing/Legende.h"
@@ -38,15 +39,6 @@ bool Zurücksetzen(Werkbank &w, const Ereignis &e) {
     w.lage.Info.Visible = false;
     w.bedienung["mnustr14"].Visible = false;
     return false;
-}
-
-/// A region of the picture can begin anywhere, whatever lies there.
-bool BildBeginnen(Werkbank &w, const Ereignis &e) {
-    if (!w.lage.BildAuswahl) return false;
-    w.lage.Aktion = Aktion::RahmenZiehen;
-    w.lage.AnkerX = Raster(w, e.X);
-    w.lage.AnkerY = Raster(w, e.Y);
-    return true;
 }
 
 bool OrtMerken(Werkbank &w, const Ereignis &e) {

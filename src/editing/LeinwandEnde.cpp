@@ -3,6 +3,7 @@
 
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
+#include "editing/Bildausschnitt.h"
 #include "editing/Kreislinien.h"
 #include "editing/Legende.h"
 #include "editing/Marker.h"
@@ -47,19 +48,6 @@ void Leinwand::MouseUp(int taste, double x, double y) {
         ende.Loslassen(w, e);
         return;
     }
-}
-
-/// A click, or a frame not much larger than one, is no region: it only puts the tool away.
-void BildLoslassen(Werkbank &w) {
-    constexpr double Kleinstes = 1.2; // cm, on both axes
-    const Auflagenform &box = w.auflagen.shpBox;
-    const Bildausschnitt region{box.Left, box.Top, box.Width, box.Height};
-    if (Kleiner(Kleinstes, region.Width) && Kleiner(Kleinstes, region.Height))
-        w.fenster.AusschnittAusgeben(region, w.lage.bAuswahlInDatei);
-    AuswahlrahmenParken(w);
-    w.lage.BildAuswahl = false;
-    w.lage.Zeiger = Mauszeiger::Pfeil;
-    w.lage.Aktion = Aktion::Nichts;
 }
 
 void Leinwand::GesteAbbrechen() {

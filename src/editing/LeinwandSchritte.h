@@ -7,7 +7,6 @@
 namespace kw {
 
 bool Zurücksetzen(Werkbank &w, const Ereignis &e);
-bool BildBeginnen(Werkbank &w, const Ereignis &e);
 bool OrtMerken(Werkbank &w, const Ereignis &e);
 bool GruppeFassen(Werkbank &w, const Ereignis &e);
 bool KindLinkBeenden(Werkbank &w, const Ereignis &e);
@@ -33,7 +32,6 @@ void BalkenLoslassen(Werkbank &w, const Ereignis &e);
 void BezLinieLoslassen(Werkbank &w, const Ereignis &e);
 void KindLinieLoslassen(Werkbank &w, const Ereignis &e);
 void RahmenLoslassen(Werkbank &w, const Ereignis &e);
-void BildLoslassen(Werkbank &w);
 void GruppeLoslassen(Werkbank &w, const Ereignis &e);
 void ZugAbbrechen(Werkbank &w);
 

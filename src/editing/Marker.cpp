@@ -79,6 +79,15 @@ void LinkAbbrechen(Werkbank &w) {
     w.lage.Aktion = Aktion::Nichts;
 }
 
+void AuswahlAufgeben(Werkbank &w) {
+    w.lage.BildAuswahl = false;
+    MarkierungsListBoxenLöschen(w);
+    w.lage.PersRecord.clear();
+    AuswahlrahmenParken(w);
+    LinkAufräumen(w);
+    MarkerEntfernen(w);
+}
+
 void PositionenVergessen(Leinwandlage &lage) {
     lage.PersAuswahl = lage.KreisAuswahl = 0;
     lage.TextAuswahl = lage.BezAuswahl = lage.PLinieAuswahl = lage.KindAuswahl = lage.PfeilAuswahl = -1;

@@ -23,6 +23,8 @@ void AuswahlrahmenParken(Werkbank &w);
 void LinkAufräumen(Werkbank &w);
 /// Ends a link gesture with nothing made, if there is one.
 void LinkAbbrechen(Werkbank &w);
+/// What a tool begins with: what was selected or armed ends. Also redraws, without it.
+void AuswahlAufgeben(Werkbank &w);
 /// Forgets the positions of single selected elements: after records have gone or others are selected.
 void PositionenVergessen(Leinwandlage &lage);
 /// Nothing selected, no gesture, every shape out of the way; no redraw. Before other records come into the stores.

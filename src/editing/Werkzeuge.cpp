@@ -75,16 +75,6 @@ bool IstGedrückt(const Leinwandlage &lage, const Werkzeug &werkzeug) {
     return lage.Aktion != Aktion::PersonSetzen || werkzeug.Typ == lage.SymbolTyp;
 }
 
-/// What a tool begins with. Also redraws, without what was selected.
-void AuswahlAufgeben(Werkbank &w) {
-    w.lage.BildAuswahl = false;
-    MarkierungsListBoxenLöschen(w);
-    w.lage.PersRecord.clear();
-    AuswahlrahmenParken(w);
-    LinkAufräumen(w);
-    MarkerEntfernen(w);
-}
-
 } // namespace
 
 std::string WerkzeugName(int nummer) { return "cmdSymb(" + std::to_string(nummer) + ")"; }
@@ -109,16 +99,6 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
     }
     if (werkzeug->PfeilArt) lage.PfeilArt = werkzeug->PfeilArt;
     if (nummer == WerkzeugKreislinie) lage.KreisAuswahl = 0;
-}
-
-void BildauswahlBeginnen(Werkbank &w, bool inDatei) {
-    const bool weglegen = w.lage.BildAuswahl && w.lage.bAuswahlInDatei == inDatei;
-    w.lage.Aktion = Aktion::Nichts;
-    AuswahlAufgeben(w);
-    PositionenVergessen(w.lage);
-    w.lage.Zeiger = weglegen ? Mauszeiger::Pfeil : Mauszeiger::Kreuz;
-    w.lage.BildAuswahl = !weglegen;
-    w.lage.bAuswahlInDatei = inDatei;
 }
 
 void cmdZwillinge(Werkbank &w) {

@@ -28,10 +28,6 @@ std::string WerkzeugName(int nummer);
 /// before ends. Tools that need a selected person arm nothing without one.
 void WerkzeugDrücken(Werkbank &w, int nummer);
 
-/// Arms the tool that cuts a region out of the picture, for a file or for the clipboard. What was selected or armed
-/// before ends, so that no marks get into the picture. The same button again puts the tool away.
-void BildauswahlBeginnen(Werkbank &w, bool inDatei);
-
 /// The palette's button for twins: opens `mnuZwillinge`.
 void cmdZwillinge(Werkbank &w);
 
