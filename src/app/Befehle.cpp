@@ -13,6 +13,7 @@
 #include "editing/Bildausschnitt.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
+#include "editing/Linien.h"
 #include "editing/Loeschen.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"

@@ -1,9 +1,7 @@
 #include "dialogs/frmBezLinien.h"
 
 #include "document/Felder.h"
-#include "editing/Bewegen.h"
-#include "editing/Loeschen.h"
-#include "editing/Verbindungen.h"
+#include "editing/Linien.h"
 #include "rendering/Ebenen.h"
 
 #include <array>

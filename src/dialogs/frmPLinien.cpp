@@ -3,7 +3,7 @@
 #include "dialogs/Bildtext.h"
 #include "document/Felder.h"
 #include "document/Zahlen.h"
-#include "editing/Bewegen.h"
+#include "editing/Linien.h"
 #include "rendering/Ebenen.h"
 
 #include <algorithm>

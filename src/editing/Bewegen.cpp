@@ -1,7 +1,9 @@
 #include "editing/Bewegen.h"
 
 #include "document/saetze/Kreislinie.h"
+#include "document/saetze/Partnerschaft.h"
 #include "editing/Kinder.h"
+#include "editing/Linien.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
 #include "editing/Treffer.h"
@@ -18,49 +20,6 @@ struct Bewegter {
     std::string_view Nr;
     double X, Y;
 };
-
-void BeziehungenBewegen(Dokument &d, const Bezüge &bezüge, const Bewegter &p) {
-    for (const int i : bezüge.Beziehungen(p.Nr)) {
-        Feldbau satz(d.cboBeziehungsLinien.Satz(i), BezFeld::Anzahl);
-        const bool erste = satz.Feld(BezFeld::PersNr1) == p.Nr;
-        satz.Setzen(erste ? BezFeld::LinieX1 : BezFeld::LinieX2, Gerundet(p.X, 2));
-        satz.Setzen(erste ? BezFeld::LinieY1 : BezFeld::LinieY2, Gerundet(p.Y, 2));
-        d.cboBeziehungsLinien.Ersetzen(i, satz.TextOhneBlanks());
-    }
-}
-
-/// The bar's new height when a group takes it along: the bar as it stands before this step must lie within the
-/// frame as it stands after the move. A bar that is selected itself has then moved already, and moves twice. Meant.
-std::optional<double> BalkenInDerGruppe(const Werkbank &w, const Feldbau &satz) {
-    if (w.lage.Aktion != Aktion::GruppeGewählt) return std::nullopt;
-    const Auflagenform &rahmen = w.auflagen.shpBox;
-    const double x1 = satz.Zahl(PLinieFeld::BalkenX1) + w.lage.DeltaX;
-    const double x2 = satz.Zahl(PLinieFeld::BalkenX2) + w.lage.DeltaX;
-    if (Kleiner(x1, rahmen.Left) || Kleiner(rahmen.Left + rahmen.Width, x2)) return std::nullopt;
-    return Gerundet(satz.Zahl(PLinieFeld::BalkenY1) + w.lage.DeltaY, 1);
-}
-
-void PartnerschaftenBewegen(Werkbank &w, const Bezüge &bezüge, const Bewegter &p) {
-    Dokument &d = w.dokument;
-    const double raster = w.ansicht.Rasterweite;
-    const double x = Gerundet(Gerastert(p.X, raster), 1);
-    const double y = Gerundet(Gerastert(p.Y, raster), 1);
-    for (const int i : bezüge.Partnerschaften(p.Nr)) {
-        Feldbau satz(d.cboPartnerschaftsLinien.Satz(i), PLinieFeld::Anzahl);
-        if (satz.Feld(PLinieFeld::PersNr1) == p.Nr) {
-            const auto balkenY = BalkenInDerGruppe(w, satz);
-            satz.Setzen(PLinieFeld::BalkenX1, x);
-            satz.Setzen(PLinieFeld::AnschlussY1, y).Setzen(PLinieFeld::AnschlussX1, x);
-            if (balkenY) satz.Setzen(PLinieFeld::BalkenY1, *balkenY).Setzen(PLinieFeld::BalkenY2, *balkenY);
-        } else { // the bar's height follows the first partner only
-            satz.Setzen(PLinieFeld::BalkenX2, x);
-            satz.Setzen(PLinieFeld::AnschlussY2, y).Setzen(PLinieFeld::AnschlussX2, x);
-        }
-        d.cboPartnerschaftsLinien.Ersetzen(i, satz.Text());
-        KinderAnpassen(d, bezüge, satz.Feld(PLinieFeld::Nr), satz.Zahl(PLinieFeld::BalkenX1),
-                       satz.Zahl(PLinieFeld::BalkenX2), satz.Zahl(PLinieFeld::BalkenY2));
-    }
-}
 
 double PosX(const Dokument &d, int person) {
     return ZahlLesen(Felder(d.cboPersonen.Satz(person)).OderLeer(PersonFeld::PosX));
@@ -98,24 +57,6 @@ void AlsKindBewegen(Dokument &d, const Bezüge &bezüge, const Bewegter &p) {
         Feldbau zwilling(d.cboKindlinien.Satz(linie), KindFeld::Anzahl);
         zwilling.Setzen(KindFeld::LinieX, Gerundet(std::clamp(*mitte, links, rechts), 2));
         d.cboKindlinien.Ersetzen(linie, zwilling.TextOhneBlanks());
-    }
-}
-
-/// Shifts the selected partnership lines, and their children's lines, by the way of the group.
-void GruppeLinien(Werkbank &w, const Bezüge &bezüge) {
-    Dokument &d = w.dokument;
-    for (const auto &nr : w.auswahl.lstMovedPLines) {
-        const int i = bezüge.PLinie(nr);
-        if (i < 0) continue;
-        Feldbau satz(d.cboPartnerschaftsLinien.Satz(i), PLinieFeld::Anzahl);
-        satz.Erhöhen(PLinieFeld::BalkenX1, w.lage.DeltaX).Erhöhen(PLinieFeld::BalkenX2, w.lage.DeltaX);
-        satz.Erhöhen(PLinieFeld::BalkenY1, w.lage.DeltaY).Erhöhen(PLinieFeld::BalkenY2, w.lage.DeltaY);
-        d.cboPartnerschaftsLinien.Ersetzen(i, satz.Text());
-        for (const int kind : bezüge.KinderVon(nr)) {
-            Feldbau linie(d.cboKindlinien.Satz(kind), KindFeld::Anzahl);
-            linie.Erhöhen(KindFeld::LinieX, w.lage.DeltaX).Erhöhen(KindFeld::LinieY, w.lage.DeltaY);
-            d.cboKindlinien.Ersetzen(kind, linie.Text());
-        }
     }
 }
 
@@ -177,23 +118,29 @@ void GruppeÜbrige(Werkbank &w) {
 
 } // namespace
 
-void KinderAnpassen(Dokument &d, const Bezüge &bezüge, std::string_view plinie, double x1, double x2, double balkenY) {
-    const auto [links, rechts] = std::minmax(x1, x2);
-    for (const int i : bezüge.KinderVon(plinie)) {
+void KinderAnpassen(Dokument &d, const Bezüge &bezüge, std::string_view partnerschaft) {
+    const PartnerschaftSatz balken(partnerschaft);
+    const auto [links, rechts] = balken.Balkenbereich();
+    for (const int i : bezüge.KinderVon(balken.Nr())) {
         Feldbau satz(d.cboKindlinien.Satz(i), KindFeld::Anzahl);
         const int person = bezüge.Person(satz.Feld(KindFeld::KindNr));
         const auto mitte = person < 0 ? std::nullopt : ZwillingsMitte(d, bezüge, person);
         const double x = mitte.value_or(satz.Zahl(KindFeld::KindX));
-        satz.Setzen(KindFeld::LinieX, Gerundet(std::clamp(x, links, rechts), 2)).Setzen(KindFeld::LinieY, balkenY);
-        d.cboKindlinien.Ersetzen(i, satz.TextOhneBlanks());
+        satz.Setzen(KindFeld::LinieX, Gerundet(std::clamp(x, links, rechts), 2));
+        d.cboKindlinien.Ersetzen(i, satz.Setzen(KindFeld::LinieY, balken.BalkenY2()).TextOhneBlanks());
     }
 }
 
 void ElementeBewegen(Werkbank &w, const Bezüge &bezüge) {
+    Dokument &d = w.dokument;
     const Bewegter person{w.lage.PersNr, w.lage.NeuX, w.lage.NeuY};
-    BeziehungenBewegen(w.dokument, bezüge, person);
-    PartnerschaftenBewegen(w, bezüge, person);
-    AlsKindBewegen(w.dokument, bezüge, person);
+    const Auflagenform &rahmen = w.auflagen.shpBox;
+    std::optional<Balkenmitnahme> gruppe;
+    if (w.lage.Aktion == Aktion::GruppeGewählt)
+        gruppe = {w.lage.DeltaX, w.lage.DeltaY, rahmen.Left, rahmen.Left + rahmen.Width};
+    LinienNachziehen(d, bezüge, person.Nr, person.X, person.Y, w.ansicht.Rasterweite, gruppe);
+    for (const int i : bezüge.Partnerschaften(person.Nr)) KinderAnpassen(d, bezüge, d.cboPartnerschaftsLinien.Satz(i));
+    AlsKindBewegen(d, bezüge, person);
     MarkerParken(w);
 }
 
@@ -205,60 +152,11 @@ void GruppeBewegen(Werkbank &w) {
     lage.DeltaY = Gerundet(Gerundet(w.auflagen.shpBox.Top - lage.AltY, 6), 1);
     if (w.auswahl.Leer() || (lage.DeltaX == 0 && lage.DeltaY == 0)) return;
     const Bezüge bezüge(w.dokument);
-    GruppeLinien(w, bezüge);
+    BalkenMitbewegen(w.dokument, bezüge, w.auswahl.lstMovedPLines, lage.DeltaX, lage.DeltaY);
     GruppePersonen(w, bezüge);
     GruppeÜbrige(w);
     w.fenster.Vorschau();
     w.fenster.Sichern();
-}
-
-bool BalkenBewegen(Werkbank &w) {
-    Dokument &d = w.dokument;
-    const int i = w.lage.PLinieAuswahl;
-    if (i < 0 || i >= d.cboPartnerschaftsLinien.Anzahl()) return false;
-    const Auflagenlinie &linie = w.auflagen.Line1;
-    const double y = Gerundet(linie.Y1, 2);
-    Feldbau satz(d.cboPartnerschaftsLinien.Satz(i), PLinieFeld::Anzahl);
-    if (satz.Zahl(PLinieFeld::BalkenY1) == y && satz.Zahl(PLinieFeld::BalkenY2) == y) return false;
-    satz.Setzen(PLinieFeld::BalkenX1, Gerundet(linie.X1, 2)).Setzen(PLinieFeld::BalkenX2, Gerundet(linie.X2, 2));
-    satz.Setzen(PLinieFeld::BalkenY1, y).Setzen(PLinieFeld::BalkenY2, y);
-    d.cboPartnerschaftsLinien.Ersetzen(i, satz.Text());
-    for (int kind = 0; kind < d.cboKindlinien.Anzahl(); ++kind) {
-        if (Felder(d.cboKindlinien.Satz(kind)).OderLeer(KindFeld::PLinie) != satz.Feld(PLinieFeld::Nr)) continue;
-        Feldbau kindlinie(d.cboKindlinien.Satz(kind), KindFeld::Anzahl);
-        d.cboKindlinien.Ersetzen(kind, kindlinie.Setzen(KindFeld::LinieY, y).Text());
-    }
-    return true;
-}
-
-namespace {
-
-void LinieAngepasst(Werkbank &w) {
-    w.lage.Aktion = Aktion::Nichts;
-    Gummi1Parken(w);
-    w.fenster.Vorschau();
-    w.fenster.Sichern();
-}
-
-} // namespace
-
-void Bez_LinieAnpassen(Werkbank &w, std::string_view beziehungsart) {
-    Satzliste &linien = w.dokument.cboBeziehungsLinien;
-    const int i = w.lage.BezAuswahl;
-    if (i < 0 || i >= linien.Anzahl()) return;
-    Feldbau satz(linien.Satz(i), BezFeld::Anzahl);
-    linien.Ersetzen(i, satz.Setzen(BezFeld::Beziehungsart, beziehungsart).Text());
-    LinieAngepasst(w);
-}
-
-void P_LinieAnpassen(Werkbank &w, std::string_view distanziert, std::string_view status, std::string_view daten) {
-    Satzliste &linien = w.dokument.cboPartnerschaftsLinien;
-    const int i = w.lage.PLinieAuswahl;
-    if (i < 0 || i >= linien.Anzahl()) return;
-    Feldbau satz(linien.Satz(i), PLinieFeld::Anzahl);
-    satz.Setzen(PLinieFeld::Distanziert, distanziert).Setzen(PLinieFeld::Status, status);
-    linien.Ersetzen(i, satz.Setzen(PLinieFeld::Daten, daten).Text());
-    LinieAngepasst(w);
 }
 
 } // namespace kw

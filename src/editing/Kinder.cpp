@@ -1,5 +1,6 @@
 #include "editing/Kinder.h"
 
+#include "document/Verweise.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
 
@@ -50,22 +51,8 @@ void KindArtSetzen(Werkbank &w, std::string_view art) {
 }
 
 void KindLinieEntfernen(Werkbank &w) {
-    Dokument &d = w.dokument;
-    const int i = w.lage.KindAuswahl;
-    if (i < 0 || i >= d.cboKindlinien.Anzahl()) return;
-    const auto ändern = [&](int person, bool auchEltern) {
-        if (person < 0) return;
-        Feldbau satz(d.cboPersonen.Satz(person), PersonFeld::Anzahl);
-        if (auchEltern) satz.Setzen(PersonFeld::ElternLinie, "");
-        d.cboPersonen.Ersetzen(person, satz.Setzen(PersonFeld::Zwilling, "").Text());
-    };
-    const int kind = PersonMitNr(d, d.cboKindlinien.Satz(i));
-    if (kind >= 0) {
-        const std::string zwilling = ZwillingNr(Felder(d.cboPersonen.Satz(kind)).OderLeer(PersonFeld::Zwilling));
-        ändern(kind, true);
-        if (!zwilling.empty()) ändern(PersonMitNr(d, zwilling), false); // it keeps its parents
-    }
-    d.cboKindlinien.Entfernen(i);
+    if (!Gültig(w.dokument.cboKindlinien, w.lage.KindAuswahl)) return;
+    KindlinieEntfernen(w.dokument, w.lage.KindAuswahl);
     w.lage.KindAuswahl = -1;
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();

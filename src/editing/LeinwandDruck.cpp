@@ -8,6 +8,7 @@
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
 #include "editing/Legende.h"
+#include "editing/Linien.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Rahmenauswahl.h"
@@ -93,19 +94,6 @@ bool MenüWarOffen(Werkbank &w, const Ereignis &) {
     return ende;
 }
 
-/// The target is the person under the last move.
-bool LinkBeenden(Werkbank &w, const Ereignis &) {
-    if (w.lage.Aktion != Aktion::BeziehungZiehen && w.lage.Aktion != Aktion::PartnerschaftZiehen) return false;
-    LinkAufräumen(w);
-    w.lage.PersRecord.clear();
-    MarkierungsListBoxenLöschen(w);
-    if (w.lage.Aktion == Aktion::BeziehungZiehen) BeziehungAnlegen(w);
-    else PartnerschaftAnlegen(w);
-    w.lage.Aktion = Aktion::Nichts;
-    w.fenster.Vorschau();
-    return true;
-}
-
 bool PersonTreffen(Werkbank &w, const Ereignis &e) {
     MarkerEntfernen(w);
     w.lage.PersAuswahl = 0;
@@ -151,31 +139,6 @@ bool LinieTreffen(Werkbank &w, const Ereignis &e) {
     w.lage.Aktion = Aktion::Nichts;
     return BezLinieTreffer(w, e.X, e.Y) || PLinieTreffer(w, e.X, e.Y) || KindLinieTreffer(w, e.X, e.Y) ||
            PfeilTreffer(w, e.X, e.Y) || PfeilEndeTreffer(w, e.X, e.Y);
-}
-
-bool BezLinieTreffer(Werkbank &w, double x, double y) {
-    const int i = BezLinieBei(w.dokument, x, y);
-    if (i < 0) return false;
-    w.lage.BezAuswahl = i;
-    MarkierungsListBoxenLöschen(w);
-    w.lage.Aktion = Aktion::BeziehungGewählt;
-    w.bedienung["mnuLöschen1"].Enabled = true;
-    w.fenster.Vorschau();
-    return true;
-}
-
-bool PLinieTreffer(Werkbank &w, double x, double y) {
-    w.auswahl.lstMovedPLines.Leeren();
-    const int i = PLinieBei(w.dokument, x, y);
-    if (i < 0) return false;
-    w.lage.PLinieAuswahl = i;
-    w.lage.LinieVerschoben = false;
-    MarkierungsListBoxenLöschen(w);
-    w.auswahl.lstMovedPLines.Anhängen(std::to_string(i + 1));
-    if (w.lage.Aktion == Aktion::KindZiehen) return true; // a link gesture goes on
-    w.lage.Aktion = Aktion::PLinieGewählt;
-    w.fenster.Vorschau();
-    return true;
 }
 
 bool KindLinieTreffer(Werkbank &w, double x, double y) {

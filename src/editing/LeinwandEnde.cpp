@@ -6,6 +6,7 @@
 #include "editing/Bildausschnitt.h"
 #include "editing/Kreislinien.h"
 #include "editing/Legende.h"
+#include "editing/Linien.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Rahmenauswahl.h"
@@ -107,21 +108,6 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e) {
     w.fenster.Vorschau();
     w.auflagen.shpMask.Parken();
     if (!w.dokument.GleicheSätze(vorher)) w.fenster.Sichern();
-}
-
-void BalkenLoslassen(Werkbank &w, const Ereignis &) {
-    const bool verschoben = std::exchange(w.lage.LinieVerschoben, false) && BalkenBewegen(w);
-    if (verschoben) {
-        w.lage.Aktion = Aktion::Nichts;
-        Gummi1Parken(w);
-    }
-    w.fenster.Vorschau();
-    if (verschoben) w.fenster.Sichern();
-    w.bedienung["mnuLöschen1"].Enabled = !verschoben;
-}
-
-void BezLinieLoslassen(Werkbank &w, const Ereignis &e) {
-    if (e.Rechts()) w.fenster.PopupÖffnen("mnuBezLinie");
 }
 
 void KindLinieLoslassen(Werkbank &w, const Ereignis &) { w.bedienung["mnuLöschen1"].Enabled = true; }

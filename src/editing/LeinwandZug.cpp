@@ -5,6 +5,7 @@
 #include "document/Zahlen.h"
 #include "editing/Kreislinien.h"
 #include "editing/Legende.h"
+#include "editing/Linien.h"
 #include "editing/Marker.h"
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
@@ -26,13 +27,20 @@ void Leinwand::MouseMove(int taste, double x, double y) {
         void (*Ziehen)(Werkbank &, const Ereignis &);
     };
     static constexpr Zug Züge[] = {
-        {Aktion::PfeilZeichnen, true, PfeilAufziehen}, {Aktion::PfeilGefasst, true, PfeilZiehen},
-        {Aktion::PfeilEnde2, true, PfeilZiehen},       {Aktion::PfeilEnde1, true, PfeilZiehen},
-        {Aktion::KreisGewählt, true, KreisZiehen},     {Aktion::KreisZeichnen, true, KreisZeichnen},
-        {Aktion::LegendeGefasst, true, LegendeZiehen}, {Aktion::GruppeGewählt, true, GruppeZiehen},
-        {Aktion::BeziehungZiehen, false, LinkZiehen},  {Aktion::PartnerschaftZiehen, false, LinkZiehen},
-        {Aktion::KindZiehen, false, KindLinkZiehen},   {Aktion::TextGefasst, false, TextZiehen},
-        {Aktion::PersonGewählt, true, PersonZiehen},   {Aktion::PLinieGewählt, true, BalkenZiehen},
+        {Aktion::PfeilZeichnen, true, PfeilAufziehen},
+        {Aktion::PfeilGefasst, true, PfeilZiehen},
+        {Aktion::PfeilEnde2, true, PfeilZiehen},
+        {Aktion::PfeilEnde1, true, PfeilZiehen},
+        {Aktion::KreisGewählt, true, KreisZiehen},
+        {Aktion::KreisZeichnen, true, KreisZeichnen},
+        {Aktion::LegendeGefasst, true, LegendeZiehen},
+        {Aktion::GruppeGewählt, true, GruppeZiehen},
+        {Aktion::BeziehungZiehen, false, PersonVerknüpfen},
+        {Aktion::PartnerschaftZiehen, false, PersonVerknüpfen},
+        {Aktion::KindZiehen, false, KindLinkZiehen},
+        {Aktion::TextGefasst, false, TextZiehen},
+        {Aktion::PersonGewählt, true, PersonZiehen},
+        {Aktion::PLinieGewählt, true, BalkenZiehen},
         {Aktion::RahmenZiehen, true, RahmenZiehen},
     };
     w.lage.MausX = x;
@@ -51,7 +59,7 @@ void GruppeZiehen(Werkbank &w, const Ereignis &e) {
     w.auflagen.shpBox.Top = Raster(w, e.Y - w.lage.VersatzY);
 }
 
-void LinkZiehen(Werkbank &w, const Ereignis &e) { kw::LinkZiehen(w, e.X, e.Y); }
+void PersonVerknüpfen(Werkbank &w, const Ereignis &e) { LinkZiehen(w, PersonBei(w.dokument, e.X, e.Y), e.X, e.Y); }
 
 void KindLinkZiehen(Werkbank &w, const Ereignis &e) {
     w.auflagen.Line2.Legen(w.lage.GummiX, w.lage.GummiY - w.lage.SymbolGröße / 2, e.X,
@@ -72,15 +80,6 @@ void PersonZiehen(Werkbank &w, const Ereignis &e) {
     maske.Top = Raster(w, e.Y - w.lage.VersatzY) - w.lage.SymbolGröße / 2;
     if (Kleiner(schritt, std::fabs(e.X - w.lage.DownX)) || Kleiner(schritt, std::fabs(e.Y - w.lage.DownY)))
         maske.Visible = true;
-}
-
-/// A bar goes up and down only.
-void BalkenZiehen(Werkbank &w, const Ereignis &e) {
-    const Felder feld(w.dokument.cboPartnerschaftsLinien.Satz(w.lage.PLinieAuswahl));
-    const double y = Raster(w, e.Y);
-    w.auflagen.Line1.Legen(ZahlLesen(feld[PLinieFeld::BalkenX1]), y, ZahlLesen(feld[PLinieFeld::BalkenX2]), y);
-    w.auflagen.Line1.Visible = true;
-    w.lage.LinieVerschoben = true;
 }
 
 void RahmenZiehen(Werkbank &w, const Ereignis &e) {

@@ -8,8 +8,6 @@ namespace kw {
 /// The selected person with every line that names it, or the selected text box. Within a group no redraw and no
 /// snapshot.
 void SymbolLöschen(Werkbank &w);
-void PLinieLöschen(Werkbank &w);
-void BezLinieLöschen(Werkbank &w);
 /// Everything in the selection lists but partnership lines: those go with a partner only.
 void AuswahlLöschen(Werkbank &w);
 

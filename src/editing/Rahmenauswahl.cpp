@@ -3,8 +3,10 @@
 #include "document/Felder.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Kreislinie.h"
+#include "document/saetze/Partnerschaft.h"
 #include "editing/Geometrie.h"
 #include "editing/Kinder.h"
+#include "editing/Linien.h"
 #include "editing/Marker.h"
 #include "editing/Treffer.h"
 
@@ -22,15 +24,6 @@ bool PersonImRahmen(const Felder &feld, const Auswahlkasten &k) {
     const double y = ZahlLesen(feld[PersonFeld::PosY]);
     const double halb = ZahlLesen(feld[PersonFeld::Groesse]) / 2 - SymbolÜberlappung;
     return k.Überlappt(x - halb, y - halb, x + halb, y + halb);
-}
-
-bool BalkenImRahmen(const Felder &feld, const Auswahlkasten &k) {
-    const auto [links, rechts] =
-        std::minmax({ZahlLesen(feld[PLinieFeld::BalkenX1]), ZahlLesen(feld[PLinieFeld::BalkenX2])});
-    const double y = ZahlLesen(feld[PLinieFeld::BalkenY2]);
-    if (!Kleiner(k.Oben, y) || !Kleiner(y, k.Unten)) return false;
-    const auto drin = [&](double x) { return Kleiner(k.Links, x) && Kleiner(x, k.Rechts); };
-    return drin(links) || drin(rechts) || (Kleiner(links, k.Links) && Kleiner(k.Rechts, rechts));
 }
 
 /// Whether a sample of the arrow lies in the box. Samples begin at the first end, of an upright arrow at the upper
@@ -85,8 +78,9 @@ void RahmenAuswählen(Werkbank &w) {
         const double y = ZahlLesen(f[TextFeld::TextY]);
         return k.Überlappt(x, y, x + ZahlLesen(f[TextFeld::TextBreite]), y + ZahlLesen(f[TextFeld::TextHoehe]));
     });
-    NummernEintragen(a.lstMovedPLines, d.cboPartnerschaftsLinien, PLinieFeld::Anzahl,
-                     [&](const Felder &f) { return BalkenImRahmen(f, k); });
+    a.lstMovedPLines.Leeren();
+    for (const auto &satz : d.cboPartnerschaftsLinien)
+        if (BalkenImKasten(satz, k)) a.lstMovedPLines.Anhängen(std::string(PartnerschaftSatz(satz).Nr()));
     a.lstMovedKreisLinien.Leeren();
     for (int i = 0; i < d.cboFreehandlines.Anzahl(); ++i) {
         const auto punkte = KreisPunkte(d.cboFreehandlines.Satz(i));

@@ -19,15 +19,6 @@ template <typename Passt> int Erster(const Satzliste &speicher, int felder, Pass
     return -1;
 }
 
-/// A hit test over the numbers of four fields.
-struct Strecke {
-    int X1, Y1, X2, Y2;
-    bool Getroffen(const Felder &feld, double x, double y) const {
-        return SegmentGetroffen(ZahlLesen(feld[X1]), ZahlLesen(feld[Y1]), ZahlLesen(feld[X2]), ZahlLesen(feld[Y2]), x,
-                                y);
-    }
-};
-
 } // namespace
 
 int PersonBei(const Dokument &d, double x, double y) {
@@ -35,18 +26,6 @@ int PersonBei(const Dokument &d, double x, double y) {
         const double halb = ZahlLesen(feld[PersonFeld::Groesse]) / 2;
         return Kleiner(std::fabs(x - ZahlLesen(feld[PersonFeld::PosX])), halb) &&
                Kleiner(std::fabs(y - ZahlLesen(feld[PersonFeld::PosY])), halb);
-    });
-}
-
-int BezLinieBei(const Dokument &d, double x, double y) {
-    constexpr Strecke Linie{BezFeld::LinieX1, BezFeld::LinieY1, BezFeld::LinieX2, BezFeld::LinieY2};
-    return Erster(d.cboBeziehungsLinien, BezFeld::Anzahl, [&](const Felder &f) { return Linie.Getroffen(f, x, y); });
-}
-
-int PLinieBei(const Dokument &d, double x, double y) {
-    return Erster(d.cboPartnerschaftsLinien, PLinieFeld::Anzahl, [&](const Felder &f) {
-        return AchsenlinieGetroffen(ZahlLesen(f[PLinieFeld::BalkenX1]), ZahlLesen(f[PLinieFeld::BalkenY1]),
-                                    ZahlLesen(f[PLinieFeld::BalkenX2]), ZahlLesen(f[PLinieFeld::BalkenY2]), x, y);
     });
 }
 

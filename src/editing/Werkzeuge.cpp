@@ -3,6 +3,7 @@
 #include "document/Felder.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
+#include "editing/Linien.h"
 #include "editing/Marker.h"
 #include "editing/Verbindungen.h"
 

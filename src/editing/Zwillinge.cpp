@@ -1,5 +1,6 @@
 #include "document/Texte.h"
 #include "editing/Kinder.h"
+#include "editing/Linien.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
 #include "editing/Verbindungen.h"

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "document/Nachschlagen.h"
+
+#include <optional>
+#include <string_view>
+
+// Partnership and relationship lines. Lines hold their own ends, so they are rewritten whenever a person moves.
+namespace kw {
+
+struct Auswahlkasten;
+struct Dokument;
+struct Ereignis;
+struct Werkbank;
+
+/// Position of the first relationship line under the point, -1 none.
+int BezLinieBei(const Dokument &dokument, double x, double y);
+/// The same for bars of partnerships; one that isn't level or upright is never hit.
+int PLinieBei(const Dokument &dokument, double x, double y);
+/// Whether a marquee takes the bar of that record in; a damaged one never.
+bool BalkenImKasten(std::string_view satz, const Auswahlkasten &kasten);
+
+// A press on one selects it; each says whether the event ends with it. In a link gesture of a child a bar that is
+// touched is taken in hand without ending the gesture.
+bool BezLinieTreffer(Werkbank &w, double x, double y);
+bool PLinieTreffer(Werkbank &w, double x, double y);
+
+/// A bar follows the pointer, up and down only; released, it and its children's lines take that height.
+void BalkenZiehen(Werkbank &w, const Ereignis &e);
+void BalkenLoslassen(Werkbank &w, const Ereignis &e);
+void BezLinieLoslassen(Werkbank &w, const Ereignis &e);
+
+// How they are made (Linienzug.cpp): by a link gesture from the selected person to another.
+
+/// Finds the selected person's centre, from which a rubber line starts.
+void RubberStart(Werkbank &w);
+/// Each starts a link gesture from the selected person.
+void mnuPartnerschaftsLinie(Werkbank &w);
+void mnuBeziehungErstellen2(Werkbank &w);
+/// The pointer is at (x, y), over the person at that position or over none (-1): sets `ZielPerson`, the rubber line and
+/// the marks on the target.
+void LinkZiehen(Werkbank &w, int person, double x, double y);
+/// A press ends the gesture at the person under the last move. Says whether the event ends with it.
+bool LinkBeenden(Werkbank &w, const Ereignis &e);
+/// A partnership line between link target and selected person; while `Aktion` is 23 between `PersNrA` and
+/// `PersNrB`. Nothing when the same pair has one, in the same order.
+void PartnerschaftAnlegen(Werkbank &w);
+/// A couple's line, whose bar hangs as far below the lower partner as every new one. Takes a number.
+void PaarVerbinden(Dokument &dokument, int partner1, int partner2);
+/// Takes the relationship line away again whose form has been left without OK, while `Aktion` 12 tells that it is new.
+/// No snapshot: there was none of it. A line that was there before stays.
+void BezLAbbrechen(Werkbank &w);
+
+// Moving along.
+
+/// What a group's move does to a bar: its way, and the frame as it stands after the move, cm.
+struct Balkenmitnahme {
+    double DeltaX, DeltaY;
+    double Links, Rechts;
+};
+/// Lets all lines of person `nr` end at (x, y), cm; `raster` is the snap step. The bar's height follows the first
+/// partner only, and only in a group.
+void LinienNachziehen(Dokument &dokument, const Bezüge &bezüge, std::string_view nr, double x, double y, double raster,
+                      const std::optional<Balkenmitnahme> &gruppe);
+/// Shifts the bars of these partnerships, and the ends of their children's lines, by the way of a group.
+void BalkenMitbewegen(Dokument &dokument, const Bezüge &bezüge, const Satzliste &nummern, double dx, double dy);
+
+/// Writes a form's values into the line that it was opened for; one snapshot.
+void Bez_LinieAnpassen(Werkbank &w, std::string_view beziehungsart);
+void P_LinieAnpassen(Werkbank &w, std::string_view distanziert, std::string_view status, std::string_view daten);
+
+void PLinieLöschen(Werkbank &w);
+void BezLinieLöschen(Werkbank &w);
+
+} // namespace kw

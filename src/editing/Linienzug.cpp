@@ -1,0 +1,201 @@
+#include "editing/Linien.h"
+
+#include "document/saetze/Beziehung.h"
+#include "document/saetze/Partnerschaft.h"
+#include "document/saetze/Person.h"
+#include "editing/Gesten.h"
+#include "editing/Marker.h"
+#include "rendering/Symbole.h"
+
+#include <algorithm>
+
+namespace kw {
+
+namespace {
+
+bool GibtEsPartnerschaft(const Dokument &d, std::string_view nr1, std::string_view nr2) {
+    const auto &linien = d.cboPartnerschaftsLinien;
+    return std::any_of(linien.begin(), linien.end(), [&](const std::string &satz) {
+        const PartnerschaftSatz linie(satz, Lücken::Leer);
+        return linie.PersNr1() == nr1 && linie.PersNr2() == nr2;
+    });
+}
+
+/// The pair that a link gesture or a twin command joins, as positions; the earlier person of a gesture first.
+std::pair<int, int> Paar(const Dokument &d, const Leinwandlage &lage) {
+    if (lage.Aktion == Aktion::ElternPrüfen) return {PersonMitNr(d, lage.PersNrA), PersonMitNr(d, lage.PersNrB)};
+    const auto [a, b] = std::minmax(lage.ZielPerson, lage.PersAuswahl);
+    return {a - 1, b - 1};
+}
+
+bool GibtEs(const Satzliste &personen, int position) {
+    return Gültig(personen, position) && PersonSatz(personen.Satz(position)).Vollständig();
+}
+
+bool IstPaar(const Satzliste &personen, std::pair<int, int> paar) {
+    return paar.first != paar.second && GibtEs(personen, paar.first) && GibtEs(personen, paar.second);
+}
+
+/// Lays the mark lines along the outline of a target that is no box and no circle.
+void ZielUmreißen(Auflagen &auflagen, std::span<const Ecke> ecken) {
+    for (size_t i = 0; i < auflagen.MarkLine.size(); ++i) {
+        Auflagenlinie &linie = auflagen.MarkLine[i];
+        linie.Visible = true;
+        linie.Parken();
+        if (i >= ecken.size()) continue;
+        const Ecke &von = ecken[i];
+        const Ecke &bis = ecken[(i + 1) % ecken.size()];
+        linie.Legen(von[0], von[1], bis[0], bis[1]);
+    }
+}
+
+/// The hidden label's change event: marks the link target.
+void ZielAnzeigen(Werkbank &w) {
+    const Leinwandlage &lage = w.lage;
+    Auflagenform &ziel = w.auflagen.shpPerson;
+    w.auswahl.lstMovedPers.Leeren();
+    for (Auflagenlinie &linie : w.auflagen.MarkLine) linie.Visible = false;
+    ziel.Visible = lage.ZielPerson >= 1;
+    if (!ziel.Visible) return;
+    w.auswahl.lstMovedPers.Anhängen(std::to_string(lage.ZielPerson));
+    w.auswahl.lstMovedPers.Anhängen(std::to_string(lage.PersAuswahl));
+    const PersonSatz person(w.dokument.cboPersonen.Satz(lage.ZielPerson - 1));
+    const double x = person.PosX();
+    const double y = person.PosY();
+    const double größe = person.Groesse();
+    const int typ = SymbolKennzahl(person.Symboltyp());
+    ziel.Shape = typ == TypWeiblich || typ == TypMännlichZuWeiblich ? Umriss::Kreis : Umriss::Quadrat;
+    ziel.Legen(RasterZehntel(w, x - größe / 2), RasterZehntel(w, y - größe / 2), größe + 0.02, größe + 0.02);
+    if (typ == TypSchwangerschaft) ZielUmreißen(w.auflagen, Dreieck(x, y, größe));
+    if (typ == TypDivers) {
+        auto ecken = Sechseck(x, y, größe);
+        std::rotate(ecken.begin(), ecken.begin() + 4, ecken.end()); // five lines: the lower edge stays open
+        ZielUmreißen(w.auflagen, ecken);
+    }
+    ziel.Visible = typ != TypSchwangerschaft && typ != TypDivers;
+}
+
+std::string NeueBeziehung(const PersonSatz &erster, const PersonSatz &zweiter) {
+    BeziehungBau linie;
+    linie.Beziehungsart("0").Ende1(erster.PosX(), erster.PosY()).Ende2(zweiter.PosX(), zweiter.PosY());
+    return linie.PersNr1(erster.Nr()).PersNr2(zweiter.Nr()).Text();
+}
+
+/// A relationship line between link target and selected person, and its form. Nothing when they have one.
+void BeziehungAnlegen(Werkbank &w) {
+    constexpr size_t PaarLänge = 7; // "001_002"
+    Dokument &d = w.dokument;
+    const auto paar = Paar(d, w.lage);
+    if (!IstPaar(d.cboPersonen, paar)) {
+        MarkierungsListBoxenLöschen(w);
+        Aktion_Nichts(w);
+        w.fenster.Vorschau();
+        return;
+    }
+    MarkerEntfernen(w);
+    const PersonSatz erster(d.cboPersonen.Satz(paar.first));
+    const PersonSatz zweiter(d.cboPersonen.Satz(paar.second));
+    if (Getrimmt(erster.Nr()).empty() || Getrimmt(zweiter.Nr()).empty()) return;
+    const std::string satz = NeueBeziehung(erster, zweiter);
+    const std::string_view nummern = std::string_view(satz).substr(satz.size() - PaarLänge);
+    MarkierungsListBoxenLöschen(w);
+    const auto &linien = d.cboBeziehungsLinien;
+    if (std::any_of(linien.begin(), linien.end(), [&](const std::string &l) { return l.ends_with(nummern); })) return;
+    d.cboBeziehungsLinien.Anhängen(satz);
+    w.lage.BezAuswahl = linien.Anzahl() - 1;
+    w.lage.Aktion = Aktion::BeziehungGewählt;
+    w.fenster.Vorschau();
+    w.lage.Aktion = Aktion::BeziehungZiehen; // the form tells a new line by it
+    w.fenster.FormÖffnen("frmBezLinien");
+}
+
+} // namespace
+
+void RubberStart(Werkbank &w) {
+    const int i = PersonMitNr(w.dokument, w.lage.PersNr);
+    w.lage.lblPersAuswahl.clear(); // the first target of this gesture counts as a new one
+    w.lage.ZielPerson = 0;
+    if (i < 0) return;
+    const PersonSatz person(w.dokument.cboPersonen.Satz(i), Lücken::Leer);
+    w.lage.SymbolGröße = person.Groesse(); // a tool may have left another one
+    w.lage.GummiX = person.PosX();
+    w.lage.GummiY = person.PosY();
+}
+
+void mnuPartnerschaftsLinie(Werkbank &w) {
+    RubberStart(w);
+    w.lage.Aktion = Aktion::PartnerschaftZiehen;
+}
+
+void mnuBeziehungErstellen2(Werkbank &w) {
+    w.lage.Info.Visible = false;
+    RubberStart(w);
+    w.lage.Aktion = Aktion::BeziehungZiehen;
+    w.auflagen.Line1.Visible = true;
+}
+
+void LinkZiehen(Werkbank &w, int person, double x, double y) {
+    Leinwandlage &lage = w.lage;
+    lage.ZielPerson = person + 1;
+    if (lage.ZielPerson == lage.PersAuswahl) return;
+    w.auflagen.Line1.Legen(lage.GummiX, lage.GummiY, x, y);
+    w.auflagen.Line1.Visible = true;
+    const std::string ziel = std::to_string(lage.ZielPerson);
+    if (ziel == lage.lblPersAuswahl) return;
+    lage.lblPersAuswahl = ziel;
+    ZielAnzeigen(w);
+}
+
+bool LinkBeenden(Werkbank &w, const Ereignis &) {
+    if (w.lage.Aktion != Aktion::BeziehungZiehen && w.lage.Aktion != Aktion::PartnerschaftZiehen) return false;
+    LinkAufräumen(w);
+    w.lage.PersRecord.clear();
+    MarkierungsListBoxenLöschen(w);
+    if (w.lage.Aktion == Aktion::BeziehungZiehen) BeziehungAnlegen(w);
+    else PartnerschaftAnlegen(w);
+    w.lage.Aktion = Aktion::Nichts;
+    w.fenster.Vorschau();
+    return true;
+}
+
+void PaarVerbinden(Dokument &d, int partner1, int partner2) {
+    const PersonSatz erster(d.cboPersonen.Satz(partner1));
+    const PersonSatz zweiter(d.cboPersonen.Satz(partner2));
+    PartnerschaftBau linie;
+    linie.Nr(d.NeuePLinienNr()).PersNr1(erster.Nr()).PersNr2(zweiter.Nr());
+    linie.BalkenX1(erster.PosX()).BalkenX2(zweiter.PosX());
+    linie.Anschluss1(erster.PosX(), erster.PosY()).Anschluss2(zweiter.PosX(), zweiter.PosY());
+    linie.BalkenY(std::max(erster.PosY(), zweiter.PosY()) + BalkenAbstand);
+    d.cboPartnerschaftsLinien.Anhängen(linie.Text());
+}
+
+void PartnerschaftAnlegen(Werkbank &w) {
+    Dokument &d = w.dokument;
+    const auto paar = Paar(d, w.lage);
+    if (w.lage.Aktion != Aktion::ElternPrüfen) w.lage.Aktion = Aktion::Nichts;
+    if (!IstPaar(d.cboPersonen, paar)) return;
+    MarkerEntfernen(w);
+    const PersonSatz erster(d.cboPersonen.Satz(paar.first));
+    const PersonSatz zweiter(d.cboPersonen.Satz(paar.second));
+    if (erster.Nr().empty() || zweiter.Nr().empty()) {
+        KeineAktion(w);
+        return;
+    }
+    MarkierungsListBoxenLöschen(w);
+    const bool neu = !GibtEsPartnerschaft(d, erster.Nr(), zweiter.Nr());
+    if (neu) PaarVerbinden(d, paar.first, paar.second);
+    else d.NeuePLinienNr(); // a number is taken for a pair that has a line already, and stays taken. Meant.
+    if (neu) w.fenster.Sichern();
+    w.fenster.Vorschau();
+}
+
+void BezLAbbrechen(Werkbank &w) {
+    if (w.lage.Aktion != Aktion::BeziehungZiehen) return;
+    Satzliste &linien = w.dokument.cboBeziehungsLinien;
+    if (Gültig(linien, w.lage.BezAuswahl)) linien.Entfernen(w.lage.BezAuswahl);
+    PositionenVergessen(w.lage);
+    Aktion_Nichts(w);
+    w.fenster.Vorschau();
+}
+
+} // namespace kw
