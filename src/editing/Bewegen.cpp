@@ -21,45 +21,6 @@ struct Bewegter {
     double X, Y;
 };
 
-double PosX(const Dokument &d, int person) {
-    return ZahlLesen(Felder(d.cboPersonen.Satz(person)).OderLeer(PersonFeld::PosX));
-}
-
-/// The middle between a person and its twin; nothing when it has none that exists.
-std::optional<double> ZwillingsMitte(const Dokument &d, const Bezüge &bezüge, int person) {
-    const std::string nr = ZwillingNr(Felder(d.cboPersonen.Satz(person)).OderLeer(PersonFeld::Zwilling));
-    const int anderer = nr.empty() ? -1 : bezüge.Person(nr);
-    if (anderer < 0) return std::nullopt;
-    return (PosX(d, person) + PosX(d, anderer)) / 2;
-}
-
-std::pair<double, double> BereichVon(const Dokument &d, const Bezüge &bezüge, const Feldbau &kindlinie, double sonst) {
-    const int linie = bezüge.PLinie(kindlinie.Feld(KindFeld::PLinie));
-    return linie < 0 ? std::pair(sonst, sonst) : Balkenbereich(d.cboPartnerschaftsLinien.Satz(linie));
-}
-
-void AlsKindBewegen(Dokument &d, const Bezüge &bezüge, const Bewegter &p) {
-    const int i = bezüge.Kindlinie(p.Nr);
-    if (i < 0 || Felder(d.cboKindlinien.Satz(i)).Anzahl() < KindFeld::Anzahl) return;
-    Feldbau satz(d.cboKindlinien.Satz(i), KindFeld::Anzahl);
-    const auto [links, rechts] = BereichVon(d, bezüge, satz, satz.Zahl(KindFeld::LinieX));
-    satz.Setzen(KindFeld::KindX, Gerundet(p.X, 2)).Setzen(KindFeld::KindY, Gerundet(p.Y, 2));
-    satz.Setzen(KindFeld::LinieX, Gerundet(std::clamp(p.X, links, rechts), 2));
-    d.cboKindlinien.Ersetzen(i, satz.TextOhneBlanks());
-
-    // Twins' lines meet at one point of the bar.
-    const int person = bezüge.Person(p.Nr);
-    const auto mitte = person < 0 ? std::nullopt : ZwillingsMitte(d, bezüge, person);
-    if (!mitte) return;
-    const std::string anderer = ZwillingNr(Felder(d.cboPersonen.Satz(person))[PersonFeld::Zwilling]);
-    for (const int linie : {i, bezüge.Kindlinie(anderer)}) {
-        if (linie < 0) continue;
-        Feldbau zwilling(d.cboKindlinien.Satz(linie), KindFeld::Anzahl);
-        zwilling.Setzen(KindFeld::LinieX, Gerundet(std::clamp(*mitte, links, rechts), 2));
-        d.cboKindlinien.Ersetzen(linie, zwilling.TextOhneBlanks());
-    }
-}
-
 /// Adds the way to two number fields; on the raster when there is one.
 void Verschieben(Feldbau &satz, int feldX, int feldY, const Leinwandlage &lage, double raster) {
     const auto neu = [&](int feld, double um) {
@@ -118,19 +79,6 @@ void GruppeÜbrige(Werkbank &w) {
 
 } // namespace
 
-void KinderAnpassen(Dokument &d, const Bezüge &bezüge, std::string_view partnerschaft) {
-    const PartnerschaftSatz balken(partnerschaft);
-    const auto [links, rechts] = balken.Balkenbereich();
-    for (const int i : bezüge.KinderVon(balken.Nr())) {
-        Feldbau satz(d.cboKindlinien.Satz(i), KindFeld::Anzahl);
-        const int person = bezüge.Person(satz.Feld(KindFeld::KindNr));
-        const auto mitte = person < 0 ? std::nullopt : ZwillingsMitte(d, bezüge, person);
-        const double x = mitte.value_or(satz.Zahl(KindFeld::KindX));
-        satz.Setzen(KindFeld::LinieX, Gerundet(std::clamp(x, links, rechts), 2));
-        d.cboKindlinien.Ersetzen(i, satz.Setzen(KindFeld::LinieY, balken.BalkenY2()).TextOhneBlanks());
-    }
-}
-
 void ElementeBewegen(Werkbank &w, const Bezüge &bezüge) {
     Dokument &d = w.dokument;
     const Bewegter person{w.lage.PersNr, w.lage.NeuX, w.lage.NeuY};
@@ -140,7 +88,7 @@ void ElementeBewegen(Werkbank &w, const Bezüge &bezüge) {
         gruppe = {w.lage.DeltaX, w.lage.DeltaY, rahmen.Left, rahmen.Left + rahmen.Width};
     LinienNachziehen(d, bezüge, person.Nr, person.X, person.Y, w.ansicht.Rasterweite, gruppe);
     for (const int i : bezüge.Partnerschaften(person.Nr)) KinderAnpassen(d, bezüge, d.cboPartnerschaftsLinien.Satz(i));
-    AlsKindBewegen(d, bezüge, person);
+    KindlinieNachziehen(d, bezüge, person.Nr, person.X, person.Y);
     MarkerParken(w);
 }
 

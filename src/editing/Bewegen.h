@@ -11,9 +11,6 @@ namespace kw {
 /// Carries all lines of person `PersNr` to (`NeuX`, `NeuY`). `Aktion` 17 tells a group move. Doesn't redraw.
 void ElementeBewegen(Werkbank &w, const Bezüge &bezüge);
 
-/// Puts the child lines of that partnership on its bar.
-void KinderAnpassen(Dokument &dokument, const Bezüge &bezüge, std::string_view partnerschaft);
-
 /// The end of a group move: everything selected goes the frame's way. The frame stays, ready for another move.
 void GruppeBewegen(Werkbank &w);
 

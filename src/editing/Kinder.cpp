@@ -1,52 +1,126 @@
 #include "editing/Kinder.h"
 
 #include "document/Verweise.h"
+#include "document/saetze/Kind.h"
+#include "document/saetze/Partnerschaft.h"
+#include "document/saetze/Person.h"
+#include "editing/Geometrie.h"
+#include "editing/Gesten.h"
+#include "editing/Linien.h"
 #include "editing/Marker.h"
-#include "editing/Satzbau.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace kw {
 
-std::pair<double, double> Balkenbereich(std::string_view partnerschaft) {
-    const Felder feld(partnerschaft);
-    return std::minmax(
-        {ZahlLesen(feld.OderLeer(PLinieFeld::BalkenX1)), ZahlLesen(feld.OderLeer(PLinieFeld::BalkenX2))});
+namespace {
+
+/// Makes the selected person a child of the partnership under the pointer. Its line hangs on the bar above the
+/// child, or on the bar's nearest end. False when there is no such person or line.
+bool KindLinieAnlegen(Dokument &d, int plinie, int kind) {
+    if (!Gültig(d.cboPartnerschaftsLinien, plinie) || !Gültig(d.cboPersonen, kind)) return false;
+    const PartnerschaftSatz balken(d.cboPartnerschaftsLinien.Satz(plinie), Lücken::Leer);
+    const std::string nr(Nummer(d.cboPartnerschaftsLinien.Satz(plinie)));
+    PersonBau person(d.cboPersonen.Satz(kind));
+    d.cboPersonen.Ersetzen(kind, person.ElternLinie(nr).Text());
+
+    const auto [links, rechts] = balken.Balkenbereich();
+    const double x = person.Stand().PosX();
+    KindBau linie;
+    linie.KindNr(person.Stand().Nr()).Kindart("0").PLinie(nr);
+    linie.KindX(Gerundet(x, 1)).LinieX(Gerundet(std::clamp(x, links, rechts), 1));
+    linie.KindY(person.Stand().PosYText()).LinieY(balken.BalkenY2Text());
+    d.cboKindlinien.Anhängen(linie.Text());
+    return true;
 }
 
-bool KindLinieAnlegen(Werkbank &w) {
-    Dokument &d = w.dokument;
-    const int linie = w.lage.PLinieAuswahl;
-    const int kind = w.lage.PersAuswahl - 1;
-    if (linie < 0 || linie >= d.cboPartnerschaftsLinien.Anzahl()) return false;
-    if (kind < 0 || kind >= d.cboPersonen.Anzahl()) return false;
-    const std::string &partnerschaft = d.cboPartnerschaftsLinien.Satz(linie);
-    const std::string plinie = partnerschaft.substr(0, 3);
-    Feldbau person(d.cboPersonen.Satz(kind), PersonFeld::Anzahl);
-    d.cboPersonen.Ersetzen(kind, person.Setzen(PersonFeld::ElternLinie, plinie).Text());
+double PosX(const Dokument &d, int person) { return PersonSatz(d.cboPersonen.Satz(person), Lücken::Leer).PosX(); }
 
-    const auto [links, rechts] = Balkenbereich(partnerschaft);
-    const double x = person.Zahl(PersonFeld::PosX);
-    Feldbau satz("", KindFeld::Anzahl);
-    satz.Setzen(KindFeld::KindNr, person.Feld(PersonFeld::Nr)).Setzen(KindFeld::Kindart, "0");
-    satz.Setzen(KindFeld::PLinie, plinie)
-        .Setzen(KindFeld::KindX, Gerundet(x, 1))
-        .Setzen(KindFeld::LinieX, Gerundet(std::clamp(x, links, rechts), 1))
-        .Setzen(KindFeld::KindY, person.Feld(PersonFeld::PosY))
-        .Setzen(KindFeld::LinieY, Felder(partnerschaft).OderLeer(PLinieFeld::BalkenY2));
-    d.cboKindlinien.Anhängen(satz.Text());
+/// The other twin of a person; empty when it has none.
+std::string_view ZwillingVon(const Dokument &d, int person) {
+    return PersonSatz(d.cboPersonen.Satz(person), Lücken::Leer).ZwillingNr();
+}
+
+/// The middle between a person and its twin; nothing when it has none that exists.
+std::optional<double> ZwillingsMitte(const Dokument &d, const Bezüge &bezüge, int person) {
+    if (person < 0) return std::nullopt;
+    const auto nr = ZwillingVon(d, person);
+    const int anderer = nr.empty() ? -1 : bezüge.Person(nr);
+    if (anderer < 0) return std::nullopt;
+    return (PosX(d, person) + PosX(d, anderer)) / 2;
+}
+
+/// Where the line of a child can hang; where it hangs when its parents' line doesn't exist.
+std::pair<double, double> BereichVon(const Dokument &d, const Bezüge &bezüge, const KindSatz &kindlinie) {
+    const int linie = bezüge.PLinie(kindlinie.PLinie());
+    if (linie < 0) return {kindlinie.LinieX(), kindlinie.LinieX()};
+    return PartnerschaftSatz(d.cboPartnerschaftsLinien.Satz(linie), Lücken::Leer).Balkenbereich();
+}
+
+} // namespace
+
+int KindLinieBei(const Dokument &d, double x, double y, double auswahlGröße) {
+    for (int i = 0; i < d.cboKindlinien.Anzahl(); ++i) {
+        const KindSatz linie(d.cboKindlinien.Satz(i));
+        if (linie.Vollständig() &&
+            SegmentGetroffen(linie.KindX(), linie.KindY() - auswahlGröße / 2, linie.LinieX(), linie.LinieY(), x, y))
+            return i;
+    }
+    return -1;
+}
+
+bool KindLinieTreffer(Werkbank &w, double x, double y) {
+    const int i = KindLinieBei(w.dokument, x, y, w.lage.AuswahlGröße);
+    if (i < 0) return false;
+    w.lage.KindAuswahl = i;
+    MarkierungsListBoxenLöschen(w);
+    w.lage.Aktion = Aktion::KindlinieGewählt;
+    w.fenster.Vorschau();
+    return true;
+}
+
+void KindLinieLoslassen(Werkbank &w, const Ereignis &) { w.bedienung["mnuLöschen1"].Enabled = true; }
+
+void mnuKindVon(Werkbank &w) {
+    RubberStart(w);
+    w.lage.Aktion = Aktion::KindZiehen;
+    w.lage.PLinieUnterMaus = false;
+}
+
+void KindLinkZiehen(Werkbank &w, const Ereignis &e) {
+    // From the top of the symbol.
+    w.auflagen.Line2.Legen(w.lage.GummiX, w.lage.GummiY - w.lage.SymbolGröße / 2, e.X, e.Y);
+    w.auflagen.Line2.Visible = true;
+    const bool vorher = w.lage.PLinieUnterMaus;
+    const int vorige = w.lage.PLinieAuswahl;
+    w.lage.PLinieUnterMaus = PLinieTreffer(w, e.X, e.Y);
+    if (w.lage.PLinieUnterMaus != vorher || (vorher && w.lage.PLinieAuswahl != vorige)) w.fenster.Vorschau();
+}
+
+bool KindLinkBeenden(Werkbank &w, const Ereignis &) {
+    if (w.lage.Aktion != Aktion::KindZiehen) return false;
+    const bool angelegt =
+        w.lage.PLinieUnterMaus && KindLinieAnlegen(w.dokument, w.lage.PLinieAuswahl, w.lage.PersAuswahl - 1);
+    w.lage.Aktion = Aktion::Nichts; // before the redraw, which marks the bar under the pointer
+    w.lage.PLinieUnterMaus = false;
+    w.lage.PersRecord.clear();
+    LinkAufräumen(w);
+    w.auswahl.lstMovedPLines.Leeren();
+    MarkerEntfernen(w);
+    if (angelegt) w.fenster.Sichern();
     return true;
 }
 
 void KindArtSetzen(Werkbank &w, std::string_view art) {
     Satzliste &linien = w.dokument.cboKindlinien;
     const int i = w.lage.KindAuswahl;
-    if (i < 0 || i >= linien.Anzahl()) return;
-    Feldbau satz(linien.Satz(i), KindFeld::Anzahl);
-    const std::string alt(satz.Feld(KindFeld::Kindart));
-    linien.Ersetzen(i, satz.Setzen(KindFeld::Kindart, art == "A" ? "1" : art == "P" ? "2" : "0").Text());
+    if (!Gültig(linien, i)) return;
+    KindBau linie(linien.Satz(i));
+    const std::string alt(linie.Stand().Kindart());
+    linien.Ersetzen(i, linie.Kindart(art == "A" ? "1" : art == "P" ? "2" : "0").Text());
     w.lage.Aktion = Aktion::Nichts;
-    if (satz.Feld(KindFeld::Kindart) != alt) w.fenster.Sichern();
+    if (linie.Stand().Kindart() != alt) w.fenster.Sichern();
     w.fenster.Vorschau();
 }
 
@@ -58,6 +132,38 @@ void KindLinieEntfernen(Werkbank &w) {
     w.fenster.Sichern();
     w.bedienung["mnuLöschen1"].Enabled = false;
     w.fenster.Vorschau();
+}
+
+void KinderAnpassen(Dokument &d, const Bezüge &bezüge, std::string_view partnerschaft) {
+    const PartnerschaftSatz balken(partnerschaft);
+    const auto [links, rechts] = balken.Balkenbereich();
+    for (const int i : bezüge.KinderVon(balken.Nr())) {
+        KindBau linie(d.cboKindlinien.Satz(i));
+        const auto mitte = ZwillingsMitte(d, bezüge, bezüge.Person(linie.Stand().KindNr()));
+        const double x = mitte.value_or(linie.Stand().KindX());
+        linie.LinieX(Gerundet(std::clamp(x, links, rechts), 2)).LinieY(balken.BalkenY2());
+        d.cboKindlinien.Ersetzen(i, linie.TextOhneBlanks());
+    }
+}
+
+void KindlinieNachziehen(Dokument &d, const Bezüge &bezüge, std::string_view nr, double x, double y) {
+    const int i = bezüge.Kindlinie(nr);
+    if (i < 0 || !KindSatz(d.cboKindlinien.Satz(i)).Vollständig()) return;
+    KindBau linie(d.cboKindlinien.Satz(i));
+    const auto [links, rechts] = BereichVon(d, bezüge, linie.Stand());
+    linie.KindX(Gerundet(x, 2)).KindY(Gerundet(y, 2)).LinieX(Gerundet(std::clamp(x, links, rechts), 2));
+    d.cboKindlinien.Ersetzen(i, linie.TextOhneBlanks());
+
+    // Twins' lines meet at one point of the bar.
+    const int person = bezüge.Person(nr);
+    const auto mitte = ZwillingsMitte(d, bezüge, person);
+    if (!mitte) return;
+    for (const int kind : {i, bezüge.Kindlinie(ZwillingVon(d, person))}) {
+        if (kind < 0) continue;
+        KindBau zwilling(d.cboKindlinien.Satz(kind));
+        zwilling.LinieX(Gerundet(std::clamp(*mitte, links, rechts), 2));
+        d.cboKindlinien.Ersetzen(kind, zwilling.TextOhneBlanks());
+    }
 }
 
 } // namespace kw

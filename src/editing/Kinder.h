@@ -1,32 +1,50 @@
 #pragma once
 
-#include "editing/Werkbank.h"
+#include "document/Nachschlagen.h"
 
 #include <string_view>
-#include <utility>
 
-// Children of a partnership, and twins.
+// Child lines, and twins.
 namespace kw {
 
-/// The X range of a partnership's bar, left end first, cm.
-std::pair<double, double> Balkenbereich(std::string_view partnerschaft);
+struct Dokument;
+struct Ereignis;
+struct Werkbank;
 
-/// Makes the selected person a child of the partnership under the pointer. Its line hangs on the bar above the
-/// child, or on the bar's nearest end. False when there is no such person or line.
-bool KindLinieAnlegen(Werkbank &w);
+/// Position of the first child line under the point, -1 none. The lines end half of `auswahlGröße` above the child's
+/// centre. That is the size of the person last hit, whoever that was, not of the child. Meant.
+int KindLinieBei(const Dokument &dokument, double x, double y, double auswahlGröße);
+
+/// A press on one selects it. Says whether the event ends with it.
+bool KindLinieTreffer(Werkbank &w, double x, double y);
+void KindLinieLoslassen(Werkbank &w, const Ereignis &e);
+
+/// Starts the link gesture of a child: its line follows the pointer to a bar, where a press hangs it up.
+void mnuKindVon(Werkbank &w);
+void KindLinkZiehen(Werkbank &w, const Ereignis &e);
+bool KindLinkBeenden(Werkbank &w, const Ereignis &e);
+
 /// Kind of the selected child line: "A" adopted, "P" foster child, anything else natural.
 void KindArtSetzen(Werkbank &w, std::string_view art);
 /// Removes the selected child line: the child loses parents and twin, the twin only its mark.
 void KindLinieEntfernen(Werkbank &w);
 
+/// Puts the child lines of that partnership on its bar.
+void KinderAnpassen(Dokument &dokument, const Bezüge &bezüge, std::string_view partnerschaft);
+/// Lets the child line of person `nr`, and its twin's, follow the person to (x, y), cm.
+void KindlinieNachziehen(Dokument &dokument, const Bezüge &bezüge, std::string_view nr, double x, double y);
+
+// Twins (Zwillinge.cpp).
+
 /// A twin command: `art` 1 to 6 from the twins' menus. New twins come under the two selected parents, who get a
 /// partnership line if they have none; a message when not exactly two persons are selected.
 void ZwillingeEinfügen(Werkbank &w, int art);
-
-/// At the end of a marquee: offers to make twins of exactly two siblings that have no twin yet.
+/// When two are selected: offers to make twins of exactly two siblings that have no twin yet.
 void ZwillingeBereit(Werkbank &w);
 /// Makes twins of the siblings in `Zwillingspaar`; `mark` is "1E" or "2E". Unlike new identical twins they get no
 /// relationship records. Meant.
 void ZwillingeErklären(Werkbank &w, std::string_view mark);
+/// The palette's button for twins: opens `mnuZwillinge`.
+void cmdZwillinge(Werkbank &w);
 
 } // namespace kw

@@ -73,19 +73,6 @@ bool GruppeFassen(Werkbank &w, const Ereignis &e) {
     return true;
 }
 
-bool KindLinkBeenden(Werkbank &w, const Ereignis &) {
-    if (w.lage.Aktion != Aktion::KindZiehen) return false;
-    const bool angelegt = w.lage.PLinieUnterMaus && KindLinieAnlegen(w);
-    w.lage.Aktion = Aktion::Nichts; // before the redraw, which marks the bar under the pointer
-    w.lage.PLinieUnterMaus = false;
-    w.lage.PersRecord.clear();
-    LinkAufräumen(w);
-    w.auswahl.lstMovedPLines.Leeren();
-    MarkerEntfernen(w);
-    if (angelegt) w.fenster.Sichern();
-    return true;
-}
-
 bool MenüWarOffen(Werkbank &w, const Ereignis &) {
     const bool ende = w.lage.Aktion == Aktion::MenüOffen;
     if (ende || w.lage.Aktion == Aktion::Nichts) Gummi1Parken(w);
@@ -139,16 +126,6 @@ bool LinieTreffen(Werkbank &w, const Ereignis &e) {
     w.lage.Aktion = Aktion::Nichts;
     return BezLinieTreffer(w, e.X, e.Y) || PLinieTreffer(w, e.X, e.Y) || KindLinieTreffer(w, e.X, e.Y) ||
            PfeilTreffer(w, e.X, e.Y) || PfeilEndeTreffer(w, e.X, e.Y);
-}
-
-bool KindLinieTreffer(Werkbank &w, double x, double y) {
-    const int i = KindLinieBei(w.dokument, x, y, w.lage.AuswahlGröße);
-    if (i < 0) return false;
-    w.lage.KindAuswahl = i;
-    MarkierungsListBoxenLöschen(w);
-    w.lage.Aktion = Aktion::KindlinieGewählt;
-    w.fenster.Vorschau();
-    return true;
 }
 
 bool Setzen(Werkbank &w, const Ereignis &) {

@@ -4,6 +4,7 @@
 #include "document/Zahlen.h"
 #include "editing/Bewegen.h"
 #include "editing/Bildausschnitt.h"
+#include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
 #include "editing/Legende.h"
 #include "editing/Linien.h"
@@ -109,8 +110,6 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e) {
     w.auflagen.shpMask.Parken();
     if (!w.dokument.GleicheSätze(vorher)) w.fenster.Sichern();
 }
-
-void KindLinieLoslassen(Werkbank &w, const Ereignis &) { w.bedienung["mnuLöschen1"].Enabled = true; }
 
 void RahmenLoslassen(Werkbank &w, const Ereignis &) { RahmenAuswählen(w); }
 

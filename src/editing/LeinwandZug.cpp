@@ -3,6 +3,7 @@
 
 #include "document/Felder.h"
 #include "document/Zahlen.h"
+#include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
 #include "editing/Legende.h"
 #include "editing/Linien.h"
@@ -60,16 +61,6 @@ void GruppeZiehen(Werkbank &w, const Ereignis &e) {
 }
 
 void PersonVerknüpfen(Werkbank &w, const Ereignis &e) { LinkZiehen(w, PersonBei(w.dokument, e.X, e.Y), e.X, e.Y); }
-
-void KindLinkZiehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.Line2.Legen(w.lage.GummiX, w.lage.GummiY - w.lage.SymbolGröße / 2, e.X,
-                           e.Y); // from the top of the symbol
-    w.auflagen.Line2.Visible = true;
-    const bool vorher = w.lage.PLinieUnterMaus;
-    const int vorige = w.lage.PLinieAuswahl;
-    w.lage.PLinieUnterMaus = PLinieTreffer(w, e.X, e.Y);
-    if (w.lage.PLinieUnterMaus != vorher || (vorher && w.lage.PLinieAuswahl != vorige)) w.fenster.Vorschau();
-}
 
 /// A small drag leaves the mask unshown; that is the whole threshold.
 void PersonZiehen(Werkbank &w, const Ereignis &e) {

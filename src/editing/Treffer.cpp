@@ -29,11 +29,4 @@ int PersonBei(const Dokument &d, double x, double y) {
     });
 }
 
-int KindLinieBei(const Dokument &d, double x, double y, double auswahlGröße) {
-    return Erster(d.cboKindlinien, KindFeld::Anzahl, [&](const Felder &f) {
-        return SegmentGetroffen(ZahlLesen(f[KindFeld::KindX]), ZahlLesen(f[KindFeld::KindY]) - auswahlGröße / 2,
-                                ZahlLesen(f[KindFeld::LinieX]), ZahlLesen(f[KindFeld::LinieY]), x, y);
-    });
-}
-
 } // namespace kw

@@ -10,7 +10,4 @@ namespace kw {
 /// Persons: the square round the centre, for round symbols too.
 int PersonBei(const Dokument &dokument, double x, double y);
 
-/// The lines end half of `auswahlGröße` above the child's centre. That is the size of the person last hit, whoever
-/// that was, not of the child. Meant.
-int KindLinieBei(const Dokument &dokument, double x, double y, double auswahlGröße);
 } // namespace kw

@@ -56,10 +56,4 @@ void ElternAnlegen(Werkbank &w) {
     w.fenster.Sichern();
 }
 
-void mnuKindVon(Werkbank &w) {
-    RubberStart(w);
-    w.lage.Aktion = Aktion::KindZiehen;
-    w.lage.PLinieUnterMaus = false;
-}
-
 } // namespace kw

@@ -13,7 +13,4 @@ void PersonAnlegen(Werkbank &w, const Importperson *import = nullptr);
 /// the page's right edge, and nowhere else.
 void ElternAnlegen(Werkbank &w);
 
-/// Starts the link gesture of a child.
-void mnuKindVon(Werkbank &w);
-
 } // namespace kw

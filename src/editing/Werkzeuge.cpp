@@ -3,6 +3,7 @@
 #include "document/Felder.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
+#include "editing/Kinder.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
 #include "editing/Verbindungen.h"
@@ -20,7 +21,6 @@ struct Werkzeug {
     int PfeilArt = 0; ///< arrow or double arrow
 };
 constexpr int TypEltern = 22; ///< of the parents' tool; no record has it
-constexpr int TypZwilling = 8;
 
 constexpr Werkzeug Werkzeuge[] = {
     {1, Aktion::PersonSetzen, TypMännlich, GrößeNormal},
@@ -100,20 +100,6 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
     }
     if (werkzeug->PfeilArt) lage.PfeilArt = werkzeug->PfeilArt;
     if (nummer == WerkzeugKreislinie) lage.KreisAuswahl = 0;
-}
-
-void cmdZwillinge(Werkbank &w) {
-    Leinwandlage &lage = w.lage;
-    const Leinwandlage vorher = lage;
-    lage.Aktion = Aktion::PersonSetzen;
-    lage.SymbolGröße = GrößeNormal;
-    lage.SymbolTyp = TypZwilling;
-    w.fenster.PopupÖffnen("mnuZwillinge");
-    if (lage.Aktion != Aktion::PersonSetzen) return;
-    // A dismissed menu arms nothing, there is no such symbol to place: what was selected or armed stays so.
-    lage.Aktion = vorher.Aktion;
-    lage.SymbolGröße = vorher.SymbolGröße;
-    lage.SymbolTyp = vorher.SymbolTyp;
 }
 
 void PaletteAuffrischen(Werkbank &w) {

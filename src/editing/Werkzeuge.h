@@ -28,9 +28,6 @@ std::string WerkzeugName(int nummer);
 /// before ends. Tools that need a selected person arm nothing without one.
 void WerkzeugDrücken(Werkbank &w, int nummer);
 
-/// The palette's button for twins: opens `mnuZwillinge`.
-void cmdZwillinge(Werkbank &w);
-
 /// Brings the palette up to date with what the canvas is doing: which tool is armed, which would do nothing,
 /// whether there is a group to delete. After every event and command.
 void PaletteAuffrischen(Werkbank &w);

@@ -1,13 +1,14 @@
-#include "document/Texte.h"
+#include "document/saetze/Beziehung.h"
+#include "document/saetze/Kind.h"
+#include "document/saetze/Partnerschaft.h"
+#include "document/saetze/Person.h"
+#include "editing/Gesten.h"
 #include "editing/Kinder.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
-#include "editing/Satzbau.h"
-#include "editing/Verbindungen.h"
 
 #include <algorithm>
 #include <array>
-#include <span>
 
 namespace kw {
 
@@ -15,15 +16,22 @@ namespace {
 
 /// What a twin command makes, by `ZwillingsArt` 1 to 6.
 struct Zwillingsart {
-    std::string_view Typ1, Typ2;
+    int Typ1, Typ2;
     std::string_view Marke;
 };
-constexpr Zwillingsart Arten[] = {{"1", "2", "2E"}, {"2", "2", "2E"}, {"1", "1", "2E"},
-                                  {"1", "2", "1E"}, {"2", "2", "1E"}, {"1", "1", "1E"}};
+constexpr Zwillingsart Arten[] = {{TypMännlich, TypWeiblich, "2E"}, {TypWeiblich, TypWeiblich, "2E"},
+                                  {TypMännlich, TypMännlich, "2E"}, {TypMännlich, TypWeiblich, "1E"},
+                                  {TypWeiblich, TypWeiblich, "1E"}, {TypMännlich, TypMännlich, "1E"}};
 constexpr double AbstandUnterBalken = 1.5 * GrößeNormal;
 
-void Melden(Werkbank &w, const char *deutsch, const char *englisch) {
-    w.benutzer.Fragen({"Kinwright Information ", w.IstDeutsch() ? deutsch : englisch, Knöpfe::Ok, Zeichen::Warnung});
+constexpr Zweisprachig ZuViele{"Zu viele Personen markiert!", "To many people marked!"};
+constexpr Zweisprachig ErstDieEltern{
+    "Bitte markieren Sie zunächst die Eltern, indem Sie einen Auswahlrahmen umd diese ziehen!",
+    "Please first mark the parents by dragging a selection frame around them!"};
+
+void Melden(Werkbank &w, const Zweisprachig &text) {
+    w.benutzer.Fragen(
+        {"Kinwright Information ", std::string(text.In(w.ansicht.Sprache)), Knöpfe::Ok, Zeichen::Warnung});
     AuswahlrahmenParken(w);
     MarkierungsListBoxenLöschen(w);
 }
@@ -31,58 +39,56 @@ void Melden(Werkbank &w, const char *deutsch, const char *englisch) {
 /// The first partnership between the two, in either order; -1 none.
 int PartnerschaftZwischen(const Dokument &d, std::string_view a, std::string_view b) {
     const auto &linien = d.cboPartnerschaftsLinien;
-    for (int i = 0; i < linien.Anzahl(); ++i) {
-        const Felder feld(linien.Satz(i));
-        const auto eins = feld.OderLeer(PLinieFeld::PersNr1);
-        const auto zwei = feld.OderLeer(PLinieFeld::PersNr2);
-        if ((eins == a && zwei == b) || (eins == b && zwei == a)) return i;
-    }
+    for (int i = 0; i < linien.Anzahl(); ++i)
+        if (PartnerschaftSatz(linien.Satz(i), Lücken::Leer).Verbindet(a, b)) return i;
     return -1;
 }
 
-struct Zwilling {
-    std::string Nr;
-    std::string_view Typ;
-    double X;
-};
+/// Numbers for two persons who come together.
+std::array<std::string, 2> ZweiNummern(Dokument &d) {
+    std::string erste = d.NeuePersNr();
+    return {std::move(erste), d.lstGelöschtePersNr.Leer() ? Dreistellig(d.cboPersonen.Anzahl() + 2) : d.NeuePersNr()};
+}
+
+/// The marks of somebody who is born by a command are all "0", that of the age at death too.
+std::string NeuerZwilling(std::string_view nr, int typ, double x, double y, double größe) {
+    PersonBau person(NeuePerson(nr, typ, x, y, größe));
+    return person.Sterbealter("0").Text();
+}
+
+std::string Zwillingsband(const std::array<std::string, 2> &nummern, double x1, double x2, double y) {
+    BeziehungBau band;
+    return band.Beziehungsart("0").Ende1(x1, y).Ende2(x2, y).PersNr1(nummern[0]).PersNr2(nummern[1]).Text();
+}
 
 /// New twins below the partnership at `linie`; both their lines meet the bar at one point.
-void Anlegen(Werkbank &w, int linie) {
-    Dokument &d = w.dokument;
-    const Zwillingsart &art = Arten[w.lage.ZwillingsArt - 1];
-    const std::string plinie = d.cboPartnerschaftsLinien.Satz(linie).substr(0, 3);
-    const Feldbau balken(d.cboPartnerschaftsLinien.Satz(linie), PLinieFeld::Anzahl);
-    const double mitte = (balken.Zahl(PLinieFeld::BalkenX1) + balken.Zahl(PLinieFeld::BalkenX2)) / 2;
-    const double raster = w.ansicht.Rasterweite;
+void Anlegen(Dokument &d, const Zwillingsart &art, int linie, double raster, double größe) {
+    const std::string plinie(Nummer(d.cboPartnerschaftsLinien.Satz(linie)));
+    const PartnerschaftBau bau(d.cboPartnerschaftsLinien.Satz(linie));
+    const PartnerschaftSatz balken = bau.Stand();
+    const double mitte = (balken.BalkenX1() + balken.BalkenX2()) / 2;
     const double gerastert = Gerastert(mitte, raster);
-    const double y = Gerundet(Gerastert(balken.Zahl(PLinieFeld::BalkenY2), raster) + AbstandUnterBalken, 1);
-    w.auflagen.shpMask.Parken();
-
-    std::string nr1 = d.NeuePersNr();
-    std::string nr2 = d.lstGelöschtePersNr.Leer() ? Dreistellig(d.cboPersonen.Anzahl() + 2) : d.NeuePersNr();
-    const std::array<Zwilling, 2> paar{
-        {{nr1, art.Typ1, Gerundet(gerastert + GrößeNormal, 1)}, {nr2, art.Typ2, Gerundet(gerastert - GrößeNormal, 1)}}};
-    const std::string yText = ZahlSchreiben(y);
+    const double y = Gerundet(Gerastert(balken.BalkenY2(), raster) + AbstandUnterBalken, 1);
+    const std::array x{Gerundet(gerastert + GrößeNormal, 1), Gerundet(gerastert - GrößeNormal, 1)};
+    const auto nummern = ZweiNummern(d);
     for (size_t i = 0; i < 2; ++i) {
-        const Zwilling &z = paar[i];
-        const std::string x = ZahlSchreiben(z.X);
-        d.cboPersonen.Anhängen(z.Nr + "_" + std::string(z.Typ) + "_" + x + "_" + yText + "_" +
-                               ZahlSchreiben(w.lage.SymbolGröße) + "_0_0_0_0____" + plinie + "_" +
-                               std::string(art.Marke) + paar[1 - i].Nr);
-        d.cboKindlinien.Anhängen(z.Nr + "_0_" + plinie + "_" + x + "_" + ZahlSchreiben(mitte) + "_" + yText + "_" +
-                                 std::string(balken.Feld(PLinieFeld::BalkenY2)));
+        PersonBau person(NeuerZwilling(nummern[i], i == 0 ? art.Typ1 : art.Typ2, x[i], y, größe));
+        d.cboPersonen.Anhängen(person.ElternLinie(plinie).Zwilling(std::string(art.Marke) + nummern[1 - i]).Text());
+        KindBau kind;
+        kind.KindNr(nummern[i]).Kindart("0").PLinie(plinie).KindX(x[i]).KindY(y);
+        d.cboKindlinien.Anhängen(kind.LinieX(mitte).LinieY(balken.BalkenY2Text()).Text());
     }
     if (art.Marke != "1E") return;
-    const std::string band = "_0_" + ZahlSchreiben(paar[0].X) + "_" + yText + "_" + ZahlSchreiben(paar[1].X) + "_" +
-                             yText + "_" + nr1 + "_" + nr2;
-    for (int i = 0; i < 2; ++i) d.cboBeziehungsLinien.Anhängen(band); // twice: identical twins rest on the pair. Meant.
+    // Twice: identical twins rest on the pair. Meant.
+    for (int i = 0; i < 2; ++i) d.cboBeziehungsLinien.Anhängen(Zwillingsband(nummern, x[0], x[1], y));
 }
 
 void ZwillingeAnlegen(Werkbank &w) {
     const int linie = PartnerschaftZwischen(w.dokument, w.lage.PersNrA, w.lage.PersNrB);
     if (linie < 0) return;
     w.lage.PLinieAuswahl = linie;
-    Anlegen(w, linie);
+    w.auflagen.shpMask.Parken();
+    Anlegen(w.dokument, Arten[w.lage.ZwillingsArt - 1], linie, w.ansicht.Rasterweite, w.lage.SymbolGröße);
     AuswahlrahmenParken(w);
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
@@ -93,7 +99,7 @@ void ZwillingeAnlegen(Werkbank &w) {
 void ElternPrüfen(Werkbank &w) {
     const Satzliste &gewählte = w.auswahl.lstMovedPers;
     if (gewählte.Anzahl() > 2) {
-        Melden(w, "Zu viele Personen markiert!", "To many people marked!");
+        Melden(w, ZuViele);
     } else if (gewählte.Anzahl() == 2) {
         w.lage.PersNrA = gewählte.Satz(0);
         w.lage.PersNrB = gewählte.Satz(1);
@@ -101,11 +107,24 @@ void ElternPrüfen(Werkbank &w) {
         PartnerschaftAnlegen(w);
         ZwillingeAnlegen(w);
     } else {
-        Melden(w, "Bitte markieren Sie zunächst die Eltern, indem Sie einen Auswahlrahmen umd diese ziehen!",
-               "Please first mark the parents by dragging a selection frame around them!");
+        Melden(w, ErstDieEltern);
     }
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
+}
+
+/// The parents' line of two siblings without twins; empty when they are none.
+std::string GemeinsameEltern(const Dokument &d, const std::string &eins, const std::string &zwei) {
+    std::array<std::string, 2> eltern;
+    size_t i = 0;
+    for (const std::string &nr : {eins, zwei}) {
+        const int person = PersonMitNr(d, nr);
+        if (person < 0 || !PersonSatz(d.cboPersonen.Satz(person), Lücken::Leer).Zwilling().empty()) return {};
+        const int linie = KindLinieVon(d, nr);
+        if (linie < 0) return {};
+        eltern[i++] = Getrimmt(KindSatz(d.cboKindlinien.Satz(linie), Lücken::Leer).PLinie());
+    }
+    return eltern[0] == eltern[1] ? eltern[0] : std::string();
 }
 
 } // namespace
@@ -119,23 +138,11 @@ void ZwillingeEinfügen(Werkbank &w, int art) {
 }
 
 void ZwillingeBereit(Werkbank &w) {
-    const Dokument &d = w.dokument;
-    Bedienelement &angebot = w.bedienung["mnuMakeTwins"];
-    angebot.Visible = false;
     const Satzliste &gewählte = w.auswahl.lstMovedPers;
-    if (gewählte.Anzahl() != 2) return;
-    std::array<std::string, 2> eltern;
-    for (int i = 0; i < 2; ++i) {
-        const std::string &nr = gewählte.Satz(i);
-        const int person = PersonMitNr(d, nr);
-        if (person < 0 || !Felder(d.cboPersonen.Satz(person)).OderLeer(PersonFeld::Zwilling).empty()) return;
-        const int linie = KindLinieVon(d, nr);
-        if (linie < 0) return;
-        eltern[static_cast<size_t>(i)] = Getrimmt(Felder(d.cboKindlinien.Satz(linie)).OderLeer(KindFeld::PLinie));
-    }
-    if (eltern[0].empty() || eltern[0] != eltern[1]) return;
-    angebot.Visible = true;
-    w.lage.Zwillingspaar = gewählte.Satz(0) + "_" + gewählte.Satz(1) + "_" + eltern[0];
+    const std::string eltern =
+        gewählte.Anzahl() == 2 ? GemeinsameEltern(w.dokument, gewählte.Satz(0), gewählte.Satz(1)) : std::string();
+    w.bedienung["mnuMakeTwins"].Visible = !eltern.empty();
+    if (!eltern.empty()) w.lage.Zwillingspaar = gewählte.Satz(0) + "_" + gewählte.Satz(1) + "_" + eltern;
 }
 
 void ZwillingeErklären(Werkbank &w, std::string_view mark) {
@@ -147,25 +154,36 @@ void ZwillingeErklären(Werkbank &w, std::string_view mark) {
     const int b = PersonMitNr(d, teile.OderLeer(1));
     if (paar.empty() || linie < 0 || a < 0 || b < 0) return;
     double summe = 0;
-    for (const auto &[person, anderer] : {std::pair(a, teile[1]), std::pair(b, teile[0])}) {
-        Feldbau satz(d.cboPersonen.Satz(person), PersonFeld::Anzahl);
-        summe += satz.Zahl(PersonFeld::PosX);
-        satz.Setzen(PersonFeld::Zwilling, std::string(mark).append(anderer));
-        d.cboPersonen.Ersetzen(person, satz.Text());
+    for (const auto &[position, anderer] : {std::pair(a, teile[1]), std::pair(b, teile[0])}) {
+        PersonBau person(d.cboPersonen.Satz(position));
+        summe += person.Stand().PosX();
+        d.cboPersonen.Ersetzen(position, person.Zwilling(std::string(mark).append(anderer)).Text());
     }
-    const auto [links, rechts] = Balkenbereich(d.cboPartnerschaftsLinien.Satz(linie));
+    const auto [links, rechts] = PartnerschaftSatz(d.cboPartnerschaftsLinien.Satz(linie), Lücken::Leer).Balkenbereich();
     const double mitte = Gerundet(std::clamp(summe / 2, links, rechts), 2);
-    for (const int i : {KindLinieVon(d, teile[0]), KindLinieVon(d, teile[1])}) {
-        if (i < 0) continue;
-        Feldbau satz(d.cboKindlinien.Satz(i), KindFeld::Anzahl);
-        d.cboKindlinien.Ersetzen(i, satz.Setzen(KindFeld::LinieX, mitte).Text());
-    }
+    for (const int i : {KindLinieVon(d, teile[0]), KindLinieVon(d, teile[1])})
+        if (i >= 0) d.cboKindlinien.Ersetzen(i, KindBau(d.cboKindlinien.Satz(i)).LinieX(mitte).Text());
     w.bedienung["mnuMakeTwins"].Visible = false;
     AuswahlrahmenParken(w);
     MarkierungsListBoxenLöschen(w);
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();
     w.fenster.Vorschau();
+}
+
+void cmdZwillinge(Werkbank &w) {
+    constexpr int TypZwilling = 8; // of the button; there is no such symbol to place
+    Leinwandlage &lage = w.lage;
+    const Leinwandlage vorher = lage;
+    lage.Aktion = Aktion::PersonSetzen;
+    lage.SymbolGröße = GrößeNormal;
+    lage.SymbolTyp = TypZwilling;
+    w.fenster.PopupÖffnen("mnuZwillinge");
+    if (lage.Aktion != Aktion::PersonSetzen) return;
+    // A dismissed menu arms nothing: what was selected or armed stays so.
+    lage.Aktion = vorher.Aktion;
+    lage.SymbolGröße = vorher.SymbolGröße;
+    lage.SymbolTyp = vorher.SymbolTyp;
 }
 
 } // namespace kw
