@@ -5,7 +5,8 @@
 #include "document/Dateien.h"
 #include "document/Profil.h"
 #include "document/Texte.h"
-#include "editing/Verbindungen.h"
+#include "editing/Personen.h"
+#include "editing/Werkbank.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "dialogs/Personenbild.h"
 #include "document/Texte.h"
-#include "editing/Loeschen.h"
+#include "editing/Gruppe.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
 

@@ -5,16 +5,15 @@
 #include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Bildausschnitt.h"
+#include "editing/Gruppe.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
 #include "editing/Legende.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
+#include "editing/Personen.h"
 #include "editing/Pfeile.h"
-#include "editing/Rahmenauswahl.h"
 #include "editing/Texte.h"
-#include "editing/Treffer.h"
-#include "editing/Verbindungen.h"
 
 namespace kw {
 
@@ -25,7 +24,7 @@ void Leinwand::MouseDown(int taste, double x, double y) {
     static constexpr Schritt Schritte[] = {
         Zurücksetzen, BildBeginnen,  PfeilBeginnen,   TextSetzen,     OrtMerken,       KreisBeginnen, LegendeFassen,
         KreisTreffen, KreisGewählt,  GruppeFassen,    TextWarGefasst, KindLinkBeenden, MenüWarOffen,  LinkBeenden,
-        Setzen,       PersonTreffen, LinieWarGewählt, LinieTreffen,   TextTreffen,     RahmenBeginnen};
+        PersonSetzen, PersonTreffen, LinieWarGewählt, LinieTreffen,   TextTreffen,     RahmenBeginnen};
     const Ereignis e{taste, x, y};
     for (const Schritt schritt : Schritte)
         if (schritt(w, e)) return;
@@ -48,60 +47,12 @@ bool OrtMerken(Werkbank &w, const Ereignis &e) {
     return false;
 }
 
-bool GruppeFassen(Werkbank &w, const Ereignis &e) {
-    if (w.lage.Aktion != Aktion::GruppeGewählt) return false;
-    const Auflagenform &rahmen = w.auflagen.shpBox;
-    w.lage.AltX = Gerundet(rahmen.Left, 1);
-    w.lage.AltY = Gerundet(rahmen.Top, 1);
-    const bool drin = Kleiner(rahmen.Left, e.X) && Kleiner(e.X, rahmen.Left + rahmen.Width) &&
-                      Kleiner(rahmen.Top, e.Y) && Kleiner(e.Y, rahmen.Top + rahmen.Height);
-    if (!drin) { // the press only ends the selection
-        AuswahlrahmenParken(w);
-        MarkierungsListBoxenLöschen(w);
-        w.lage.Aktion = Aktion::Nichts;
-        w.fenster.Vorschau();
-        return true;
-    }
-    w.lage.Zeiger = Mauszeiger::Verschieben;
-    w.lage.VersatzX = e.X - rahmen.Left;
-    w.lage.VersatzY = e.Y - rahmen.Top;
-    if (e.Rechts()) {
-        w.lage.Zeiger = Mauszeiger::Pfeil; // no drag follows
-        w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
-        PopupÖffnen(w, "mnuAuswahlBox");
-    }
-    return true;
-}
-
 bool MenüWarOffen(Werkbank &w, const Ereignis &) {
     const bool ende = w.lage.Aktion == Aktion::MenüOffen;
     if (ende || w.lage.Aktion == Aktion::Nichts) Gummi1Parken(w);
     if (ende) w.lage.Aktion = Aktion::Nichts;
     if (ende) w.lage.PersRecord.clear(); // a double click that begins so isn't meant for that person
     return ende;
-}
-
-bool PersonTreffen(Werkbank &w, const Ereignis &e) {
-    MarkerEntfernen(w);
-    w.lage.PersAuswahl = 0;
-    w.lage.PersRecord.clear();
-    const int i = PersonBei(w.dokument, e.X, e.Y);
-    if (i < 0) return false;
-    PersonAuswählen(w, i);
-    Gummi1Parken(w);
-    Bedienelemente &b = w.bedienung;
-    b["mnuLöschen1"].Enabled = b["mnuAusschneiden"].Enabled = true;
-    const Felder feld(w.lage.PersRecord);
-    w.lage.VersatzX = e.X - ZahlLesen(feld[PersonFeld::PosX]);
-    w.lage.VersatzY = e.Y - ZahlLesen(feld[PersonFeld::PosY]);
-    w.fenster.Vorschau();
-    if (!e.Rechts()) return true;
-    w.lage.Aktion = Aktion::MenüOffen;
-    for (const char *eintrag : {"mnuBeziehungErstellen2", "mnuPartnerschaftsLinie", "mnuKindVon", "mnuStr2"})
-        b[eintrag].Visible = w.lage.SymbolTyp != TypInstitution;
-    b["mnuKindVon"].Enabled = Getrimmt(feld[PersonFeld::ElternLinie]).empty();
-    PopupÖffnen(w, "mnuPerson");
-    return true;
 }
 
 /// A line that is selected already: its menu, or the end of the selection.
@@ -126,24 +77,6 @@ bool LinieTreffen(Werkbank &w, const Ereignis &e) {
     w.lage.Aktion = Aktion::Nichts;
     return BezLinieTreffer(w, e.X, e.Y) || PLinieTreffer(w, e.X, e.Y) || KindLinieTreffer(w, e.X, e.Y) ||
            PfeilTreffer(w, e.X, e.Y) || PfeilEndeTreffer(w, e.X, e.Y);
-}
-
-bool Setzen(Werkbank &w, const Ereignis &) {
-    if (w.lage.Aktion == Aktion::ElternSetzen) ElternAnlegen(w);
-    else if (w.lage.Aktion == Aktion::PersonSetzen) PersonAnlegen(w);
-    else return false;
-    return true;
-}
-
-bool RahmenBeginnen(Werkbank &w, const Ereignis &e) {
-    w.lage.Aktion = Aktion::RahmenZiehen;
-    w.lage.AnkerX = Raster(w, e.X);
-    w.lage.AnkerY = Raster(w, e.Y);
-    if (!e.Rechts()) return true;
-    w.bedienung["mnuEinfügen8"].Visible = w.bedienung["mnustr15"].Visible = true;
-    PopupÖffnen(w, "mnuSymbolEinfügen");
-    if (w.lage.Aktion == Aktion::RahmenZiehen) RahmenAuswählen(w); // dismissed: the end of an empty marquee
-    return true;
 }
 
 void Leinwand::DblClick(double x, double y) {

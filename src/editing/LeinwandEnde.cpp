@@ -2,19 +2,16 @@
 #include "editing/LeinwandSchritte.h"
 
 #include "document/Zahlen.h"
-#include "editing/Bewegen.h"
 #include "editing/Bildausschnitt.h"
+#include "editing/Gruppe.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
 #include "editing/Legende.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
+#include "editing/Personen.h"
 #include "editing/Pfeile.h"
-#include "editing/Rahmenauswahl.h"
-#include "editing/Satzbau.h"
 #include "editing/Texte.h"
-#include "editing/Treffer.h"
-#include "editing/Verbindungen.h"
 
 #include <cmath>
 
@@ -81,38 +78,5 @@ void ZugAbbrechen(Werkbank &w) {
     default: break;
     }
 }
-
-void PersonGesetzt(Werkbank &w, const Ereignis &) {
-    w.fenster.Sichern();
-    w.lage.Aktion = Aktion::Nichts;
-}
-
-void PersonLoslassen(Werkbank &w, const Ereignis &e) {
-    const int i = w.lage.PersAuswahl - 1;
-    if (i < 0 || i >= w.dokument.cboPersonen.Anzahl()) return;
-    const bool bewegt = HatSichBewegt(w, e);
-    if (bewegt) { // back on the spot it stays where it was, off the raster too
-        w.lage.AuswahlX = Gerundet(w.auflagen.shpMask.Left, 2);
-        w.lage.AuswahlY = Gerundet(w.auflagen.shpMask.Top, 2);
-    }
-    w.lage.NeuX = Gerundet(w.lage.AuswahlX + w.lage.SymbolGröße / 2, 2);
-    w.lage.NeuY = Gerundet(w.lage.AuswahlY + w.lage.SymbolGröße / 2, 2);
-    w.lage.MarkerBreite = w.lage.MarkerHöhe = w.lage.SymbolGröße;
-    Feldbau satz(w.dokument.cboPersonen.Satz(i), PersonFeld::Anzahl);
-    w.dokument.cboPersonen.Ersetzen(i, satz.Text());
-    const Dokument vorher = w.dokument;
-    w.lage.PersRecord = satz.Setzen(PersonFeld::PosX, w.lage.NeuX).Setzen(PersonFeld::PosY, w.lage.NeuY).Text();
-    w.dokument.cboPersonen.Ersetzen(i, w.lage.PersRecord);
-    if (!bewegt) return;
-    ElementeBewegen(w, Bezüge(w.dokument));
-    w.lage.Aktion = Aktion::Nichts;
-    w.fenster.Vorschau();
-    w.auflagen.shpMask.Parken();
-    if (!w.dokument.GleicheSätze(vorher)) w.fenster.Sichern();
-}
-
-void RahmenLoslassen(Werkbank &w, const Ereignis &) { RahmenAuswählen(w); }
-
-void GruppeLoslassen(Werkbank &w, const Ereignis &) { GruppeBewegen(w); }
 
 } // namespace kw

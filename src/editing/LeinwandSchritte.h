@@ -8,21 +8,10 @@ namespace kw {
 
 bool Zurücksetzen(Werkbank &w, const Ereignis &e);
 bool OrtMerken(Werkbank &w, const Ereignis &e);
-bool GruppeFassen(Werkbank &w, const Ereignis &e);
 bool MenüWarOffen(Werkbank &w, const Ereignis &e);
-bool PersonTreffen(Werkbank &w, const Ereignis &e);
 bool LinieWarGewählt(Werkbank &w, const Ereignis &e);
 bool LinieTreffen(Werkbank &w, const Ereignis &e);
-bool Setzen(Werkbank &w, const Ereignis &e);
-bool RahmenBeginnen(Werkbank &w, const Ereignis &e);
-void GruppeZiehen(Werkbank &w, const Ereignis &e);
 void PersonVerknüpfen(Werkbank &w, const Ereignis &e);
-void PersonZiehen(Werkbank &w, const Ereignis &e);
-void RahmenZiehen(Werkbank &w, const Ereignis &e);
-void PersonGesetzt(Werkbank &w, const Ereignis &e);
-void PersonLoslassen(Werkbank &w, const Ereignis &e);
-void RahmenLoslassen(Werkbank &w, const Ereignis &e);
-void GruppeLoslassen(Werkbank &w, const Ereignis &e);
 void ZugAbbrechen(Werkbank &w);
 
 } // namespace kw

@@ -3,15 +3,15 @@
 
 #include "document/Felder.h"
 #include "document/Zahlen.h"
+#include "editing/Gruppe.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
 #include "editing/Legende.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
+#include "editing/Personen.h"
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
-#include "editing/Treffer.h"
-#include "editing/Verbindungen.h"
 
 #include <algorithm>
 #include <cmath>
@@ -55,27 +55,6 @@ void Leinwand::MouseMove(int taste, double x, double y) {
     if (w.lage.Aktion == Aktion::PersonSetzen) w.lage.Zeiger = Mauszeiger::Person;
 }
 
-void GruppeZiehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.shpBox.Left = Raster(w, e.X - w.lage.VersatzX);
-    w.auflagen.shpBox.Top = Raster(w, e.Y - w.lage.VersatzY);
-}
-
 void PersonVerknüpfen(Werkbank &w, const Ereignis &e) { LinkZiehen(w, PersonBei(w.dokument, e.X, e.Y), e.X, e.Y); }
-
-/// A small drag leaves the mask unshown; that is the whole threshold.
-void PersonZiehen(Werkbank &w, const Ereignis &e) {
-    const double schritt = w.ansicht.Rasterweite;
-    Auflagenform &maske = w.auflagen.shpMask;
-    if (!Kleiner(schritt, w.lage.VersatzX) && !Kleiner(schritt, w.lage.VersatzY)) maske.Visible = false;
-    maske.Left = Raster(w, e.X - w.lage.VersatzX) - w.lage.SymbolGröße / 2;
-    maske.Top = Raster(w, e.Y - w.lage.VersatzY) - w.lage.SymbolGröße / 2;
-    if (Kleiner(schritt, std::fabs(e.X - w.lage.DownX)) || Kleiner(schritt, std::fabs(e.Y - w.lage.DownY)))
-        maske.Visible = true;
-}
-
-void RahmenZiehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.shpBox.Legen(std::min(w.lage.AnkerX, e.X), std::min(w.lage.AnkerY, e.Y), std::fabs(e.X - w.lage.AnkerX),
-                            std::fabs(e.Y - w.lage.AnkerY));
-}
 
 } // namespace kw

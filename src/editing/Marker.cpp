@@ -2,34 +2,8 @@
 
 #include "document/Felder.h"
 #include "document/Zahlen.h"
-#include "editing/Symbolgroesse.h"
-#include "editing/Treffer.h"
 
 namespace kw {
-
-namespace {
-
-Umriss MaskenForm(int typ) {
-    switch (typ) {
-    case 1:
-    case 3:
-    case 5:
-    case 7: return Umriss::Quadrat;
-    case 2:
-    case 4:
-    case 6: return Umriss::Kreis;
-    case TypMännlichZuWeiblich: return Umriss::Oval;
-    default: return Umriss::Rechteck;
-    }
-}
-
-void PersonInfoAnzeigen(Werkbank &w, const Felder &feld) {
-    w.lage.Info = {ZahlLesen(feld[PersonFeld::Symboltyp]) != TypInstitution, feld[PersonFeld::IndexPerson] == "1",
-                   feld[PersonFeld::Sterbealter].starts_with('$'), feld[PersonFeld::Sucht] == "1",
-                   feld[PersonFeld::Erkrankung] == "1"};
-}
-
-} // namespace
 
 void MarkierungsListBoxenLöschen(Werkbank &w) {
     w.auswahl = {};
@@ -102,29 +76,6 @@ void AllesAbwählen(Werkbank &w) {
     w.lage.AuswahlGröße = vorher.AuswahlGröße;
     w.lage.TextRahmenUnten = vorher.TextRahmenUnten;
     w.auflagen = {};
-}
-
-void PersonAuswählen(Werkbank &w, int position) {
-    Leinwandlage &lage = w.lage;
-    MarkierungsListBoxenLöschen(w);
-    lage.PersAuswahl = position + 1;
-    lage.ElementArt = "Person";
-    lage.PersRecord = w.dokument.cboPersonen.Satz(position);
-    const Felder feld(lage.PersRecord);
-    lage.PersNr = feld[PersonFeld::Nr];
-    w.auswahl.lstMovedPers.Anhängen(lage.PersNr);
-    const double größe = ZahlLesen(feld[PersonFeld::Groesse]);
-    lage.SymbolTyp = Ganzzahl16(ZahlLesen(feld[PersonFeld::Symboltyp]));
-    lage.SymbolGröße = lage.AuswahlGröße = lage.MarkerBreite = lage.MarkerHöhe = größe;
-    lage.AuswahlX = Gerundet(ZahlLesen(feld[PersonFeld::PosX]) - größe / 2, 2);
-    lage.AuswahlY = Gerundet(ZahlLesen(feld[PersonFeld::PosY]) - größe / 2, 2);
-    Auflagenform &maske = w.auflagen.shpMask;
-    maske.Visible = false;
-    maske.Shape = MaskenForm(lage.SymbolTyp);
-    maske.Legen(lage.AuswahlX, lage.AuswahlY, größe, größe);
-    lage.Aktion = Aktion::PersonGewählt;
-    GrößeMenüsPrüfen(w);
-    PersonInfoAnzeigen(w, feld);
 }
 
 std::string ZwillingNr(std::string_view zwilling) {

@@ -30,8 +30,6 @@ void PositionenVergessen(Leinwandlage &lage);
 /// Nothing selected, no gesture, every shape out of the way; no redraw. Before other records come into the stores.
 void AllesAbwählen(Werkbank &w);
 
-/// Selects the person at `position` alone: lists, marker, drag mask and panel; `Aktion` 3.
-void PersonAuswählen(Werkbank &w, int position);
 /// Number of the other twin in field `Zwilling`, behind its mark; empty when there is none.
 std::string ZwillingNr(std::string_view zwilling);
 

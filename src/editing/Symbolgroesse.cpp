@@ -1,8 +1,8 @@
-#include "editing/Symbolgroesse.h"
-
 #include "document/Texte.h"
+#include "document/saetze/Person.h"
 #include "editing/Marker.h"
-#include "editing/Satzbau.h"
+#include "editing/Personen.h"
+#include "editing/Werkbank.h"
 
 #include <algorithm>
 #include <optional>
@@ -35,8 +35,8 @@ struct Maß {
 std::optional<Maß> Gewählte(const Werkbank &w) {
     const int i = PersonMitNr(w.dokument, w.lage.PersNr);
     if (i < 0) return std::nullopt;
-    const Felder feld(w.dokument.cboPersonen.Satz(i));
-    return Maß{FamilieVon(feld.OderLeer(PersonFeld::Symboltyp)), ZahlLesen(feld.OderLeer(PersonFeld::Groesse))};
+    const PersonSatz person(w.dokument.cboPersonen.Satz(i), Lücken::Leer);
+    return Maß{FamilieVon(person.Symboltyp()), person.Groesse()};
 }
 
 } // namespace
@@ -45,11 +45,11 @@ void GrößeÄndern(Werkbank &w, double delta) {
     Satzliste &personen = w.dokument.cboPersonen;
     for (const auto &eintrag : w.auswahl.lstMovedPers) {
         const int i = PersonMitNr(w.dokument, Getrimmt(eintrag));
-        if (i < 0 || Felder(personen.Satz(i)).Anzahl() < PersonFeld::Anzahl) continue;
-        Feldbau satz(personen.Satz(i), PersonFeld::Anzahl);
-        const Familie &familie = FamilieVon(satz.Feld(PersonFeld::Symboltyp));
-        const double neu = std::clamp(satz.Zahl(PersonFeld::Groesse) + delta, familie.Kleinste, familie.Größte);
-        personen.Ersetzen(i, satz.Setzen(PersonFeld::Groesse, neu).Text());
+        if (i < 0 || !PersonSatz(personen.Satz(i)).Vollständig()) continue;
+        PersonBau person(personen.Satz(i));
+        const Familie &familie = FamilieVon(person.Stand().Symboltyp());
+        person.Groesse(std::clamp(person.Stand().Groesse() + delta, familie.Kleinste, familie.Größte));
+        personen.Ersetzen(i, person.Text());
     }
     AuswahlrahmenParken(w);
     w.fenster.Vorschau();

@@ -6,7 +6,6 @@
 #include "editing/Kinder.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
-#include "editing/Verbindungen.h"
 
 namespace kw {
 

@@ -2,10 +2,11 @@
 
 #include "document/saetze/Kreislinie.h"
 #include "editing/Geometrie.h"
+#include "editing/Gruppe.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
-#include "editing/Loeschen.h"
 #include "editing/Marker.h"
+#include "editing/Personen.h"
 #include "editing/Satzbau.h"
 #include "editing/Texte.h"
 

@@ -6,7 +6,7 @@
 #include "app/Einblick.h"
 #include "app/frmMain.h"
 #include "editing/Loeschen.h"
-#include "editing/Treffer.h"
+#include "editing/Personen.h"
 #include "replay/Aufzeichnung.h"
 #include "replay/Plattform.h"
 

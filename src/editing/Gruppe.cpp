@@ -1,0 +1,215 @@
+#include "editing/Gruppe.h"
+
+#include "document/Verweise.h"
+#include "editing/Gesten.h"
+#include "editing/Kinder.h"
+#include "editing/Kreislinien.h"
+#include "editing/Linien.h"
+#include "editing/Marker.h"
+#include "editing/Personen.h"
+#include "editing/Pfeile.h"
+#include "editing/Texte.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kw {
+
+namespace {
+
+/// Kinds without a number, in the order in which a group moves and deletes them.
+constexpr const Gruppenart *Arten[] = {&KreislinienInGruppen, &TexteInGruppen, &PfeileInGruppen};
+
+/// Enters the positions of what lies in the marquee.
+void Eintragen(const Gruppenart &art, const Dokument &d, const Auswahlkasten &kasten, double raster, Auswahl &auswahl) {
+    const Satzliste &speicher = d.*art.Speicher;
+    Satzliste &gewählt = auswahl.*art.Gewählt;
+    gewählt.Leeren();
+    for (int i = 0; i < speicher.Anzahl(); ++i)
+        if (art.ImKasten(speicher.Satz(i), kasten, raster)) gewählt.Anhängen(std::to_string(i + art.Erste));
+}
+
+/// The same for kinds that have a number.
+void NummernEintragen(bool (*imKasten)(std::string_view, const Auswahlkasten &), const Satzliste &speicher,
+                      const Auswahlkasten &kasten, Satzliste &gewählt) {
+    gewählt.Leeren();
+    for (const auto &satz : speicher)
+        if (imKasten(satz, kasten)) gewählt.Anhängen(satz.substr(0, satz.find('_')));
+}
+
+void Mitbewegen(const Gruppenart &art, Dokument &d, const Auswahl &auswahl, double dx, double dy, double raster) {
+    Satzliste &speicher = d.*art.Speicher;
+    for (const auto &eintrag : auswahl.*art.Gewählt) {
+        const int i = PositionAus(eintrag, speicher, art.Erste);
+        if (i >= 0) speicher.Ersetzen(i, art.Verschoben(speicher.Satz(i), dx, dy, raster));
+    }
+}
+
+/// From the list's last entry on, so that the positions before it stay right.
+void Entfernen(const Gruppenart &art, Dokument &d, Auswahl &auswahl) {
+    Satzliste &gewählt = auswahl.*art.Gewählt;
+    for (int e = gewählt.Anzahl() - 1; e >= 0; --e) {
+        const int i = PositionAus(gewählt.Satz(e), d.*art.Speicher, art.Erste);
+        if (i >= 0) (d.*art.Speicher).Entfernen(i);
+    }
+    gewählt.Leeren();
+}
+
+void PersonenEntfernen(Werkbank &w) {
+    const Satzliste personen = w.auswahl.lstMovedPers;
+    for (int i = personen.Anzahl() - 1; i >= 0; --i) {
+        w.lage.ElementArt = "Person";
+        w.lage.PersNr = personen.Satz(i);
+        PersonLöschen(w);
+    }
+}
+
+/// The way that the frame has gone. Half a tenth is no way: a frame between two tenths mustn't creep with each click.
+double Weg(double jetzt, double vorher) { return Gerundet(Gerundet(jetzt - vorher, 6), 1); }
+
+} // namespace
+
+bool RahmenBeginnen(Werkbank &w, const Ereignis &e) {
+    w.lage.Aktion = Aktion::RahmenZiehen;
+    w.lage.AnkerX = Raster(w, e.X);
+    w.lage.AnkerY = Raster(w, e.Y);
+    if (!e.Rechts()) return true;
+    w.bedienung["mnuEinfügen8"].Visible = w.bedienung["mnustr15"].Visible = true;
+    PopupÖffnen(w, "mnuSymbolEinfügen");
+    if (w.lage.Aktion == Aktion::RahmenZiehen) RahmenAuswählen(w); // dismissed: the end of an empty marquee
+    return true;
+}
+
+void RahmenZiehen(Werkbank &w, const Ereignis &e) {
+    w.auflagen.shpBox.Legen(std::min(w.lage.AnkerX, e.X), std::min(w.lage.AnkerY, e.Y), std::fabs(e.X - w.lage.AnkerX),
+                            std::fabs(e.Y - w.lage.AnkerY));
+}
+
+void RahmenAuswählen(Werkbank &w) {
+    const Dokument &d = w.dokument;
+    Auswahl &a = w.auswahl;
+    const Auflagenform &box = w.auflagen.shpBox;
+    const Auswahlkasten kasten{box.Left, box.Top, box.Left + box.Width, box.Top + box.Height};
+    NummernEintragen(PersonImKasten, d.cboPersonen, kasten, a.lstMovedPers);
+    ZwillingeBereit(w);
+    NummernEintragen(BalkenImKasten, d.cboPartnerschaftsLinien, kasten, a.lstMovedPLines);
+    for (const Gruppenart *art : Arten) Eintragen(*art, d, kasten, w.ansicht.Rasterweite, a);
+
+    const bool etwas = !a.Leer();
+    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = etwas;
+    w.lage.Aktion = etwas ? Aktion::GruppeGewählt : Aktion::Nichts;
+    if (!etwas) AuswahlrahmenParken(w);
+    w.fenster.Vorschau();
+}
+
+void RahmenLoslassen(Werkbank &w, const Ereignis &) { RahmenAuswählen(w); }
+
+bool GruppeFassen(Werkbank &w, const Ereignis &e) {
+    if (w.lage.Aktion != Aktion::GruppeGewählt) return false;
+    const Auflagenform &rahmen = w.auflagen.shpBox;
+    w.lage.AltX = Gerundet(rahmen.Left, 1);
+    w.lage.AltY = Gerundet(rahmen.Top, 1);
+    const Auswahlkasten kasten{rahmen.Left, rahmen.Top, rahmen.Left + rahmen.Width, rahmen.Top + rahmen.Height};
+    if (!kasten.Enthält(e.X, e.Y)) { // the press only ends the selection
+        AuswahlrahmenParken(w);
+        MarkierungsListBoxenLöschen(w);
+        w.lage.Aktion = Aktion::Nichts;
+        w.fenster.Vorschau();
+        return true;
+    }
+    w.lage.Zeiger = Mauszeiger::Verschieben;
+    w.lage.VersatzX = e.X - rahmen.Left;
+    w.lage.VersatzY = e.Y - rahmen.Top;
+    if (e.Rechts()) {
+        w.lage.Zeiger = Mauszeiger::Pfeil; // no drag follows
+        w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
+        PopupÖffnen(w, "mnuAuswahlBox");
+    }
+    return true;
+}
+
+void GruppeZiehen(Werkbank &w, const Ereignis &e) {
+    w.auflagen.shpBox.Left = Raster(w, e.X - w.lage.VersatzX);
+    w.auflagen.shpBox.Top = Raster(w, e.Y - w.lage.VersatzY);
+}
+
+void GruppeLoslassen(Werkbank &w, const Ereignis &) {
+    Leinwandlage &lage = w.lage;
+    const Auflagenform &rahmen = w.auflagen.shpBox;
+    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
+    lage.DeltaX = Weg(rahmen.Left, lage.AltX);
+    lage.DeltaY = Weg(rahmen.Top, lage.AltY);
+    if (w.auswahl.Leer() || (lage.DeltaX == 0 && lage.DeltaY == 0)) return;
+    const Bezüge bezüge(w.dokument);
+    BalkenMitbewegen(w.dokument, bezüge, w.auswahl.lstMovedPLines, lage.DeltaX, lage.DeltaY);
+    const Balkenmitnahme zug{lage.DeltaX, lage.DeltaY, rahmen.Left, rahmen.Left + rahmen.Width};
+    for (const auto &nr : w.auswahl.lstMovedPers) PersonMitbewegen(w, bezüge, nr, zug);
+    for (const Gruppenart *art : Arten)
+        Mitbewegen(*art, w.dokument, w.auswahl, lage.DeltaX, lage.DeltaY, w.ansicht.Rasterweite);
+    w.fenster.Vorschau();
+    w.fenster.Sichern();
+}
+
+void AuswahlLöschen(Werkbank &w) {
+    const int vorher = Satzzahl(w.dokument);
+    for (const Gruppenart *art : Arten) Entfernen(*art, w.dokument, w.auswahl);
+    PositionenVergessen(w.lage);
+    PersonenEntfernen(w);
+    AuswahlrahmenParken(w);
+    if (Satzzahl(w.dokument) < vorher) w.fenster.Sichern();
+    w.fenster.Vorschau();
+    w.lage.Aktion = Aktion::Nichts;
+}
+
+void mnuLöschen1(Werkbank &w) {
+    struct Weg {
+        kw::Aktion Aktion;
+        void (*Löschen)(Werkbank &);
+    };
+    static constexpr Weg Wege[] = {
+        {Aktion::KindlinieGewählt, KindLinieEntfernen},
+        {Aktion::KreisGewählt, KreisLinieLöschen},
+        {Aktion::BeziehungGewählt, BezLinieLöschen},
+        {Aktion::PLinieGewählt, PLinieLöschen},
+        {Aktion::TextGewählt, TextLöschen},
+        {Aktion::PfeilGewählt, PfeilLöschen},
+    };
+    w.lage.Info.Visible = false;
+    const auto *weg =
+        std::find_if(std::begin(Wege), std::end(Wege), [&](const Weg &g) { return g.Aktion == w.lage.Aktion; });
+    if (weg != std::end(Wege)) {
+        weg->Löschen(w);
+    } else {
+        w.lage.Aktion = Aktion::GruppeGewählt;
+        AuswahlLöschen(w);
+        MarkierungsListBoxenLöschen(w);
+    }
+    w.bedienung["mnuLöschen1"].Enabled = false;
+}
+
+void mnuSymbolLöschen(Werkbank &w) {
+    w.lage.Info.Visible = false;
+    if (w.lage.ElementArt == "Textbox") LetzteTextboxLöschen(w);
+    else PersonLöschen(w);
+    MarkierungsListBoxenLöschen(w);
+    MarkerEntfernen(w);
+    w.lage.Aktion = Aktion::Nichts;
+    w.auflagen.shpMask.Visible = false;
+    w.bedienung["mnuLöschen1"].Enabled = false;
+}
+
+void cmdDelete(Werkbank &w) {
+    if (w.lage.Aktion != Aktion::GruppeGewählt) return;
+    const int vorher = Satzzahl(w.dokument);
+    for (const Gruppenart *art : {&KreislinienInGruppen, &TexteInGruppen}) Entfernen(*art, w.dokument, w.auswahl);
+    PositionenVergessen(w.lage);
+    PersonenEntfernen(w);
+    for (const auto &nr : w.auswahl.lstMovedPLines) PartnerschaftAlleinEntfernen(w.dokument, nr);
+    AuswahlrahmenParken(w);
+    MarkierungsListBoxenLöschen(w);
+    w.lage.Aktion = Aktion::Nichts;
+    w.fenster.Vorschau();
+    if (Satzzahl(w.dokument) < vorher) w.fenster.Sichern();
+}
+
+} // namespace kw

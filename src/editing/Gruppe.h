@@ -1,0 +1,34 @@
+#pragma once
+
+// Several elements at once: the marquee that selects them, the frame that moves them, and deleting what is selected.
+// Nothing asks before it deletes: the snapshot at the end of each command is what makes it undoable.
+namespace kw {
+
+struct Ereignis;
+struct Werkbank;
+
+/// A press on the empty page begins a marquee, or opens the page's menu. Says whether the event ends with it.
+bool RahmenBeginnen(Werkbank &w, const Ereignis &e);
+void RahmenZiehen(Werkbank &w, const Ereignis &e);
+/// The end of a marquee: fills the selection lists with what `shpBox` holds. Ends in `Aktion` 17 with the frame as
+/// dragged, or in 0 without it.
+void RahmenAuswählen(Werkbank &w);
+void RahmenLoslassen(Werkbank &w, const Ereignis &e);
+
+/// A press with a group selected takes the frame, or ends the selection. Says whether the event ends with it.
+bool GruppeFassen(Werkbank &w, const Ereignis &e);
+void GruppeZiehen(Werkbank &w, const Ereignis &e);
+/// Everything selected goes the frame's way. The frame stays, ready for another move.
+void GruppeLoslassen(Werkbank &w, const Ereignis &e);
+
+/// Everything in the selection lists but partnership lines: those go with a partner only.
+void AuswahlLöschen(Werkbank &w);
+/// The delete command: what is selected, as `Aktion` tells.
+void mnuLöschen1(Werkbank &w);
+/// Context menu of a person: the selected person with every line that names it, or the text box that was selected last.
+void mnuSymbolLöschen(Werkbank &w);
+/// The delete button of the palette. It deletes a group's partnership lines too, without freeing their children,
+/// and leaves its arrows. Meant.
+void cmdDelete(Werkbank &w);
+
+} // namespace kw

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "document/Importdaten.h"
+#include "document/Nachschlagen.h"
+
+#include <optional>
+#include <string_view>
+
+// Persons: placing, selecting, moving, deleting, their size.
+namespace kw {
+
+struct Auswahlkasten;
+struct Balkenmitnahme;
+struct Dokument;
+struct Ereignis;
+struct Umgebung;
+struct Werkbank;
+
+/// Position of the first person under the point, -1 none: the square round the centre, for round symbols too.
+int PersonBei(const Dokument &dokument, double x, double y);
+/// Whether a marquee takes the person of that record in; a damaged one never.
+bool PersonImKasten(std::string_view satz, const Auswahlkasten &kasten);
+void PersonUmgeben(std::string_view satz, Umgebung &umgebung);
+
+/// Selects the person at `position` alone: lists, marker, drag mask and panel; `Aktion` 3.
+void PersonAuswählen(Werkbank &w, int position);
+
+// Placing.
+
+/// A person of the armed tool's kind at the pointer's last place, snapped. Only while the tool is armed. One that was
+/// dragged out of the import list is as that list has it.
+void PersonAnlegen(Werkbank &w, const Importperson *import = nullptr);
+/// A couple with its partnership line; the pointer's last place is the left one, the father. Kept within 5 cm of
+/// the page's right edge, and nowhere else.
+void ElternAnlegen(Werkbank &w);
+
+// A press: with a tool in hand that places somebody; on a person. Each says whether the event ends with it.
+bool PersonSetzen(Werkbank &w, const Ereignis &e);
+bool PersonTreffen(Werkbank &w, const Ereignis &e);
+
+/// Only the mask follows the pointer; a small drag leaves it unshown, that is the whole threshold.
+void PersonZiehen(Werkbank &w, const Ereignis &e);
+
+// The release: of a tool, of a person in hand.
+void PersonGesetzt(Werkbank &w, const Ereignis &e);
+void PersonLoslassen(Werkbank &w, const Ereignis &e);
+
+/// Carries all lines of person `nr` along to (x, y), cm; `raster` is the snap step.
+void LinienDerPersonNachziehen(Dokument &dokument, const Bezüge &bezüge, std::string_view nr, double x, double y,
+                               double raster, const std::optional<Balkenmitnahme> &gruppe);
+/// Moves the person of that number by (dx, dy), cm, with all its lines, as a part of a group. Its new centre goes into
+/// `NeuX`, `NeuY`.
+void PersonMitbewegen(Werkbank &w, const Bezüge &bezüge, std::string_view nr, const Balkenmitnahme &gruppe);
+
+/// Person `PersNr` with every line that names it. Within a group, and of a single selected person, no redraw and no
+/// snapshot.
+void PersonLöschen(Werkbank &w);
+
+// Size (Symbolgroesse.cpp).
+
+/// One step of a size command, cm.
+constexpr double GrößenSchritt = 0.3;
+/// Adds `delta` to the size of every selected person, within the limits of its family: 0.3 to 1.2 for small kinds,
+/// 0.9 to 1.8 for the others. Lines join centres, so none changes. One snapshot, also with nobody selected. Meant.
+void GrößeÄndern(Werkbank &w, double delta);
+/// Context menu: one step, then the states of both entries.
+void mnuSymbolVergrößern(Werkbank &w);
+void mnuSymbolVerkleinern(Werkbank &w);
+/// Enables both context entries as the selected person's size allows.
+void GrößeMenüsPrüfen(Werkbank &w);
+
+} // namespace kw
