@@ -1,0 +1,224 @@
+#include "editing/Leinwand.h"
+
+#include "document/Texte.h"
+#include "document/Zahlen.h"
+#include "editing/Bildausschnitt.h"
+#include "editing/Gesten.h"
+#include "editing/Gruppe.h"
+#include "editing/Kinder.h"
+#include "editing/Kreislinien.h"
+#include "editing/Legende.h"
+#include "editing/Linien.h"
+#include "editing/Marker.h"
+#include "editing/Personen.h"
+#include "editing/Pfeile.h"
+#include "editing/Texte.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+bool Zurücksetzen(Werkbank &w, const Ereignis &e) {
+    // The last release got lost; a dragged circle line has moved already.
+    if (std::exchange(w.lage.Gedrückt, true) && w.lage.Aktion == Aktion::KreisGewählt) KreisLoslassen(w, e);
+    w.auflagen.Line5.Visible = false;
+    w.bedienung["mnuLöschen1"].Enabled = false;
+    w.auflagen.shpMask.Visible = false;
+    w.lage.Info.Visible = false;
+    w.bedienung["mnustr14"].Visible = false;
+    return false;
+}
+
+bool OrtMerken(Werkbank &w, const Ereignis &e) {
+    w.lage.LetztX = w.lage.DownX = Gerundet(e.X, 2);
+    w.lage.LetztY = w.lage.DownY = Gerundet(e.Y, 2);
+    return false;
+}
+
+bool MenüWarOffen(Werkbank &w, const Ereignis &) {
+    const bool ende = w.lage.Aktion == Aktion::MenüOffen;
+    if (ende || w.lage.Aktion == Aktion::Nichts) Gummi1Parken(w);
+    if (ende) w.lage.Aktion = Aktion::Nichts;
+    if (ende) w.lage.PersRecord.clear(); // a double click that begins so isn't meant for that person
+    return ende;
+}
+
+/// A line that is selected already: its menu, or the end of the selection.
+bool LinieWarGewählt(Werkbank &w, const Ereignis &e) {
+    const char *menü = w.lage.Aktion == Aktion::BeziehungGewählt   ? "mnuBezLinie"
+                       : w.lage.Aktion == Aktion::PLinieGewählt    ? "mnuPLinie"
+                       : w.lage.Aktion == Aktion::KindlinieGewählt ? "mnuKindLinie"
+                                                                   : nullptr;
+    if (!menü) return false;
+    if (e.Rechts()) {
+        w.bedienung["mnuLöschen1"].Enabled = true;
+        PopupÖffnen(w, menü);
+        return true;
+    }
+    Gummi1Parken(w);
+    w.lage.Aktion = Aktion::Nichts;
+    w.fenster.Vorschau();
+    return true;
+}
+
+bool LinieTreffen(Werkbank &w, const Ereignis &e) {
+    w.lage.Aktion = Aktion::Nichts;
+    return BezLinieTreffer(w, e.X, e.Y) || PLinieTreffer(w, e.X, e.Y) || KindLinieTreffer(w, e.X, e.Y) ||
+           PfeilTreffer(w, e.X, e.Y) || PfeilEndeTreffer(w, e.X, e.Y);
+}
+
+/// The order decides what a press means: what is armed or selected comes before what lies under the pointer, and
+/// of that circle lines come first, then persons, lines, arrows, text boxes.
+using Schritt = bool (*)(Werkbank &, const Ereignis &);
+constexpr Schritt Schritte[] = {Zurücksetzen,   BildBeginnen,    PfeilBeginnen, TextSetzen,   OrtMerken,
+                                KreisBeginnen,  LegendeFassen,   KreisTreffen,  KreisGewählt, GruppeFassen,
+                                TextWarGefasst, KindLinkBeenden, MenüWarOffen,  LinkBeenden,  PersonSetzen,
+                                PersonTreffen,  LinieWarGewählt, LinieTreffen,  TextTreffen,  RahmenBeginnen};
+
+void PersonVerknüpfen(Werkbank &w, const Ereignis &e) { LinkZiehen(w, PersonBei(w.dokument, e.X, e.Y), e.X, e.Y); }
+
+/// Only shapes over the page move, so nothing is redrawn; a dragged circle line is the exception.
+struct Zug {
+    kw::Aktion Aktion;
+    bool NurLinks; ///< only while the left button is down
+    void (*Ziehen)(Werkbank &, const Ereignis &);
+};
+constexpr Zug Züge[] = {
+    {Aktion::PfeilZeichnen, true, PfeilAufziehen},
+    {Aktion::PfeilGefasst, true, PfeilZiehen},
+    {Aktion::PfeilEnde2, true, PfeilZiehen},
+    {Aktion::PfeilEnde1, true, PfeilZiehen},
+    {Aktion::KreisGewählt, true, KreisZiehen},
+    {Aktion::KreisZeichnen, true, KreisZeichnen},
+    {Aktion::LegendeGefasst, true, LegendeZiehen},
+    {Aktion::GruppeGewählt, true, GruppeZiehen},
+    {Aktion::BeziehungZiehen, false, PersonVerknüpfen},
+    {Aktion::PartnerschaftZiehen, false, PersonVerknüpfen},
+    {Aktion::KindZiehen, false, KindLinkZiehen},
+    {Aktion::TextGefasst, false, TextZiehen},
+    {Aktion::PersonGewählt, true, PersonZiehen},
+    {Aktion::PLinieGewählt, true, BalkenZiehen},
+    {Aktion::RahmenZiehen, true, RahmenZiehen},
+};
+
+struct Ende {
+    kw::Aktion Aktion;
+    void (*Loslassen)(Werkbank &, const Ereignis &);
+};
+constexpr Ende Enden[] = {
+    {Aktion::PersonSetzen, PersonGesetzt},         {Aktion::PersonGewählt, PersonLoslassen},
+    {Aktion::TextGefasst, TextLoslassen},          {Aktion::PLinieGewählt, BalkenLoslassen},
+    {Aktion::BeziehungGewählt, BezLinieLoslassen}, {Aktion::KindlinieGewählt, KindLinieLoslassen},
+    {Aktion::RahmenZiehen, RahmenLoslassen},       {Aktion::GruppeGewählt, GruppeLoslassen},
+    {Aktion::LegendeGefasst, LegendeLoslassen},    {Aktion::KreisGewählt, KreisLoslassen},
+    {Aktion::KreisZeichnen, KreisSchließen},       {Aktion::PfeilZeichnen, PfeilGezogen},
+    {Aktion::PfeilEnde1, PfeilEndeLoslassen},      {Aktion::PfeilEnde2, PfeilEndeLoslassen},
+    {Aktion::PfeilGefasst, PfeilLoslassen},
+};
+
+void ZugAbbrechen(Werkbank &w) {
+    w.auflagen.shpMask.Visible = w.auflagen.Line1.Visible = w.auflagen.Line5.Visible = false;
+    w.lage.LinieVerschoben = false;
+    w.lage.Zeiger = Mauszeiger::Pfeil;
+    switch (w.lage.Aktion) {
+    case Aktion::KreisGewählt: KreisLoslassen(w, {}); break;
+    case Aktion::PersonSetzen: PersonGesetzt(w, {}); break; // it stands already
+    case Aktion::TextGefasst: w.lage.Aktion = Aktion::TextGewählt; break;
+    case Aktion::GruppeGewählt:
+        w.auflagen.shpBox.Left = w.lage.AltX;
+        w.auflagen.shpBox.Top = w.lage.AltY;
+        break;
+    case Aktion::RahmenZiehen:
+    case Aktion::KreisZeichnen:
+    case Aktion::PfeilZeichnen:
+    case Aktion::LegendeGefasst:
+        AuswahlrahmenParken(w);
+        w.lage.PunktListe.clear();
+        w.lage.BildAuswahl = false;
+        w.lage.Aktion = Aktion::Nichts;
+        break;
+    default: break;
+    }
+}
+
+} // namespace
+
+void Leinwand::MouseDown(int taste, double x, double y) {
+    const Ereignis e{taste, x, y};
+    for (const Schritt schritt : Schritte)
+        if (schritt(w, e)) return;
+}
+
+void Leinwand::MouseMove(int taste, double x, double y) {
+    w.lage.MausX = x;
+    w.lage.MausY = y;
+    const Ereignis e{taste, x, y};
+    const auto zug = std::find_if(std::begin(Züge), std::end(Züge), [&](const Zug &z) {
+        return z.Aktion == w.lage.Aktion && ((e.Links() && w.lage.Gedrückt) || !z.NurLinks);
+    });
+    if (zug != std::end(Züge)) zug->Ziehen(w, e);
+    if (w.lage.Aktion == Aktion::TextGesetzt) w.lage.Zeiger = Mauszeiger::Textfeld;
+    if (w.lage.Aktion == Aktion::PersonSetzen) w.lage.Zeiger = Mauszeiger::Person;
+}
+
+void Leinwand::MouseUp(int taste, double x, double y) {
+    if (!std::exchange(w.lage.Gedrückt, false)) return;
+    for (Auflagenlinie &linie : w.auflagen.MarkLine) linie.Visible = false;
+    if (w.lage.BildAuswahl) return BildLoslassen(w);
+    w.auflagen.Line1.Visible = w.auflagen.Line5.Visible = false;
+    w.lage.Zeiger = Mauszeiger::Pfeil;
+    Gummi2Parken(w);
+    w.fenster.UndoKnöpfeSetzen();
+    const Ereignis e{taste, x, y};
+    for (const Ende &ende : Enden) {
+        if (ende.Aktion != w.lage.Aktion) continue;
+        ende.Loslassen(w, e);
+        return;
+    }
+}
+
+void Leinwand::DblClick(double x, double y) {
+    w.lage.MausX = x;
+    w.lage.MausY = y;
+    const int text = TextboxBei(w.dokument, x, y);
+    if (text >= 0) {
+        TextboxAuswählen(w, text);
+        w.lage.Aktion = Aktion::TextDialog;
+        w.fenster.Vorschau();
+        w.fenster.FormÖffnen("frmKommentar");
+        return;
+    }
+    if (LegendeUnterMaus(w)) {
+        w.fenster.FormÖffnen("frmLegende");
+        return;
+    }
+    // A press on a selected line has just unselected it: the double click means the line all the same.
+    if (w.lage.Aktion == Aktion::Nichts && Getrimmt(w.lage.PersRecord).empty())
+        BezLinieTreffer(w, x, y) || PLinieTreffer(w, x, y) || KindLinieTreffer(w, x, y);
+    struct Tür {
+        kw::Aktion Aktion;
+        const char *Form;
+    };
+    for (const auto &[aktion, form] :
+         {Tür{Aktion::BeziehungGewählt, "frmBezLinien"}, Tür{Aktion::PLinieGewählt, "frmPLinien"},
+          Tür{Aktion::KindlinieGewählt, nullptr}}) {
+        if (w.lage.Aktion != aktion) continue;
+        if (form) w.fenster.FormÖffnen(form);
+        else w.fenster.PopupÖffnen("mnuKindLinie");
+        w.lage.Aktion = Aktion::Nichts;
+        w.fenster.Vorschau();
+        return;
+    }
+    constexpr int NachDemEreignis = 60;                                                               // ms
+    if (!Getrimmt(w.lage.PersRecord).empty()) w.benutzer.ZeitgeberStarten("Timer3", NachDemEreignis); // opens frmSymbol
+}
+
+void Leinwand::GesteAbbrechen() {
+    LinkAbbrechen(w);
+    if (std::exchange(w.lage.Gedrückt, false)) ZugAbbrechen(w);
+}
+
+} // namespace kw
