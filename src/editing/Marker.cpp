@@ -78,10 +78,6 @@ void AllesAbwählen(Werkbank &w) {
     w.auflagen = {};
 }
 
-std::string ZwillingNr(std::string_view zwilling) {
-    return std::string(zwilling.size() > 2 ? zwilling.substr(2) : std::string_view{});
-}
-
 void LöschenAbschließen(Werkbank &w) {
     PositionenVergessen(w.lage);
     w.lage.Aktion = Aktion::Nichts;

@@ -30,9 +30,6 @@ void PositionenVergessen(Leinwandlage &lage);
 /// Nothing selected, no gesture, every shape out of the way; no redraw. Before other records come into the stores.
 void AllesAbwählen(Werkbank &w);
 
-/// Number of the other twin in field `Zwilling`, behind its mark; empty when there is none.
-std::string ZwillingNr(std::string_view zwilling);
-
 /// How the deleting of a single element ends: nothing selected, one snapshot, one redraw.
 void LöschenAbschließen(Werkbank &w);
 
