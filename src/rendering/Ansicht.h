@@ -14,7 +14,6 @@ struct Ansicht {
     int Glättungsgrad = 10;        ///< steps between two points of a circle line
     double Rasterweite = 0.3;      ///< snap step and grid width, cm
     bool bRasterAnzeigen = false;
-    bool bDruckLaeuft = false;       ///< true only during a print run
     bool bDruckrandAnzeigen = false; ///< the frame of the printable area is shown
     double DruckrandLinks = 0;       ///< margins of the default printer, cm
     double DruckrandRechts = 0;

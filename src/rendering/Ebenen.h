@@ -17,7 +17,7 @@ void KreislinienEbene(Zeichenfläche &fläche, const Zeichnung &z);
 /// Also sets the view's `Pfeilfarbe`, and whether an arrow shows its handles.
 void PfeilEbene(Zeichenfläche &fläche, Zeichnung &z);
 
-/// Persons with their labels, then the text boxes. In print the base line width becomes 6 here.
+/// Persons with their labels, then the text boxes.
 void PersonenEbene(Zeichenfläche &fläche, Zeichnung &z, double faktor);
 /// Draws the text boxes and measures those that have no measures yet: the only place where drawing
 /// writes into a store.

@@ -69,7 +69,7 @@ void KindlinienZeichnen(Zeichenfläche &f, const Zeichnung &z, double faktor) {
         return Gelesen(feld, personen.Satz(kind));
     };
     for (int i = 0; i < speicher.Anzahl(); ++i) {
-        f.DrawWidth = z.ansicht.StrichFaktor;
+        f.DrawWidth = z.Strichbreite();
         f.ForeColor = Schwarz;
         try {
             const Kindlinie k = linie(i);
@@ -78,7 +78,7 @@ void KindlinienZeichnen(Zeichenfläche &f, const Zeichnung &z, double faktor) {
         } catch (const FeldFehlt &) { // no such child, or a damaged record: nothing to draw
         }
     }
-    if (z.ansicht.bDruckLaeuft || z.geste.Aktion != Aktion::KindlinieGewählt) return;
+    if (z.Druck || z.geste.Aktion != Aktion::KindlinieGewählt) return;
     const int i = z.geste.KindAuswahl;
     if (i < 0 || i >= speicher.Anzahl()) return;
     f.DrawWidth = 3;
@@ -86,7 +86,7 @@ void KindlinienZeichnen(Zeichenfläche &f, const Zeichnung &z, double faktor) {
         Strich(f, linie(i), z.ansicht.Markierfarbe);
     } catch (const FeldFehlt &) {
     }
-    f.DrawWidth = z.ansicht.StrichFaktor;
+    f.DrawWidth = z.Strichbreite();
     f.ForeColor = Schwarz;
 }
 

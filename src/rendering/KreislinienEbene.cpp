@@ -33,16 +33,16 @@ void KreislinienEbene(Zeichenfläche &f, const Zeichnung &z) {
     f.Ebene("kreislinien");
     const Ansicht &a = z.ansicht;
     f.ForeColor = a.Pfeilfarbe;
-    f.DrawWidth = a.bDruckLaeuft ? 6 : 1;
+    f.DrawWidth = z.Druck ? 6 : 1;
     f.DrawStyle = StilDurchgezogen;
     std::unordered_set<int> gewählt; // one-based positions
-    if (!a.bDruckLaeuft)
+    if (!z.Druck)
         for (const auto &eintrag : z.auswahl.lstMovedKreisLinien) gewählt.insert(Ganzzahl16(ZahlLesen(eintrag)));
     for (int i = 0; i < z.dokument.cboFreehandlines.Anzahl(); ++i) try {
             int n = 0;
             Kurvenpunkte punkte = PunkteLesen(z.dokument.cboFreehandlines.Satz(i), n);
             const bool hervorgehoben = gewählt.contains(i + 1);
-            f.DrawWidth = a.bDruckLaeuft ? 3 : hervorgehoben ? 2 : 1;
+            f.DrawWidth = z.Druck ? 3 : hervorgehoben ? 2 : 1;
             if (!punkte.empty()) KurveZeichnen(f, punkte, n, a.Glättungsgrad, hervorgehoben ? Rot : a.Pfeilfarbe, true);
         } catch (const FeldFehlt &) { // a damaged stroke isn't drawn
         }

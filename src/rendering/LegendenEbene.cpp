@@ -27,15 +27,15 @@ struct Zelle {
 /// One entry's drawing: the surface with what its miniatures need.
 struct Miniaturen {
     Zeichenfläche &f;
-    const Ansicht &a;
+    const Zeichnung &zeichnung;
     double faktor;
-
-    double PixelJeCm() const { return a.bDruckLaeuft ? DruckPixelJeCm : BildschirmPixelJeCm * faktor; }
+    const Ansicht &a = zeichnung.ansicht;
 
     void Person(Zelle z, int kennzahl) const {
         f.FillColor = SymbolFüllfarbe(a.Farbschema);
         const double mitte = Symbolgröße / 2;
-        Symbol(f, {z.x, z.y, z.x + mitte, z.y + mitte, Symbolgröße}, PixelJeCm(), a.StrichFaktor, a.Farbschema)
+        Symbol(f, {z.x, z.y, z.x + mitte, z.y + mitte, Symbolgröße}, zeichnung.PixelJeCm(faktor),
+               zeichnung.Symbolstrich(), a.Farbschema)
             .Zeichnen(kennzahl, {}, {.Druck = true});
     }
 
@@ -44,7 +44,8 @@ struct Miniaturen {
         f.FillColor = SymbolFüllfarbe(a.Farbschema);
         const Marken marken{.Verstorben = code == "29", .Sucht = code == "25", .Erkrankung = code == "27"};
         const double mitte = Symbolgröße / 2;
-        Symbol(f, {z.x, z.y, z.x + mitte, z.y + mitte, Symbolgröße}, PixelJeCm(), a.StrichFaktor, a.Farbschema)
+        Symbol(f, {z.x, z.y, z.x + mitte, z.y + mitte, Symbolgröße}, zeichnung.PixelJeCm(faktor),
+               zeichnung.Symbolstrich(), a.Farbschema)
             .Zeichnen(1, marken, {.Druck = true});
         if (code == "20") f.Line(Kasten, z.x + 0.05, z.y + 0.05, z.x + Symbolgröße - 0.05, z.y + Symbolgröße - 0.05);
     }
@@ -52,7 +53,7 @@ struct Miniaturen {
     void Zwillinge(Zelle z, const std::string &code) const {
         f.FillStyle = Gefüllt;
         f.FillColor = SymbolFüllfarbe(a.Farbschema);
-        f.DrawWidth = a.StrichFaktor;
+        f.DrawWidth = zeichnung.Symbolstrich();
         const double oben = z.y + 0.2;
         f.Line(Linie, z.x + 0.12, oben, z.x + 0.3, z.y);
         f.Line(Linie, z.x + 0.48, oben, z.x + 0.3, z.y);
@@ -62,7 +63,7 @@ struct Miniaturen {
     }
 
     void Beziehung(Zelle z, const std::string &code) const {
-        f.DrawWidth = a.StrichFaktor;
+        f.DrawWidth = zeichnung.Symbolstrich();
         const double y = z.y + 0.13;
         if (code == "41") {
             f.Line(LinieFarbig, z.x, y, z.x + 1, y, a.Linienfarben[EngeFarbe]);
@@ -74,7 +75,7 @@ struct Miniaturen {
     }
 
     void Partnerschaft(Zelle z, const std::string &code) const {
-        f.DrawWidth = a.StrichFaktor;
+        f.DrawWidth = zeichnung.Symbolstrich();
         const double balken = z.y + 0.24;
         f.Line(Linie, z.x, balken, z.x + 1, balken);
         for (const double x : {z.x, z.x + 1}) f.Line(Linie, x, z.y + 0.08, x, balken);
@@ -83,7 +84,7 @@ struct Miniaturen {
 
     /// The row leaves room for a short piece of the dashed line only; its letter stands beside the box.
     void Kind(Zelle z, const std::string &code) const {
-        f.DrawWidth = a.StrichFaktor;
+        f.DrawWidth = zeichnung.Symbolstrich();
         const double mitte = z.x + 0.5;
         const double oben = z.y + 0.1;
         f.FillStyle = Gefüllt;
@@ -201,12 +202,12 @@ void LegendenEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
     GrößeBestimmen(b, d.LegendeQuer);
     d.LegendeX = AufDerSeite(d.LegendeX, b.LegendeBreite, a.SeitenBreite, a.Rasterweite);
     d.LegendeY = AufDerSeite(d.LegendeY, b.LegendeHoehe, a.SeitenHöhe, a.Rasterweite);
-    f.DrawWidth = a.StrichFaktor;
+    f.DrawWidth = z.Symbolstrich();
     RahmenZeichnen(f, d, b);
     SchriftSetzen(f, faktor);
     f.FillStyle = Gefüllt;
 
-    const Miniaturen miniaturen{f, a, faktor};
+    const Miniaturen miniaturen{f, z, faktor};
     for (int i = 0; i < b.lstLegende.Anzahl(); ++i) {
         const std::string &code = b.lstLegende.Satz(i);
         const auto *eintrag =

@@ -19,13 +19,13 @@ const std::string *BalkenUnterMarke(const Zeichnung &z) {
 
 void LinienEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
     f.Ebene("linien");
-    f.DrawWidth = z.ansicht.StrichFaktor;
+    f.DrawWidth = z.Strichbreite();
     f.DrawStyle = StilDurchgezogen;
     BeziehungslinienZeichnen(f, z);
     PartnerschaftslinienZeichnen(f, z, faktor);
     KindlinienZeichnen(f, z, faktor);
 
-    if (const auto *satz = z.ansicht.bDruckLaeuft ? nullptr : BalkenUnterMarke(z)) {
+    if (const auto *satz = z.Druck ? nullptr : BalkenUnterMarke(z)) {
         const Felder feld(*satz);
         f.DrawWidth = 2;
         if (feld.Anzahl() > PLinieFeld::BalkenY2)

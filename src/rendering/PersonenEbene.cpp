@@ -17,8 +17,8 @@ class Personenzeichner {
   public:
     Personenzeichner(Zeichenfläche &fläche, const Zeichnung &z, double faktor)
         : f(fläche), z_(z), faktor_(faktor), nummern_(z.dokument.cboPersonen), alter_(z.uhr),
-          pixelJeCm_(z.ansicht.bDruckLaeuft ? DruckPixelJeCm : BildschirmPixelJeCm * faktor) {
-        if (z.ansicht.bDruckLaeuft) return;
+          pixelJeCm_(z.PixelJeCm(faktor)) {
+        if (z.Druck) return;
         // Compared as numbers: in a link gesture the list holds positions, and these show like numbers.
         for (const auto &eintrag : z.auswahl.lstMovedPers) ++gewählt_[Ganzzahl16(ZahlLesen(eintrag))];
     }
@@ -33,7 +33,7 @@ class Personenzeichner {
         f.FillColor = SymbolFüllfarbe(z_.ansicht.Farbschema);
         Zwillingsband(feld, x, y);
 
-        Symbol symbol(f, {links, oben, x, y, größe}, pixelJeCm_, z_.ansicht.StrichFaktor, z_.ansicht.Farbschema);
+        Symbol symbol(f, {links, oben, x, y, größe}, pixelJeCm_, z_.Symbolstrich(), z_.ansicht.Farbschema);
         const int kennzahl = SymbolKennzahl(feld[PersonFeld::Symboltyp]);
         f.ForeColor = Schwarz;
         symbol.Zeichnen(kennzahl, MarkenVon(feld), Hervorgehoben(feld, position));
@@ -51,7 +51,7 @@ class Personenzeichner {
         if (partner < 0) return;
         const Felder anderer(z_.dokument.cboPersonen.Satz(partner));
         if (anderer.Anzahl() <= PersonFeld::PosY) return;
-        f.DrawWidth = z_.ansicht.StrichFaktor;
+        f.DrawWidth = z_.Symbolstrich();
         f.Line(LinieFarbig, Gerundet(x, 1), Gerundet(y, 1), Gerundet(ZahlLesen(anderer[PersonFeld::PosX]), 1),
                Gerundet(ZahlLesen(anderer[PersonFeld::PosY]), 1), Schwarz);
         verbunden_.insert(nr);
@@ -63,7 +63,7 @@ class Personenzeichner {
     }
 
     Symbol::Hervorhebung Hervorgehoben(const Felder &feld, int position) const {
-        if (z_.ansicht.bDruckLaeuft) return {.Druck = true};
+        if (z_.Druck) return {.Druck = true};
         const Aktion aktion = z_.geste.Aktion;
         const bool zieht = aktion == Aktion::BeziehungZiehen || aktion == Aktion::PartnerschaftZiehen;
         const auto gewählt = gewählt_.find(Ganzzahl16(ZahlLesen(feld[PersonFeld::Nr])));
@@ -84,8 +84,7 @@ class Personenzeichner {
 
 void PersonenEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
     f.Ebene("personen");
-    if (z.ansicht.bDruckLaeuft) z.ansicht.StrichFaktor = 6;
-    DruckrandZeichnen(f, z.ansicht);
+    DruckrandZeichnen(f, z);
     f.DrawStyle = StilDurchgezogen;
     f.ForeColor = Schwarz;
     f.FillStyle = Gefüllt;

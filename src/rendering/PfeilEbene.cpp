@@ -69,7 +69,7 @@ void PfeilEbene(Zeichenfläche &f, Zeichnung &z) {
     Ansicht &a = z.ansicht;
     a.Pfeilfarbe = PfeilfarbeFür(a.Farbschema);
     std::unordered_set<int> gewählt;
-    if (!a.bDruckLaeuft) {
+    if (!z.Druck) {
         a.PfeilMarkiert = false;
         for (const auto &eintrag : z.auswahl.lstMovedPfeile) gewählt.insert(Ganzzahl16(ZahlLesen(eintrag)));
     }
@@ -80,7 +80,7 @@ void PfeilEbene(Zeichenfläche &f, Zeichnung &z) {
         const Pfeil p{ZahlLesen(feld[PfeilFeld::PfeilX1]), ZahlLesen(feld[PfeilFeld::PfeilY1]),
                       ZahlLesen(feld[PfeilFeld::PfeilX2]), ZahlLesen(feld[PfeilFeld::PfeilY2])};
         f.ForeColor = a.Pfeilfarbe;
-        f.DrawWidth = a.StrichFaktor;
+        f.DrawWidth = z.Strichbreite();
         f.Line(LinieFarbig, p.x1, p.y1, p.x2, p.y2, a.Pfeilfarbe);
         SpitzeZeichnen(f, p, a.Pfeilfarbe, w);
         if (feld[PfeilFeld::Pfeilart] == "2") SpitzeZeichnen(f, p.Umgekehrt(), a.Pfeilfarbe, w);

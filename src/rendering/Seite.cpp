@@ -41,10 +41,11 @@ double SeiteEinrichten(Zeichenfläche &fläche, Zeichnung &z) {
     return faktor;
 }
 
-void RasterZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht) {
+void RasterZeichnen(Zeichenfläche &fläche, const Zeichnung &z) {
+    const Ansicht &ansicht = z.ansicht;
     fläche.Ebene("raster");
     const double schritt = ansicht.Rasterweite;
-    if (ansicht.bDruckLaeuft || !ansicht.bRasterAnzeigen || schritt <= 0) return;
+    if (z.Druck || !ansicht.bRasterAnzeigen || schritt <= 0) return;
     constexpr double Höchstzahl = 32767; // the counter has 16 bits
     const int spalten = static_cast<int>(std::min(ansicht.SeitenBreite / schritt, Höchstzahl));
     for (int i = 1; i <= spalten; ++i)
@@ -54,8 +55,9 @@ void RasterZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht) {
         fläche.Line(LinieFarbig, 0, i * schritt, ansicht.SeitenBreite, i * schritt, RasterFarbe);
 }
 
-void DruckrandZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht) {
-    if (ansicht.bDruckLaeuft || !ansicht.bDruckrandAnzeigen) return;
+void DruckrandZeichnen(Zeichenfläche &fläche, const Zeichnung &z) {
+    const Ansicht &ansicht = z.ansicht;
+    if (z.Druck || !ansicht.bDruckrandAnzeigen) return;
     fläche.FillStyle = Durchsichtig;
     fläche.DrawStyle = StilGepunktet;
     fläche.ForeColor = Hellgrau;

@@ -14,9 +14,9 @@ void SeiteBestimmen(Dokument &dokument, Ansicht &ansicht);
 double SeiteEinrichten(Zeichenfläche &fläche, Zeichnung &z);
 
 /// The snap grid; not in print.
-void RasterZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht);
+void RasterZeichnen(Zeichenfläche &fläche, const Zeichnung &z);
 
 /// The frame of the printable area, when it is switched on; not in print.
-void DruckrandZeichnen(Zeichenfläche &fläche, const Ansicht &ansicht);
+void DruckrandZeichnen(Zeichenfläche &fläche, const Zeichnung &z);
 
 } // namespace kw

@@ -103,7 +103,7 @@ void TextboxenZeichnen(Zeichenfläche &f, Zeichnung &z, double faktor) {
             z.geste.Aktion = Aktion::Nichts;
         boxen.Ersetzen(i, MitMaßen(feld, maße));
     }
-    if (!z.ansicht.bDruckLaeuft) AuswahlRahmen(f, z);
+    if (!z.Druck) AuswahlRahmen(f, z);
     if (z.geste.Aktion == Aktion::TextGesetzt) z.geste.Aktion = Aktion::Nichts;
 }
 

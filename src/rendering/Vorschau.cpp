@@ -5,27 +5,8 @@ namespace kw {
 
 namespace {
 
-/// For the length of a print run: the printing flag and line width 3. Afterwards the width is 1,
-/// whatever the zoom wanted, until the next change of zoom. Meant.
-class Drucklauf {
-  public:
-    explicit Drucklauf(Ansicht &ansicht) : ansicht_(ansicht) {
-        ansicht_.bDruckLaeuft = true;
-        ansicht_.StrichFaktor = 3;
-    }
-    ~Drucklauf() {
-        ansicht_.bDruckLaeuft = false;
-        ansicht_.StrichFaktor = 1;
-    }
-    Drucklauf(const Drucklauf &) = delete;
-    Drucklauf &operator=(const Drucklauf &) = delete;
-
-  private:
-    Ansicht &ansicht_;
-};
-
 void EbenenZeichnen(Zeichenfläche &f, Zeichnung &z, double faktor) {
-    RasterZeichnen(f, z.ansicht);
+    RasterZeichnen(f, z);
     LinienEbene(f, z, faktor);
     KreislinienEbene(f, z);
     PfeilEbene(f, z);
@@ -41,9 +22,12 @@ void VorschauZeichnen(Zeichenfläche &f, Zeichnung &z) {
 }
 
 void DruckZeichnen(Zeichenfläche &f, Zeichnung &z) {
-    const Drucklauf lauf(z.ansicht);
+    Zeichnung druck = z;
+    druck.Druck = true;
     f.FontTransparent = true;
-    EbenenZeichnen(f, z, 1);
+    EbenenZeichnen(f, druck, 1);
+    // Whatever the zoom wanted, until it changes next. Meant.
+    z.ansicht.StrichFaktor = 1;
 }
 
 } // namespace kw

@@ -19,14 +19,20 @@ struct Zeichnung {
     Gestenlage &geste;
     Legendenblatt &legende;
     const Uhr &uhr;
+    bool Druck = false; ///< a print run: nothing that is only for the screen, and lines of their own widths
+
+    /// Widths of lines and arrows, and of symbols and the legend, device pixels.
+    int Strichbreite() const { return Druck ? 3 : ansicht.StrichFaktor; }
+    int Symbolstrich() const { return Druck ? 6 : ansicht.StrichFaktor; }
+    /// Of a surface with that scale factor.
+    double PixelJeCm(double faktor) const { return Druck ? DruckPixelJeCm : BildschirmPixelJeCm * faktor; }
 };
 
 /// Redraws the whole canvas: page setup, then every layer over the ones before it.
 void VorschauZeichnen(Zeichenfläche &fläche, Zeichnung &z);
 
 /// One print run on `fläche`, whose user units are centimetres already. No page setup, no grid, no
-/// marks. Sets the printing flag for its length only, however it ends, and leaves the base line width at
-/// 1, whatever the zoom wanted.
+/// marks. Leaves the base line width at 1, whatever the zoom wanted.
 void DruckZeichnen(Zeichenfläche &fläche, Zeichnung &z);
 
 } // namespace kw

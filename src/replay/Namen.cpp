@@ -123,7 +123,7 @@ void Namen::Ansichtsnamen(const Einblick &h) {
         {"hsGlättungsgrad", Von(a.Glättungsgrad)},
         {"Rasterweite", Von(a.Rasterweite)},
         {"bRasterAnzeigen", Von(a.bRasterAnzeigen)},
-        {"bDruckLaeuft", Von(a.bDruckLaeuft)},
+        {"bDruckLaeuft", Abgeleitet([] { return false; })}, // only drawing is told
         {"bDruckrandAnzeigen", Von(a.bDruckrandAnzeigen)},
         {"DruckrandLinks", Von(a.DruckrandLinks)},
         {"DruckrandRechts", Von(a.DruckrandRechts)},
