@@ -12,7 +12,7 @@ Einblick::Einblick(frmMain &haupt)
       werkbank(haupt.werkbank), Kommandozeile(haupt.Kommandozeile), cboRaster(haupt.cboRaster), fenster(haupt),
       haupt_(haupt) {}
 
-Zeichnung Einblick::DasBild() const { return haupt_.DasBild(); }
+void Einblick::AufPapier(Zeichenfläche &papier) const { haupt_.AufPapier(papier); }
 
 Dialogumgebung Einblick::Umgebung() const { return haupt_.Umgebung(); }
 

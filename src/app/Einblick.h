@@ -26,7 +26,6 @@ struct Leinwandlage;
 struct Legendenblatt;
 struct Startangaben;
 struct Werkbank;
-struct Zeichnung;
 struct Zwischenablage;
 
 /// The parts of a main window, laid open for those who look into the program from outside: scripts, the random user,
@@ -35,8 +34,9 @@ struct Zwischenablage;
 struct Einblick {
     explicit Einblick(frmMain &haupt);
 
-    /// What a draw routine and what a form work on.
-    Zeichnung DasBild() const;
+    /// One print run on a surface whose scale is set.
+    void AufPapier(Zeichenfläche &papier) const;
+    /// What a form works on.
     Dialogumgebung Umgebung() const;
 
     const Startangaben &start;

@@ -9,10 +9,10 @@ namespace kw {
 
 Einzelbild::Einzelbild(const Uhr &uhr, const std::string &iniDatei) : uhr_(uhr) {
     const Einstellungen e = EinstellungenAus(iniDatei);
-    ansicht_.Sprache = e.Sprache;
-    ansicht_.Altersanzeige = e.Altersanzeige;
-    ansicht_.Pfeilfarbe = PfeilfarbeFür(ansicht_.Farbschema); // a window has drawn before it shows anything
-    ansicht_.Linienfarben = LinienfarbenFür(DateiVorhanden(iniDatei) ? e.Farbschema : ansicht_.Farbschema);
+    ansicht.Sprache = e.Sprache;
+    ansicht.Altersanzeige = e.Altersanzeige;
+    ansicht.Pfeilfarbe = PfeilfarbeFür(ansicht.Farbschema); // a window has drawn before it shows anything
+    ansicht.Linienfarben = LinienfarbenFür(DateiVorhanden(iniDatei) ? e.Farbschema : ansicht.Farbschema);
 }
 
 std::string Einzelbild::Laden(const std::string &datei) {
@@ -20,15 +20,15 @@ std::string Einzelbild::Laden(const std::string &datei) {
     const Dateibefund befund = DateiLesen(datei, inhalt);
     if (!befund.Gelungen()) return befund.Meldung;
     const Profil profil(std::move(inhalt));
-    SeiteLesen(profil, dokument_);
+    SeiteLesen(profil, dokument);
     try {
-        SpeicherLesen(profil, dokument_);
-        LegendeLesen(profil, dokument_);
+        SpeicherLesen(profil, dokument);
+        LegendeLesen(profil, dokument);
     } catch (const FeldFehlt &) { // a damaged project, or an old one without a legend
     }
-    LegendeAufbauen(dokument_, legende_);
-    SeiteBestimmen(dokument_, ansicht_);
-    const std::string schaden = Ladeprüfung(profil, dokument_);
+    LegendeAufbauen(dokument, legende_);
+    SeiteBestimmen(dokument, ansicht);
+    const std::string schaden = Ladeprüfung(profil, dokument);
     gelesen_ = schaden != KeinProjekt;
     return schaden;
 }

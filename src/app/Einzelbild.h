@@ -20,12 +20,17 @@ class Einzelbild {
     std::string Laden(const std::string &datei);
     /// Whether anything of a project could be read; what was read can be exported all the same.
     bool IstGelesen() const { return gelesen_; }
-    Zeichnung DasBild() { return {dokument_, ansicht_, auswahl_, geste_, legende_, uhr_}; }
+
+    Dokument dokument;
+    Ansicht ansicht; ///< its page must be set up again when that of the document changes
+
+    Zeichnung DasBild() const { return {dokument, ansicht, auswahl_, geste_, legende_, uhr_}; }
+    void Übernehmen(const Zeichenbefund &befund) { Anwenden(befund, dokument, ansicht, geste_, legende_); }
+    /// One print run on a surface whose scale is set.
+    void AufPapier(Zeichenfläche &papier) { Übernehmen(DruckZeichnen(papier, DasBild())); }
 
   private:
     const Uhr &uhr_;
-    Dokument dokument_;
-    Ansicht ansicht_;
     Auswahl auswahl_;
     Gestenlage geste_;
     Legendenblatt legende_;

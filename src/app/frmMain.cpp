@@ -250,7 +250,9 @@ void frmMain::SeiteAnwenden() {
     darstellung.SeiteGeändert();
 }
 
-bool frmMain::GenogrammDrucken() { return druck.GenogrammDrucken(DasBild(), projekt.Projektdatei); }
+bool frmMain::GenogrammDrucken() {
+    return druck.GenogrammDrucken([this](Zeichenfläche &papier) { AufPapier(papier); }, projekt.Projektdatei);
+}
 
 void frmMain::AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) {
     if (inDatei) bildexport.AuswahlAlsBildSpeichern(cm, projekt.Projektdatei);
@@ -266,8 +268,8 @@ void frmMain::NichtsAuswählen() {
 }
 
 void frmMain::Vorschau() {
-    Zeichnung bild = DasBild();
-    VorschauZeichnen(picVorschau, bild);
+    SeiteBestimmen(dokument, ansicht);
+    Übernehmen(VorschauZeichnen(picVorschau, DasBild()));
     plattform.benutzer.AnzeigeAuffrischen();
 }
 

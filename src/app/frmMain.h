@@ -110,7 +110,10 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void SpracheErfragen();
     void DatenÜbernehmen();
     void EinstellungenSichern();
-    Zeichnung DasBild() { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
+    Zeichnung DasBild() const { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
+    void Übernehmen(const Zeichenbefund &befund) { Anwenden(befund, dokument, ansicht, lage, legende); }
+    /// One print run on a surface whose scale is set.
+    void AufPapier(Zeichenfläche &papier) { Übernehmen(DruckZeichnen(papier, DasBild())); }
     Dialogumgebung Umgebung();
 
     Plattform plattform;

@@ -71,7 +71,7 @@ void frmLegende::BildZeichnen(std::string_view, Zeichenfläche &f) {
     Dokument muster = Musterfamilie();
     muster.LegendeQuer = (*this)["optQuer"].Value;
     muster.OhneStandardsymbole = !(*this)["chkAlleSymbole"].Value;
-    muster.LegendeX = muster.LegendeY = 0; // drawing moves it to the margin
+    muster.LegendeX = muster.LegendeY = 0; // drawn at the margin
     Ansicht ansicht = w.ansicht;
     ansicht.SeitenBreite = Breite;
     ansicht.SeitenHöhe = Höhe;
@@ -79,8 +79,8 @@ void frmLegende::BildZeichnen(std::string_view, Zeichenfläche &f) {
     ansicht.StrichFaktor = 1;
     Legendenblatt blatt;
     LegendeAufbauen(muster, blatt);
-    Gestenlage keine;
-    Zeichnung bild{muster, ansicht, w.auswahl, keine, blatt, umgebung_.uhr};
+    const Gestenlage keine;
+    const Zeichnung bild{muster, ansicht, w.auswahl, keine, blatt, umgebung_.uhr};
     f.DrawStyle = StilDurchgezogen;
     LegendenEbene(f, bild, f.Faktor());
 }

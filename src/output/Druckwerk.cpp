@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <utility>
 
 namespace kw {
 
@@ -85,7 +86,7 @@ void Druckwerk::DruckrandBericht() {
 }
 
 /// The page's orientation overrules the printer's own; its paper stays what the printer is set to.
-bool Druckwerk::GenogrammDrucken(Zeichnung bild, const std::string &projektdatei) {
+bool Druckwerk::GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen, const std::string &projektdatei) {
     const std::string name = NameOhneKennung(DateiName(projektdatei));
     const std::string titel = name.empty() ? "Kinwright" : name;
     std::string ziel;
@@ -98,9 +99,8 @@ bool Druckwerk::GenogrammDrucken(Zeichnung bild, const std::string &projektdatei
         return datei;
     };
     drucker_.OrientationSetzen(bedienung_["btnQuerformat"].Checked ? 2 : 1);
-    const Druckende ende =
-        drucker_.Drucken({titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite, ansicht_.SeitenHöhe,
-                          [&](Zeichenfläche &papier) { DruckZeichnen(papier, bild); }, zielWählen});
+    const Druckende ende = drucker_.Drucken({titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite,
+                                             ansicht_.SeitenHöhe, std::move(zeichnen), zielWählen});
     if (ende == Druckende::NichtGeschrieben)
         Warnen("Kinwright", IstDeutsch() ? "Die Datei " + ziel + " konnte nicht geschrieben werden."
                                          : "The file " + ziel + " could not be written.");

@@ -3,8 +3,10 @@
 #include "platform/Bedienelemente.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
-#include "rendering/Zeichnung.h"
+#include "rendering/Ansicht.h"
+#include "rendering/Zeichenflaeche.h"
 
+#include <functional>
 #include <string>
 
 namespace kw {
@@ -27,9 +29,10 @@ class Druckwerk {
     /// Tells the four margins in millimetres. In German in both languages. Meant.
     void DruckrandBericht();
 
-    /// One print run of the document on the current printer: one job, named as the project. A printer that fails ends
-    /// the run silently. False when no further copy is wanted: the user has given up, or there is no writing.
-    bool GenogrammDrucken(Zeichnung bild, const std::string &projektdatei);
+    /// One print run of the document on the current printer: one job, named as the project; `zeichnen` draws it. A
+    /// printer that fails ends the run silently. False when no further copy is wanted: the user has given up, or there
+    /// is no writing.
+    bool GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen, const std::string &projektdatei);
     /// Makes the printer that writes PDF the current one, which it stays; says so when there is none. False then.
     bool PdfDruckerWählen();
 

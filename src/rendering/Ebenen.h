@@ -8,26 +8,25 @@
 namespace kw {
 
 /// Relationship lines, over them partnership lines, over them child lines, then the marks of selected lines.
-void LinienEbene(Zeichenfläche &fläche, Zeichnung &z, double faktor);
+void LinienEbene(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
 void BeziehungslinienZeichnen(Zeichenfläche &fläche, const Zeichnung &z);
 void PartnerschaftslinienZeichnen(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
 void KindlinienZeichnen(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
 
 void KreislinienEbene(Zeichenfläche &fläche, const Zeichnung &z);
-/// Also sets the view's `Pfeilfarbe`, and whether an arrow shows its handles.
-void PfeilEbene(Zeichenfläche &fläche, Zeichnung &z);
+/// In the colour of the scheme, which circle lines take at the next redraw.
+Pfeilbefund PfeilEbene(Zeichenfläche &fläche, const Zeichnung &z);
 
 /// Persons with their labels, then the text boxes.
-void PersonenEbene(Zeichenfläche &fläche, Zeichnung &z, double faktor);
-/// Draws the text boxes and measures those that have no measures yet: the only place where drawing
-/// writes into a store.
-void TextboxenZeichnen(Zeichenfläche &fläche, Zeichnung &z, double faktor);
+Textbefund PersonenEbene(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
+/// Draws the text boxes and measures those that have no measures yet.
+Textbefund TextboxenZeichnen(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
 
 /// Whether a box waits to be measured: until then one that isn't aligned to the left stands in a wrong place.
 bool HatUngemesseneTextboxen(const Dokument &dokument);
 
-/// Draws nothing for an empty list. Keeps the box on the page and on the raster: the stored position follows.
-void LegendenEbene(Zeichenfläche &fläche, Zeichnung &z, double faktor);
+/// Draws nothing for an empty list. The box is kept on the page and on the raster: the stored position follows.
+std::optional<Legendenkasten> LegendenEbene(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
 
 // Pieces that the legend's miniatures share with the layers.
 

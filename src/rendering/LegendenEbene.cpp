@@ -156,12 +156,6 @@ constexpr std::array<Eintrag, 32> Einträge{{
 /// Symbols and marks of persons have their labels close by, lines leave room for a sample.
 bool IstPersonEintrag(std::string_view code) { return code < "30"; }
 
-void GrößeBestimmen(Legendenblatt &blatt, bool quer) {
-    const int n = blatt.lstLegende.Anzahl();
-    blatt.LegendeBreite = quer ? Spaltenbreite * ((n + ZeilenQuer - 1) / ZeilenQuer) : Spaltenbreite;
-    blatt.LegendeHoehe = quer ? HöheQuer : Zeilenhöhe * n + 0.25;
-}
-
 /// Kept on the page, then on the raster.
 double AufDerSeite(double ort, double größe, double seite, double raster) {
     ort = std::min(ort, seite - Seitenrand - größe);
@@ -169,20 +163,29 @@ double AufDerSeite(double ort, double größe, double seite, double raster) {
     return raster > 0 ? std::nearbyint(ort / raster) * raster : ort;
 }
 
-void RahmenZeichnen(Zeichenfläche &f, const Dokument &d, const Legendenblatt &b) {
-    const double rechts = d.LegendeX + b.LegendeBreite;
-    const double unten = d.LegendeY + b.LegendeHoehe;
+Legendenkasten KastenFür(const Zeichnung &z) {
+    const Dokument &d = z.dokument;
+    const int n = z.legende.lstLegende.Anzahl();
+    const double breite = d.LegendeQuer ? Spaltenbreite * ((n + ZeilenQuer - 1) / ZeilenQuer) : Spaltenbreite;
+    const double höhe = d.LegendeQuer ? HöheQuer : Zeilenhöhe * n + 0.25;
+    return {AufDerSeite(d.LegendeX, breite, z.ansicht.SeitenBreite, z.ansicht.Rasterweite),
+            AufDerSeite(d.LegendeY, höhe, z.ansicht.SeitenHöhe, z.ansicht.Rasterweite), breite, höhe};
+}
+
+void RahmenZeichnen(Zeichenfläche &f, const Legendenkasten &k) {
+    const double rechts = k.X + k.Breite;
+    const double unten = k.Y + k.Höhe;
     f.FillStyle = Gefüllt;
     f.FillColor = Rgb(200, 200, 200);
-    f.Line(KastenFarbig, d.LegendeX + 0.1, d.LegendeY + 0.11, rechts + 0.1, unten + 0.11, Rgb(230, 230, 230));
+    f.Line(KastenFarbig, k.X + 0.1, k.Y + 0.11, rechts + 0.1, unten + 0.11, Rgb(230, 230, 230));
     f.FillColor = Weiß;
-    f.Line(KastenFarbig, d.LegendeX, d.LegendeY, rechts, unten, Schwarz);
+    f.Line(KastenFarbig, k.X, k.Y, rechts, unten, Schwarz);
     f.FillStyle = Durchsichtig;
 }
 
-Zelle ZelleFür(const Dokument &d, int i) {
-    const int spalte = d.LegendeQuer && i < ZeilenQuer * SpaltenQuer ? i / ZeilenQuer : 0;
-    return {d.LegendeX + 0.2 + Spaltenbreite * spalte, d.LegendeY + 0.2 + Zeilenhöhe * (i - ZeilenQuer * spalte)};
+Zelle ZelleFür(const Legendenkasten &k, bool quer, int i) {
+    const int spalte = quer && i < ZeilenQuer * SpaltenQuer ? i / ZeilenQuer : 0;
+    return {k.X + 0.2 + Spaltenbreite * spalte, k.Y + 0.2 + Zeilenhöhe * (i - ZeilenQuer * spalte)};
 }
 
 void SchriftSetzen(Zeichenfläche &f, double faktor) {
@@ -193,27 +196,23 @@ void SchriftSetzen(Zeichenfläche &f, double faktor) {
 
 } // namespace
 
-void LegendenEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
+std::optional<Legendenkasten> LegendenEbene(Zeichenfläche &f, const Zeichnung &z, double faktor) {
     f.Ebene("legende");
-    Legendenblatt &b = z.legende;
-    Dokument &d = z.dokument;
-    const Ansicht &a = z.ansicht;
-    if (b.lstLegende.Leer()) return;
-    GrößeBestimmen(b, d.LegendeQuer);
-    d.LegendeX = AufDerSeite(d.LegendeX, b.LegendeBreite, a.SeitenBreite, a.Rasterweite);
-    d.LegendeY = AufDerSeite(d.LegendeY, b.LegendeHoehe, a.SeitenHöhe, a.Rasterweite);
+    const Satzliste &codes = z.legende.lstLegende;
+    if (codes.Leer()) return {};
+    const Legendenkasten kasten = KastenFür(z);
     f.DrawWidth = z.Symbolstrich();
-    RahmenZeichnen(f, d, b);
+    RahmenZeichnen(f, kasten);
     SchriftSetzen(f, faktor);
     f.FillStyle = Gefüllt;
 
     const Miniaturen miniaturen{f, z, faktor};
-    for (int i = 0; i < b.lstLegende.Anzahl(); ++i) {
-        const std::string &code = b.lstLegende.Satz(i);
+    for (int i = 0; i < codes.Anzahl(); ++i) {
+        const std::string &code = codes.Satz(i);
         const auto *eintrag =
             std::find_if(Einträge.begin(), Einträge.end(), [&](const Eintrag &e) { return e.Code == code; });
         if (eintrag == Einträge.end()) continue;
-        const Zelle zelle = ZelleFür(d, i);
+        const Zelle zelle = ZelleFür(kasten, z.dokument.LegendeQuer, i);
         f.ForeColor = Schwarz;
         eintrag->Zeichnen(miniaturen, zelle, code);
         f.ForeColor = Schwarz;
@@ -221,8 +220,9 @@ void LegendenEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
         const bool person = IstPersonEintrag(code);
         f.CurrentX = zelle.x + (person ? 0.6 : 1.2);
         f.CurrentY = zelle.y + (person ? 0.05 : 0);
-        f.Print(eintrag->Text.In(a.Sprache));
+        f.Print(eintrag->Text.In(z.ansicht.Sprache));
     }
+    return kasten;
 }
 
 } // namespace kw

@@ -17,7 +17,7 @@ const std::string *BalkenUnterMarke(const Zeichnung &z) {
 
 } // namespace
 
-void LinienEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
+void LinienEbene(Zeichenfläche &f, const Zeichnung &z, double faktor) {
     f.Ebene("linien");
     f.DrawWidth = z.Strichbreite();
     f.DrawStyle = StilDurchgezogen;

@@ -82,7 +82,7 @@ class Personenzeichner {
 
 } // namespace
 
-void PersonenEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
+Textbefund PersonenEbene(Zeichenfläche &f, const Zeichnung &z, double faktor) {
     f.Ebene("personen");
     DruckrandZeichnen(f, z);
     f.DrawStyle = StilDurchgezogen;
@@ -98,7 +98,7 @@ void PersonenEbene(Zeichenfläche &f, Zeichnung &z, double faktor) {
             zeichner.Zeichnen(i);
         } catch (const FeldFehlt &) { // a damaged person isn't drawn, the others are
         }
-    TextboxenZeichnen(f, z, faktor);
+    return TextboxenZeichnen(f, z, faktor);
 }
 
 } // namespace kw

@@ -64,13 +64,13 @@ void GriffeZeichnen(Zeichenfläche &f, const Pfeil &p) {
 
 } // namespace
 
-void PfeilEbene(Zeichenfläche &f, Zeichnung &z) {
+Pfeilbefund PfeilEbene(Zeichenfläche &f, const Zeichnung &z) {
     f.Ebene("pfeile");
-    Ansicht &a = z.ansicht;
-    a.Pfeilfarbe = PfeilfarbeFür(a.Farbschema);
+    Pfeilbefund befund;
+    const Farbe farbe = befund.Pfeilfarbe = PfeilfarbeFür(z.ansicht.Farbschema);
     std::unordered_set<int> gewählt;
     if (!z.Druck) {
-        a.PfeilMarkiert = false;
+        befund.Markiert = false;
         for (const auto &eintrag : z.auswahl.lstMovedPfeile) gewählt.insert(Ganzzahl16(ZahlLesen(eintrag)));
     }
     double w = 0;
@@ -79,15 +79,16 @@ void PfeilEbene(Zeichenfläche &f, Zeichnung &z) {
         if (feld.Anzahl() < PfeilFeld::Anzahl) continue;
         const Pfeil p{ZahlLesen(feld[PfeilFeld::PfeilX1]), ZahlLesen(feld[PfeilFeld::PfeilY1]),
                       ZahlLesen(feld[PfeilFeld::PfeilX2]), ZahlLesen(feld[PfeilFeld::PfeilY2])};
-        f.ForeColor = a.Pfeilfarbe;
+        f.ForeColor = farbe;
         f.DrawWidth = z.Strichbreite();
-        f.Line(LinieFarbig, p.x1, p.y1, p.x2, p.y2, a.Pfeilfarbe);
-        SpitzeZeichnen(f, p, a.Pfeilfarbe, w);
-        if (feld[PfeilFeld::Pfeilart] == "2") SpitzeZeichnen(f, p.Umgekehrt(), a.Pfeilfarbe, w);
+        f.Line(LinieFarbig, p.x1, p.y1, p.x2, p.y2, farbe);
+        SpitzeZeichnen(f, p, farbe, w);
+        if (feld[PfeilFeld::Pfeilart] == "2") SpitzeZeichnen(f, p.Umgekehrt(), farbe, w);
         if (!gewählt.contains(i)) continue;
         GriffeZeichnen(f, p);
-        a.PfeilMarkiert = true;
+        befund.Markiert = true;
     }
+    return befund;
 }
 
 } // namespace kw

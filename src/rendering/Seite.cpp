@@ -26,9 +26,7 @@ void SeiteBestimmen(Dokument &dokument, Ansicht &ansicht) {
     if (dokument.Seitenlage != Hochformat) std::swap(ansicht.SeitenBreite, ansicht.SeitenHöhe);
 }
 
-double SeiteEinrichten(Zeichenfläche &fläche, Zeichnung &z) {
-    Ansicht &a = z.ansicht;
-    SeiteBestimmen(z.dokument, a);
+double SeiteEinpassen(Zeichenfläche &fläche, const Ansicht &a) {
     fläche.ScaleCm();
     const double verhältnisHöhe = fläche.ScaleHeight() / a.SeitenHöhe;
     const double verhältnisBreite = fläche.ScaleWidth() / a.SeitenBreite;
@@ -37,7 +35,6 @@ double SeiteEinrichten(Zeichenfläche &fläche, Zeichnung &z) {
     else fläche.GrößeSetzen(InTwips(a.SeitenBreite * faktor), fläche.Height());
     fläche.Scale(a.SeitenBreite, a.SeitenHöhe, faktor);
     fläche.Cls();
-    a.Skalierung = faktor;
     return faktor;
 }
 

@@ -9,9 +9,8 @@ namespace kw {
 void SeiteBestimmen(Dokument &dokument, Ansicht &ansicht);
 
 /// Fits the page into the surface's box: shrinks the surface on one side to the page's proportions, sets
-/// its user units to the page's centimetres and clears it. The scale factor (displayed by paper
-/// centimetres) is given back and kept in the view.
-double SeiteEinrichten(Zeichenfläche &fläche, Zeichnung &z);
+/// its user units to the page's centimetres and clears it. Gives the scale factor: displayed by paper centimetres.
+double SeiteEinpassen(Zeichenfläche &fläche, const Ansicht &ansicht);
 
 /// The snap grid; not in print.
 void RasterZeichnen(Zeichenfläche &fläche, const Zeichnung &z);

@@ -103,14 +103,14 @@ Sinnbild ImportSinnbild(const Importperson &person) {
                         std::string(person.IndexPerson ? "_1" : "_0") + (person.Verstorben ? "_$" : "_") + "_0_0_____");
 }
 
-void SinnbildZeichnen(Zeichenfläche &f, Sinnbild &bild, const Uhr &uhr) {
+void SinnbildZeichnen(Zeichenfläche &f, const Sinnbild &bild, const Uhr &uhr) {
     Ansicht ansicht;
     ansicht.Linienfarben = LinienfarbenFür(ansicht.Farbschema);
     ansicht.Pfeilfarbe = PfeilfarbeFür(ansicht.Farbschema);
     const Auswahl auswahl;
-    Gestenlage geste;
-    Legendenblatt legende;
-    Zeichnung z{bild.dokument, ansicht, auswahl, geste, legende, uhr};
+    const Gestenlage geste;
+    const Legendenblatt legende;
+    const Zeichnung z{bild.dokument, ansicht, auswahl, geste, legende, uhr};
     LinienEbene(f, z, f.Faktor());
     KreislinienEbene(f, z);
     PfeilEbene(f, z);

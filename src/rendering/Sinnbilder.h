@@ -28,6 +28,6 @@ Sinnbild MerkmalSinnbild(Merkmal merkmal);
 Sinnbild ImportSinnbild(const Importperson &person);
 
 /// Draws it in colour on a surface whose scale is set and whose user units are the cutout's centimetres.
-void SinnbildZeichnen(Zeichenfläche &fläche, Sinnbild &bild, const Uhr &uhr);
+void SinnbildZeichnen(Zeichenfläche &fläche, const Sinnbild &bild, const Uhr &uhr);
 
 } // namespace kw

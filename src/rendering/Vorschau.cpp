@@ -5,29 +5,34 @@ namespace kw {
 
 namespace {
 
-void EbenenZeichnen(Zeichenfläche &f, Zeichnung &z, double faktor) {
+Zeichenbefund EbenenZeichnen(Zeichenfläche &f, const Zeichnung &z, double faktor) {
+    Zeichenbefund befund;
     RasterZeichnen(f, z);
     LinienEbene(f, z, faktor);
     KreislinienEbene(f, z);
-    PfeilEbene(f, z);
-    PersonenEbene(f, z, faktor);
-    if (z.dokument.LegendeSichtbar) LegendenEbene(f, z, faktor);
+    befund.Pfeile = PfeilEbene(f, z);
+    befund.Texte = PersonenEbene(f, z, faktor);
+    if (z.dokument.LegendeSichtbar) befund.Legende = LegendenEbene(f, z, faktor);
+    return befund;
 }
 
 } // namespace
 
-void VorschauZeichnen(Zeichenfläche &f, Zeichnung &z) {
+Zeichenbefund VorschauZeichnen(Zeichenfläche &f, const Zeichnung &z) {
     f.Ebene("seite");
-    EbenenZeichnen(f, z, SeiteEinrichten(f, z));
+    const double faktor = SeiteEinpassen(f, z.ansicht);
+    Zeichenbefund befund = EbenenZeichnen(f, z, faktor);
+    befund.Skalierung = faktor;
+    return befund;
 }
 
-void DruckZeichnen(Zeichenfläche &f, Zeichnung &z) {
+Zeichenbefund DruckZeichnen(Zeichenfläche &f, const Zeichnung &z) {
     Zeichnung druck = z;
     druck.Druck = true;
     f.FontTransparent = true;
-    EbenenZeichnen(f, druck, 1);
-    // Whatever the zoom wanted, until it changes next. Meant.
-    z.ansicht.StrichFaktor = 1;
+    Zeichenbefund befund = EbenenZeichnen(f, druck, 1);
+    befund.StrichFaktor = 1;
+    return befund;
 }
 
 } // namespace kw

@@ -5,19 +5,18 @@
 #include "rendering/Ansicht.h"
 #include "rendering/Auswahl.h"
 #include "rendering/Legende.h"
+#include "rendering/Zeichenbefund.h"
 #include "rendering/Zeichenflaeche.h"
 
 namespace kw {
 
-/// All that a redraw looks at. Drawing changes none of it but what is told at its place: the measures
-/// of text boxes (with them the gesture that placed one ends, and the bottom of a selected one is kept), the legend's
-/// place and size, a paper code below 1, and what `Ansicht` derives.
+/// All that a redraw looks at. Drawing changes none of it.
 struct Zeichnung {
-    Dokument &dokument;
-    Ansicht &ansicht;
+    const Dokument &dokument;
+    const Ansicht &ansicht; ///< its page is set up
     const Auswahl &auswahl;
-    Gestenlage &geste;
-    Legendenblatt &legende;
+    const Gestenlage &geste;
+    const Legendenblatt &legende;
     const Uhr &uhr;
     bool Druck = false; ///< a print run: nothing that is only for the screen, and lines of their own widths
 
@@ -28,11 +27,11 @@ struct Zeichnung {
     double PixelJeCm(double faktor) const { return Druck ? DruckPixelJeCm : BildschirmPixelJeCm * faktor; }
 };
 
-/// Redraws the whole canvas: page setup, then every layer over the ones before it.
-void VorschauZeichnen(Zeichenfläche &fläche, Zeichnung &z);
+/// Redraws the whole canvas: fits the page into it, then every layer over the ones before it.
+Zeichenbefund VorschauZeichnen(Zeichenfläche &fläche, const Zeichnung &z);
 
-/// One print run on `fläche`, whose user units are centimetres already. No page setup, no grid, no
-/// marks. Leaves the base line width at 1, whatever the zoom wanted.
-void DruckZeichnen(Zeichenfläche &fläche, Zeichnung &z);
+/// One print run on `fläche`, whose user units are centimetres already. No grid, no marks.
+/// It leaves the base line width at 1, whatever the zoom wanted, until that changes next. Meant.
+Zeichenbefund DruckZeichnen(Zeichenfläche &fläche, const Zeichnung &z);
 
 } // namespace kw

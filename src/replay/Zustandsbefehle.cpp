@@ -104,8 +104,7 @@ std::string DruckText(const Einblick &h) {
     papier.PixelJeCm = DruckPixelJeCm;
     papier.Scale(a.SeitenBreite, a.SeitenHöhe, 1);
     papier.Schreibt = true;
-    Zeichnung bild = h.DasBild();
-    DruckZeichnen(papier, bild);
+    h.AufPapier(papier);
     return papier.Text;
 }
 

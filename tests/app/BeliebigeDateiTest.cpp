@@ -53,15 +53,14 @@ TEST(BeliebigeDatei, EndetImBildOderInEinerZeile) {
         const std::string befund = bild.Laden(datei);
         ASSERT_TRUE(bild.IstGelesen() || !befund.empty());
         ASSERT_EQ(befund.find('\n'), std::string::npos);
-        Zeichnung z = bild.DasBild();
         Aufzeichnung papier;
         papier.GrößeSetzen(16838, 11906);
         papier.Schreibt = true;
         for (const int anzeige : {0, 1, 2}) {
-            z.ansicht.Altersanzeige = anzeige;
-            VorschauZeichnen(papier, z);
+            bild.ansicht.Altersanzeige = anzeige;
+            bild.Übernehmen(VorschauZeichnen(papier, bild.DasBild()));
         }
-        DruckZeichnen(papier, z);
+        bild.AufPapier(papier);
         for (const auto *keineZahl : {" nan", " -nan", " inf", " -inf"})
             ASSERT_EQ(papier.Text.find(keineZahl), std::string::npos);
         ASSERT_NE(papier.Text.rfind("layer personen"), std::string::npos);

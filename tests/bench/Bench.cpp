@@ -33,19 +33,18 @@ namespace {
 
 /// A canvas as at 100 % on a screen of 1920 x 1080, with a document drawn on it.
 struct Blatt {
-    explicit Blatt(int n) : bild(uhr, ""), z(bild.DasBild()) {
-        z.dokument = Familien(n);
-        z.ansicht.bRasterAnzeigen = false;
+    explicit Blatt(int n) : bild(uhr, "") {
+        bild.dokument = Familien(n);
+        bild.ansicht.bRasterAnzeigen = false;
         Zeichnen(leinwand);
     }
     void Zeichnen(Zeichenfläche &fläche) {
         fläche.GrößeSetzen(25920, 14580);
-        VorschauZeichnen(fläche, z);
+        bild.Übernehmen(VorschauZeichnen(fläche, bild.DasBild()));
     }
     QtUhr uhr;
     LeinwandFläche leinwand{1};
     Einzelbild bild;
-    Zeichnung z;
 };
 
 /// What one redraw hands to the painter, as plain values.
@@ -149,8 +148,8 @@ void Mitschreiben(Blatt &blatt, Mitschrift &m) {
     fläche.GrößeSetzen(blatt.leinwand.Width(), blatt.leinwand.Height());
     fläche.Scale(blatt.leinwand.ScaleWidth(), blatt.leinwand.ScaleHeight(), blatt.leinwand.Faktor());
     fläche.Beginnen(m, bild.width() / fläche.ScaleWidth(), BildschirmPixelJeCm * fläche.Faktor());
-    LinienEbene(fläche, blatt.z, fläche.Faktor());
-    PersonenEbene(fläche, blatt.z, fläche.Faktor());
+    LinienEbene(fläche, blatt.bild.DasBild(), fläche.Faktor());
+    PersonenEbene(fläche, blatt.bild.DasBild(), fläche.Faktor());
     fläche.Beenden();
 }
 

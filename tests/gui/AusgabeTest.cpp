@@ -20,19 +20,18 @@ namespace {
 class Ausgabe : public testing::Test {
   protected:
     Ausgabe() {
-        z.dokument.cboPersonen.Anhängen("001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__");
-        z.dokument.cboTextboxen.Anhängen("3_8_Arial_12_255_1_0_0_0_Öl & <Käse>#\x01\xff\xef\xbf\xbe]]>_4_1");
-        z.ansicht.bRasterAnzeigen = true; // of the screen only
+        bild.dokument.cboPersonen.Anhängen("001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__");
+        bild.dokument.cboTextboxen.Anhängen("3_8_Arial_12_255_1_0_0_0_Öl & <Käse>#\x01\xff\xef\xbf\xbe]]>_4_1");
+        bild.ansicht.bRasterAnzeigen = true; // of the screen only
     }
     QString Ort(const char *name) const { return ordner.filePath(QString::fromUtf8(name)); }
     std::string Fehler(const char *name, int dpi = 150) {
-        return Exportieren(z, Ort(name).toStdString(), dpi, "Mein Täst");
+        return Exportieren(bild, Ort(name).toStdString(), dpi, "Mein Täst");
     }
 
     QTemporaryDir ordner;
     QtUhr uhr;
     Einzelbild bild{uhr, ""};
-    Zeichnung z = bild.DasBild();
 };
 
 void EnthältAlle(const QString &text, std::initializer_list<const char *> worte) {
@@ -59,8 +58,8 @@ TEST_F(Ausgabe, PdfHatPapierSchriftenUndText) {
     const std::tuple<int, int, const char *> seiten[] = {
         {9, 2, "842 x 595 pts"}, {9, 1, "595 x 842 pts"}, {11, 1, "420 x 595 pts"}, {1, 2, "792 x 612 pts"}};
     for (const auto &[papier, lage, größe] : seiten) {
-        z.dokument.Papiercode = papier;
-        z.dokument.Seitenlage = lage;
+        bild.dokument.Papiercode = papier;
+        bild.dokument.Seitenlage = lage;
         EXPECT_EQ(Fehler("a.pdf"), "");
         EnthältAlle(Ausgegeben("pdfinfo", {Ort("a.pdf")}), {größe, "Pages:           1\n", "Mein Täst"});
     }

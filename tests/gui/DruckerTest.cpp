@@ -20,14 +20,14 @@ namespace {
 
 class EingebauterDrucker : public testing::Test {
   protected:
-    EingebauterDrucker() { z.dokument.cboPersonen.Anhängen("001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__"); }
+    EingebauterDrucker() { bild.dokument.cboPersonen.Anhängen("001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__"); }
 
     void Drucken(int papier, int lage, bool farbig) {
-        z.dokument.Papiercode = papier;
-        z.dokument.Seitenlage = lage;
-        SeiteBestimmen(z.dokument, z.ansicht);
-        ende = drucker.Drucken({"Mein Täst", farbig, z.ansicht.SeitenBreite, z.ansicht.SeitenHöhe,
-                                [this](Zeichenfläche &f) { DruckZeichnen(f, z); },
+        bild.dokument.Papiercode = papier;
+        bild.dokument.Seitenlage = lage;
+        SeiteBestimmen(bild.dokument, bild.ansicht);
+        ende = drucker.Drucken({"Mein Täst", farbig, bild.ansicht.SeitenBreite, bild.ansicht.SeitenHöhe,
+                                [this](Zeichenfläche &f) { bild.AufPapier(f); },
                                 [this] { return ++gefragt, ziel.empty() ? std::nullopt : std::optional(ziel); }});
     }
     QString Ort(const char *name) const { return ordner.filePath(QString::fromUtf8(name)); }
@@ -39,7 +39,6 @@ class EingebauterDrucker : public testing::Test {
     QtDrucker drucker;
     QtUhr uhr;
     Einzelbild bild{uhr, ""};
-    Zeichnung z = bild.DasBild();
 };
 
 } // namespace

@@ -12,7 +12,7 @@ namespace kw {
 namespace {
 
 /// The marks that a layer leaves for a document, a line each.
-template <typename Ebene> std::vector<std::string> Striche(Zeichnung z, Ebene ebene) {
+template <typename Ebene> std::vector<std::string> Striche(const Zeichnung &z, Ebene ebene) {
     Aufzeichnung f;
     f.Schreibt = true;
     ebene(f, z);
@@ -26,10 +26,9 @@ template <typename Ebene> std::vector<std::string> Striche(Zeichnung z, Ebene eb
 TEST(Pfeile, KopfNachLängeUndRichtung) {
     DrehbuchUhr uhr;
     Einzelbild bild(uhr, "");
-    Zeichnung z = bild.DasBild();
     // The second one's length is in no row of the table: it takes the setback that the first one left.
-    z.dokument.cboPfeile = {"1_5_1_5_2", "2_5_60_5_10", "1_1", "1_8_0_5_4"};
-    const auto s = Striche(z, PfeilEbene);
+    bild.dokument.cboPfeile = {"1_5_1_5_2", "2_5_60_5_10", "1_1", "1_8_0_5_4"};
+    const auto s = Striche(bild.DasBild(), PfeilEbene);
     ASSERT_EQ(s.size(), 104 + 104 + 103 + 104);
     EXPECT_EQ(s[0], "line 5 1 5 2");
     EXPECT_EQ(s[1], "line 5 2 5.1131 1.6869"); // downward, its base 0.2 of the way back
@@ -44,16 +43,15 @@ TEST(Pfeile, KopfNachLängeUndRichtung) {
 TEST(Pfeile, KreislinienFolgenDemFarbschemaEinBildSpäter) {
     DrehbuchUhr uhr;
     Einzelbild bild(uhr, "");
-    Zeichnung z = bild.DasBild();
-    z.dokument.cboFreehandlines = {"1^1_5^1_1^1"};
-    z.ansicht.Farbschema = SchemaSchwarzWeiß;
+    bild.dokument.cboFreehandlines = {"1^1_5^1_1^1"};
+    bild.ansicht.Farbschema = SchemaSchwarzWeiß;
     Aufzeichnung f;
     f.Schreibt = true;
-    KreislinienEbene(f, z);
+    KreislinienEbene(f, bild.DasBild());
     EXPECT_NE(f.Text.find("pen=404040"), std::string::npos) << "that of the last redraw";
-    PfeilEbene(f, z);
+    bild.ansicht.Pfeilfarbe = PfeilEbene(f, bild.DasBild()).Pfeilfarbe;
     f.Text.clear();
-    KreislinienEbene(f, z);
+    KreislinienEbene(f, bild.DasBild());
     EXPECT_EQ(f.Text.find("pen=404040"), std::string::npos);
 }
 

@@ -1,5 +1,6 @@
 #include "qt/drucken/Ausgabe.h"
 
+#include "app/Einzelbild.h"
 #include "document/Dateien.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/QtFlaeche.h"
@@ -117,18 +118,18 @@ std::string Schreiben(const Format &format, Auftrag auftrag, const std::string &
 
 bool IstAusgabeformat(std::string_view ziel) { return FormatFür(ziel) != nullptr; }
 
-std::string Exportieren(Zeichnung &zeichnung, const std::string &ziel, int dpi, const std::string &titel) {
+std::string Exportieren(Einzelbild &bild, const std::string &ziel, int dpi, const std::string &titel) {
     const Format *format = FormatFür(ziel);
     if (!format) return "unknown kind of file";
     if (dpi < KleinsteDpi || dpi > GrößteDpi) return "the resolution is out of range";
-    SeiteBestimmen(zeichnung.dokument, zeichnung.ansicht);
+    SeiteBestimmen(bild.dokument, bild.ansicht);
     const Druckauftrag seite{titel,
                              true,
-                             zeichnung.ansicht.SeitenBreite,
-                             zeichnung.ansicht.SeitenHöhe,
-                             [&](Zeichenfläche &papier) { DruckZeichnen(papier, zeichnung); },
+                             bild.ansicht.SeitenBreite,
+                             bild.ansicht.SeitenHöhe,
+                             [&](Zeichenfläche &papier) { bild.AufPapier(papier); },
                              {}};
-    if (HatUngemesseneTextboxen(zeichnung.dokument)) {
+    if (HatUngemesseneTextboxen(bild.dokument)) {
         QImage probe(1, 1, QImage::Format_RGB32);
         SeiteDrucken(seite, probe, 1);
     }

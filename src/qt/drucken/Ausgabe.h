@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/Drucker.h"
-#include "rendering/Zeichnung.h"
 
 #include <QTransform>
 
@@ -13,6 +12,8 @@ class QPaintDevice;
 // The page on paper and in files.
 namespace kw {
 
+class Einzelbild;
+
 constexpr double CmJeZoll = 2.54;
 constexpr int KleinsteDpi = 10;
 constexpr int GrößteDpi = 2400;
@@ -20,10 +21,10 @@ constexpr int GrößteDpi = 2400;
 /// Whether `ziel` ends in .pdf, .svg, .png, .jpg, .jpeg or .bmp, in letters of any case.
 bool IstAusgabeformat(std::string_view ziel);
 
-/// Writes the page as a print run draws it: nothing that is only for the screen. PDF and SVG are vectors,
+/// Writes the page of `bild` as a print run draws it: nothing that is only for the screen. PDF and SVG are vectors,
 /// pictures have `dpi` dots an inch. Empty on success, else one plain line; then nothing was written.
 /// Needs a QGuiApplication, no display.
-std::string Exportieren(Zeichnung &zeichnung, const std::string &ziel, int dpi, const std::string &titel);
+std::string Exportieren(Einzelbild &bild, const std::string &ziel, int dpi, const std::string &titel);
 
 /// Draws a job on `gerät`, `geräteJeCm` of whose units are a centimetre, as `aufGerät` puts it there. False when the
 /// device can't be painted or reports a failure.

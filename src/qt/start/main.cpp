@@ -48,9 +48,8 @@ int Exportieren(const Aufruf &aufruf, int &argc, char **argv) {
     Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
     const std::string schaden = bild.Laden(aufruf.Datei);
     if (!bild.IstGelesen()) return Melden(aufruf.Datei + ": " + schaden, 1);
-    Zeichnung zeichnung = bild.DasBild();
     const std::string titel = NameOhneKennung(DateiName(aufruf.Datei));
-    const std::string fehler = kw::Exportieren(zeichnung, aufruf.Ziel, aufruf.Dpi, titel);
+    const std::string fehler = kw::Exportieren(bild, aufruf.Ziel, aufruf.Dpi, titel);
     if (!fehler.empty()) return Melden(aufruf.Ziel + ": " + fehler, 1);
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
 }
