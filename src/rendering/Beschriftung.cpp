@@ -49,16 +49,15 @@ void AlterUndJahrZeichnen(Zeichenfläche &f, const Lebensdaten &d, double x, dou
     Zentriert(f, d.GebText, x, y + 0.08);
 }
 
-Lebensdaten Ermittelt(Altersberechnung &alter, const Felder &feld) {
+Lebensdaten Ermittelt(Altersberechnung &alter, const PersonSatz &person) {
     Lebensdaten d;
     alter.strAlterText.clear();
-    const std::string_view sterbealter = feld[PersonFeld::Sterbealter];
-    d.Verstorben = sterbealter.starts_with('$');
-    alter.AlterAusDatum(feld[PersonFeld::Geburtsdatum]);
+    d.Verstorben = person.Verstorben();
+    alter.AlterAusDatum(person.Geburtsdatum());
     d.AlterText = Getrimmt(alter.strAlterText);
     if (!alter.strGebJahrText.empty()) d.GebText = "* " + alter.strGebJahrText;
     if (d.Verstorben) {
-        d.TodText = sterbealter;
+        d.TodText = person.Sterbealter();
         std::erase(d.TodText, '$');
     }
     return d;
@@ -77,9 +76,9 @@ void LebensdatenZeichnen(Zeichenfläche &f, int altersanzeige, const Lebensdaten
     f.Print(d.GebText);
 }
 
-void PersonBeschriften(Zeichenfläche &f, const Ansicht &ansicht, Altersberechnung &alter, const Felder &feld, double x,
-                       double y, double oben, double größe, double faktor) {
-    const Lebensdaten daten = Ermittelt(alter, feld);
+void PersonBeschriften(Zeichenfläche &f, const Ansicht &ansicht, Altersberechnung &alter, const PersonSatz &person,
+                       double x, double y, double oben, double größe, double faktor) {
+    const Lebensdaten daten = Ermittelt(alter, person);
 
     // The names blot out the lines that run behind them, and are upright whatever was drawn before.
     f.FontTransparent = false;
@@ -88,9 +87,9 @@ void PersonBeschriften(Zeichenfläche &f, const Ansicht &ansicht, Altersberechnu
     f.FontItalic = f.FontUnderline = false;
     f.FontSize = Klein * faktor;
     f.ForeColor = Schwarz;
-    const std::string_view vorname = feld[PersonFeld::Vorname];
+    const std::string_view vorname = person.Vorname();
     Zentriert(f, vorname, x, oben + größe + 0.03);
-    Zentriert(f, feld[PersonFeld::Nachname], x, oben + größe + (Getrimmt(vorname).empty() ? 0.03 : 0.35));
+    Zentriert(f, person.Nachname(), x, oben + größe + (Getrimmt(vorname).empty() ? 0.03 : 0.35));
     f.FontTransparent = true;
     f.FontBold = false;
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/Felder.h"
 #include "document/basAltersberechnung.h"
+#include "document/saetze/Person.h"
 #include "rendering/Ansicht.h"
 #include "rendering/Zeichenflaeche.h"
 
@@ -10,7 +10,7 @@ namespace kw {
 /// Names under a person's symbol, age or years of life inside it. `x`, `y`: the symbol's centre, `oben`
 /// its top, `größe` its height (cm). Clears the age before and the year after, so that none carries
 /// over to the next person. Throws FeldFehlt for a record without a date of birth.
-void PersonBeschriften(Zeichenfläche &fläche, const Ansicht &ansicht, Altersberechnung &alter, const Felder &feld,
+void PersonBeschriften(Zeichenfläche &fläche, const Ansicht &ansicht, Altersberechnung &alter, const PersonSatz &person,
                        double x, double y, double oben, double größe, double faktor);
 
 struct Lebensdaten {

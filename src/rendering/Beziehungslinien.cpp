@@ -1,5 +1,4 @@
-#include "document/Felder.h"
-#include "document/Zahlen.h"
+#include "document/saetze/Beziehung.h"
 #include "rendering/Ebenen.h"
 
 #include <cmath>
@@ -138,12 +137,11 @@ void BeziehungZeichnen(Zeichenfläche &f, const ElementFarben &farben, std::stri
 
 void BeziehungslinienZeichnen(Zeichenfläche &f, const Zeichnung &z) {
     char basis = ' ';
-    for (const auto &satz : z.dokument.cboBeziehungsLinien) {
-        const Felder feld(satz);
-        if (feld.Anzahl() <= BezFeld::LinieY2) continue;
-        BeziehungZeichnen(f, z.ansicht.Linienfarben, feld[BezFeld::Beziehungsart], basis,
-                          ZahlLesen(feld[BezFeld::LinieX1]), ZahlLesen(feld[BezFeld::LinieY1]),
-                          ZahlLesen(feld[BezFeld::LinieX2]), ZahlLesen(feld[BezFeld::LinieY2]));
+    for (const auto &text : z.dokument.cboBeziehungsLinien) {
+        const BeziehungSatz satz(text);
+        if (!satz.HatLinie()) continue;
+        BeziehungZeichnen(f, z.ansicht.Linienfarben, satz.Beziehungsart(), basis, satz.LinieX1(), satz.LinieY1(),
+                          satz.LinieX2(), satz.LinieY2());
     }
 }
 

@@ -1,6 +1,7 @@
-#include "document/Felder.h"
 #include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
+#include "document/saetze/Kind.h"
+#include "document/saetze/Person.h"
 #include "rendering/Ebenen.h"
 
 #include <cmath>
@@ -19,10 +20,8 @@ struct Kindlinie {
 };
 
 /// The end at the child is the top of its symbol. Throws FeldFehlt when line or child lack fields.
-Kindlinie Gelesen(const Felder &feld, const std::string &kind) {
-    const double größe = ZahlLesen(Felder(kind)[PersonFeld::Groesse]);
-    return {feld[KindFeld::Kindart], ZahlLesen(feld[KindFeld::LinieX]), ZahlLesen(feld[KindFeld::LinieY]),
-            ZahlLesen(feld[KindFeld::KindX]), ZahlLesen(feld[KindFeld::KindY]) - größe / 2};
+Kindlinie Gelesen(const KindSatz &satz, const PersonSatz &kind) {
+    return {satz.Kindart(), satz.LinieX(), satz.LinieY(), satz.KindX(), satz.KindY() - kind.Groesse() / 2};
 }
 
 void Gestrichelt(Zeichenfläche &f, const Kindlinie &k, Farbe farbe) {
@@ -62,11 +61,10 @@ void KindlinienZeichnen(Zeichenfläche &f, const Zeichnung &z, double faktor) {
     const auto &personen = z.dokument.cboPersonen;
     const Nummernverzeichnis nummern(personen);
     const auto linie = [&](int i) {
-        const Felder feld(speicher.Satz(i));
-        // A child record is matched by its first three characters, as everywhere.
-        const int kind = nummern.Position(std::string_view(speicher.Satz(i)).substr(0, 3));
+        const std::string &satz = speicher.Satz(i);
+        const int kind = nummern.Position(Nummer(satz));
         if (kind < 0) throw FeldFehlt();
-        return Gelesen(feld, personen.Satz(kind));
+        return Gelesen(KindSatz(satz), PersonSatz(personen.Satz(kind)));
     };
     for (int i = 0; i < speicher.Anzahl(); ++i) {
         f.DrawWidth = z.Strichbreite();

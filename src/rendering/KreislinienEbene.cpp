@@ -1,5 +1,4 @@
-#include "document/Felder.h"
-#include "document/Zahlen.h"
+#include "document/saetze/Kreislinie.h"
 #include "rendering/Ebenen.h"
 #include "rendering/basKurvenGlaettung.h"
 
@@ -14,12 +13,8 @@ namespace {
 /// its second number.
 Kurvenpunkte PunkteLesen(std::string_view satz, int &n) {
     Kurvenpunkte p(1);
-    while (!satz.empty()) {
-        auto punkt = Abgetrennt(satz, '_');
-        if (punkt.find('^') == std::string_view::npos) throw FeldFehlt();
-        const auto x = Abgetrennt(punkt, '^');
-        p.push_back({Gerundet(ZahlLesen(x), 2), Gerundet(ZahlLesen(Abgetrennt(punkt, '^')), 2)});
-    }
+    KreisSatz kreis(satz, Lücken::Fehler);
+    while (const auto punkt = kreis.Nächster()) p.push_back({Gerundet(punkt->X, 2), Gerundet(punkt->Y, 2)});
     n = static_cast<int>(p.size());
     if (n <= 2) return {};
     p.push_back(p[1]);

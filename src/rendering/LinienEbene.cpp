@@ -1,5 +1,4 @@
-#include "document/Felder.h"
-#include "document/Zahlen.h"
+#include "document/saetze/Partnerschaft.h"
 #include "rendering/Ebenen.h"
 
 namespace kw {
@@ -25,12 +24,11 @@ void LinienEbene(Zeichenfläche &f, const Zeichnung &z, double faktor) {
     PartnerschaftslinienZeichnen(f, z, faktor);
     KindlinienZeichnen(f, z, faktor);
 
-    if (const auto *satz = z.Druck ? nullptr : BalkenUnterMarke(z)) {
-        const Felder feld(*satz);
+    if (const auto *text = z.Druck ? nullptr : BalkenUnterMarke(z)) {
+        const PartnerschaftSatz satz(*text);
         f.DrawWidth = 2;
-        if (feld.Anzahl() > PLinieFeld::BalkenY2)
-            f.Line(LinieFarbig, ZahlLesen(feld[PLinieFeld::BalkenX1]), ZahlLesen(feld[PLinieFeld::BalkenY1]),
-                   ZahlLesen(feld[PLinieFeld::BalkenX2]), ZahlLesen(feld[PLinieFeld::BalkenY2]), ZielFarbe);
+        if (satz.HatBalken())
+            f.Line(LinieFarbig, satz.BalkenX1(), satz.BalkenY1(), satz.BalkenX2(), satz.BalkenY2(), ZielFarbe);
     }
     f.DrawWidth = 1;
 }

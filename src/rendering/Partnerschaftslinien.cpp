@@ -1,5 +1,4 @@
-#include "document/Felder.h"
-#include "document/Zahlen.h"
+#include "document/saetze/Partnerschaft.h"
 #include "rendering/Ebenen.h"
 
 #include <algorithm>
@@ -66,29 +65,22 @@ std::optional<std::string_view> Datum(std::string_view daten, int i) {
     return teile[i];
 }
 
-void PartnerschaftZeichnen(Zeichenfläche &f, const Felder &feld, double faktor) {
-    const auto zahl = [&](int i) { return ZahlLesen(feld[i]); };
-    const double x1 = zahl(PLinieFeld::BalkenX1);
-    const double x2 = zahl(PLinieFeld::BalkenX2);
-    const Partnerschaft p{std::min(x1, x2),
-                          std::max(x1, x2),
-                          zahl(PLinieFeld::BalkenY1),
-                          zahl(PLinieFeld::BalkenY2),
-                          zahl(PLinieFeld::AnschlussX1),
-                          zahl(PLinieFeld::AnschlussY1),
-                          zahl(PLinieFeld::AnschlussX2),
-                          zahl(PLinieFeld::AnschlussY2)};
-    if (feld[PLinieFeld::Distanziert] == "1") Distanziert(f, p);
+void PartnerschaftZeichnen(Zeichenfläche &f, const PartnerschaftSatz &satz, double faktor) {
+    const double x1 = satz.BalkenX1();
+    const double x2 = satz.BalkenX2();
+    const Partnerschaft p{std::min(x1, x2),   std::max(x1, x2),   satz.BalkenY1(),    satz.BalkenY2(),
+                          satz.AnschlussX1(), satz.AnschlussY1(), satz.AnschlussX2(), satz.AnschlussY2()};
+    if (satz.Distanziert()) Distanziert(f, p);
     else Durchgezogen(f, p);
 
     f.FillStyle = Durchsichtig;
     f.FontName = "Arial";
     f.FontItalic = f.FontUnderline = f.FontBold = false;
     f.FontSize = 6 * faktor;
-    const auto status = feld[PLinieFeld::Status];
+    const auto status = satz.Status();
     if (!HatMarke(status)) return;
     // An element missing from the dates leaves the state without mark and text, the bar stands.
-    if (const auto datum = Datum(feld[PLinieFeld::Daten], status[0] - '0'))
+    if (const auto datum = Datum(satz.Daten(), status[0] - '0'))
         PartnerstandZeichnen(f, status, *datum, (x1 + x2) / 2, p.Y1, faktor);
 }
 
@@ -121,9 +113,9 @@ void PartnerschaftslinienZeichnen(Zeichenfläche &f, const Zeichnung &z, double 
     f.DrawStyle = StilDurchgezogen;
     f.ForeColor = Schwarz;
     f.FontUnderline = false;
-    for (const auto &satz : z.dokument.cboPartnerschaftsLinien) {
-        const Felder feld(satz);
-        if (feld.Anzahl() >= PLinieFeld::Anzahl) PartnerschaftZeichnen(f, feld, faktor);
+    for (const auto &text : z.dokument.cboPartnerschaftsLinien) {
+        const PartnerschaftSatz satz(text);
+        if (satz.Vollständig()) PartnerschaftZeichnen(f, satz, faktor);
     }
 }
 

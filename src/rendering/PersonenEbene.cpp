@@ -1,5 +1,5 @@
 #include "document/Nachschlagen.h"
-#include "document/Zahlen.h"
+#include "document/saetze/Person.h"
 #include "rendering/Beschriftung.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Seite.h"
@@ -24,49 +24,47 @@ class Personenzeichner {
     }
 
     void Zeichnen(int position) {
-        const Felder feld(z_.dokument.cboPersonen.Satz(position));
-        const double x = ZahlLesen(feld[PersonFeld::PosX]);
-        const double y = ZahlLesen(feld[PersonFeld::PosY]);
-        const double größe = ZahlLesen(feld[PersonFeld::Groesse]);
+        const PersonSatz person(z_.dokument.cboPersonen.Satz(position));
+        const double x = person.PosX();
+        const double y = person.PosY();
+        const double größe = person.Groesse();
         const double links = Gerundet(x - größe / 2, 2);
         const double oben = Gerundet(y - größe / 2, 2);
         f.FillColor = SymbolFüllfarbe(z_.ansicht.Farbschema);
-        Zwillingsband(feld, x, y);
+        Zwillingsband(person, x, y);
 
         Symbol symbol(f, {links, oben, x, y, größe}, pixelJeCm_, z_.Symbolstrich(), z_.ansicht.Farbschema);
-        const int kennzahl = SymbolKennzahl(feld[PersonFeld::Symboltyp]);
+        const int kennzahl = SymbolKennzahl(person.Symboltyp());
         f.ForeColor = Schwarz;
-        symbol.Zeichnen(kennzahl, MarkenVon(feld), Hervorgehoben(feld, position));
-        const double typ = kennzahl > 0 ? kennzahl : ZahlLesen(feld[PersonFeld::Symboltyp]);
-        if (typ <= 2 || typ >= 9) PersonBeschriften(f, z_.ansicht, alter_, feld, x, y, oben, größe, faktor_);
+        symbol.Zeichnen(kennzahl, MarkenVon(person), Hervorgehoben(person, position));
+        const double typ = kennzahl > 0 ? kennzahl : ZahlLesen(person.Symboltyp());
+        if (typ <= 2 || typ >= 9) PersonBeschriften(f, z_.ansicht, alter_, person, x, y, oben, größe, faktor_);
     }
 
   private:
     /// Joins identical twins, once a pair.
-    void Zwillingsband(const Felder &feld, double x, double y) {
-        const std::string_view zwilling = feld[PersonFeld::Zwilling];
-        if (!zwilling.starts_with("1E") || verbunden_.contains(feld[PersonFeld::Nr])) return;
-        const std::string_view nr = zwilling.substr(2);
+    void Zwillingsband(const PersonSatz &person, double x, double y) {
+        if (!person.Eineiig() || verbunden_.contains(person.Nr())) return;
+        const std::string_view nr = person.ZwillingNr();
         const int partner = nummern_.Position(nr);
         if (partner < 0) return;
-        const Felder anderer(z_.dokument.cboPersonen.Satz(partner));
-        if (anderer.Anzahl() <= PersonFeld::PosY) return;
+        const PersonSatz anderer(z_.dokument.cboPersonen.Satz(partner));
+        if (!anderer.HatOrt()) return;
         f.DrawWidth = z_.Symbolstrich();
-        f.Line(LinieFarbig, Gerundet(x, 1), Gerundet(y, 1), Gerundet(ZahlLesen(anderer[PersonFeld::PosX]), 1),
-               Gerundet(ZahlLesen(anderer[PersonFeld::PosY]), 1), Schwarz);
+        f.Line(LinieFarbig, Gerundet(x, 1), Gerundet(y, 1), Gerundet(anderer.PosX(), 1), Gerundet(anderer.PosY(), 1),
+               Schwarz);
         verbunden_.insert(nr);
     }
 
-    static Marken MarkenVon(const Felder &feld) {
-        return {feld[PersonFeld::IndexPerson], feld[PersonFeld::Sterbealter].starts_with('$'),
-                feld[PersonFeld::Sucht] == "1", feld[PersonFeld::Erkrankung] == "1"};
+    static Marken MarkenVon(const PersonSatz &person) {
+        return {person.IndexPerson(), person.Verstorben(), person.Sucht(), person.Erkrankung()};
     }
 
-    Symbol::Hervorhebung Hervorgehoben(const Felder &feld, int position) const {
+    Symbol::Hervorhebung Hervorgehoben(const PersonSatz &person, int position) const {
         if (z_.Druck) return {.Druck = true};
         const Aktion aktion = z_.geste.Aktion;
         const bool zieht = aktion == Aktion::BeziehungZiehen || aktion == Aktion::PartnerschaftZiehen;
-        const auto gewählt = gewählt_.find(Ganzzahl16(ZahlLesen(feld[PersonFeld::Nr])));
+        const auto gewählt = gewählt_.find(Ganzzahl16(ZahlLesen(person.Nr())));
         return {zieht && position + 1 == z_.geste.ZielPerson, gewählt == gewählt_.end() ? 0 : gewählt->second};
     }
 

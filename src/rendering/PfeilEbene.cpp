@@ -1,5 +1,4 @@
-#include "document/Felder.h"
-#include "document/Zahlen.h"
+#include "document/saetze/Pfeil.h"
 #include "rendering/Ebenen.h"
 
 #include <array>
@@ -75,15 +74,14 @@ Pfeilbefund PfeilEbene(Zeichenfläche &f, const Zeichnung &z) {
     }
     double w = 0;
     for (int i = 0; i < z.dokument.cboPfeile.Anzahl(); ++i) {
-        const Felder feld(z.dokument.cboPfeile.Satz(i));
-        if (feld.Anzahl() < PfeilFeld::Anzahl) continue;
-        const Pfeil p{ZahlLesen(feld[PfeilFeld::PfeilX1]), ZahlLesen(feld[PfeilFeld::PfeilY1]),
-                      ZahlLesen(feld[PfeilFeld::PfeilX2]), ZahlLesen(feld[PfeilFeld::PfeilY2])};
+        const PfeilSatz satz(z.dokument.cboPfeile.Satz(i));
+        if (!satz.Vollständig()) continue;
+        const Pfeil p{satz.X1(), satz.Y1(), satz.X2(), satz.Y2()};
         f.ForeColor = farbe;
         f.DrawWidth = z.Strichbreite();
         f.Line(LinieFarbig, p.x1, p.y1, p.x2, p.y2, farbe);
         SpitzeZeichnen(f, p, farbe, w);
-        if (feld[PfeilFeld::Pfeilart] == "2") SpitzeZeichnen(f, p.Umgekehrt(), farbe, w);
+        if (satz.Pfeilart() == "2") SpitzeZeichnen(f, p.Umgekehrt(), farbe, w);
         if (!gewählt.contains(i)) continue;
         GriffeZeichnen(f, p);
         befund.Markiert = true;

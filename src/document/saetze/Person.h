@@ -19,6 +19,7 @@ class PersonSatz : public Satzsicht {
     explicit PersonSatz(std::string_view satz, Lücken lücken = Lücken::Fehler) : Satzsicht(satz, lücken) {}
 
     bool Vollständig() const { return HatFelder(Anzahl); }
+    bool HatOrt() const { return HatFelder(FeldPosY + 1); }
     std::string_view Nr() const { return Text(FeldNr); }
     std::string_view Symboltyp() const { return Text(FeldSymboltyp); }
     double PosX() const { return Zahl(FeldPosX); }
