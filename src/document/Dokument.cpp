@@ -1,6 +1,11 @@
 #include "document/Dokument.h"
 
-#include "document/saetze/Satz.h"
+#include "document/saetze/Beziehung.h"
+#include "document/saetze/Kind.h"
+#include "document/saetze/Partnerschaft.h"
+#include "document/saetze/Person.h"
+#include "document/saetze/Pfeil.h"
+#include "document/saetze/Textbox.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,13 +14,13 @@
 namespace kw {
 
 const std::array<SpeicherZeile, 7> SpeicherTabelle{{
-    {"cboPersonen", "OBJECTS", &Dokument::cboPersonen, PersonFeld::Anzahl},
-    {"cboTextboxen", "TEXT", &Dokument::cboTextboxen, TextFeld::AnzahlUngemessen},
-    {"cboBeziehungsLinien", "LINEA", &Dokument::cboBeziehungsLinien, BezFeld::Anzahl},
-    {"cboPartnerschaftsLinien", "LINEB", &Dokument::cboPartnerschaftsLinien, PLinieFeld::Anzahl},
-    {"cboKindlinien", "LINEC", &Dokument::cboKindlinien, KindFeld::Anzahl},
+    {"cboPersonen", "OBJECTS", &Dokument::cboPersonen, PersonSatz::Anzahl},
+    {"cboTextboxen", "TEXT", &Dokument::cboTextboxen, TextSatz::AnzahlUngemessen},
+    {"cboBeziehungsLinien", "LINEA", &Dokument::cboBeziehungsLinien, BeziehungSatz::Anzahl},
+    {"cboPartnerschaftsLinien", "LINEB", &Dokument::cboPartnerschaftsLinien, PartnerschaftSatz::Anzahl},
+    {"cboKindlinien", "LINEC", &Dokument::cboKindlinien, KindSatz::Anzahl},
     {"cboFreehandlines", "LINED", &Dokument::cboFreehandlines, 1},
-    {"cboPfeile", "LINEE", &Dokument::cboPfeile, PfeilFeld::Anzahl},
+    {"cboPfeile", "LINEE", &Dokument::cboPfeile, PfeilSatz::Anzahl},
 }};
 
 namespace {

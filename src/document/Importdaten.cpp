@@ -4,6 +4,8 @@
 #include "document/Felder.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
+#include "document/saetze/Person.h"
+#include "document/saetze/Textbox.h"
 
 #include <algorithm>
 
@@ -13,6 +15,7 @@ namespace {
 
 constexpr double Spaltenabstand = 1.8; ///< cm; of a symbol of 1.2 and its label
 constexpr double Zeilenabstand = 2.4;
+constexpr double Textrand = 1.2;
 constexpr double ErsteZeile = 6;
 constexpr double Personengröße = 1.2;
 constexpr int HöchstzahlZeilen = 32767; ///< rows are counted in 16 bits
@@ -22,6 +25,29 @@ std::string AlsFeld(std::string_view text) {
     std::string feld(text);
     std::replace(feld.begin(), feld.end(), '_', ' ');
     return feld;
+}
+
+// What a person has in a case's file, and in the list of persons.
+namespace Fallfeld {
+enum : int { Nachname, Vorname, Geschlecht, Geburtsdatum, IndexPerson, Sucht, Erkrankung, Sterbealter };
+}
+namespace Listenfeld {
+enum : int { Nr, Vorname, Nachname, Geschlecht, Geburtsdatum, IndexPerson, Sucht, Erkrankung, Verstorben };
+}
+
+std::string Textbox(double y, std::string_view größe, std::string_view inhalt) {
+    TextBau box;
+    box.Ort(Textrand, y).Schriftart("Arial").Schriftgroesse(größe).Farbe("0").Fett("0").Kursiv("0");
+    return box.Unterstrichen("0").Ausrichtung("0").Inhalt(inhalt).Text();
+}
+
+std::string Person(const std::string &nr, const Felder &feld, double x, double y) {
+    const auto text = [&](int i) { return feld.OderLeer(i); };
+    PersonBau person;
+    person.Nr(nr).Symboltyp(text(Fallfeld::Geschlecht) == "f" ? TypWeiblich : TypMännlich).Ort(x, y);
+    person.Groesse(Personengröße).IndexPerson(text(Fallfeld::IndexPerson)).Sterbealter(text(Fallfeld::Sterbealter));
+    person.Sucht(text(Fallfeld::Sucht)).Erkrankung(text(Fallfeld::Erkrankung)).Vorname(text(Fallfeld::Vorname));
+    return person.Nachname(text(Fallfeld::Nachname)).Geburtsdatum(text(Fallfeld::Geburtsdatum)).Text();
 }
 
 bool IstNummer(std::string_view name) {
@@ -41,11 +67,11 @@ std::vector<std::string> Nummern(const Profil &daten) {
 
 std::vector<std::string> ImportTexte(const Profil &daten) {
     const auto wert = [&](std::string_view schlüssel) { return MitAbsatzzeichen(daten.Lesen("INFO", schlüssel)); };
-    return {"1.2_1.2_Arial_14_0_0_0_0_0_" + wert("title"),
-            "1.2_2.4_Arial_9_0_0_0_0_0_Hilfebeginn:   " + wert("help_start") +
-                "#Hilfeart:   " + wert("assistance_type") + "#Hilfeumfang:   " + wert("hours_week") +
-                "#Fachkraft:   " + wert("professional"),
-            "1.2_16_Arial_9_0_0_0_0_0_Hilfeziele:#" + wert("aid_targets")};
+    return {Textbox(1.2, "14", wert("title")),
+            Textbox(2.4, "9",
+                    "Hilfebeginn:   " + wert("help_start") + "#Hilfeart:   " + wert("assistance_type") +
+                        "#Hilfeumfang:   " + wert("hours_week") + "#Fachkraft:   " + wert("professional")),
+            Textbox(16, "9", "Hilfeziele:#" + wert("aid_targets"))};
 }
 
 std::vector<std::string> ImportPersonen(const Profil &daten, double breite) {
@@ -59,16 +85,8 @@ std::vector<std::string> ImportPersonen(const Profil &daten, double breite) {
             y = Gerundet(y + Zeilenabstand, 1);
         }
         const std::string wert = daten.Lesen("OBJECT", nummer);
-        const Felder feld(wert);
         // Counted from 0, as the keys are.
-        std::string satz = Dreistellig(Ganzzahl16(ZahlLesen(nummer)));
-        for (const std::string &teil :
-             {std::string(feld.OderLeer(2) == "f" ? "2" : "1"), ZahlSchreiben(x), ZahlSchreiben(y),
-              ZahlSchreiben(Personengröße), std::string(feld.OderLeer(4)), std::string(feld.OderLeer(7)),
-              std::string(feld.OderLeer(5)), std::string(feld.OderLeer(6)), std::string(feld.OderLeer(1)),
-              std::string(feld.OderLeer(0)), std::string(feld.OderLeer(3))})
-            satz += "_" + teil;
-        personen.push_back(satz + "__");
+        personen.push_back(Person(Dreistellig(Ganzzahl16(ZahlLesen(nummer))), Felder(wert), x, y));
     }
     return personen;
 }
@@ -77,14 +95,23 @@ Importperson ImportpersonAus(std::string_view zeile) {
     const Felder feld(zeile, ';');
     const auto text = [&](int i) { return AlsFeld(feld.OderLeer(i)); };
     const auto ja = [&](int i) { return feld.OderLeer(i) == "J"; };
-    return {feld.OderLeer(3) == "W" ? 2 : 1, text(1), text(2), text(4), text(3), ja(5), ja(6), ja(7), ja(8)};
+    return {.Symboltyp = feld.OderLeer(Listenfeld::Geschlecht) == "W" ? TypWeiblich : TypMännlich,
+            .Vorname = text(Listenfeld::Vorname),
+            .Nachname = text(Listenfeld::Nachname),
+            .Geburtsdatum = text(Listenfeld::Geburtsdatum),
+            .Geschlecht = text(Listenfeld::Geschlecht),
+            .IndexPerson = ja(Listenfeld::IndexPerson),
+            .Sucht = ja(Listenfeld::Sucht),
+            .Erkrankung = ja(Listenfeld::Erkrankung),
+            .Verstorben = ja(Listenfeld::Verstorben)};
 }
 
 std::string ImportSatz(const Importperson &person, const std::string &nr, double x, double y, double größe) {
-    const auto marke = [](bool gilt) { return gilt ? "_1" : "_0"; };
-    return nr + "_" + std::to_string(person.Symboltyp) + "_" + ZahlSchreiben(x) + "_" + ZahlSchreiben(y) + "_" +
-           ZahlSchreiben(größe) + marke(person.IndexPerson) + (person.Verstorben ? "_$" : "_") + marke(person.Sucht) +
-           marke(person.Erkrankung) + "_" + person.Vorname + "_" + person.Nachname + "_" + person.Geburtsdatum + "__";
+    const auto marke = [](bool gilt) { return gilt ? "1" : "0"; };
+    PersonBau bau;
+    bau.Nr(nr).Symboltyp(person.Symboltyp).Ort(x, y).Groesse(größe).IndexPerson(marke(person.IndexPerson));
+    bau.Sterbealter(person.Verstorben ? "$" : "").Sucht(marke(person.Sucht)).Erkrankung(marke(person.Erkrankung));
+    return bau.Vorname(person.Vorname).Nachname(person.Nachname).Geburtsdatum(person.Geburtsdatum).Text();
 }
 
 Satzliste Importzeilen(std::string_view inhalt) {

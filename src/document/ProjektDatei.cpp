@@ -3,6 +3,7 @@
 #include "document/Felder.h"
 #include "document/Papier.h"
 #include "document/Zahlen.h"
+#include "document/saetze/Person.h"
 
 #include <algorithm>
 #include <array>
@@ -33,24 +34,20 @@ std::string_view CodeInDatei(std::string_view code) {
     return zeile == Symbolcodes.end() ? code : zeile->InDatei;
 }
 
-/// The person's fields up to the last one that has a meaning. Missing ones are written empty.
-std::string PersonMitCode(const Felder &felder, std::string_view code) {
-    std::string satz(felder.OderLeer(PersonFeld::Nr));
-    for (int feld = PersonFeld::Nr + 1; feld < PersonFeld::Anzahl; ++feld) {
-        satz.append(1, '_').append(feld == PersonFeld::Symboltyp ? code : felder.OderLeer(feld));
-    }
-    return satz;
+/// The person with another code, and without fields that have no meaning.
+std::string PersonMitCode(std::string_view satz, std::string_view code) {
+    return PersonBau(satz).Symboltyp(code).Text();
 }
 
 std::string PersonAusDatei(std::string_view wert) {
-    const Felder felder(wert);
-    if (felder.Anzahl() < PersonFeld::Anzahl) throw FeldFehlt();
-    return PersonMitCode(felder, CodeImSpeicher(felder[PersonFeld::Symboltyp]));
+    const PersonSatz person(wert);
+    if (!person.Vollständig()) throw FeldFehlt();
+    return PersonMitCode(wert, CodeImSpeicher(person.Symboltyp()));
 }
 
-std::string PersonInDatei(const std::string &satz) {
-    const Felder felder(satz);
-    return PersonMitCode(felder, CodeInDatei(felder.OderLeer(PersonFeld::Symboltyp)));
+/// Missing fields are written empty.
+std::string PersonInDatei(std::string_view satz) {
+    return PersonMitCode(satz, CodeInDatei(PersonSatz(satz, Lücken::Leer).Symboltyp()));
 }
 
 std::string OhneBlanks(std::string satz) {
@@ -66,6 +63,11 @@ int SatzAnzahl(const Profil &profil, std::string_view abschnitt) {
 }
 
 const char *Flagge(bool wert) { return wert ? "1" : "0"; }
+
+/// What the file tells of the legend. The last one is written and never read back: meant.
+namespace LegendeFeld {
+enum : int { Sichtbar, X, Y, Quer, MitStandardsymbolen };
+}
 
 std::string LegendeSatz(const Dokument &d) {
     return std::string(Flagge(d.LegendeSichtbar)) + "_" + ZahlSchreiben(d.LegendeX) + "_" + ZahlSchreiben(d.LegendeY) +
@@ -134,7 +136,7 @@ std::string Abschnittschaden(const Profil &profil, const SpeicherZeile &zeile) {
 }
 
 std::string Legendenschaden(const Profil &profil) {
-    constexpr int Gelesen = 4;
+    constexpr int Gelesen = LegendeFeld::MitStandardsymbolen;
     const auto wert = profil.Lesen(Vorgaben, "legende");
     const int anzahl = Felder(wert).Anzahl();
     if (wert.empty() || anzahl >= Gelesen) return {};
@@ -174,11 +176,10 @@ void SpeicherLesen(const Profil &profil, Dokument &dokument) {
 void LegendeLesen(const Profil &profil, Dokument &dokument) {
     const auto wert = profil.Lesen(Vorgaben, "legende");
     const Felder felder(wert);
-    dokument.LegendeX = ZahlLesen(felder[1]);
-    dokument.LegendeY = ZahlLesen(felder[2]);
-    dokument.LegendeQuer = felder[3] == "1";
-    // Field 4, whether the standard symbols are listed, is written and never read back: meant.
-    dokument.LegendeSichtbar = felder[0] == "1";
+    dokument.LegendeX = ZahlLesen(felder[LegendeFeld::X]);
+    dokument.LegendeY = ZahlLesen(felder[LegendeFeld::Y]);
+    dokument.LegendeQuer = felder[LegendeFeld::Quer] == "1";
+    dokument.LegendeSichtbar = felder[LegendeFeld::Sichtbar] == "1";
 }
 
 void ProjektEintragen(const Dokument &dokument, Profil &profil) {
