@@ -93,7 +93,8 @@ void Projekt::SpeichernUnter() {
                          deutsch ? "Genogrammprojekt 1" : "Genogram Project 1",
                          deutsch ? "Kinwright Datei (*.kwp)|*.kwp" : "kinwright file (*.kwp)|*.kwp",
                          umfeld_.benutzer.Desktopordner()};
-    const auto datei = ZieldateiWählen(umfeld_.benutzer, wahl, deutsch, "Do you want to replace?");
+    const auto datei = ZieldateiWählen(umfeld_.benutzer, wahl, umfeld_.ansicht.Sprache,
+                                       {Ersetzungsfrage.Deutsch, "Do you want to replace?"});
     SpeichernAbgebrochen = SpeichernAbgebrochen || !datei;
     if (!datei) return;
     Projektdatei = *datei;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Bedienelemente.h"
+#include "platform/Sprache.h"
 
 #include <span>
 #include <string_view>
@@ -13,8 +14,7 @@ namespace kw {
 struct Menüzeile {
     std::string_view Name;
     std::string_view Menü; ///< the menu that it stands in; a group below for what stands in none
-    std::string_view Deutsch;
-    std::string_view Englisch;
+    Zweisprachig Caption;
     std::string_view Kürzel = {}; ///< "Ctrl+O"
     bool Enabled = true;
     bool Visible = true;

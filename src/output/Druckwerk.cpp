@@ -12,25 +12,28 @@ namespace kw {
 
 namespace {
 
-constexpr const char *KeineRänderDeutsch = "Der bedruckbare Bereich kann nicht angezeigt werden,\n"
-                                           "da keine Druckerinformationen vorliegen.\n"
-                                           "Stellen Sie sicher, dass der Drucker \n"
-                                           "richtig installiert ist.\n"
-                                           "\n"
-                                           "Evtl. wurde noch gar kein Drucker installiert.";
-constexpr const char *KeineRänderEnglisch =
+constexpr Zweisprachig Programmname{"Kinwright", "Kinwright"};
+constexpr Zweisprachig Zieltitel{"Druckausgabe speichern unter", "Save Print Output As"};
+constexpr Zweisprachig Nichtgeschrieben{" konnte nicht geschrieben werden.", " could not be written."};
+constexpr Zweisprachig KeineRänder{
+    "Der bedruckbare Bereich kann nicht angezeigt werden,\n"
+    "da keine Druckerinformationen vorliegen.\n"
+    "Stellen Sie sicher, dass der Drucker \n"
+    "richtig installiert ist.\n"
+    "\n"
+    "Evtl. wurde noch gar kein Drucker installiert.",
     "The printable area cannot be displayed because there is no printer information.\n"
-    "Make sure the printer is installed correctly. A printer may not have been installed yet.";
-constexpr const char *KeinPdfDeutsch =
+    "Make sure the printer is installed correctly. A printer may not have been installed yet."};
+constexpr Zweisprachig KeinPdfTitel{"PDF kann nicht erstellt werden", "PDF cannot be created"};
+constexpr Zweisprachig KeinPdf{
     "Microsoft Print to PDF konnte nicht initialisiert werden. Microsoft Print to PDF ist eine integrierte Funktion in "
     "Windows 10/11. Die Funktion ist möglicherweise deaktiviert. Sofern Sie ein PDF-Programm auf ihrem Rechner "
     "installiert haben, lassen sich Genogramme auch über die Drucken-Funktion als PDF erstellen. Wählen Sie hierzu im "
-    "Drucken-Dialog das entsprechende PDF-Programm als virtuellen Drucker aus. ";
-constexpr const char *KeinPdfEnglisch =
+    "Drucken-Dialog das entsprechende PDF-Programm als virtuellen Drucker aus. ",
     "Microsoft Print to PDF could not be initialized. Microsoft Print to PDF is an integrated function in Windows "
     "10/11. The function may be deactivated. If you have a PDF program installed on your computer, genograms can also "
     "be created as a PDF using the print function. To do this, select the corresponding PDF program as a virtual "
-    "printer in the print dialog.";
+    "printer in the print dialog."};
 
 /// "4.00 mm"; below one there is no zero before the point.
 std::string InMillimetern(double cm) {
@@ -43,8 +46,9 @@ std::string InMillimetern(double cm) {
 
 } // namespace
 
-void Druckwerk::Warnen(const std::string &titel, const std::string &text) {
-    benutzer_.Fragen({titel, text, Knöpfe::Ok, Zeichen::Warnung});
+void Druckwerk::Warnen(const Zweisprachig &titel, const Zweisprachig &text) {
+    const Sprache sprache = ansicht_.Sprache;
+    benutzer_.Fragen({std::string(titel.In(sprache)), std::string(text.In(sprache)), Knöpfe::Ok, Zeichen::Warnung});
 }
 
 bool Druckwerk::Ermitteln() {
@@ -65,7 +69,7 @@ void Druckwerk::Druck_Raender(const Druckränder &ränder) {
 
 bool Druckwerk::RänderUmschalten() {
     if (!DruckerVorhanden) {
-        Warnen("Kinwright", IstDeutsch() ? KeineRänderDeutsch : KeineRänderEnglisch);
+        Warnen(Programmname, KeineRänder);
         return false;
     }
     ansicht_.bDruckrandAnzeigen = !ansicht_.bDruckrandAnzeigen;
@@ -74,7 +78,7 @@ bool Druckwerk::RänderUmschalten() {
 }
 
 void Druckwerk::DruckrandBericht() {
-    if (!DruckerVorhanden) return Warnen("Kinwright", IstDeutsch() ? KeineRänderDeutsch : KeineRänderEnglisch);
+    if (!DruckerVorhanden) return Warnen(Programmname, KeineRänder);
     const std::string text = "Nicht bedruckbare Bereiche (Druckränder): \n"
                              "Links:       " +
                              InMillimetern(ansicht_.DruckrandLinks) + "\n" +
@@ -91,10 +95,9 @@ bool Druckwerk::GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen,
     const std::string titel = name.empty() ? "Kinwright" : name;
     std::string ziel;
     const auto zielWählen = [&] {
-        const auto datei = ZieldateiWählen(benutzer_,
-                                           {IstDeutsch() ? "Druckausgabe speichern unter" : "Save Print Output As",
-                                            titel, "PDF  (*.pdf)|*.pdf", Ausgabeordner(benutzer_, projektdatei)},
-                                           IstDeutsch());
+        const Dateiwahl wahl{std::string(Zieltitel.In(ansicht_.Sprache)), titel, "PDF  (*.pdf)|*.pdf",
+                             Ausgabeordner(benutzer_, projektdatei)};
+        const auto datei = ZieldateiWählen(benutzer_, wahl, ansicht_.Sprache);
         ziel = DateiName(datei.value_or(""));
         return datei;
     };
@@ -102,8 +105,8 @@ bool Druckwerk::GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen,
     const Druckende ende = drucker_.Drucken({titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite,
                                              ansicht_.SeitenHöhe, std::move(zeichnen), zielWählen});
     if (ende == Druckende::NichtGeschrieben)
-        Warnen("Kinwright", IstDeutsch() ? "Die Datei " + ziel + " konnte nicht geschrieben werden."
-                                         : "The file " + ziel + " could not be written.");
+        benutzer_.Fragen(
+            {"Kinwright", Dateisatz(ansicht_.Sprache, ziel, Nichtgeschrieben), Knöpfe::Ok, Zeichen::Warnung});
     return ende == Druckende::Erledigt;
 }
 
@@ -111,9 +114,7 @@ bool Druckwerk::PdfDruckerWählen() {
     bool gefunden = false;
     for (const std::string &name : drucker_.DeviceNames())
         if (name == PdfDruckerName) gefunden = drucker_.Wählen(name);
-    if (!gefunden)
-        Warnen(IstDeutsch() ? "PDF kann nicht erstellt werden" : "PDF cannot be created",
-               IstDeutsch() ? KeinPdfDeutsch : KeinPdfEnglisch);
+    if (!gefunden) Warnen(KeinPdfTitel, KeinPdf);
     return gefunden;
 }
 

@@ -37,9 +37,8 @@ class Druckwerk {
     bool PdfDruckerWählen();
 
   private:
-    bool IstDeutsch() const { return ansicht_.Sprache == Sprache::Deutsch; }
     void Druck_Raender(const Druckränder &ränder);
-    void Warnen(const std::string &titel, const std::string &text);
+    void Warnen(const Zweisprachig &titel, const Zweisprachig &text);
 
     Drucker &drucker_;
     Benutzer &benutzer_;

@@ -4,15 +4,20 @@
 
 namespace kw {
 
-std::optional<std::string> ZieldateiWählen(Benutzer &benutzer, const Dateiwahl &wahl, bool deutsch,
-                                           const std::string &frageEnglisch) {
+std::optional<std::string> ZieldateiWählen(Benutzer &benutzer, const Dateiwahl &wahl, Sprache sprache,
+                                           const Zweisprachig &frage) {
     while (true) {
         const auto datei = benutzer.DateiSpeichern(wahl);
         if (!datei || !DateiVorhanden(*datei)) return datei;
-        const std::string frage = deutsch ? "Die Datei " + *datei + " besteht bereits. \nMöchten Sie sie ersetzen ?"
-                                          : "The file " + *datei + " already exists. \n" + frageEnglisch;
-        if (benutzer.Fragen({"Kinwright", frage, Knöpfe::JaNein, Zeichen::Warnung}) == Antwort::Ja) return datei;
+        const std::string besteht = Dateisatz(sprache, *datei, {" besteht bereits. \n", " already exists. \n"});
+        const std::string text = besteht + std::string(frage.In(sprache));
+        if (benutzer.Fragen({"Kinwright", text, Knöpfe::JaNein, Zeichen::Warnung}) == Antwort::Ja) return datei;
     }
+}
+
+std::string Dateisatz(Sprache sprache, std::string_view name, const Zweisprachig &rest) {
+    std::string satz(Zweisprachig{"Die Datei ", "The file "}.In(sprache));
+    return satz.append(name).append(rest.In(sprache));
 }
 
 std::string Ausgabeordner(const Benutzer &benutzer, const std::string &projektdatei) {

@@ -1,17 +1,24 @@
 #pragma once
 
 #include "platform/Benutzer.h"
+#include "platform/Sprache.h"
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 // Asking for a file to write.
 namespace kw {
 
-/// Asks until the file is a new one or the user wants the old one replaced; nothing when he gives up. The question is
-/// German or ends with `frageEnglisch`.
-std::optional<std::string> ZieldateiWählen(Benutzer &benutzer, const Dateiwahl &wahl, bool deutsch,
-                                           const std::string &frageEnglisch = "Do you want to replace it?");
+constexpr Zweisprachig Ersetzungsfrage{"Möchten Sie sie ersetzen ?", "Do you want to replace it?"};
+
+/// Asks until the file is a new one or the user wants the old one replaced; nothing when he gives up. `frage` ends the
+/// question.
+std::optional<std::string> ZieldateiWählen(Benutzer &benutzer, const Dateiwahl &wahl, Sprache sprache,
+                                           const Zweisprachig &frage = Ersetzungsfrage);
+
+/// "The file NAME" and then `rest`.
+std::string Dateisatz(Sprache sprache, std::string_view name, const Zweisprachig &rest);
 
 /// Where output is put if the user says nothing else: the project's folder, or the desktop's for a project that has
 /// none.

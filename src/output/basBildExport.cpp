@@ -9,6 +9,12 @@ namespace {
 
 constexpr unsigned char BesteQualität = 100;
 
+constexpr Zweisprachig Seitentitel{"Genogramm als Bilddatei speichern unter ...",
+                                   "Export genogram as image file as ..."};
+constexpr Zweisprachig Auswahltitel{"Auswahl als Bilddatei speichern", "Export selection as image file"};
+constexpr Zweisprachig Kopiert{"Der gewählte Bildausschnitt wurde in die Zwischnablage kopiert!",
+                               "The selected image section has been copied to the clipboard!"};
+
 } // namespace
 
 void JpegSpeichern(Bilder &bilder, const std::string &datei, unsigned char quality) {
@@ -16,17 +22,14 @@ void JpegSpeichern(Bilder &bilder, const std::string &datei, unsigned char quali
         throw Bildfehler("Speicherung des Bildes fehlgeschlagen. GDI+ Error:" + std::to_string(status));
 }
 
-std::optional<std::string> Bildexport::DateiWählen(const std::string &titel, const std::string &projektdatei) {
-    return ZieldateiWählen(benutzer_,
-                           {titel, NameOhneKennung(DateiName(projektdatei)), "Bitmap  (*.bmp)|*.bmp",
-                            Ausgabeordner(benutzer_, projektdatei), Dateiwahl::Kennungen::Alle},
-                           IstDeutsch());
+std::optional<std::string> Bildexport::DateiWählen(const Zweisprachig &titel, const std::string &projektdatei) {
+    const Dateiwahl wahl{std::string(titel.In(ansicht_.Sprache)), NameOhneKennung(DateiName(projektdatei)),
+                         "Bitmap  (*.bmp)|*.bmp", Ausgabeordner(benutzer_, projektdatei), Dateiwahl::Kennungen::Alle};
+    return ZieldateiWählen(benutzer_, wahl, ansicht_.Sprache);
 }
 
 void Bildexport::SeiteExportieren(const std::string &projektdatei) {
-    const auto datei = DateiWählen(IstDeutsch() ? "Genogramm als Bilddatei speichern unter ..."
-                                                : "Export genogram as image file as ...",
-                                   projektdatei);
+    const auto datei = DateiWählen(Seitentitel, projektdatei);
     if (!datei) return;
     abwählen_();
     const int zoom = bereich_.cboBildGröße.ListIndex;
@@ -46,17 +49,13 @@ Bildausschnitt Bildexport::InTwips(const Bildausschnitt &cm) const {
 }
 
 void Bildexport::AuswahlAlsBildSpeichern(const Bildausschnitt &cm, const std::string &projektdatei) {
-    const auto datei =
-        DateiWählen(IstDeutsch() ? "Auswahl als Bilddatei speichern" : "Export selection as image file", projektdatei);
+    const auto datei = DateiWählen(Auswahltitel, projektdatei);
     if (datei) bilder_.SavePicture(*datei, InTwips(cm));
 }
 
 void Bildexport::AusschnittKopieren(const Bildausschnitt &cm) {
     bilder_.InZwischenablage(InTwips(cm));
-    benutzer_.Fragen({"Info",
-                      IstDeutsch() ? "Der gewählte Bildausschnitt wurde in die Zwischnablage kopiert!"
-                                   : "The selected image section has been copied to the clipboard!",
-                      Knöpfe::Ok, Zeichen::Information});
+    benutzer_.Fragen({"Info", std::string(Kopiert.In(ansicht_.Sprache)), Knöpfe::Ok, Zeichen::Information});
 }
 
 } // namespace kw

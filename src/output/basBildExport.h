@@ -41,9 +41,8 @@ class Bildexport {
     void AusschnittKopieren(const Bildausschnitt &cm);
 
   private:
-    bool IstDeutsch() const { return ansicht_.Sprache == Sprache::Deutsch; }
     Bildausschnitt InTwips(const Bildausschnitt &cm) const;
-    std::optional<std::string> DateiWählen(const std::string &titel, const std::string &projektdatei);
+    std::optional<std::string> DateiWählen(const Zweisprachig &titel, const std::string &projektdatei);
 
     Benutzer &benutzer_;
     Bilder &bilder_;

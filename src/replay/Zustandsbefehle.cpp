@@ -126,7 +126,7 @@ void Zeichnen(Wiedergabe &lauf, const Wörter &w) {
 void Beschriftungen(std::ostream &aus, const std::string &sprache) {
     if (sprache != "de" && sprache != "en") throw Skriptfehler("unknown language: " + sprache);
     for (const Menüzeile &zeile : Menütafel())
-        aus << zeile.Name << " " << (sprache == "de" ? zeile.Deutsch : zeile.Englisch) << "\n";
+        aus << zeile.Name << " " << zeile.Caption.In(SpracheAus(sprache)) << "\n";
 }
 
 constexpr Skriptbefehl Tabelle[] = {

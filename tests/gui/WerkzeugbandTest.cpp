@@ -24,7 +24,7 @@ TEST(Bilder, JedeZeileFindetIhres) {
     for (const Menüzeile &zeile : Menütafel()) {
         const bool da = !Menübild(zeile.Name, uhr).isNull();
         EXPECT_EQ(da, !Bildname(zeile.Name).empty() || zeile.Menü == Werkzeugband) << zeile.Name;
-        const bool blatt = !IstMenü(zeile) && zeile.Englisch != Trennstrich && zeile.Menü != Fensterteile;
+        const bool blatt = !IstMenü(zeile) && zeile.Caption.Englisch != Trennstrich && zeile.Menü != Fensterteile;
         EXPECT_EQ(static_cast<bool>(BefehlFinden(zeile.Name)), blatt || zeile.Name == "cmdRänder") << zeile.Name;
     }
 }

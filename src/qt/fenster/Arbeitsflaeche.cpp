@@ -2,6 +2,7 @@
 
 #include "app/frmMain.h"
 #include "qt/fenster/Importliste.h"
+#include "qt/grund/Text.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "qt/malen/Zeigerbild.h"
 
@@ -92,8 +93,7 @@ void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &mod
 
 void Arbeitsflaeche::Auffrischen() {
     if (!haupt_) return;
-    setAccessibleName(anblick_->ansicht.Sprache == Sprache::Deutsch ? QStringLiteral("Genogramm")
-                                                                    : QStringLiteral("Genogram"));
+    setAccessibleName(Text(Zweisprachig{"Genogramm", "Genogram"}.In(anblick_->ansicht.Sprache)));
     const Arbeitsbereich &b = anblick_->bereich;
     const int breite = vScroll_.sizeHint().width();
     const int höhe = hScroll_.sizeHint().height();

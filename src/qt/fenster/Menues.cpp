@@ -21,7 +21,7 @@ namespace kw {
 
 namespace {
 
-bool IstTrennstrich(const Menüzeile &zeile) { return zeile.Englisch == Trennstrich; }
+bool IstTrennstrich(const Menüzeile &zeile) { return zeile.Caption.Englisch == Trennstrich; }
 
 /// The caption without the blanks that once aligned columns, and without the key's name behind it: the menu
 /// shows the shortcut itself. What isn't from the table (a file's name) has no mnemonics.
@@ -31,7 +31,7 @@ QString Beschriftung(const Menüzeile &zeile, const std::string &caption) {
         if (const auto lücke = text.trimmed().indexOf(QLatin1String("  ")); lücke > 0)
             text = text.trimmed().left(lücke);
     text = text.trimmed();
-    if (caption != zeile.Deutsch && caption != zeile.Englisch) text.replace(u'&', QLatin1String("&&"));
+    if (caption != zeile.Caption.Deutsch && caption != zeile.Caption.Englisch) text.replace(u'&', QLatin1String("&&"));
     return text;
 }
 

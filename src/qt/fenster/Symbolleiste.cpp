@@ -115,7 +115,7 @@ void Symbolleiste::BreiteFestlegen(const Knopf &knopf) {
     knopf.Feld->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     knopf.Aktion->setIcon(Svgsinnbild(Bildname(knopf.Zeile->Name)));
     for (const Wahl &wahl : knopf.Auswahl) {
-        knopf.Aktion->setText(Text(wahl.Zeile->Deutsch));
+        knopf.Aktion->setText(Text(wahl.Zeile->Caption.Deutsch));
         breite = std::max(breite, knopf.Feld->sizeHint().width());
     }
     knopf.Feld->setMinimumWidth(breite + Spielraum);
@@ -126,7 +126,7 @@ void Symbolleiste::Auffrischen() {
     TrennerZeigen();
     TabstoppSetzen();
     if (!mehr_) return;
-    const QString name = Text(anblick_.ansicht.Sprache == Sprache::Deutsch ? "Mehr" : "More");
+    const QString name = Text(Zweisprachig{"Mehr", "More"}.In(anblick_.ansicht.Sprache));
     mehr_->setToolTip(name);
     mehr_->setAccessibleName(name);
 }

@@ -39,15 +39,14 @@ bool BeginntGruppe(int stelle) {
 }
 
 struct Merkmalname {
-    const char *Deutsch;
-    const char *Englisch;
+    Zweisprachig Name;
     bool Personeninfo::*Gilt;
 };
 constexpr std::array<Merkmalname, MerkmalAnzahl> Merkmalnamen{{
-    {"Indexperson", "Index Person", &Personeninfo::IndexPerson},
-    {"Verstorben", "Deceased", &Personeninfo::Verstorben},
-    {"Sucht", "Addiction", &Personeninfo::Sucht},
-    {"Erkrankung", "Illness", &Personeninfo::Erkrankung},
+    {{"Indexperson", "Index Person"}, &Personeninfo::IndexPerson},
+    {{"Verstorben", "Deceased"}, &Personeninfo::Verstorben},
+    {{"Sucht", "Addiction"}, &Personeninfo::Sucht},
+    {{"Erkrankung", "Illness"}, &Personeninfo::Erkrankung},
 }};
 
 /// The row of the table that has the button's state and caption.
@@ -104,8 +103,7 @@ void Werkzeugpalette::Auffrischen() {
     }
     for (size_t i = 0; i < merkmale_.size(); ++i) {
         const Merkmalname &m = Merkmalnamen[i];
-        merkmale_[i]->Zeigen(Text(anblick_.ansicht.Sprache == Sprache::Deutsch ? m.Deutsch : m.Englisch),
-                             anblick_.lage.Info.*m.Gilt);
+        merkmale_[i]->Zeigen(Text(m.Name.In(anblick_.ansicht.Sprache)), anblick_.lage.Info.*m.Gilt);
         merkmale_[i]->setVisible(anblick_.lage.Info.Visible);
     }
     fokus_.StoppSetzen();
