@@ -30,7 +30,7 @@ struct Dialogumgebung {
     Drucker &drucker;
     Dialogdienste &dienste;
 
-    bool IstDeutsch() const { return werkbank.IstDeutsch(); }
+    kw::Sprache Sprache() const { return werkbank.ansicht.Sprache; }
 };
 
 } // namespace kw

@@ -4,6 +4,19 @@
 
 namespace kw {
 
+Formular::Formular(const Formulartafel &tafel, Sprache sprache)
+    : Caption(tafel.Titel.In(sprache)), Vorgabeknopf(tafel.Vorgabeknopf), Abbruchknopf(tafel.Abbruchknopf),
+      name_(tafel.Name) {
+    for (const Formularzeile &zeile : tafel.Zeilen) {
+        reihenfolge_.emplace_back(zeile.Name);
+        Steuerelement &element = elemente_[reihenfolge_.back()];
+        element.Kind = zeile.Kind;
+        element.Caption = zeile.Caption.In(sprache);
+        element.Tip = zeile.Tip.In(sprache);
+        element.Bei = zeile.Bei;
+    }
+}
+
 Steuerelement &Formular::operator[](std::string_view name) {
     const auto i = elemente_.find(name);
     return i == elemente_.end() ? elemente_.at(std::string(name)) : i->second;
@@ -12,14 +25,6 @@ Steuerelement &Formular::operator[](std::string_view name) {
 const Steuerelement *Formular::Finden(std::string_view name) const {
     const auto i = elemente_.find(name);
     return i == elemente_.end() ? nullptr : &i->second;
-}
-
-Steuerelement &Formular::Anlegen(std::string_view name, Art art, std::string_view caption) {
-    reihenfolge_.emplace_back(name);
-    Steuerelement &element = elemente_[std::string(name)];
-    element.Kind = art;
-    element.Caption = caption;
-    return element;
 }
 
 void Formular::TextSetzen(std::string_view name, std::string_view text) {

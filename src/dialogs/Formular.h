@@ -1,9 +1,11 @@
 #pragma once
 
+#include "platform/Sprache.h"
 #include "rendering/Farben.h"
 #include "rendering/Zeichenflaeche.h"
 
 #include <map>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,6 +56,24 @@ struct Steuerelement {
     int Alignment = 0; ///< 0 left, 1 right, 2 centred
 };
 
+/// A row of a form's table: a control, what stands on it and what its tool tip says.
+struct Formularzeile {
+    std::string_view Name;
+    Art Kind;
+    Zweisprachig Caption = {};
+    Zweisprachig Tip = {};
+    std::string_view Bei = {}; ///< as of the control
+};
+
+/// What a form is built from.
+struct Formulartafel {
+    std::string_view Name;
+    Zweisprachig Titel;
+    std::span<const Formularzeile> Zeilen; ///< in the tab order
+    std::string_view Vorgabeknopf = {};    ///< the button that Enter presses; empty for none
+    std::string_view Abbruchknopf = {};    ///< the button that Escape presses; empty for none
+};
+
 /// What a form asks of whoever shows it.
 class Formularwirt {
   public:
@@ -69,7 +89,8 @@ class Formularwirt {
 /// open any more, and calls `Entladen`. The close box is `Schließkreuz`.
 class Formular {
   public:
-    Formular(std::string_view name, std::string_view titel) : Caption(titel), name_(name) {}
+    /// Makes every control of the table, with the captions of that language.
+    Formular(const Formulartafel &tafel, Sprache sprache);
     virtual ~Formular() = default;
     Formular(const Formular &) = delete;
     Formular &operator=(const Formular &) = delete;
@@ -84,9 +105,9 @@ class Formular {
     const Steuerelement *Finden(std::string_view name) const;
     /// The controls' names in their order, which is the tab order.
     const std::vector<std::string> &Reihenfolge() const { return reihenfolge_; }
-    /// Name of the button that Enter presses, and of the one that Escape presses; empty for none.
-    std::string Vorgabeknopf;
-    std::string Abbruchknopf;
+    /// As in the table.
+    const std::string Vorgabeknopf;
+    const std::string Abbruchknopf;
 
     /// The form comes up, before it is seen.
     virtual void Laden() = 0;
@@ -118,8 +139,6 @@ class Formular {
     virtual void Schließkreuz() { Schließen(); }
 
   protected:
-    /// Adds a control; the order of calls is the tab order.
-    Steuerelement &Anlegen(std::string_view name, Art art, std::string_view caption = {});
     void Schließen() { offen_ = false; }
 
     // Setting by the form itself raises the same events as the user's doing, when it makes a difference.

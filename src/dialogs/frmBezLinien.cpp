@@ -10,24 +10,41 @@ namespace kw {
 
 namespace {
 
+constexpr Formularzeile Zeilen[] = {
+    {"optNormal", Art::Option, {"Normal / gut", "Normal / Good"}},
+    {"optEng", Art::Option, {"Eng", "Close"}},
+    {"optVerschmolzen", Art::Option, {"Verschmolzen", "Fused"}},
+    {"optDistanziert", Art::Option, {"Distanziert", "Distant"}},
+    {"optAbbruch", Art::Option, {"Abbruch", "Cutoff"}},
+    {"optKonflikthaft", Art::Option, {"Konflikthaft", "Conflict / Hostile"}},
+    {"optEng_Konflikt", Art::Option, {"Konflikthaft / Eng", "Conflict / Close"}},
+    {"optVerschm_Konflikthaft", Art::Option, {"Konflikthaft /", "Conflict / Fused"}},
+    {"Label1", Art::Beschriftung, {"verschmolzen", ""}}, // the last caption's second line
+    {"Picture1", Art::Bild},
+    {"imgLine", Art::Beschriftung, {}, {}, "Picture1"},
+    {"imgKonflikt", Art::Beschriftung, {}, {}, "Picture1"},
+    {"Command1", Art::Knopf, {"&OK", "&OK"}},
+    {"Command2", Art::Knopf, {"Abbrechen", "Cancel"}},
+    {"Command3", Art::Knopf, {"Löschen", "Delete"}},
+};
+constexpr Formulartafel Tafel{"frmBezLinien", {"Beziehung", "Relationship"}, Zeilen, "Command1", "Command2"};
+
 /// A kind of relationship; its place is its code in the record. A conflict lies over a plain line, or over none.
 struct Beziehungsart {
     std::string_view Option;
-    std::string_view Deutsch;
-    std::string_view Englisch;
     bool Linie;
     bool Konflikt;
 };
 
 constexpr std::array<Beziehungsart, 8> Arten{{
-    {"optNormal", "Normal / gut", "Normal / Good", true, false},
-    {"optEng", "Eng", "Close", true, false},
-    {"optVerschmolzen", "Verschmolzen", "Fused", true, false},
-    {"optDistanziert", "Distanziert", "Distant", true, false},
-    {"optAbbruch", "Abbruch", "Cutoff", true, false},
-    {"optKonflikthaft", "Konflikthaft", "Conflict / Hostile", false, true},
-    {"optEng_Konflikt", "Konflikthaft / Eng", "Conflict / Close", true, true},
-    {"optVerschm_Konflikthaft", "Konflikthaft /", "Conflict / Fused", true, true},
+    {"optNormal", true, false},
+    {"optEng", true, false},
+    {"optVerschmolzen", true, false},
+    {"optDistanziert", true, false},
+    {"optAbbruch", true, false},
+    {"optKonflikthaft", false, true},
+    {"optEng_Konflikt", true, true},
+    {"optVerschm_Konflikthaft", true, true},
 }};
 
 // The preview, in cm.
@@ -37,19 +54,8 @@ constexpr double Rand = 0.5;
 
 } // namespace
 
-frmBezLinien::frmBezLinien(Dialogumgebung &umgebung) : Formular("frmBezLinien", ""), umgebung_(umgebung) {
-    const bool deutsch = umgebung.IstDeutsch();
-    Caption = deutsch ? "Beziehung" : "Relationship";
-    for (const Beziehungsart &art : Arten) Anlegen(art.Option, Art::Option, deutsch ? art.Deutsch : art.Englisch);
-    Anlegen("Label1", Art::Beschriftung, deutsch ? "verschmolzen" : ""); // the last caption's second line
-    Anlegen("Picture1", Art::Bild);
-    for (const auto *bild : {"imgLine", "imgKonflikt"}) Anlegen(bild, Art::Beschriftung).Bei = "Picture1";
+frmBezLinien::frmBezLinien(Dialogumgebung &umgebung) : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung) {
     (*this)["imgKonflikt"].Visible = false;
-    Anlegen("Command1", Art::Knopf, "&OK");
-    Anlegen("Command2", Art::Knopf, deutsch ? "Abbrechen" : "Cancel");
-    Anlegen("Command3", Art::Knopf, deutsch ? "Löschen" : "Delete");
-    Vorgabeknopf = "Command1";
-    Abbruchknopf = "Command2";
 }
 
 void frmBezLinien::Laden() {

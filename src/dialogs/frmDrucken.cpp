@@ -9,25 +9,25 @@ namespace kw {
 
 namespace {
 
+constexpr Formularzeile Zeilen[] = {
+    {"Frame1", Art::Rahmen, {"Drucker", "Printer"}},
+    {"cboDrucker", Art::Liste},
+    {"Frame2", Art::Rahmen, {"Exemplare", "Copies"}},
+    {"Label1", Art::Beschriftung, {"Anzahl:", "Number"}},
+    {"txtCopies", Art::Textfeld},
+    {"cmdDBBildUp", Art::Knopf, {"+", "+"}, {"Ein Exemplar mehr", "One copy more"}},
+    {"cmdDBBildDown", Art::Knopf, {"−", "−"}, {"Ein Exemplar weniger", "One copy less"}},
+    {"cmdOK", Art::Knopf, {"OK", "OK"}},
+    {"cmdAbbrechen", Art::Knopf, {"Abbrechen", "Cancel"}},
+};
+constexpr Formulartafel Tafel{"frmDrucken", {"Drucken", "Print"}, Zeilen, "cmdOK", "cmdAbbrechen"};
+
+constexpr Zweisprachig KeinDrucker{"Es wurde kein Drucker ausgewählt! ", "No printer was selected! "};
 constexpr int HöchstzahlExemplare = 32767; ///< the number has 16 bits
 
 } // namespace
 
-frmDrucken::frmDrucken(Dialogumgebung &umgebung) : Formular("frmDrucken", ""), umgebung_(umgebung) {
-    const bool deutsch = umgebung.IstDeutsch();
-    Caption = deutsch ? "Drucken" : "Print";
-    Anlegen("Frame1", Art::Rahmen, deutsch ? "Drucker" : "Printer");
-    Anlegen("cboDrucker", Art::Liste);
-    Anlegen("Frame2", Art::Rahmen, deutsch ? "Exemplare" : "Copies");
-    Anlegen("Label1", Art::Beschriftung, deutsch ? "Anzahl:" : "Number");
-    Anlegen("txtCopies", Art::Textfeld);
-    Anlegen("cmdDBBildUp", Art::Knopf, "+").Tip = deutsch ? "Ein Exemplar mehr" : "One copy more";
-    Anlegen("cmdDBBildDown", Art::Knopf, "−").Tip = deutsch ? "Ein Exemplar weniger" : "One copy less";
-    Anlegen("cmdOK", Art::Knopf, "OK");
-    Anlegen("cmdAbbrechen", Art::Knopf, deutsch ? "Abbrechen" : "Cancel");
-    Vorgabeknopf = "cmdOK";
-    Abbruchknopf = "cmdAbbrechen";
-}
+frmDrucken::frmDrucken(Dialogumgebung &umgebung) : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung) {}
 
 void frmDrucken::Laden() {
     ExemplareSetzen(1);
@@ -64,8 +64,7 @@ void frmDrucken::Bestätigen() {
     // A printer that has gone meanwhile is none: nothing must come out of one that nobody chose.
     if (Getrimmt(name).empty() || !umgebung_.drucker.Wählen(name)) {
         umgebung_.werkbank.benutzer.Fragen(
-            {"Kinwright", umgebung_.IstDeutsch() ? "Es wurde kein Drucker ausgewählt! " : "No printer was selected! ",
-             Knöpfe::Ok, Zeichen::Warnung});
+            {"Kinwright", std::string(KeinDrucker.In(umgebung_.Sprache())), Knöpfe::Ok, Zeichen::Warnung});
         return;
     }
     int gedruckt = 0;

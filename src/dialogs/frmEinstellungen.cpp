@@ -1,30 +1,41 @@
 #include "dialogs/frmEinstellungen.h"
 
+#include <iterator>
+
 namespace kw {
 
 namespace {
 
-constexpr int Deutsch = 0;
-constexpr int Englisch = 1;
+constexpr Formularzeile Zeilen[] = {
+    {"Label1", Art::Beschriftung, {"Sprache / Language", "Language"}},
+    {"Combo1", Art::Liste},
+    {"cmdOK", Art::Knopf, {"OK", "OK"}},
+    {"cmdAbbrechen", Art::Knopf, {"Abbrechen", "Cancel"}},
+};
+constexpr Formulartafel Tafel{"frmEinstellungen", {"Einstellungen", "Settings"}, Zeilen, "cmdOK", "cmdAbbrechen"};
+
+/// An entry of the list: a language, in itself.
+struct Sprachwahl {
+    Sprache Gewählt;
+    std::string_view Name;
+};
+constexpr Sprachwahl Sprachen[] = {{Sprache::Deutsch, "Deutsch"}, {Sprache::Englisch, "English"}};
+
+constexpr Zweisprachig Neustart{"Bitte starten Sie Kinwright neu um die Sprache zu wechseln",
+                                "Please restart Kinwright to change the language"};
 
 } // namespace
 
 frmEinstellungen::frmEinstellungen(Dialogumgebung &umgebung, bool ersterStart)
-    : Formular("frmEinstellungen", "Einstellungen"), umgebung_(umgebung), ersterStart_(ersterStart) {
-    const bool englisch = umgebung.werkbank.ansicht.Sprache == Sprache::Englisch;
-    if (englisch) Caption = "Settings";
+    : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung), ersterStart_(ersterStart) {
     if (ersterStart) Caption = "Please choose your language ...";
-    Anlegen("Label1", Art::Beschriftung, englisch ? "Language" : "Sprache / Language");
-    Anlegen("Combo1", Art::Liste).Einträge = {"Deutsch", "English"};
-    Anlegen("cmdOK", Art::Knopf, "OK");
-    Anlegen("cmdAbbrechen", Art::Knopf, englisch ? "Cancel" : "Abbrechen");
-    Vorgabeknopf = "cmdOK";
-    Abbruchknopf = "cmdAbbrechen";
+    for (const Sprachwahl &wahl : Sprachen) (*this)["Combo1"].Einträge.emplace_back(wahl.Name);
 }
 
 void frmEinstellungen::Laden() {
-    const bool deutsch = umgebung_.werkbank.ansicht.Sprache == Sprache::Deutsch;
-    IndexSetzen("Combo1", deutsch && !ersterStart_ ? Deutsch : Englisch);
+    const Sprache gewählt = ersterStart_ ? Sprache::Englisch : umgebung_.Sprache();
+    for (size_t i = 0; i < std::size(Sprachen); ++i)
+        if (Sprachen[i].Gewählt == gewählt) IndexSetzen("Combo1", static_cast<int>(i));
 }
 
 void frmEinstellungen::Geklickt(std::string_view name) {
@@ -34,19 +45,17 @@ void frmEinstellungen::Geklickt(std::string_view name) {
 
 void frmEinstellungen::Bestätigen() {
     if (const int i = (*this)["Combo1"].ListIndex; i >= 0) {
-        gewählt_ = i == Deutsch ? "de" : "en";
-        EinstellungFesthalten(umgebung_.EinstellungsDatei, "language", gewählt_);
+        gewählt_ = Sprachen[i].Gewählt;
+        EinstellungFesthalten(umgebung_.EinstellungsDatei, "language", std::string(Kürzel(*gewählt_)));
     }
     Schließen();
 }
 
 /// The box comes when the form has gone, and speaks the language that was chosen.
 void frmEinstellungen::Entladen() {
-    if (gewählt_.empty()) return;
-    umgebung_.werkbank.benutzer.Fragen({"Kinwright Information",
-                                        gewählt_ == "de" ? "Bitte starten Sie Kinwright neu um die Sprache zu wechseln"
-                                                         : "Please restart Kinwright to change the language",
-                                        Knöpfe::Ok, Zeichen::Information});
+    if (!gewählt_) return;
+    umgebung_.werkbank.benutzer.Fragen(
+        {"Kinwright Information", std::string(Neustart.In(*gewählt_)), Knöpfe::Ok, Zeichen::Information});
 }
 
 } // namespace kw

@@ -3,6 +3,8 @@
 #include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 
+#include <optional>
+
 namespace kw {
 
 /// The program's language. It goes into the settings file at once and counts from the next start on.
@@ -22,7 +24,7 @@ class frmEinstellungen : public Formular {
 
     Dialogumgebung &umgebung_;
     bool ersterStart_;
-    std::string gewählt_; ///< the language that was confirmed
+    std::optional<Sprache> gewählt_; ///< the language that was confirmed
 };
 
 } // namespace kw

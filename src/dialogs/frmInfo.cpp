@@ -2,19 +2,26 @@
 
 namespace kw {
 
-frmInfo::frmInfo(Dialogumgebung &umgebung, std::string_view version) : Formular("frmInfo", "") {
+namespace {
+
+constexpr Formularzeile Zeilen[] = {
+    {"lblName", Art::Beschriftung, {"Kinwright", "Kinwright"}},
+    {"lblVersion", Art::Beschriftung, {"Version ", "Version "}},
+    {"lblBeschreibung",
+     Art::Beschriftung,
+     {"Zeichnet Genogramme: Familien, ihre Beziehungen und ihre Geschichte auf einer Seite.",
+      "Draws genograms: families, their relationships and their history on one page."}},
+    {"cmdOK", Art::Knopf, {"OK", "OK"}},
+};
+constexpr Formulartafel Tafel{"frmInfo", {"Über Kinwright", "About Kinwright"}, Zeilen, "cmdOK", "cmdOK"};
+
+} // namespace
+
+frmInfo::frmInfo(Dialogumgebung &umgebung, std::string_view version) : Formular(Tafel, umgebung.Sprache()) {
     constexpr double Namensgröße = 18; // points
-    const bool deutsch = umgebung.IstDeutsch();
-    Caption = deutsch ? "Über Kinwright" : "About Kinwright";
-    Steuerelement &name = Anlegen("lblName", Art::Beschriftung, "Kinwright");
-    name.FontSize = Namensgröße;
-    name.FontBold = true;
-    Anlegen("lblVersion", Art::Beschriftung, "Version " + std::string(version));
-    Anlegen("lblBeschreibung", Art::Beschriftung,
-            deutsch ? "Zeichnet Genogramme: Familien, ihre Beziehungen und ihre Geschichte auf einer Seite."
-                    : "Draws genograms: families, their relationships and their history on one page.");
-    Anlegen("cmdOK", Art::Knopf, "OK");
-    Vorgabeknopf = Abbruchknopf = "cmdOK";
+    (*this)["lblName"].FontSize = Namensgröße;
+    (*this)["lblName"].FontBold = true;
+    (*this)["lblVersion"].Caption += version;
 }
 
 } // namespace kw

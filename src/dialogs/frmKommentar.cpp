@@ -41,38 +41,29 @@ constexpr std::array<Stilknopf, 3> Stile{{
 
 constexpr std::array<const char *, 3> Ausrichtungen{"btnLeft", "btnRight", "btnMid"}; ///< in the order of their codes
 
-/// What stands on a control and what its tool tip says, in both languages.
-struct Aufschrift {
-    const char *Name;
-    Art Kind;
-    const char *Deutsch;
-    const char *Englisch;
-    const char *TipDeutsch = "";
-    const char *TipEnglisch = "";
-};
-
 // The tip of cmdEigenschaften is the same in both languages. Meant.
-constexpr Aufschrift Aufschriften[] = {
-    {"Text1", Art::Textblock, "", ""},
-    {"lblSchriftart", Art::Beschriftung, "Schriftart", "Font"},
-    {"cboSchriftart", Art::Kombination, "", ""},
-    {"lblFontSize", Art::Beschriftung, "Schriftgröße", "Font Size"},
-    {"cboFontSize", Art::Kombination, "", ""},
-    {"btnSchriftgr_e(0)", Art::Umschalter, "A", "A", "Kleine Schriftgröße", "Small Font Size"},
-    {"btnSchriftgr_e(1)", Art::Umschalter, "A", "A", "Mittlere Schriftgröße", "Medium Font Size"},
-    {"btnSchriftgr_e(2)", Art::Umschalter, "A", "A", "Große Schriftgröße", "Large Font Size"},
-    {"imgColor", Art::Knopf, "A", "A", "Schriftfarbe", "Font Color"},
-    {"lblColor", Art::Farbfeld, "", "", "Schriftfarbe", "Font Color"},
-    {"btnStyle(0)", Art::Umschalter, "F", "B", "Fett", "Bold"},
-    {"btnStyle(1)", Art::Umschalter, "K", "I", "Kursiv", "Italic"},
-    {"btnStyle(2)", Art::Umschalter, "U", "U", "Unterstrichen", "Underlined"},
-    {"btnLeft", Art::Umschalter, "", "", "Linksbündig", "Left Aligned"},
-    {"btnMid", Art::Umschalter, "", "", "Zentriert", "Centered"},
-    {"btnRight", Art::Umschalter, "", "", "Rechtsbündig", "Right Aligned"},
-    {"cmdEigenschaften", Art::Knopf, "…", "…", "Einstellungen", "Einstellungen"},
-    {"Command2", Art::Knopf, "OK", "OK"},
-    {"Command3", Art::Knopf, "Abbrechen", "Cancel"},
+constexpr Formularzeile Zeilen[] = {
+    {"Text1", Art::Textblock},
+    {"lblSchriftart", Art::Beschriftung, {"Schriftart", "Font"}},
+    {"cboSchriftart", Art::Kombination},
+    {"lblFontSize", Art::Beschriftung, {"Schriftgröße", "Font Size"}},
+    {"cboFontSize", Art::Kombination},
+    {"btnSchriftgr_e(0)", Art::Umschalter, {"A", "A"}, {"Kleine Schriftgröße", "Small Font Size"}},
+    {"btnSchriftgr_e(1)", Art::Umschalter, {"A", "A"}, {"Mittlere Schriftgröße", "Medium Font Size"}},
+    {"btnSchriftgr_e(2)", Art::Umschalter, {"A", "A"}, {"Große Schriftgröße", "Large Font Size"}},
+    {"imgColor", Art::Knopf, {"A", "A"}, {"Schriftfarbe", "Font Color"}},
+    {"lblColor", Art::Farbfeld, {}, {"Schriftfarbe", "Font Color"}},
+    {"btnStyle(0)", Art::Umschalter, {"F", "B"}, {"Fett", "Bold"}},
+    {"btnStyle(1)", Art::Umschalter, {"K", "I"}, {"Kursiv", "Italic"}},
+    {"btnStyle(2)", Art::Umschalter, {"U", "U"}, {"Unterstrichen", "Underlined"}},
+    {"btnLeft", Art::Umschalter, {}, {"Linksbündig", "Left Aligned"}},
+    {"btnMid", Art::Umschalter, {}, {"Zentriert", "Centered"}},
+    {"btnRight", Art::Umschalter, {}, {"Rechtsbündig", "Right Aligned"}},
+    {"cmdEigenschaften", Art::Knopf, {"…", "…"}, {"Einstellungen", "Einstellungen"}},
+    {"Command2", Art::Knopf, {"OK", "OK"}},
+    {"Command3", Art::Knopf, {"Abbrechen", "Cancel"}},
 };
+constexpr Formulartafel Tafel{"frmKommentar", {"Text einfügen", "Insert Text"}, Zeilen, "Command2", "Command3"};
 
 std::string Kodiert(std::string text) {
     std::erase(text, '\r'); // pasted lines can end so
@@ -93,17 +84,11 @@ std::string AlsFeld(std::string text) {
 
 } // namespace
 
-frmKommentar::frmKommentar(Dialogumgebung &umgebung)
-    : Formular("frmKommentar", umgebung.IstDeutsch() ? "Text einfügen" : "Insert Text"), umgebung_(umgebung) {
-    const bool deutsch = umgebung.IstDeutsch();
-    for (const auto &a : Aufschriften)
-        Anlegen(a.Name, a.Kind, deutsch ? a.Deutsch : a.Englisch).Tip = deutsch ? a.TipDeutsch : a.TipEnglisch;
+frmKommentar::frmKommentar(Dialogumgebung &umgebung) : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung) {
     for (const auto &stil : Stile) (*this)[stil.Name].*stil.Schrift = true; // each looks like what it does
     for (size_t i = 0; i < Ausrichtungen.size(); ++i) (*this)[Ausrichtungen[i]].Alignment = static_cast<int>(i);
     (*this)["cboSchriftart"].Einträge = AngeboteneSchriftarten();
     (*this)["cboFontSize"].Einträge = AngeboteneSchriftgrößen();
-    Vorgabeknopf = "Command2";
-    Abbruchknopf = "Command3";
 }
 
 void frmKommentar::Laden() {

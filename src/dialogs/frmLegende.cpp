@@ -7,6 +7,20 @@ namespace kw {
 
 namespace {
 
+constexpr Formularzeile Zeilen[] = {
+    {"chkLegendeAnzeigen", Art::Ankreuzfeld, {"Legende einblenden", "Show legend"}},
+    {"chkAlleSymbole",
+     Art::Ankreuzfeld,
+     {"Standardsymbole für männlich / weiblich  einbeziehen", "Include standard male / female symbols"}},
+    {"optHoch", Art::Option, {"Hochformat", "Portrait"}},
+    {"optQuer", Art::Option, {"Querformat", "Landscape"}},
+    {"imgAusrichtung", Art::Bild},
+    {"cmdOK", Art::Knopf, {"OK", "OK"}},
+    {"cmdAbbrechen", Art::Knopf, {"Abbrechen", "Cancel"}},
+};
+constexpr Formulartafel Tafel{
+    "frmLegende", {"Anzeigeoptionen der Legende", "Display options for legend"}, Zeilen, "cmdOK", "cmdAbbrechen"};
+
 // The preview, in cm: room for both forms of the sample, with the margin that a legend keeps on every page.
 constexpr double Breite = 10.8;
 constexpr double Höhe = 5.1;
@@ -23,21 +37,7 @@ Dokument Musterfamilie() {
 
 } // namespace
 
-frmLegende::frmLegende(Dialogumgebung &umgebung) : Formular("frmLegende", ""), umgebung_(umgebung) {
-    const bool deutsch = umgebung.IstDeutsch();
-    Caption = deutsch ? "Anzeigeoptionen der Legende" : "Display options for legend";
-    Anlegen("chkLegendeAnzeigen", Art::Ankreuzfeld, deutsch ? "Legende einblenden" : "Show legend");
-    Anlegen("chkAlleSymbole", Art::Ankreuzfeld,
-            deutsch ? "Standardsymbole für männlich / weiblich  einbeziehen"
-                    : "Include standard male / female symbols");
-    Anlegen("optHoch", Art::Option, deutsch ? "Hochformat" : "Portrait");
-    Anlegen("optQuer", Art::Option, deutsch ? "Querformat" : "Landscape");
-    Anlegen("imgAusrichtung", Art::Bild);
-    Anlegen("cmdOK", Art::Knopf, "OK");
-    Anlegen("cmdAbbrechen", Art::Knopf, deutsch ? "Abbrechen" : "Cancel");
-    Vorgabeknopf = "cmdOK";
-    Abbruchknopf = "cmdAbbrechen";
-}
+frmLegende::frmLegende(Dialogumgebung &umgebung) : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung) {}
 
 void frmLegende::Laden() {
     const Dokument &d = umgebung_.werkbank.dokument;

@@ -13,6 +13,29 @@ namespace kw {
 
 namespace {
 
+constexpr Formularzeile Zeilen[] = {
+    {"Option1", Art::Option, {"Nicht ehelich", "Unmarried"}},
+    {"Label1", Art::Beschriftung, {"seit", "since"}},
+    {"txtNichtEhelich", Art::Textfeld},
+    {"Option2", Art::Option, {"Verheiratet", "Married"}},
+    {"Label2", Art::Beschriftung, {"seit", "since"}},
+    {"txtVerheiratet", Art::Textfeld},
+    {"Option4", Art::Option, {"Getrennt", "Disconnected"}},
+    {"Label3", Art::Beschriftung, {"seit", "since"}},
+    {"txtGetrennt", Art::Textfeld},
+    {"Option5", Art::Option, {"Geschieden", "Divorced"}},
+    {"Label4", Art::Beschriftung, {"seit", "since"}},
+    {"txtGeschieden", Art::Textfeld},
+    {"Check1", Art::Ankreuzfeld, {"Distanziert", "Distant"}},
+    {"Picture1", Art::Bild},
+    {"imgLine", Art::Beschriftung, {}, {}, "Picture1"},
+    {"imgStatus", Art::Beschriftung, {}, {}, "Picture1"},
+    {"lblDatum", Art::Beschriftung, {}, {}, "Picture1"},
+    {"Command1", Art::Knopf, {"&OK", "&OK"}},
+    {"Command2", Art::Knopf, {"&Abbrechen", "Cancel"}},
+};
+constexpr Formulartafel Tafel{"frmPLinien", {"Partnerschaft", "Partnership"}, Zeilen, "Command1", "Command2"};
+
 constexpr int FokusVerzögerung = 200; ///< ms; the option's click ends before the focus moves on
 
 // The preview, in cm.
@@ -37,42 +60,25 @@ std::string OhneFeldtrenner(std::string text) {
 struct frmPLinien::Stand {
     std::string_view Option;
     std::string_view Status;
-    std::string_view Deutsch;
-    std::string_view Englisch;
     std::string_view Datumsfeld;
-    std::string_view Seit;
     double Markenbreite;
     double Versatz;
 };
 
 // clang-format off
 const frmPLinien::Stand frmPLinien::Stände[] = {
-    {"Option1", "0", "Nicht ehelich", "Unmarried",    "txtNichtEhelich", "Label1", 0,    0},
-    {"Option2", "2", "Verheiratet",   "Married",      "txtVerheiratet",  "Label2", 0.38, 0.2},
-    {"Option4", "1", "Getrennt",      "Disconnected", "txtGetrennt",     "Label3", 0.3,  0.2},
-    {"Option5", "3", "Geschieden",    "Divorced",     "txtGeschieden",   "Label4", 0.4,  0.3},
+    {"Option1", "0", "txtNichtEhelich", 0,    0},
+    {"Option2", "2", "txtVerheiratet",  0.38, 0.2},
+    {"Option4", "1", "txtGetrennt",     0.3,  0.2},
+    {"Option5", "3", "txtGeschieden",   0.4,  0.3},
 };
 // clang-format on
 
-frmPLinien::frmPLinien(Dialogumgebung &umgebung) : Formular("frmPLinien", ""), umgebung_(umgebung) {
-    const bool deutsch = umgebung.IstDeutsch();
-    Caption = deutsch ? "Partnerschaft" : "Partnership";
-    for (const Stand &stand : Stände) {
-        Anlegen(stand.Option, Art::Option, deutsch ? stand.Deutsch : stand.Englisch);
-        Anlegen(stand.Seit, Art::Beschriftung, deutsch ? "seit" : "since");
-        Anlegen(stand.Datumsfeld, Art::Textfeld);
-    }
-    Anlegen("Check1", Art::Ankreuzfeld, deutsch ? "Distanziert" : "Distant");
-    Anlegen("Picture1", Art::Bild);
-    for (const auto *bild : {"imgLine", "imgStatus", "lblDatum"}) Anlegen(bild, Art::Beschriftung).Bei = "Picture1";
+frmPLinien::frmPLinien(Dialogumgebung &umgebung) : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung) {
     Steuerelement &datum = (*this)["lblDatum"];
     datum.FontName = "Arial";
     datum.FontSize = 8;
     datum.Top = Balken - DatumÜberBalken;
-    Anlegen("Command1", Art::Knopf, "&OK");
-    Anlegen("Command2", Art::Knopf, deutsch ? "&Abbrechen" : "Cancel");
-    Vorgabeknopf = "Command1";
-    Abbruchknopf = "Command2";
 }
 
 void frmPLinien::Laden() {

@@ -8,6 +8,25 @@ namespace kw {
 
 namespace {
 
+constexpr Formularzeile Zeilen[] = {
+    {"lblSchriftart", Art::Beschriftung, {"Schriftart", "Font"}},
+    {"cboSchriftart", Art::Kombination},
+    {"lblFontsize1", Art::Beschriftung, {"Groß", "Large"}},
+    {"cboFontsize1", Art::Kombination},
+    {"lblFontsize2", Art::Beschriftung, {"Mittel", "Medium"}},
+    {"cboFontsize2", Art::Kombination},
+    {"lblFontsize3", Art::Beschriftung, {"Klein", "Small"}},
+    {"cboFontsize3", Art::Kombination},
+    {"lblBeispiel1", Art::Beschriftung, {"Beispieltext in großer Textgröße", "Sample text in large size"}},
+    {"lblBeispiel2", Art::Beschriftung, {"Beispieltext in mittlerer Textgröße", "Sample text in medium size"}},
+    {"lblBeispiel3", Art::Beschriftung, {"Beispieltext in kleiner Textgröße", "Sample text in small size"}},
+    {"cmdStandardWerte", Art::Knopf, {"Auf Standardwerte zurücksetzen", "Reset To Default Values"}},
+    {"cmdOK", Art::Knopf, {"OK", "OK"}},
+    {"Command5", Art::Knopf, {"Abbrechen", "Cancel"}},
+};
+constexpr Formulartafel Tafel{
+    "frmSchrift", {"Standardeinstellungen für Schrift", "Default Font Settings"}, Zeilen, "cmdOK", "Command5"};
+
 constexpr int Ladezeit = 10; ///< ms
 
 /// One size: its list, its sample, and what the button for default values makes of it. Those are other sizes than
@@ -27,30 +46,9 @@ constexpr std::array<Größenzeile, 3> Größen{{
 
 } // namespace
 
-frmSchrift::frmSchrift(Dialogumgebung &umgebung)
-    : Formular("frmSchrift", umgebung.IstDeutsch() ? "Standardeinstellungen für Schrift" : "Default Font Settings"),
-      umgebung_(umgebung) {
-    const bool deutsch = umgebung.IstDeutsch();
-    Anlegen("lblSchriftart", Art::Beschriftung, deutsch ? "Schriftart" : "Font");
-    Anlegen("cboSchriftart", Art::Kombination).Einträge = AngeboteneSchriftarten();
-    Anlegen("lblFontsize1", Art::Beschriftung, deutsch ? "Groß" : "Large");
-    Anlegen("cboFontsize1", Art::Kombination);
-    Anlegen("lblFontsize2", Art::Beschriftung, deutsch ? "Mittel" : "Medium");
-    Anlegen("cboFontsize2", Art::Kombination);
-    Anlegen("lblFontsize3", Art::Beschriftung, deutsch ? "Klein" : "Small");
-    Anlegen("cboFontsize3", Art::Kombination);
-    Anlegen("lblBeispiel1", Art::Beschriftung,
-            deutsch ? "Beispieltext in großer Textgröße" : "Sample text in large size");
-    Anlegen("lblBeispiel2", Art::Beschriftung,
-            deutsch ? "Beispieltext in mittlerer Textgröße" : "Sample text in medium size");
-    Anlegen("lblBeispiel3", Art::Beschriftung,
-            deutsch ? "Beispieltext in kleiner Textgröße" : "Sample text in small size");
-    Anlegen("cmdStandardWerte", Art::Knopf, deutsch ? "Auf Standardwerte zurücksetzen" : "Reset To Default Values");
-    Anlegen("cmdOK", Art::Knopf, "OK");
-    Anlegen("Command5", Art::Knopf, deutsch ? "Abbrechen" : "Cancel");
+frmSchrift::frmSchrift(Dialogumgebung &umgebung) : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung) {
+    (*this)["cboSchriftart"].Einträge = AngeboteneSchriftarten();
     for (const auto &größe : Größen) (*this)[größe.Liste].Einträge = AngeboteneSchriftgrößen();
-    Vorgabeknopf = "cmdOK";
-    Abbruchknopf = "Command5";
 }
 
 void frmSchrift::Laden() {

@@ -9,6 +9,19 @@ namespace kw {
 
 namespace {
 
+constexpr Formularzeile Zeilen[] = {
+    {"Frame1", Art::Rahmen, {"Papierformat", "Paper Size"}},
+    {"cboPapierformat", Art::Liste},
+    {"Frame2", Art::Rahmen, {"Ausrichtung", "Alignment"}},
+    {"Option1", Art::Option, {"Hochformat", "Portrait"}},
+    {"Option2", Art::Option, {"Querformat", "Landscape"}},
+    {"Check1", Art::Ankreuzfeld, {"Druckrand anzeigen", "Show Print Margins"}},
+    {"cmdOK", Art::Knopf, {"OK", "OK"}},
+    {"cmdAbbrechen", Art::Knopf, {"Abbrechen", "Cancel"}},
+};
+constexpr Formulartafel Tafel{
+    "frmSeiteEinrichten", {"Seite einrichten", "Page Setup"}, Zeilen, "cmdOK", "cmdAbbrechen"};
+
 constexpr int Hochformat = 1;
 constexpr int Querformat = 2;
 
@@ -22,20 +35,8 @@ std::string Papiername(int code) {
 } // namespace
 
 frmSeiteEinrichten::frmSeiteEinrichten(Dialogumgebung &umgebung)
-    : Formular("frmSeiteEinrichten", ""), umgebung_(umgebung) {
-    const bool deutsch = umgebung.IstDeutsch();
-    Caption = deutsch ? "Seite einrichten" : "Page Setup";
-    Anlegen("Frame1", Art::Rahmen, deutsch ? "Papierformat" : "Paper Size");
-    auto &papiere = Anlegen("cboPapierformat", Art::Liste).Einträge;
-    for (const int code : Papierfolge) papiere.push_back(Papiername(code));
-    Anlegen("Frame2", Art::Rahmen, deutsch ? "Ausrichtung" : "Alignment");
-    Anlegen("Option1", Art::Option, deutsch ? "Hochformat" : "Portrait");
-    Anlegen("Option2", Art::Option, deutsch ? "Querformat" : "Landscape");
-    Anlegen("Check1", Art::Ankreuzfeld, deutsch ? "Druckrand anzeigen" : "Show Print Margins");
-    Anlegen("cmdOK", Art::Knopf, "OK");
-    Anlegen("cmdAbbrechen", Art::Knopf, deutsch ? "Abbrechen" : "Cancel");
-    Vorgabeknopf = "cmdOK";
-    Abbruchknopf = "cmdAbbrechen";
+    : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung) {
+    for (const int code : Papierfolge) (*this)["cboPapierformat"].Einträge.push_back(Papiername(code));
 }
 
 void frmSeiteEinrichten::Laden() {

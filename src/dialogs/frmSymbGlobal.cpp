@@ -9,6 +9,24 @@ namespace kw {
 
 namespace {
 
+constexpr Formularzeile Zeilen[] = {
+    {"lblHinweis",
+     Art::Beschriftung,
+     {"Hier legen Sie fest, wie die Altersangabe für Personen im Genogramm dargestellt werden soll",
+      "Here you determine how the age of the persons in the genogram should be displayed"}},
+    {"optAltersanzeige(0)", Art::Option, {"Aktuelles Alter", "Current age"}},
+    {"optAltersanzeige(1)", Art::Option, {"Geburtsjahr", "Year of birth"}},
+    {"optAltersanzeige(2)", Art::Option, {"Aktuelles Alter + Geburtsjahr", "Current age + year of birth"}},
+    {"lblVorschau", Art::Beschriftung, {"Vorschau:", "Preview:"}},
+    {"picAltersanzeige", Art::Bild},
+    {"Label3", Art::Beschriftung, {}, {}, "picAltersanzeige"},
+    {"Label4", Art::Beschriftung, {}, {}, "picAltersanzeige"},
+    {"cmdOK", Art::Knopf, {"OK", "OK"}},
+    {"cmdAbbrechen", Art::Knopf, {"Abbrechen", "Cancel"}},
+};
+constexpr Formulartafel Tafel{
+    "frmSymbGlobal", {"Darstellung der Altersangabe", "Age Display"}, Zeilen, "cmdOK", "cmdAbbrechen"};
+
 // The preview, in centimetres: one symbol of the usual size in the middle.
 constexpr double Breite = 2.4;
 constexpr double Höhe = 1.8;
@@ -18,17 +36,8 @@ constexpr double MitteY = Höhe / 2;
 constexpr int BeispielAlter = 24;
 constexpr double Jahresschrift = 8; ///< points; what persons are labelled with unless a routine takes another
 
-struct Wahl {
-    const char *Name;
-    const char *Deutsch;
-    const char *Englisch;
-};
-
-constexpr std::array<Wahl, 3> Wahlen{{
-    {"optAltersanzeige(0)", "Aktuelles Alter", "Current age"},
-    {"optAltersanzeige(1)", "Geburtsjahr", "Year of birth"},
-    {"optAltersanzeige(2)", "Aktuelles Alter + Geburtsjahr", "Current age + year of birth"},
-}};
+/// In the order of their numbers.
+constexpr std::array<std::string_view, 3> Wahlen{"optAltersanzeige(0)", "optAltersanzeige(1)", "optAltersanzeige(2)"};
 
 /// Shows nothing: texts that are drawn on it become labels at the same place. So the preview's labels stand as the
 /// page's do, without a second set of places.
@@ -73,35 +82,19 @@ class Beschriftungsfläche : public Zeichenfläche {
 
 } // namespace
 
-frmSymbGlobal::frmSymbGlobal(Dialogumgebung &umgebung)
-    : Formular("frmSymbGlobal", umgebung.IstDeutsch() ? "Darstellung der Altersangabe" : "Age Display"),
-      umgebung_(umgebung) {
-    const bool deutsch = umgebung.IstDeutsch();
-    Anlegen("lblHinweis", Art::Beschriftung,
-            deutsch ? "Hier legen Sie fest, wie die Altersangabe für Personen im Genogramm dargestellt werden soll"
-                    : "Here you determine how the age of the persons in the genogram should be displayed");
-    for (const auto &wahl : Wahlen) Anlegen(wahl.Name, Art::Option, deutsch ? wahl.Deutsch : wahl.Englisch);
-    Anlegen("lblVorschau", Art::Beschriftung, deutsch ? "Vorschau:" : "Preview:");
-    Anlegen("picAltersanzeige", Art::Bild);
-    for (const char *schild : {"Label3", "Label4"}) Anlegen(schild, Art::Beschriftung).Bei = "picAltersanzeige";
-    Anlegen("cmdOK", Art::Knopf, "OK");
-    Anlegen("cmdAbbrechen", Art::Knopf, deutsch ? "Abbrechen" : "Cancel");
-    Vorgabeknopf = "cmdOK";
-    Abbruchknopf = "cmdAbbrechen";
-}
+frmSymbGlobal::frmSymbGlobal(Dialogumgebung &umgebung) : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung) {}
 
 void frmSymbGlobal::Laden() {
     (*this)["Label3"].Caption = "*" + std::to_string(umgebung_.uhr.Heute().Jahr - BeispielAlter);
     (*this)["Label4"].Caption = std::to_string(BeispielAlter);
     BeschriftungStellen();
     const int anzeige = umgebung_.werkbank.ansicht.Altersanzeige;
-    if (anzeige >= 0 && anzeige < static_cast<int>(Wahlen.size()))
-        OptionSetzen(Wahlen[static_cast<size_t>(anzeige)].Name);
+    if (anzeige >= 0 && anzeige < static_cast<int>(Wahlen.size())) OptionSetzen(Wahlen[static_cast<size_t>(anzeige)]);
 }
 
 int frmSymbGlobal::Gewählt() const {
     for (size_t i = 0; i < Wahlen.size(); ++i)
-        if (Finden(Wahlen[i].Name)->Value) return static_cast<int>(i);
+        if (Finden(Wahlen[i])->Value) return static_cast<int>(i);
     return -1;
 }
 

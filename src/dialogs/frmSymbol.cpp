@@ -18,71 +18,63 @@ constexpr int ErsterKleiner = 5; ///< list position; kinds from here on are smal
 /// The list of kinds, in its order, which isn't that of the numbers.
 struct Symboltyp {
     int Kennzahl;
-    std::string_view Deutsch;
-    std::string_view Englisch;
+    Zweisprachig Name;
 };
 constexpr std::array<Symboltyp, 10> Symboltypen{{
-    {1, "Männlich", "Male"},
-    {2, "Weiblich", "Female"},
-    {10, "Transgender - weiblich zu männlich", "Transgender - Female to Male"},
-    {11, "Transgender - männlich zu weiblich", "Transgender - Male to Female"},
-    {12, "Divers", "Gender Nonconforming"},
-    {3, "Schwangerschaft", "Pregnancy"},
-    {4, "Fehlgeburt", "Miscarriage"},
-    {5, "Totgeburt männlich", "Stillbirth Male"},
-    {6, "Totgeburt weiblich", "Stillbirth Female"},
-    {7, "Abtreibung", "Abortion"},
+    {1, {"Männlich", "Male"}},
+    {2, {"Weiblich", "Female"}},
+    {10, {"Transgender - weiblich zu männlich", "Transgender - Female to Male"}},
+    {11, {"Transgender - männlich zu weiblich", "Transgender - Male to Female"}},
+    {12, {"Divers", "Gender Nonconforming"}},
+    {3, {"Schwangerschaft", "Pregnancy"}},
+    {4, {"Fehlgeburt", "Miscarriage"}},
+    {5, {"Totgeburt männlich", "Stillbirth Male"}},
+    {6, {"Totgeburt weiblich", "Stillbirth Female"}},
+    {7, {"Abtreibung", "Abortion"}},
 }};
 
-/// Which of the two faces a control belongs to.
-enum class Gesicht { Person, Institution, Beide };
+constexpr Formularzeile Zeilen[] = {
+    {"Label1", Art::Beschriftung, {"Vorname", "First Name"}},
+    {"txtVorname", Art::Textfeld},
+    {"Label2", Art::Beschriftung, {"Nachname", "Family Name"}},
+    {"txtNachname", Art::Textfeld},
+    {"Label3", Art::Beschriftung, {"Symboltyp", "Icon Type"}},
+    {"cboSymbol", Art::Liste},
+    {"Label4", Art::Beschriftung, {"Geboren", "Born"}},
+    {"txtGeburtsdatum", Art::Textfeld},
+    {"shpFalsch", Art::Warnrahmen, {}, {}, "txtGeburtsdatum"},
+    {"Label6", Art::Beschriftung, {"Aktuelles Alter", "Current Age"}},
+    {"imgVergleich", Art::Beschriftung},
+    {"txtAlter", Art::Textfeld},
+    {"shpFalsch2", Art::Warnrahmen, {}, {}, "txtAlter"},
+    {"chkVerstorben", Art::Ankreuzfeld, {"verstorben", "Deceased"}},
+    {"Label5", Art::Beschriftung, {"Gestorben", "Died"}},
+    {"txtSterbealter", Art::Textfeld},
+    {"chkIndexPerson", Art::Ankreuzfeld, {"Indexperson", "Index Person"}},
+    {"chkSucht", Art::Ankreuzfeld, {"Alkohol- oder Drogensucht", "Alcohol or Drug Addiction"}},
+    {"chkErkrankung", Art::Ankreuzfeld, {"Körperliche oder psychische Erkrankung", "Physical or Mental Illness"}},
+    {"Label8", Art::Beschriftung, {"Institution / Einrichtung / Behörde etc.", "Institution / Facility / Authority"}},
+    {"txtInstitution", Art::Textfeld},
+    {"Label9", Art::Beschriftung, {"Institution / Einrichtung / Behörde etc.", "Institution / Facility / Authority"}},
+    {"Label7", Art::Beschriftung, {"Vorschau", "Preview"}},
+    {"picBack", Art::Bild},
+    {"lblVorname", Art::Beschriftung, {}, {}, "picBack"},
+    {"lblNachname", Art::Beschriftung, {}, {}, "picBack"},
+    {"lblAlter", Art::Beschriftung, {}, {}, "picBack"},
+    {"lblGebDat", Art::Beschriftung, {}, {}, "picBack"},
+    {"lblGestorben", Art::Beschriftung, {}, {}, "picBack"},
+    {"picBack2", Art::Bild},
+    {"lblInstitution", Art::Beschriftung, {}, {}, "picBack2"},
+    {"cmdOK", Art::Knopf, {"OK", "OK"}},
+    {"CancelButton", Art::Knopf, {"Abbrechen", "Cancel"}},
+    {"cmdLöschen", Art::Knopf, {"Löschen", "Delete"}},
+};
+constexpr Formulartafel Tafel{
+    "frmSymbol", {"Person > Eigenschaften", "Person > Characteristics"}, Zeilen, "cmdOK", "CancelButton"};
 
-struct Bauteil {
-    std::string_view Name;
-    Art Kind;
-    Gesicht Auf;
-    std::string_view Deutsch = {};
-    std::string_view Englisch = {};
-};
-constexpr Bauteil Bauteile[] = {
-    {"Label1", Art::Beschriftung, Gesicht::Person, "Vorname", "First Name"},
-    {"txtVorname", Art::Textfeld, Gesicht::Person},
-    {"Label2", Art::Beschriftung, Gesicht::Person, "Nachname", "Family Name"},
-    {"txtNachname", Art::Textfeld, Gesicht::Person},
-    {"Label3", Art::Beschriftung, Gesicht::Person, "Symboltyp", "Icon Type"},
-    {"cboSymbol", Art::Liste, Gesicht::Person},
-    {"Label4", Art::Beschriftung, Gesicht::Person, "Geboren", "Born"},
-    {"txtGeburtsdatum", Art::Textfeld, Gesicht::Person},
-    {"shpFalsch", Art::Warnrahmen, Gesicht::Person},
-    {"Label6", Art::Beschriftung, Gesicht::Person, "Aktuelles Alter", "Current Age"},
-    {"imgVergleich", Art::Beschriftung, Gesicht::Person},
-    {"txtAlter", Art::Textfeld, Gesicht::Person},
-    {"shpFalsch2", Art::Warnrahmen, Gesicht::Person},
-    {"chkVerstorben", Art::Ankreuzfeld, Gesicht::Person, "verstorben", "Deceased"},
-    {"Label5", Art::Beschriftung, Gesicht::Person, "Gestorben", "Died"},
-    {"txtSterbealter", Art::Textfeld, Gesicht::Person},
-    {"chkIndexPerson", Art::Ankreuzfeld, Gesicht::Person, "Indexperson", "Index Person"},
-    {"chkSucht", Art::Ankreuzfeld, Gesicht::Person, "Alkohol- oder Drogensucht", "Alcohol or Drug Addiction"},
-    {"chkErkrankung", Art::Ankreuzfeld, Gesicht::Person, "Körperliche oder psychische Erkrankung",
-     "Physical or Mental Illness"},
-    {"Label8", Art::Beschriftung, Gesicht::Institution, "Institution / Einrichtung / Behörde etc.",
-     "Institution / Facility / Authority"},
-    {"txtInstitution", Art::Textfeld, Gesicht::Institution},
-    {"Label9", Art::Beschriftung, Gesicht::Institution, "Institution / Einrichtung / Behörde etc.",
-     "Institution / Facility / Authority"},
-    {"Label7", Art::Beschriftung, Gesicht::Beide, "Vorschau", "Preview"},
-    {"picBack", Art::Bild, Gesicht::Person},
-    {"lblVorname", Art::Beschriftung, Gesicht::Person},
-    {"lblNachname", Art::Beschriftung, Gesicht::Person},
-    {"lblAlter", Art::Beschriftung, Gesicht::Person},
-    {"lblGebDat", Art::Beschriftung, Gesicht::Person},
-    {"lblGestorben", Art::Beschriftung, Gesicht::Person},
-    {"picBack2", Art::Bild, Gesicht::Institution},
-    {"lblInstitution", Art::Beschriftung, Gesicht::Institution},
-    {"cmdOK", Art::Knopf, Gesicht::Beide, "OK", "OK"},
-    {"CancelButton", Art::Knopf, Gesicht::Beide, "Abbrechen", "Cancel"},
-    {"cmdLöschen", Art::Knopf, Gesicht::Beide, "Löschen", "Delete"},
-};
+// The form has two faces. What stands in neither list belongs to a person's.
+constexpr std::string_view NurInstitution[] = {"Label8", "txtInstitution", "Label9", "picBack2", "lblInstitution"};
+constexpr std::string_view AufBeiden[] = {"Label7", "cmdOK", "CancelButton", "cmdLöschen"};
 
 /// What is open for living kinds only.
 constexpr std::string_view Eigenschaften[] = {"chkIndexPerson",  "chkErkrankung", "chkSucht",
@@ -92,13 +84,12 @@ constexpr std::string_view Eigenschaften[] = {"chkIndexPerson",  "chkErkrankung"
 /// The labels of the pictures. Names are as bold as on the page.
 struct Bildtext {
     std::string_view Name;
-    std::string_view Bild;
     double Punkt;
     bool Fett;
 };
 constexpr Bildtext Bildtexte[] = {
-    {"lblVorname", "picBack", 8, true}, {"lblNachname", "picBack", 8, true},   {"lblAlter", "picBack", 11, false},
-    {"lblGebDat", "picBack", 8, false}, {"lblGestorben", "picBack", 8, false}, {"lblInstitution", "picBack2", 8, true},
+    {"lblVorname", 8, true}, {"lblNachname", 8, true},   {"lblAlter", 11, false},
+    {"lblGebDat", 8, false}, {"lblGestorben", 8, false}, {"lblInstitution", 8, true},
 };
 
 struct Tastenfilter {
@@ -117,6 +108,10 @@ int ListenplatzVon(int kennzahl) {
     return i == Symboltypen.end() ? -1 : static_cast<int>(i - Symboltypen.begin());
 }
 
+template <typename Liste> bool Enthält(const Liste &namen, std::string_view name) {
+    return std::find(std::begin(namen), std::end(namen), name) != std::end(namen);
+}
+
 std::string Ohne(std::string_view text, char zeichen) {
     std::string rest(text);
     std::erase(rest, zeichen);
@@ -126,26 +121,17 @@ std::string Ohne(std::string_view text, char zeichen) {
 } // namespace
 
 frmSymbol::frmSymbol(Dialogumgebung &umgebung)
-    : Formular("frmSymbol", umgebung.IstDeutsch() ? "Person > Eigenschaften" : "Person > Characteristics"),
-      umgebung_(umgebung), alter_(umgebung.uhr) {
-    const bool deutsch = umgebung.IstDeutsch();
-    for (const Bauteil &teil : Bauteile) Anlegen(teil.Name, teil.Kind, deutsch ? teil.Deutsch : teil.Englisch);
-    for (const Symboltyp &typ : Symboltypen)
-        Das("cboSymbol").Einträge.emplace_back(deutsch ? typ.Deutsch : typ.Englisch);
+    : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung), alter_(umgebung.uhr) {
+    for (const Symboltyp &typ : Symboltypen) Das("cboSymbol").Einträge.emplace_back(typ.Name.In(umgebung.Sprache()));
     for (const Bildtext &text : Bildtexte) {
         Steuerelement &label = Das(text.Name);
-        label.Bei = text.Bild;
-        label.Width = frmSymbol::BildGröße(text.Bild).first;
+        label.Width = frmSymbol::BildGröße(label.Bei).first;
         label.Alignment = 2;
         label.FontName = "Arial";
         label.FontSize = text.Punkt;
         label.FontBold = text.Fett;
     }
     Das("lblInstitution").Top = InstitutionZeile();
-    Das("shpFalsch").Bei = "txtGeburtsdatum";
-    Das("shpFalsch2").Bei = "txtAlter";
-    Vorgabeknopf = "cmdOK";
-    Abbruchknopf = "CancelButton";
 }
 
 void frmSymbol::Laden() {
@@ -171,8 +157,8 @@ void frmSymbol::Laden() {
 }
 
 void frmSymbol::GesichtZeigen() {
-    const Gesicht verborgen = institution_ ? Gesicht::Person : Gesicht::Institution;
-    for (const Bauteil &teil : Bauteile) Das(teil.Name).Visible = teil.Auf != verborgen;
+    for (const auto &name : Reihenfolge())
+        Das(name).Visible = Enthält(AufBeiden, name) || Enthält(NurInstitution, name) == institution_;
     // Label9 says the same as Label8: one of them is seen.
     for (const char *name : {"shpFalsch", "shpFalsch2", "Label5", "Label9", "lblGestorben"}) Das(name).Visible = false;
     if (!institution_) BildOrdnen();

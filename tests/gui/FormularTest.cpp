@@ -12,21 +12,28 @@ using namespace kw;
 
 namespace {
 
+constexpr Formularzeile Zeilen[] = {
+    {"Label1", Art::Beschriftung, {"&Name:", ""}},
+    {"txt", Art::Textfeld},
+    {"shp", Art::Warnrahmen, {}, {}, "txt"},
+    {"block", Art::Textblock},
+    {"cbo", Art::Kombination},
+    {"lst", Art::Liste},
+    {"btn", Art::Umschalter, {"F", ""}, {"Fett", ""}},
+    {"chk", Art::Ankreuzfeld, {"Haken", ""}},
+    {"opt1", Art::Option, {"opt1", ""}},
+    {"opt2", Art::Option, {"opt2", ""}},
+    {"farbe", Art::Farbfeld},
+    {"pic", Art::Bild},
+    {"Frame1", Art::Rahmen, {"Rahmen", ""}},
+    {"cmdOK", Art::Knopf, {"cmdOK", ""}},
+    {"cmdNein", Art::Knopf, {"cmdNein", ""}},
+};
+constexpr Formulartafel Tafel{"Probe", {"Probe", ""}, Zeilen, "cmdOK", "cmdNein"};
+
 struct Probe : Formular {
-    Probe() : Formular("Probe", "Probe") {
-        Anlegen("Label1", Art::Beschriftung, "&Name:");
-        Anlegen("txt", Art::Textfeld);
-        Anlegen("shp", Art::Warnrahmen).Bei = "txt";
-        Anlegen("block", Art::Textblock);
-        Anlegen("lst", Art::Liste).Einträge = Anlegen("cbo", Art::Kombination).Einträge = {"eins", "zwei"};
-        Anlegen("btn", Art::Umschalter, "F").Tip = "Fett";
-        Anlegen("chk", Art::Ankreuzfeld, "Haken");
-        for (const char *name : {"opt1", "opt2"}) Anlegen(name, Art::Option, name);
-        Anlegen("farbe", Art::Farbfeld), Anlegen("pic", Art::Bild);
-        Anlegen("Frame1", Art::Rahmen, "Rahmen");
-        for (const char *name : {"cmdOK", "cmdNein"}) Anlegen(name, Art::Knopf, name);
-        Vorgabeknopf = "cmdOK";
-        Abbruchknopf = "cmdNein";
+    Probe() : Formular(Tafel, Sprache::Deutsch) {
+        for (const char *name : {"cbo", "lst"}) (*this)[name].Einträge = {"eins", "zwei"};
     }
     void Laden() override { BeimLaden(); }
     void Entladen() override { Spur += "weg"; }
