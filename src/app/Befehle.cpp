@@ -6,6 +6,7 @@
 #include "app/Startangaben.h"
 #include "commands/Menuetafel.h"
 #include "dialogs/Dialogumgebung.h"
+#include "document/Chronik.h"
 #include "document/Texte.h"
 #include "document/UndoRing.h"
 #include "document/Zahlen.h"

@@ -2,10 +2,14 @@
 
 #include "app/Anzeige.h"
 #include "dialogs/Dialogumgebung.h"
+#include "document/Chronik.h"
+#include "document/Dateien.h"
 #include "document/Felder.h"
 #include "document/ProjektDatei.h"
 #include "document/UndoRing.h"
+#include "editing/Werkbank.h"
 #include "output/Zieldatei.h"
+#include "platform/Benutzer.h"
 
 #include <filesystem>
 

@@ -1,5 +1,7 @@
 #include "commands/Menuetafel.h"
 
+#include "platform/Bedienelemente.h"
+
 #include <algorithm>
 #include <iterator>
 #include <string>

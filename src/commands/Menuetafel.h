@@ -1,12 +1,13 @@
 #pragma once
 
-#include "platform/Bedienelemente.h"
 #include "platform/Sprache.h"
 
 #include <span>
 #include <string_view>
 
 namespace kw {
+
+class Bedienelemente;
 
 /// One thing that the user can choose: a menu entry, a toolbar item, a button of the palette. Menu bar, context
 /// menus, palette, shortcuts and replay all read these rows; what a row does stands in app/Befehle.cpp under

@@ -1,6 +1,7 @@
 #include "commands/basLanguage.h"
 
 #include "commands/Menuetafel.h"
+#include "platform/Bedienelemente.h"
 
 #include <string>
 

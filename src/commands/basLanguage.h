@@ -1,12 +1,13 @@
 #pragma once
 
-#include "platform/Bedienelemente.h"
 #include "platform/Sprache.h"
 
 #include <string_view>
 
 // The captions of menus, toolbar and palette in the program's two languages.
 namespace kw {
+
+class Bedienelemente;
 
 /// All captions. `deviceName` is the default printer's, for the tool tip of `btnBlattränder`; empty without one.
 /// Captions that show a state are set by the routines that own the state.

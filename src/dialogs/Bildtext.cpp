@@ -1,5 +1,8 @@
 #include "dialogs/Bildtext.h"
 
+#include "dialogs/Formular.h"
+#include "rendering/Zeichenflaeche.h"
+
 #include <utility>
 
 namespace kw {

@@ -1,13 +1,15 @@
 #pragma once
 
-#include "document/Einstellungen.h"
-#include "editing/Werkbank.h"
-#include "platform/Drucker.h"
-#include "platform/Uhr.h"
+#include "platform/Sprache.h"
 
 #include <string>
 
 namespace kw {
+
+struct Einstellungen;
+struct Werkbank;
+class Drucker;
+class Uhr;
 
 /// What forms ask of the main window beside `Fensterdienste`.
 class Dialogdienste {
@@ -30,7 +32,7 @@ struct Dialogumgebung {
     Drucker &drucker;
     Dialogdienste &dienste;
 
-    kw::Sprache Sprache() const { return werkbank.ansicht.Sprache; }
+    kw::Sprache Sprache() const;
 };
 
 } // namespace kw

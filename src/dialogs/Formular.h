@@ -2,7 +2,6 @@
 
 #include "platform/Sprache.h"
 #include "rendering/Farben.h"
-#include "rendering/Zeichenflaeche.h"
 
 #include <map>
 #include <span>
@@ -11,6 +10,8 @@
 #include <vector>
 
 namespace kw {
+
+class Zeichenfläche;
 
 /// What kind of control a form's element is, so that a face can make one.
 enum class Art {

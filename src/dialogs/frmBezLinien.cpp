@@ -1,7 +1,9 @@
 #include "dialogs/frmBezLinien.h"
 
+#include "dialogs/Dialogumgebung.h"
 #include "document/Felder.h"
 #include "editing/Linien.h"
+#include "editing/Werkbank.h"
 #include "rendering/Ebenen.h"
 
 #include <array>

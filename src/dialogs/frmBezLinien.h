@@ -1,9 +1,10 @@
 #pragma once
 
-#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 
 namespace kw {
+
+struct Dialogumgebung;
 
 /// The kind of the selected relationship line. It also confirms a line that has just been drawn: leaving it by
 /// anything but OK and delete takes that line away again.

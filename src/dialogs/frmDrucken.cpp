@@ -1,7 +1,10 @@
 #include "dialogs/frmDrucken.h"
 
+#include "dialogs/Dialogumgebung.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
+#include "editing/Werkbank.h"
+#include "platform/Drucker.h"
 
 #include <algorithm>
 

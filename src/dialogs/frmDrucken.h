@@ -1,9 +1,10 @@
 #pragma once
 
-#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 
 namespace kw {
+
+struct Dialogumgebung;
 
 /// Chooses the printer and the number of copies, and prints. Copies are whole print runs, not a printer's setting.
 class frmDrucken : public Formular {

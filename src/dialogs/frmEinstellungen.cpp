@@ -1,5 +1,9 @@
 #include "dialogs/frmEinstellungen.h"
 
+#include "dialogs/Dialogumgebung.h"
+#include "document/Einstellungen.h"
+#include "editing/Werkbank.h"
+
 #include <iterator>
 
 namespace kw {

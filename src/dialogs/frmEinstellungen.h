@@ -1,11 +1,12 @@
 #pragma once
 
-#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 
 #include <optional>
 
 namespace kw {
+
+struct Dialogumgebung;
 
 /// The program's language. It goes into the settings file at once and counts from the next start on.
 class frmEinstellungen : public Formular {

@@ -1,5 +1,7 @@
 #include "dialogs/frmInfo.h"
 
+#include "dialogs/Dialogumgebung.h"
+
 namespace kw {
 
 namespace {

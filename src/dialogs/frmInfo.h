@@ -1,9 +1,10 @@
 #pragma once
 
-#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 
 namespace kw {
+
+struct Dialogumgebung;
 
 /// The about box: the program's name, its version, what it is.
 class frmInfo : public Formular {

@@ -1,12 +1,15 @@
 #include "dialogs/frmKommentar.h"
 
+#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Schriftlisten.h"
 #include "dialogs/frmSchrift.h"
+#include "document/Einstellungen.h"
 #include "document/Felder.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
+#include "editing/Werkbank.h"
 
 #include <algorithm>
 #include <array>

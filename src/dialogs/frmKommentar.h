@@ -1,9 +1,10 @@
 #pragma once
 
-#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 
 namespace kw {
+
+struct Dialogumgebung;
 
 /// Makes a text box or edits the selected one. The whole box has one font, size, colour and alignment; `Text1`
 /// shows what will be stored.

@@ -1,5 +1,7 @@
 #include "dialogs/frmLegende.h"
 
+#include "dialogs/Dialogumgebung.h"
+#include "editing/Werkbank.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Legende.h"
 

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 
 namespace kw {
+
+struct Dialogumgebung;
 
 /// The legend's options. Its preview is a small legend of a made-up family in the form that is ticked.
 class frmLegende : public Formular {

@@ -1,9 +1,11 @@
 #include "dialogs/frmPLinien.h"
 
 #include "dialogs/Bildtext.h"
+#include "dialogs/Dialogumgebung.h"
 #include "document/Felder.h"
 #include "document/Zahlen.h"
 #include "editing/Linien.h"
+#include "editing/Werkbank.h"
 #include "rendering/Ebenen.h"
 
 #include <algorithm>

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 
 namespace kw {
+
+struct Dialogumgebung;
 
 /// The selected partnership line: its state, distance, and one date text for each state. The dates of the other
 /// states stay in the record, so that a divorce keeps the wedding's date.

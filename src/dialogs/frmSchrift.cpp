@@ -1,6 +1,8 @@
 #include "dialogs/frmSchrift.h"
 
+#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Schriftlisten.h"
+#include "document/Einstellungen.h"
 
 #include <array>
 

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 
 #include <functional>
 
 namespace kw {
+
+struct Dialogumgebung;
 
 /// The font and the three sizes that a new text box offers.
 class frmSchrift : public Formular {

@@ -1,6 +1,9 @@
 #include "dialogs/frmSeiteEinrichten.h"
 
+#include "dialogs/Dialogumgebung.h"
 #include "document/Papier.h"
+#include "editing/Werkbank.h"
+#include "platform/Drucker.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 
 namespace kw {
+
+struct Dialogumgebung;
 
 /// Paper, orientation, and whether the printable area is shown. The orientation shown is the printer's.
 class frmSeiteEinrichten : public Formular {

@@ -1,5 +1,9 @@
 #include "dialogs/frmSymbGlobal.h"
 
+#include "dialogs/Dialogumgebung.h"
+#include "document/Einstellungen.h"
+#include "editing/Werkbank.h"
+#include "platform/Uhr.h"
 #include "rendering/Beschriftung.h"
 #include "rendering/Symbole.h"
 

@@ -1,10 +1,12 @@
 #include "dialogs/frmSymbol.h"
 
+#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Personenbild.h"
 #include "document/Texte.h"
 #include "editing/Gruppe.h"
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
+#include "editing/Werkbank.h"
 
 #include <algorithm>
 #include <array>

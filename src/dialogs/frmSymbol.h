@@ -1,10 +1,11 @@
 #pragma once
 
-#include "dialogs/Dialogumgebung.h"
 #include "dialogs/Formular.h"
 #include "document/basAltersberechnung.h"
 
 namespace kw {
+
+struct Dialogumgebung;
 
 /// The properties of the selected person (`PersRecord`, `PersAuswahl`), or with another face of an institution. What
 /// it refuses it refuses without a word: a frame round the box, "?" in the preview, and OK does nothing.

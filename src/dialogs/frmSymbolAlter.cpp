@@ -1,7 +1,9 @@
+#include "dialogs/Dialogumgebung.h"
 #include "dialogs/frmSymbol.h"
 #include "document/Felder.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
+#include "platform/Uhr.h"
 
 // The date of birth and the age: the one that has the focus sets the other.
 namespace kw {

@@ -1,6 +1,8 @@
 #include "output/Arbeitsbereich.h"
 
 #include "document/Zahlen.h"
+#include "rendering/Ansicht.h"
+#include "rendering/Zeichenflaeche.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "document/Auswahlliste.h"
-#include "rendering/Ansicht.h"
-#include "rendering/Zeichenflaeche.h"
 
 #include <functional>
 
 namespace kw {
+
+class Zeichenfläche;
+struct Ansicht;
 
 /// Place and size of a control in twips, within the main window's inner area; of the canvas and its
 /// shadow within `picBack`.

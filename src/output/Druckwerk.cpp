@@ -2,6 +2,10 @@
 
 #include "document/Dateien.h"
 #include "output/Zieldatei.h"
+#include "platform/Bedienelemente.h"
+#include "platform/Benutzer.h"
+#include "platform/Drucker.h"
+#include "rendering/Zeichnung.h"
 
 #include <cmath>
 #include <cstdio>

@@ -1,15 +1,17 @@
 #pragma once
 
-#include "platform/Bedienelemente.h"
-#include "platform/Benutzer.h"
-#include "platform/Drucker.h"
-#include "rendering/Ansicht.h"
-#include "rendering/Zeichenflaeche.h"
-
 #include <functional>
 #include <string>
 
 namespace kw {
+
+class Bedienelemente;
+class Benutzer;
+class Drucker;
+class Zeichenfläche;
+struct Ansicht;
+struct Druckränder;
+struct Zweisprachig;
 
 /// Printing, and the frame of what the printer can't reach. Owned by the main window.
 class Druckwerk {

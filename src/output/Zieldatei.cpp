@@ -1,6 +1,7 @@
 #include "output/Zieldatei.h"
 
 #include "document/Dateien.h"
+#include "platform/Benutzer.h"
 
 namespace kw {
 

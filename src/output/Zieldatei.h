@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Benutzer.h"
 #include "platform/Sprache.h"
 
 #include <optional>
@@ -9,6 +8,9 @@
 
 // Asking for a file to write.
 namespace kw {
+
+class Benutzer;
+struct Dateiwahl;
 
 constexpr Zweisprachig Ersetzungsfrage{"Möchten Sie sie ersetzen ?", "Do you want to replace it?"};
 

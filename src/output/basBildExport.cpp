@@ -1,7 +1,12 @@
 #include "output/basBildExport.h"
 
 #include "document/Dateien.h"
+#include "output/Arbeitsbereich.h"
 #include "output/Zieldatei.h"
+#include "platform/Benutzer.h"
+#include "platform/Bilder.h"
+#include "rendering/Ansicht.h"
+#include "rendering/Zeichenflaeche.h"
 
 namespace kw {
 

@@ -1,9 +1,5 @@
 #pragma once
 
-#include "output/Arbeitsbereich.h"
-#include "platform/Benutzer.h"
-#include "platform/Bilder.h"
-
 #include <functional>
 #include <optional>
 #include <stdexcept>
@@ -11,6 +7,13 @@
 #include <utility>
 
 namespace kw {
+
+class Arbeitsbereich;
+class Benutzer;
+class Bilder;
+struct Ansicht;
+struct Bildausschnitt;
+struct Zweisprachig;
 
 /// The encoder couldn't write a picture.
 class Bildfehler : public std::runtime_error {

@@ -11,6 +11,7 @@
 #include "qt/fenster/Palettenknopf.h"
 #include "qt/fenster/Werkzeugpalette.h"
 #include "qt/malen/Auflagenmaler.h"
+#include "qt/malen/LeinwandFlaeche.h"
 #include "replay/Plattform.h"
 
 #include <QAbstractItemView>

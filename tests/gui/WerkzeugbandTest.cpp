@@ -6,6 +6,7 @@
 #include "qt/fenster/Arbeitsflaeche.h"
 #include "qt/fenster/Bandknopf.h"
 #include "qt/fenster/Symbolleiste.h"
+#include "qt/malen/LeinwandFlaeche.h"
 #include "qt/malen/Zeilenbild.h"
 #include "replay/Plattform.h"
 

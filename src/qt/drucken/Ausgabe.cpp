@@ -2,10 +2,12 @@
 
 #include "app/Einzelbild.h"
 #include "document/Dateien.h"
+#include "platform/Drucker.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/QtFlaeche.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Seite.h"
+#include "rendering/Zeichnung.h"
 
 #include <QBuffer>
 #include <QImageWriter>

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/Drucker.h"
-
 #include <QTransform>
 
 #include <string>
@@ -13,6 +11,7 @@ class QPaintDevice;
 namespace kw {
 
 class Einzelbild;
+struct Druckauftrag;
 
 constexpr double CmJeZoll = 2.54;
 constexpr int KleinsteDpi = 10;

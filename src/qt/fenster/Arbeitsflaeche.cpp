@@ -1,9 +1,11 @@
 #include "qt/fenster/Arbeitsflaeche.h"
 
 #include "app/frmMain.h"
+#include "editing/Leinwandlage.h"
 #include "qt/fenster/Importliste.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Auflagenmaler.h"
+#include "qt/malen/LeinwandFlaeche.h"
 #include "qt/malen/Zeigerbild.h"
 
 #include <QDropEvent>
@@ -50,7 +52,7 @@ int Tastencode(Qt::MouseButton taste) {
 
 } // namespace
 
-Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand) {
+Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand), zeiger_(Mauszeiger::Pfeil) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true); // rubber lines follow the pointer without a button

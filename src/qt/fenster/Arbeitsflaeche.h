@@ -1,8 +1,5 @@
 #pragma once
 
-#include "editing/Leinwandlage.h"
-#include "qt/malen/LeinwandFlaeche.h"
-
 #include <QScrollBar>
 #include <QWidget>
 
@@ -10,7 +7,9 @@
 
 namespace kw {
 
+class LeinwandFläche;
 class frmMain;
+enum class Mauszeiger;
 struct Anblick;
 
 /// The inside of the main window: the dark frame, the page with its shadow, the overlay shapes, the scroll bars.
@@ -63,7 +62,7 @@ class Arbeitsflaeche : public QWidget {
     Qt::MouseButton taste_ = Qt::NoButton; ///< the button that is down on the canvas; another one doesn't count
     QPointF ort_;                          ///< of the last event, pixels
     bool imModell_ = false;                ///< an event is being worked on, perhaps in a popup's loop
-    Mauszeiger zeiger_ = Mauszeiger::Pfeil;
+    Mauszeiger zeiger_;
     double zeigerverhältnis_ = 0; ///< resolution of the pointer's picture
 };
 

@@ -5,6 +5,7 @@
 #include "platform/Bedienelemente.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Zeilenbild.h"
+#include "rendering/Sinnbilder.h"
 
 #include <QAbstractListModel>
 #include <QDrag>

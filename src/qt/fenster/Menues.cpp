@@ -1,6 +1,7 @@
 #include "qt/fenster/Menues.h"
 
 #include "app/frmMain.h"
+#include "commands/Menuetafel.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Zeilenbild.h"
 

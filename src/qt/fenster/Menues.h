@@ -1,7 +1,5 @@
 #pragma once
 
-#include "commands/Menuetafel.h"
-
 #include <QPoint>
 
 #include <functional>
@@ -19,6 +17,7 @@ namespace kw {
 
 class frmMain;
 struct Anblick;
+struct Menüzeile;
 
 /// A line of text in the program's font with room to spare, pixels. Reckoned, for to measure a font is to load the
 /// fonts of the system.

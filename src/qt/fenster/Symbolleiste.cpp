@@ -2,6 +2,8 @@
 
 #include "app/Anblick.h"
 #include "commands/Bildertafel.h"
+#include "commands/Menuetafel.h"
+#include "platform/Bedienelemente.h"
 #include "qt/fenster/Bandknopf.h"
 #include "qt/fenster/Menues.h"
 #include "qt/grund/Text.h"

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "commands/Menuetafel.h"
 #include "qt/grund/Tastatur.h"
 
 #include <QToolBar>
@@ -16,6 +15,7 @@ namespace kw {
 
 class Bandknopf;
 struct Anblick;
+struct Menüzeile;
 
 /// The toolbar of the table. Captions and states are the model's.
 /// One stop of the tab order; the arrow keys go from button to button.

@@ -5,6 +5,7 @@
 #include "qt/fenster/Palettenknopf.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Zeilenbild.h"
+#include "rendering/Sinnbilder.h"
 
 #include <algorithm>
 #include <array>

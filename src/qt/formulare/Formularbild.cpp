@@ -1,5 +1,6 @@
 #include "qt/formulare/Formularbild.h"
 
+#include "dialogs/Formular.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/QtFlaeche.h"
 

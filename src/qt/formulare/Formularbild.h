@@ -1,12 +1,13 @@
 #pragma once
 
-#include "dialogs/Formular.h"
-
 #include <QWidget>
 
 #include <string>
 
 namespace kw {
+
+class Formular;
+class Zeichenfläche;
 
 /// A preview of a form: what the form draws, on page-white ground whatever the theme, and the labels that stand
 /// in it. Sharp at every device pixel ratio; larger than life where the user's font is.

@@ -1,5 +1,6 @@
 #include "qt/formulare/Formularlayout.h"
 
+#include "dialogs/Formular.h"
 #include "qt/grund/Text.h"
 
 #include <QBoxLayout>

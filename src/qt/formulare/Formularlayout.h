@@ -1,7 +1,5 @@
 #pragma once
 
-#include "dialogs/Formular.h"
-
 #include <functional>
 #include <map>
 #include <string>
@@ -9,6 +7,8 @@
 class QWidget;
 
 namespace kw {
+
+class Formular;
 
 /// A form's widgets under their controls' names.
 using Formularteile = std::map<std::string, QWidget *, std::less<>>;

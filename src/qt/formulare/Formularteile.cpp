@@ -1,5 +1,6 @@
 #include "qt/formulare/Formularteile.h"
 
+#include "dialogs/Formular.h"
 #include "qt/formulare/Formularbild.h"
 #include "qt/formulare/Zeichenknopf.h"
 #include "qt/grund/Tastatur.h"

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "dialogs/Formular.h"
-
 #include <QAbstractButton>
 #include <QColor>
 
@@ -11,6 +9,9 @@
 class QLineEdit;
 
 namespace kw {
+
+class Formular;
+struct Steuerelement;
 
 /// What the widgets of a form tell of what the user did; each with the control's name.
 struct Formularmelder {

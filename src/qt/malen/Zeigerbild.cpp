@@ -1,5 +1,7 @@
 #include "qt/malen/Zeigerbild.h"
 
+#include "editing/Leinwandlage.h"
+
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>

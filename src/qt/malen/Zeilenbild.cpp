@@ -4,6 +4,7 @@
 #include "document/Zahlen.h"
 #include "qt/malen/QtFlaeche.h"
 #include "qt/malen/Svgsinnbild.h"
+#include "rendering/Sinnbilder.h"
 
 #include <QIconEngine>
 #include <QImage>

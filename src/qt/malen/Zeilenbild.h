@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/Uhr.h"
-#include "rendering/Sinnbilder.h"
-
 #include <QIcon>
 #include <QPixmap>
 
 #include <string_view>
 
 namespace kw {
+
+class Uhr;
+struct Sinnbild;
 
 /// A tiny diagram in a square of `kante` logical pixels, for a screen of that resolution.
 QPixmap Symbolbild(Sinnbild sinnbild, const Uhr &uhr, int kante, double pixelverhältnis);
