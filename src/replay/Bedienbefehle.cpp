@@ -1,5 +1,7 @@
 #include "app/Befehle.h"
+#include "app/frmMain.h"
 #include "editing/Werkzeuge.h"
+#include "replay/Programm.h"
 #include "replay/Skriptbefehle.h"
 
 #include <algorithm>
@@ -13,7 +15,7 @@ namespace {
 void Auslösen(Wiedergabe &lauf, const std::string &name) {
     Programm &p = lauf.Läuft();
     if (!p.innen.bedienung.Finden(name) && !BefehlFinden(name)) throw Skriptfehler("unknown name: " + name);
-    if (!p.haupt.BefehlAusführen(name)) lauf.aus << "disabled " << name << "\n";
+    if (!p.haupt->BefehlAusführen(name)) lauf.aus << "disabled " << name << "\n";
 }
 
 void WerkzeugWählen(Wiedergabe &lauf, const std::string &wort) {
@@ -95,7 +97,7 @@ void ZeitgeberAuslösen(Programm &p, const std::string &name) {
     const auto gestartet = std::erase_if(p.benutzer.ZeitgeberListe, [&](const auto &z) { return z.Name == name; });
     if (gestartet == 0 && std::find(std::begin(Bekannt), std::end(Bekannt), name) == std::end(Bekannt))
         throw Skriptfehler("unknown timer: " + name);
-    p.haupt.ZeitgeberAbgelaufen(name);
+    p.haupt->ZeitgeberAbgelaufen(name);
 }
 
 void Warten(Programm &p, int ms) {
@@ -116,7 +118,7 @@ void Ablegen(Wiedergabe &lauf, const Wörter &w) {
     const int zeile = Zahl(Wort(w, 1));
     if (zeile < 0 || zeile >= static_cast<int>(p.innen.import.Listenzeilen.size()))
         throw Skriptfehler("no such row: " + w[1]);
-    p.haupt.ImportzeileAblegen(zeile, Dezimalzahl(Wort(w, 2)), Dezimalzahl(Wort(w, 3)));
+    p.haupt->ImportzeileAblegen(zeile, Dezimalzahl(Wort(w, 2)), Dezimalzahl(Wort(w, 3)));
 }
 
 constexpr Skriptbefehl Tabelle[] = {
@@ -129,11 +131,12 @@ constexpr Skriptbefehl Tabelle[] = {
     {"popup", [](auto &lauf, auto &w, auto &) { MenüwahlVormerken(lauf, Wort(w, 1)); }},
     {"answer", [](auto &lauf, auto &w, auto &) { Beantworten(lauf, w); }},
     {"pick", [](auto &lauf, auto &w, auto &) { Wählen(lauf, Wort(w, 1), Wort(w, 2)); }},
-    {"hover", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt.PaletteBerührt(Zahl(Wort(w, 1))); }},
+    {"hover", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt->PaletteBerührt(Zahl(Wort(w, 1))); }},
     {"drop", [](auto &lauf, auto &w, auto &) { Ablegen(lauf, w); }},
     {"resize",
      [](auto &lauf, auto &w, auto &) { lauf.Läuft().innen.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
-    {"close", [](auto &lauf, auto &, auto &) { lauf.aus << (lauf.Läuft().haupt.Schließen() ? "closed\n" : "open\n"); }},
+    {"close",
+     [](auto &lauf, auto &, auto &) { lauf.aus << (lauf.Läuft().haupt->Schließen() ? "closed\n" : "open\n"); }},
     {"wait", [](auto &lauf, auto &w, auto &) { Warten(lauf.Läuft(), Zahl(Wort(w, 1))); }},
     {"raise", [](auto &lauf, auto &w, auto &) { ZeitgeberAuslösen(lauf.Läuft(), Wort(w, 1)); }},
 };

@@ -1,5 +1,6 @@
 #include "document/Codepage.h"
 #include "document/Profil.h"
+#include "replay/Programm.h"
 #include "replay/Skriptbefehle.h"
 
 #include <algorithm>

@@ -1,5 +1,8 @@
 #include "replay/Namen.h"
 
+#include "editing/Auflagen.h"
+#include "editing/Leinwandlage.h"
+
 namespace kw {
 
 void Namen::Leinwandnamen(Leinwandlage &l) {

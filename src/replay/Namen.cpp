@@ -1,7 +1,22 @@
 #include "replay/Namen.h"
 
+#include "app/Darstellung.h"
+#include "app/Datenimport.h"
+#include "app/Einblick.h"
 #include "app/Programmversion.h"
+#include "app/Projekt.h"
+#include "document/Einstellungen.h"
 #include "document/Papier.h"
+#include "document/UndoRing.h"
+#include "editing/Leinwandlage.h"
+#include "editing/Zwischenablage.h"
+#include "output/Arbeitsbereich.h"
+#include "output/Druckwerk.h"
+#include "platform/Bedienelemente.h"
+#include "platform/Benutzer.h"
+#include "rendering/Ansicht.h"
+#include "rendering/Auswahl.h"
+#include "rendering/Legende.h"
 
 #include <algorithm>
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "app/Einblick.h"
-#include "app/frmMain.h"
+#include "document/Auswahlliste.h"
 #include "replay/Variable.h"
 
 #include <functional>
@@ -9,6 +8,12 @@
 #include <string>
 
 namespace kw {
+
+class Arbeitsbereich;
+class Benutzer;
+struct Auflagen;
+struct Einblick;
+struct Leinwandlage;
 
 /// Everything of a main window that scripts can name. It looks where the start has left things, and must not outlive
 /// what `h` looks into.

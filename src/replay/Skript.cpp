@@ -1,7 +1,9 @@
 #include "replay/Skript.h"
 
+#include "app/Startangaben.h"
 #include "document/Felder.h"
 #include "document/Zahlen.h"
+#include "replay/Programm.h"
 #include "replay/Skriptbefehle.h"
 
 #include <algorithm>
@@ -65,16 +67,6 @@ void PlattformEinrichten(Programm &p, Angaben &angaben) {
 }
 
 } // namespace
-
-Programm::Programm(std::ostream &aus, const Startangaben &start)
-    : benutzer(aus, wirkungen), haupt({benutzer, drucker, bilder, uhr}, leinwand, start) {
-    benutzer.bedienung = &innen.bedienung;
-}
-
-void Programm::Laden() {
-    haupt.Laden();
-    namen = std::make_unique<Namen>(innen, benutzer);
-}
 
 Wiedergabe::Wiedergabe(std::ostream &aus_) : aus(aus_) {
     std::error_code fehler;

@@ -1,10 +1,5 @@
 #pragma once
 
-#include "app/frmMain.h"
-#include "document/basAltersberechnung.h"
-#include "replay/Aufzeichnung.h"
-#include "replay/Namen.h"
-#include "replay/Plattform.h"
 #include "replay/Woerter.h"
 
 #include <istream>
@@ -14,23 +9,7 @@
 
 namespace kw {
 
-/// One start of the program, with the platform that the script speaks for.
-struct Programm {
-    Programm(std::ostream &aus, const Startangaben &start);
-    void Laden();
-
-    std::string wirkungen; ///< what went outside since it was last asked for, a line each
-    DrehbuchBenutzer benutzer;
-    DrehbuchDrucker drucker{wirkungen};
-    DrehbuchUhr uhr;
-    Aufzeichnung leinwand;
-    DrehbuchBilder bilder{leinwand, wirkungen};
-    frmMain haupt;
-    Einblick innen{haupt};
-    std::unique_ptr<Namen> namen; ///< when the program has started
-    Altersberechnung alter{uhr};
-    int Taste = TasteKeine; ///< the mouse button that is down
-};
+struct Programm;
 
 /// Runs the program from a script and prints what the script asks for. What a line does stands in the tables
 /// of replay/Skriptbefehle.h; the commands work on what is public here.

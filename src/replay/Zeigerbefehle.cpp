@@ -1,5 +1,8 @@
 #include "replay/Skriptbefehle.h"
 
+#include "app/frmMain.h"
+#include "replay/Programm.h"
+
 #include <cmath>
 #include <utility>
 
@@ -22,12 +25,12 @@ int TasteAus(const std::string &wort) {
 
 void Drücken(Programm &p, int taste, Ort ort) {
     p.Taste = taste;
-    p.haupt.MouseDown(taste, ort.X, ort.Y);
+    p.haupt->MouseDown(taste, ort.X, ort.Y);
 }
 
-void Bewegen(Programm &p, Ort ort) { p.haupt.MouseMove(p.Taste, ort.X, ort.Y); }
+void Bewegen(Programm &p, Ort ort) { p.haupt->MouseMove(p.Taste, ort.X, ort.Y); }
 
-void Loslassen(Programm &p, Ort ort) { p.haupt.MouseUp(std::exchange(p.Taste, TasteKeine), ort.X, ort.Y); }
+void Loslassen(Programm &p, Ort ort) { p.haupt->MouseUp(std::exchange(p.Taste, TasteKeine), ort.X, ort.Y); }
 
 void Klicken(Programm &p, int taste, Ort ort) {
     Bewegen(p, ort);
@@ -58,7 +61,7 @@ constexpr Skriptbefehl Tabelle[] = {
     {"dblclick",
      [](auto &lauf, auto &w, auto &) {
          const Ort ort = OrtAus(w, 1);
-         lauf.Läuft().haupt.DblClick(ort.X, ort.Y);
+         lauf.Läuft().haupt->DblClick(ort.X, ort.Y);
      }},
     {"click", [](auto &lauf, auto &w, auto &) { Klicken(lauf.Läuft(), TasteLinks, OrtAus(w, 1)); }},
     {"rclick", [](auto &lauf, auto &w, auto &) { Klicken(lauf.Läuft(), TasteRechts, OrtAus(w, 1)); }},

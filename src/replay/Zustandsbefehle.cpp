@@ -1,5 +1,8 @@
+#include "app/frmMain.h"
 #include "commands/Menuetafel.h"
 #include "document/Texte.h"
+#include "replay/Namen.h"
+#include "replay/Programm.h"
 #include "replay/Skriptbefehle.h"
 
 #include <cmath>

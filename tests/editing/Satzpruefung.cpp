@@ -1,6 +1,13 @@
 #include "Zufallsnutzer.h"
 
+#include "app/Projekt.h"
+#include "app/Startangaben.h"
+#include "commands/Menuetafel.h"
 #include "document/saetze/Satz.h"
+#include "editing/Leinwand.h"
+#include "output/Arbeitsbereich.h"
+#include "platform/Bedienelemente.h"
+#include "rendering/Ansicht.h"
 
 #include <cmath>
 #include <fstream>

@@ -1,7 +1,10 @@
 #include "Zufallsnutzer.h"
 
 #include "app/Befehle.h"
+#include "app/Datenimport.h"
 #include "app/Formulare.h"
+#include "commands/Menuetafel.h"
+#include "dialogs/Dialogumgebung.h"
 #include "document/Felder.h"
 #include "document/Zahlen.h"
 

@@ -1,5 +1,11 @@
 #pragma once
 
+#include "app/Einblick.h"
+#include "document/Dokument.h"
+#include "document/UndoRing.h"
+#include "editing/Leinwandlage.h"
+#include "rendering/Auswahl.h"
+#include "replay/Programm.h"
 #include "replay/Skript.h"
 
 #include <map>

@@ -1,8 +1,9 @@
 // Every form and the window as they come up, in both languages and at three sizes of letters: what a user couldn't
 // read or reach is found here.
 #include "document/Dateien.h"
-#include "qt/formulare/Formularfenster.h"
 #include "qt/fenster/Hauptfenster.h"
+#include "qt/formulare/Formularfenster.h"
+#include "replay/Programm.h"
 #include "replay/Skript.h"
 
 #include <QAbstractButton>
