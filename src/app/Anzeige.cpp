@@ -28,18 +28,16 @@ constexpr Schema Schemata[] = {
 
 /// A caption that says what the next use does.
 struct Schaltertext {
-    const char *AusDeutsch, *AusEnglisch; ///< while it shows
-    const char *EinDeutsch, *EinEnglisch;
+    Zweisprachig Aus; ///< while it shows
+    Zweisprachig Ein;
 };
-constexpr Schaltertext Legendentext{"Legende ausblenden", "Hide Legend", "Legende anzeigen", "Show Legend"};
-constexpr Schaltertext Rastertext{"Raster ausblenden", "Hide Grid", "Raster anzeigen", "Show Grid"};
-constexpr Schaltertext Palettentext{"Werkzeugleiste ausblenden", "Hide Toolbar", "Werkzeugleiste einblenden",
-                                    "Show Toolbar"};
+constexpr Schaltertext Legendentext{{"Legende ausblenden", "Hide Legend"}, {"Legende anzeigen", "Show Legend"}};
+constexpr Schaltertext Rastertext{{"Raster ausblenden", "Hide Grid"}, {"Raster anzeigen", "Show Grid"}};
+constexpr Schaltertext Palettentext{{"Werkzeugleiste ausblenden", "Hide Toolbar"},
+                                    {"Werkzeugleiste einblenden", "Show Toolbar"}};
 
-const char *Text(const Schaltertext &text, bool sichtbar, const Ansicht &ansicht) {
-    const bool deutsch = ansicht.Sprache == Sprache::Deutsch;
-    if (sichtbar) return deutsch ? text.AusDeutsch : text.AusEnglisch;
-    return deutsch ? text.EinDeutsch : text.EinEnglisch;
+std::string_view Text(const Schaltertext &text, bool sichtbar, const Ansicht &ansicht) {
+    return (sichtbar ? text.Aus : text.Ein).In(ansicht.Sprache);
 }
 
 /// The toolbar's key of a paper: "keyDINA4".

@@ -15,10 +15,24 @@
 
 namespace kw {
 
+namespace {
+
+constexpr Zweisprachig SpeichernTitel{"Genogramm speichern unter ...", "Save genogram as ..."};
+constexpr Zweisprachig SpeichernName{"Genogrammprojekt 1", "Genogram Project 1"};
+constexpr Zweisprachig SpeichernFilter{"Kinwright Datei (*.kwp)|*.kwp", "kinwright file (*.kwp)|*.kwp"};
+constexpr Zweisprachig ÖffnenTitel{"Genogrammprojekt öffnen", "Open genogram project"};
+constexpr Zweisprachig ÖffnenFilter{"Kinwright Datei (*.kwp)|*.kwp", "kinwright  file (*.kwp)|*.kwp"};
+constexpr Zweisprachig Änderungsfrage{"Möchten Sie die Änderungen im aktuellen Projekt speichern?",
+                                      "Do you want to save the changes in the current project?"};
+constexpr Zweisprachig FehltTitel{"Fehler", "Error"};
+constexpr Zweisprachig FehltText{"Datei konnte nicht gefunden werden!", "The file could not be found!"};
+
+} // namespace
+
 Projekt::Projekt(Inhalt inhalt, Umfeld umfeld, std::string einstellungsDatei)
     : inhalt_(inhalt), umfeld_(std::move(umfeld)), einstellungsDatei_(std::move(einstellungsDatei)) {}
 
-bool Projekt::IstDeutsch() const { return umfeld_.ansicht.Sprache == Sprache::Deutsch; }
+std::string Projekt::Text(const Zweisprachig &text) const { return std::string(text.In(umfeld_.ansicht.Sprache)); }
 
 void Projekt::ProjektLaden() {
     inhalt_.dokument.LegendeSichtbar = false;
@@ -92,10 +106,7 @@ void Projekt::Speichern() {
 }
 
 void Projekt::SpeichernUnter() {
-    const bool deutsch = IstDeutsch();
-    const Dateiwahl wahl{deutsch ? "Genogramm speichern unter ..." : "Save genogram as ...",
-                         deutsch ? "Genogrammprojekt 1" : "Genogram Project 1",
-                         deutsch ? "Kinwright Datei (*.kwp)|*.kwp" : "kinwright file (*.kwp)|*.kwp",
+    const Dateiwahl wahl{Text(SpeichernTitel), Text(SpeichernName), Text(SpeichernFilter),
                          umfeld_.benutzer.Desktopordner()};
     const auto datei = ZieldateiWählen(umfeld_.benutzer, wahl, umfeld_.ansicht.Sprache,
                                        {Ersetzungsfrage.Deutsch, "Do you want to replace?"});
@@ -109,9 +120,7 @@ void Projekt::SpeichernUnter() {
 
 bool Projekt::NachÄnderungenFragen() {
     if (!Geändert) return true;
-    const auto *text = IstDeutsch() ? "Möchten Sie die Änderungen im aktuellen Projekt speichern?"
-                                    : "Do you want to save the changes in the current project?";
-    switch (umfeld_.benutzer.Fragen({"Kinwright", text, Knöpfe::JaNeinAbbrechen, Zeichen::Frage})) {
+    switch (umfeld_.benutzer.Fragen({"Kinwright", Text(Änderungsfrage), Knöpfe::JaNeinAbbrechen, Zeichen::Frage})) {
     case Antwort::Ja: Speichern(); return !SpeichernAbgebrochen;
     case Antwort::Nein: return true;
     default: return false;
@@ -124,10 +133,7 @@ void Projekt::mnuÖffnen() {
     IniDatei = einstellungsDatei_;
     std::string ordner = ProfilLesen(IniDatei, "DEFAULT", "lastpath");
     if (ordner.empty()) ordner = umfeld_.benutzer.Desktopordner();
-    const bool deutsch = IstDeutsch();
-    const auto datei = umfeld_.benutzer.DateiÖffnen(
-        {deutsch ? "Genogrammprojekt öffnen" : "Open genogram project", "",
-         deutsch ? "Kinwright Datei (*.kwp)|*.kwp" : "kinwright  file (*.kwp)|*.kwp", ordner});
+    const auto datei = umfeld_.benutzer.DateiÖffnen({Text(ÖffnenTitel), "", Text(ÖffnenFilter), ordner});
     if (!datei) return;
     Projektdatei = *datei;
     if (!DateiVorhanden(Projektdatei)) return;
@@ -176,10 +182,7 @@ void Projekt::mnuRecent(int platz) {
     const std::string datei = inhalt_.zuletzt[platz];
     if (Titel == datei) return; // so only just after a save under that name
     if (!DateiVorhanden(datei)) {
-        const bool deutsch = IstDeutsch();
-        umfeld_.benutzer.Fragen({deutsch ? "Fehler" : "Error",
-                                 deutsch ? "Datei konnte nicht gefunden werden!" : "The file could not be found!",
-                                 Knöpfe::Ok, Zeichen::Warnung});
+        umfeld_.benutzer.Fragen({Text(FehltTitel), Text(FehltText), Knöpfe::Ok, Zeichen::Warnung});
         return;
     }
     FreieNummernLeeren();

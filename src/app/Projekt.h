@@ -14,6 +14,7 @@ class UndoRing;
 struct Ansicht;
 struct Dokument;
 struct Legendenblatt;
+struct Zweisprachig;
 struct Zwischenablage;
 
 /// The project as a file: its name, whether it has unsaved changes, and the roads of opening and saving.
@@ -74,7 +75,7 @@ class Projekt {
     bool NachÄnderungenFragen();
 
   private:
-    bool IstDeutsch() const;
+    std::string Text(const Zweisprachig &text) const;
     bool ProjektNeu();
     void InhaltLesen();
     void FreieNummernLeeren();
