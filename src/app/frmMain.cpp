@@ -39,10 +39,7 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       import(start, {dokument, lage, ansicht}, projekt, bedienung, plattform.benutzer, *this),
       werkbank{dokument,           ansicht, auswahl, lage, auflagen, ablage, legende, bedienung, picVorschau,
                plattform.benutzer, *this},
-      leinwand(werkbank),
-      Kommandozeile(Entpackt(start.Kommandozeile)), anblick{
-                                                        projekt.Titel, ansicht, bedienung,           bereich,
-                                                        auflagen,      lage,    import.Listenzeilen, plattform.uhr} {
+      leinwand(werkbank), Kommandozeile(Entpackt(start.Kommandozeile)) {
     BedienelementeAnlegen(bedienung);
 }
 

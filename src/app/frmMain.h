@@ -141,7 +141,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Werkbank werkbank;
     Leinwand leinwand;
     std::string Kommandozeile; ///< trimmed and unquoted
-    const Anblick anblick;
+    const Anblick anblick{projekt.Titel, ansicht, bedienung,           bereich,
+                          auflagen,      lage,    import.Listenzeilen, plattform.uhr};
 };
 
 /// The command line as the program takes it: trimmed, one pair of enclosing quotation marks removed.
