@@ -80,7 +80,7 @@ void LegendeAktualisieren(Befehlsumgebung &u, int) {
 template <bool (UndoRing::*Gehen)(Dokument &)> void Schritt(Befehlsumgebung &u, int) {
     if (!(u.ring.*Gehen)(u.werkbank.dokument)) return;
     u.werkbank.fenster.UndoKnöpfeSetzen();
-    u.abwählen();
+    NichtsAuswählen(u.werkbank);
     u.werkbank.fenster.Vorschau();
 }
 
@@ -247,6 +247,12 @@ Befehl AusReihe(std::string_view name) {
 }
 
 } // namespace
+
+void NichtsAuswählen(Werkbank &w) {
+    AllesAbwählen(w);
+    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = false;
+    PaletteAuffrischen(w);
+}
 
 Befehl BefehlFinden(std::string_view name) {
     if (const auto menü = Menügleich(name); !menü.empty()) name = menü;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string_view>
 
 namespace kw {
@@ -28,7 +27,6 @@ struct Befehlsumgebung {
     UndoRing &ring;
     Dialogdienste &dienste;
     const Startangaben &start;
-    std::function<void()> abwählen; ///< ends the selection and the gesture in progress
 };
 
 /// What a row of the commands' table does.
@@ -38,6 +36,9 @@ struct Befehl {
 
     explicit operator bool() const { return Ausführen != nullptr; }
 };
+
+/// Ends the selection and the gesture in progress; what needs a selection can't be pressed then.
+void NichtsAuswählen(Werkbank &w);
 
 /// The command under that name; an empty one when there is none.
 Befehl BefehlFinden(std::string_view name);

@@ -1,6 +1,8 @@
 #include "app/Einblick.h"
 
+#include "app/Befehle.h"
 #include "app/frmMain.h"
+#include "rendering/Zeichnung.h"
 
 namespace kw {
 
@@ -8,12 +10,20 @@ Einblick::Einblick(frmMain &haupt)
     : start(haupt.start), picVorschau(haupt.picVorschau), dokument(haupt.dokument), ansicht(haupt.ansicht),
       auswahl(haupt.auswahl), lage(haupt.lage), auflagen(haupt.auflagen), ablage(haupt.ablage), legende(haupt.legende),
       ring(haupt.ring), bereich(haupt.bereich), bedienung(haupt.bedienung), einstellungen(haupt.einstellungen),
-      darstellung(haupt.darstellung), druck(haupt.druck), import(haupt.import), projekt(haupt.projekt),
-      werkbank(haupt.werkbank), Kommandozeile(haupt.Kommandozeile), cboRaster(haupt.cboRaster), fenster(haupt),
-      haupt_(haupt) {}
+      darstellung(haupt.darstellung), druck(haupt.druck), bildexport(haupt.bildexport), import(haupt.import),
+      projekt(haupt.projekt), werkbank(haupt.werkbank), Kommandozeile(haupt.Kommandozeile), cboRaster(haupt.cboRaster),
+      fenster(haupt), dienste(haupt), drucker(haupt.plattform.drucker), uhr(haupt.plattform.uhr) {}
 
-void Einblick::AufPapier(Zeichenfläche &papier) const { haupt_.AufPapier(papier); }
+void Einblick::AufPapier(Zeichenfläche &papier) const {
+    Anwenden(DruckZeichnen(papier, {dokument, ansicht, auswahl, lage, legende, uhr}), dokument, ansicht, lage, legende);
+}
 
-Dialogumgebung Einblick::Umgebung() const { return haupt_.Umgebung(); }
+Dialogumgebung Einblick::FürFormulare() const {
+    return {werkbank, einstellungen, start.IniDatei, uhr, drucker, dienste};
+}
+
+Befehlsumgebung Einblick::FürBefehle() const {
+    return {werkbank, projekt, darstellung, bereich, import, druck, bildexport, ring, dienste, start};
+}
 
 } // namespace kw

@@ -7,11 +7,14 @@ namespace kw {
 class Arbeitsbereich;
 class Bedienelemente;
 class Darstellung;
+class Bildexport;
 class Datenimport;
 class Dialogdienste;
+class Drucker;
 class Druckwerk;
 class Fensterdienste;
 class Projekt;
+class Uhr;
 class UndoRing;
 class Zeichenfläche;
 class frmMain;
@@ -19,6 +22,7 @@ struct Ansicht;
 struct Auflagen;
 struct Auswahl;
 struct Auswahlliste;
+struct Befehlsumgebung;
 struct Dialogumgebung;
 struct Dokument;
 struct Einstellungen;
@@ -36,8 +40,9 @@ struct Einblick {
 
     /// One print run on a surface whose scale is set.
     void AufPapier(Zeichenfläche &papier) const;
-    /// What a form works on.
-    Dialogumgebung Umgebung() const;
+    /// What a form and what a command work on.
+    Dialogumgebung FürFormulare() const;
+    Befehlsumgebung FürBefehle() const;
 
     const Startangaben &start;
     Zeichenfläche &picVorschau;
@@ -54,15 +59,16 @@ struct Einblick {
     Einstellungen &einstellungen;
     Darstellung &darstellung;
     Druckwerk &druck;
+    Bildexport &bildexport;
     Datenimport &import;
     Projekt &projekt;
     Werkbank &werkbank;
     std::string &Kommandozeile;
     Auswahlliste &cboRaster;
     Fensterdienste &fenster;
-
-  private:
-    frmMain &haupt_;
+    Dialogdienste &dienste;
+    Drucker &drucker;
+    const Uhr &uhr;
 };
 
 } // namespace kw

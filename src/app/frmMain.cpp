@@ -6,7 +6,6 @@
 #include "document/Dateien.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
-#include "editing/Marker.h"
 #include "editing/Werkzeuge.h"
 #include "rendering/Seite.h"
 
@@ -33,9 +32,10 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       druck(plattform.drucker, plattform.benutzer, ansicht, bedienung),
       anzeige(bedienung, {dokument, ansicht, auswahl, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster, druck}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, *this), hinweis(bedienung, plattform.benutzer),
-      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(); }),
+      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
       projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt},
-              {ansicht, anzeige, plattform.benutzer, *this, *this, [this] { NichtsAuswählen(); }}, start.IniDatei),
+              {ansicht, anzeige, plattform.benutzer, *this, *this, [this] { NichtsAuswählen(werkbank); }},
+              start.IniDatei),
       import(start, {dokument, lage, ansicht}, projekt, bedienung, plattform.benutzer, *this),
       werkbank{dokument,           ansicht, auswahl, lage, auflagen, ablage, legende, bedienung, picVorschau,
                plattform.benutzer, *this},
@@ -169,7 +169,7 @@ void frmMain::GrößeÄndern(int breite, int höhe) {
 
 void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
     leinwand.GesteAbbrechen();
-    NichtsAuswählen();
+    NichtsAuswählen(werkbank);
     import.Ablegen(werkbank, zeile, x, y);
     NachEreignis();
 }
@@ -190,17 +190,7 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     if (GehörtZu(name, "mnuBearbeiten")) mnuBearbeiten_Öffnen();
     if (!IstFrei(name)) return false;
     leinwand.GesteAbbrechen();
-    Befehlsumgebung umgebung{werkbank,
-                             projekt,
-                             darstellung,
-                             bereich,
-                             import,
-                             druck,
-                             bildexport,
-                             ring,
-                             *this,
-                             start,
-                             [this] { NichtsAuswählen(); }};
+    Befehlsumgebung umgebung{werkbank, projekt, darstellung, bereich, import, druck, bildexport, ring, *this, start};
     befehl.Ausführen(umgebung, befehl.Nummer);
     NachEreignis();
     return true;
@@ -257,12 +247,6 @@ void frmMain::AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) {
 }
 
 void frmMain::mnuBearbeiten_Öffnen() { anzeige.BearbeitenZeigen(); }
-
-void frmMain::NichtsAuswählen() {
-    AllesAbwählen(werkbank);
-    bedienung["mnuLöschen1"].Enabled = bedienung["mnuAusschneiden"].Enabled = false;
-    PaletteAuffrischen(werkbank);
-}
 
 void frmMain::Vorschau() {
     SeiteBestimmen(dokument, ansicht);

@@ -102,7 +102,6 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void UndoKnöpfeSperren();
     bool IstFrei(std::string_view name) const;
     void NachEreignis();
-    void NichtsAuswählen();
     void ZweiteStufe();
     void ListenFüllen();
     void DruckerErmitteln();

@@ -3,6 +3,7 @@
 
 #include "Familien.h"
 
+#include "app/Befehle.h"
 #include "app/Einblick.h"
 #include "app/frmMain.h"
 #include "editing/Loeschen.h"
@@ -93,9 +94,12 @@ void Löschen(benchmark::State &lauf) {
 void UndoUndRedo(benchmark::State &lauf) {
     Sitzung s(lauf);
     s.innen.fenster.Sichern();
+    Befehlsumgebung umgebung = s.innen.FürBefehle();
+    const auto [rückgängig, zurück] = BefehlFinden("cmdUndo");
+    const auto [wiederholen, vor] = BefehlFinden("cmdredo");
     for (auto _ : lauf) {
-        s.haupt.BefehlAusführen("cmdUndo");
-        s.haupt.BefehlAusführen("cmdredo");
+        rückgängig(umgebung, zurück);
+        wiederholen(umgebung, vor);
     }
 }
 

@@ -114,7 +114,7 @@ std::string Zufallsnutzer::Eintrag(std::string_view menü) {
 /// Lines for that form, whatever controls it has; without a last button it is left by its close box. An institution's
 /// "_" would be one field too many, by the form's own rules.
 std::string Zufallsnutzer::Formularzeilen(std::string_view name) {
-    Dialogumgebung umgebung = innen_->Umgebung();
+    Dialogumgebung umgebung = innen_->FürFormulare();
     const auto form = FormularErzeugen(name, umgebung);
     std::string zeilen = "answer colour 255\nform " + std::string(name) + (Würfel(3) ? "\nwait 200\n" : "\n"), danach;
     bool offen = true;
