@@ -2,12 +2,16 @@
 
 #include "app/Befehle.h"
 #include "app/Formulare.h"
+#include "commands/Menuetafel.h"
 #include "dialogs/frmEinstellungen.h"
 #include "document/Dateien.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Werkzeuge.h"
+#include "platform/Benutzer.h"
+#include "platform/Drucker.h"
 #include "rendering/Seite.h"
+#include "rendering/Zeichnung.h"
 
 namespace kw {
 
@@ -247,6 +251,12 @@ void frmMain::AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) {
 }
 
 void frmMain::mnuBearbeiten_Öffnen() { anzeige.BearbeitenZeigen(); }
+
+Zeichnung frmMain::DasBild() const { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
+
+void frmMain::Übernehmen(const Zeichenbefund &befund) { Anwenden(befund, dokument, ansicht, lage, legende); }
+
+void frmMain::AufPapier(Zeichenfläche &papier) { Übernehmen(DruckZeichnen(papier, DasBild())); }
 
 void frmMain::Vorschau() {
     SeiteBestimmen(dokument, ansicht);

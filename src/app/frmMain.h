@@ -7,7 +7,6 @@
 #include "app/Projekt.h"
 #include "app/Startangaben.h"
 #include "app/Werkzeughinweis.h"
-#include "commands/Menuetafel.h"
 #include "dialogs/Dialogumgebung.h"
 #include "document/Auswahlliste.h"
 #include "document/Dokument.h"
@@ -17,18 +16,20 @@
 #include "output/Arbeitsbereich.h"
 #include "output/Druckwerk.h"
 #include "output/basBildExport.h"
-#include "platform/Benutzer.h"
-#include "platform/Bilder.h"
-#include "platform/Drucker.h"
-#include "platform/Uhr.h"
-#include "rendering/Zeichnung.h"
+#include "platform/Bedienelemente.h"
 
 #include <string>
 #include <string_view>
 
 namespace kw {
 
+class Benutzer;
+class Bilder;
+class Drucker;
+class Uhr;
 struct Einblick;
+struct Zeichenbefund;
+struct Zeichnung;
 
 /// The platform as the main window sees it.
 struct Plattform {
@@ -109,10 +110,10 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void SpracheErfragen();
     void DatenÜbernehmen();
     void EinstellungenSichern();
-    Zeichnung DasBild() const { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
-    void Übernehmen(const Zeichenbefund &befund) { Anwenden(befund, dokument, ansicht, lage, legende); }
+    Zeichnung DasBild() const;
+    void Übernehmen(const Zeichenbefund &befund);
     /// One print run on a surface whose scale is set.
-    void AufPapier(Zeichenfläche &papier) { Übernehmen(DruckZeichnen(papier, DasBild())); }
+    void AufPapier(Zeichenfläche &papier);
     Dialogumgebung Umgebung();
 
     Plattform plattform;

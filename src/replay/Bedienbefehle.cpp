@@ -1,5 +1,6 @@
 #include "app/Befehle.h"
 #include "app/frmMain.h"
+#include "commands/Menuetafel.h"
 #include "editing/Werkzeuge.h"
 #include "replay/Programm.h"
 #include "replay/Skriptbefehle.h"

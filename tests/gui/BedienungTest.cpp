@@ -1,6 +1,7 @@
 // What the hand does: pointer on the canvas, palette, menus. Events go to the real widgets, what came of them is
 // read in the records and in the pixels that show.
 #include "app/Einblick.h"
+#include "document/saetze/Person.h"
 #include "app/frmMain.h"
 #include "document/Felder.h"
 #include "document/Zahlen.h"
