@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Satzregeln.h"
+
 #include "app/Einblick.h"
 #include "document/Dokument.h"
 #include "document/UndoRing.h"
@@ -17,28 +19,6 @@
 
 namespace kw {
 
-/// What of the program is compared before and after a line of a script.
-struct Stand {
-    Dokument dokument;
-    Leinwandlage lage;
-    Auswahl auswahl;
-    UndoRing ring;
-    int zoom = 0;
-    bool geändert = false;
-};
-
-/// A rule that a state breaks, and whom it is about: "P003" is a person, "L001" a partnership line.
-struct Verstoß {
-    std::string Art;
-    std::vector<std::string> Wer;
-
-    std::string Text() const {
-        std::string text = Art + ":";
-        for (const auto &wer : Wer) text += " " + wer;
-        return text;
-    }
-};
-
 /// Runs a script step by step and holds each state against the rules of the records. Where the program breaks one
 /// by its own rules this is excused at the step where it arises, for these elements only.
 class Prüfung {
@@ -51,8 +31,11 @@ class Prüfung {
 
   private:
     void BeiFormularenZusehen();
-    std::string Übergang();
-    std::string Projektwechsel(bool neu);
+    std::string Satzfehler();
+    std::string Schrittfehler();
+    std::string Sicherungsfehler();
+    std::string Rückschrittfehler(bool zurück);
+    std::string Projektfehler(bool neu);
 
     std::ostringstream aus_;
     Wiedergabe wiedergabe_{aus_};
