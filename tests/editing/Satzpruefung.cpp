@@ -119,6 +119,13 @@ constexpr Schrittregel OhneSicherung[] = {
          const auto wartet = [](Aktion a) { return a == Aktion::KreisGewählt || a == Aktion::PersonSetzen; };
          return wartet(s.Alt.lage.Aktion) || wartet(s.Neu.lage.Aktion); }},
 };
+
+/// What takes a snapshot though nothing has changed since the last one.
+constexpr Schrittregel SichertImmer[] = {
+    {"a size command", [](const Schritt &, const Verlangt &v) { return v.In("mnuSymbolGröße"); }},
+    {"a form that is confirmed",
+     [](const Schritt &, const Verlangt &v) { return v.Zeile.find("form ") != std::string::npos; }},
+};
 // clang-format on
 
 bool Entschuldigt(std::span<const Schrittregel> ausnahmen, const Schritt &s, const Verlangt &v) {
@@ -211,11 +218,15 @@ std::string Prüfung::Schrittfehler() {
     return v.Zurück() || v.Vor() ? Rückschrittfehler(v.Zurück()) : Sicherungsfehler();
 }
 
-/// A change is in a snapshot.
+/// A change is in a snapshot, and each snapshot has one.
 std::string Prüfung::Sicherungsfehler() {
     const Schritt s{alt_, jetzt_, zeile_, entschuldigt_};
     const Verlangt v(zeile_);
     const int vorher = alt_.ring.UndoPos(), platz = jetzt_.ring.UndoPos();
+    const auto letzte = plätze_.find(vorher);
+    const bool leer =
+        platz != vorher && letzte != plätze_.end() && Unterschied(letzte->second, jetzt_.dokument).empty();
+    if (leer && !Entschuldigt(SichertImmer, s, v)) return "snapshot without change";
     for (int p = vorher; p != platz; p = p % UndoRing::UndoTiefe + 1) plätze_.erase(p % UndoRing::UndoTiefe + 1);
     if (zeile_.find("press cmdLöschen") != std::string::npos) return ""; // deletes behind its snapshot
     if (platz != vorher) plätze_[platz] = jetzt_.dokument;
