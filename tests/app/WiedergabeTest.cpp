@@ -22,27 +22,14 @@ Ergebnis Gespielt(const std::string &skript) {
 
 /// A slip of the pen must not make a scenario that passes since it does nothing.
 TEST(Wiedergabe, HältAnWoSieNichtsVersteht) {
-    for (const std::string zeile : {"klick 1 1",
-                                    "print Nirgends",
-                                    "print shape Line9",
-                                    "print visible mnuNirgends",
-                                    "set UndoSchritte 1",
-                                    "store cboNirgends 1",
-                                    "menu mnuNirgends",
-                                    "key Ctrl+F12",
-                                    "tool 0",
-                                    "tool drillinge",
-                                    "popup mnuNirgends",
-                                    "raise Timer9",
-                                    "pick cboNirgends 0",
-                                    "pick cboRaster 99",
-                                    "down middle 1 1",
-                                    "down left 1",
-                                    "click 1,5 2",
-                                    "move - 1",
-                                    "answer maybe",
-                                    "wheel left",
-                                    "print \"title"}) {
+    // clang-format off
+    constexpr const char *Zeilen[] = {
+        "klick 1 1", "print Nirgends", "print shape Line9", "print visible mnuNirgends", "set UndoSchritte 1",
+        "store cboNirgends 1", "menu mnuNirgends", "key Ctrl+F12", "tool 0", "tool drillinge", "popup mnuNirgends",
+        "raise Timer9", "pick cboNirgends 0", "pick cboRaster 99", "down middle 1 1", "down left 1", "click 1,5 2",
+        "move - 1", "answer maybe", "wheel left", "print \"title"};
+    // clang-format on
+    for (const std::string zeile : Zeilen) {
         const Ergebnis e = Gespielt("# one\r\n" + zeile + "\nprint UndoTiefe\n");
         EXPECT_EQ(e.Code, 2) << zeile;
         EXPECT_TRUE(e.Text.starts_with("line 2: ")) << zeile << ": " << e.Text;

@@ -1,10 +1,10 @@
 #include "document/Profil.h"
 
 #include "document/Codepage.h"
+#include "replay/Skript.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -14,13 +14,6 @@ using namespace kw;
 using namespace std::string_literals;
 
 namespace {
-
-std::vector<std::string> Geteilt(const std::string &text, char trenner) {
-    std::vector<std::string> teile;
-    std::istringstream strom(text + trenner);
-    for (std::string teil; std::getline(strom, teil, trenner);) teile.push_back(teil);
-    return teile;
-}
 
 /// A recorded session with the profile calls, all texts in the bytes of the code page.
 struct Aufnahme {
@@ -53,22 +46,6 @@ std::vector<Aufnahme> Aufnahmen() {
     return alle;
 }
 
-std::string Klammern(char art, std::string ergebnis) {
-    ergebnis = NachCodepage(ergebnis);
-    std::replace(ergebnis.begin(), ergebnis.end(), '\0', '|');
-    return art + " "s + std::to_string(ergebnis.size()) + " [" + ergebnis + "]";
-}
-
-std::string Antwort(const std::string &datei, const std::string &ruf) {
-    const auto teile = Geteilt(NachUtf8(ruf), '\t');
-    switch (ruf[0]) {
-    case 'W': return "W "s + (ProfilSchreiben(datei, teile.at(1), teile.at(2), teile.at(3)) ? "1" : "0");
-    case 'D': return "D "s + (ProfilSchreiben(datei, teile.at(1), {}, {}) ? "1" : "0");
-    case 'R': return Klammern('R', ProfilLesen(datei, teile.at(1), teile.at(2)));
-    default: return Klammern('K', ProfilLesen(datei, teile.at(1), {}));
-    }
-}
-
 class AufgenommenesProfil : public testing::TestWithParam<Aufnahme> {};
 
 } // namespace
@@ -78,13 +55,11 @@ TEST_P(AufgenommenesProfil, AntwortetWieAufgenommen) {
     const auto pfad =
         std::filesystem::temp_directory_path() / ("kw-profil-" + fall.Name + "-" + std::to_string(::getpid()) + ".ini");
     std::ofstream(pfad) << fall.Vorher;
-    std::istringstream rufe(fall.Rufe);
-    std::istringstream antworten(fall.Antworten);
-    int verglichen = 0;
-    for (std::string ruf, antwort; std::getline(rufe, ruf) && std::getline(antworten, antwort); ++verglichen) {
-        EXPECT_EQ(Antwort(pfad, ruf), antwort) << ruf;
-    }
-    EXPECT_GT(verglichen, 0);
+    std::istringstream rufe("profil " + pfad.string() + "\n" + NachUtf8(fall.Rufe) + "end\n");
+    std::ostringstream antworten;
+    EXPECT_EQ(Wiedergabe(antworten).Ausführen(rufe), 0);
+    EXPECT_EQ(NachCodepage(antworten.str()), fall.Antworten);
+    EXPECT_NE(fall.Antworten, "");
     std::filesystem::remove(pfad);
 }
 

@@ -12,3 +12,11 @@ inline QString Ausgegeben(const char *programm, const QStringList &worte) {
     EXPECT_TRUE(prozess.waitForFinished() && prozess.exitCode() == 0) << programm;
     return QString::fromUtf8(prozess.readAllStandardOutput());
 }
+
+/// Whether each font of a PDF, at least one, is in the file itself.
+inline void SchriftenEnthalten(const QString &pdf) {
+    const QStringList schriften = Ausgegeben("pdffonts", {pdf}).split(u'\n', Qt::SkipEmptyParts).mid(2);
+    EXPECT_FALSE(schriften.empty());
+    for (const QString &schrift : schriften)
+        EXPECT_EQ(schrift.simplified().section(u' ', -5, -5), QStringLiteral("yes")) << schrift.toStdString();
+}
