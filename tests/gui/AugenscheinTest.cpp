@@ -194,6 +194,10 @@ TEST_F(Augenschein, FensterZeigtAllesGanz) {
         EXPECT_TRUE(fenster.windowTitle().contains(QStringLiteral("familie"))) << fenster.windowTitle().toStdString();
         for (QWidget *teil : {static_cast<QWidget *>(fenster.menuBar()), fenster.centralWidget()})
             EXPECT_TRUE(ZeigtEtwas(*teil)) << wo;
+        fenster.showMinimized();
+        fenster.NachVorn();
+        EXPECT_FALSE(fenster.isMinimized());
+        EXPECT_TRUE(fenster.close()) << "nothing has changed, nothing is asked";
         QFile::remove(QString::fromStdString(einstellungen));
     });
 }
