@@ -1,3 +1,6 @@
+#include "dialogs/Formular.h"
+#include "replay/Aufzeichnung.h"
+#include "replay/Programm.h"
 #include "replay/Skript.h"
 
 #include <gtest/gtest.h>

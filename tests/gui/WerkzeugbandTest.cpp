@@ -3,6 +3,7 @@
 #include "app/Befehle.h"
 #include "app/frmMain.h"
 #include "commands/Bildertafel.h"
+#include "commands/Menuetafel.h"
 #include "qt/fenster/Arbeitsflaeche.h"
 #include "qt/fenster/Bandknopf.h"
 #include "qt/fenster/Symbolleiste.h"
