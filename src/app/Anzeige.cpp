@@ -8,7 +8,9 @@
 #include "document/Papier.h"
 #include "document/UndoRing.h"
 #include "document/Zahlen.h"
-#include "editing/Zwischenablage.h"
+#include "editing/Ablage.h"
+#include "editing/Leinwandlage.h"
+#include "editing/Werkzeuge.h"
 #include "output/Arbeitsbereich.h"
 #include "output/Druckwerk.h"
 #include "platform/Bedienelemente.h"
@@ -119,9 +121,39 @@ void Anzeige::UndoKnöpfeZeigen() {
     bedienung_["btnRedo"].Enabled = bedienung_["mnuWiederholen"].Enabled = z_.ring.RedoSchritte() >= 1;
 }
 
-void Anzeige::BearbeitenZeigen() {
-    bedienung_["mnuAusschneiden"].Enabled = bedienung_["mnuKopieren"].Enabled = z_.auswahl.HatKopierbares();
-    bedienung_["mnuEinfügen"].Enabled = z_.ablage.HatEtwas();
+void Anzeige::UndoKnöpfeSperren() { bedienung_["btnUndo"].Enabled = bedienung_["btnRedo"].Enabled = false; }
+
+/// The entries for the selection, as the gestures have left them.
+void Anzeige::AngebotZeigen() {
+    const Angebot &angebot = z_.lage.Angebot;
+    bedienung_["mnuLöschen1"].Enabled = angebot.Löschen;
+    bedienung_["mnuAusschneiden"].Enabled = angebot.Ausschneiden;
+    bedienung_["mnuKopieren"].Enabled = angebot.Kopieren;
+    bedienung_["mnuEinfügen"].Enabled = angebot.Einfügen;
+    bedienung_["mnuSymbolVergrößern"].Enabled = angebot.Vergrößern;
+    bedienung_["mnuSymbolVerkleinern"].Enabled = angebot.Verkleinern;
+    bedienung_["mnuMakeTwins"].Visible = angebot.Zwillinge;
+    bedienung_["mnuEinfügen8"].Visible = bedienung_["mnustr15"].Visible = angebot.EinfügenImKontext;
+    bedienung_["mnuEinfügen8"].Enabled = z_.ablage.HatEtwas();
+    for (const char *eintrag : {"mnuBeziehungErstellen2", "mnuPartnerschaftsLinie", "mnuKindVon", "mnuStr2"})
+        bedienung_[eintrag].Visible = angebot.Verknüpfen;
+    bedienung_["mnuKindVon"].Enabled = angebot.AlsKind;
+}
+
+void Anzeige::PaletteZeigen() {
+    for (int nummer = 1; nummer <= WerkzeugAnzahl; ++nummer) {
+        Bedienelement &knopf = bedienung_[WerkzeugName(nummer)];
+        knopf.Checked = WerkzeugGedrückt(nummer, z_.lage);
+        knopf.Enabled = WerkzeugBrauchbar(nummer, z_.dokument, z_.lage);
+    }
+    bedienung_["cmdDelete"].Enabled = z_.lage.Aktion == Aktion::GruppeGewählt;
+    bedienung_["btnAuswahlZuBild"].Checked = z_.lage.BildAuswahl && z_.lage.bAuswahlInDatei;
+}
+
+void Anzeige::MöglichesZeigen() {
+    UndoKnöpfeZeigen();
+    AngebotZeigen();
+    PaletteZeigen();
 }
 
 } // namespace kw

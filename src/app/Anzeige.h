@@ -8,9 +8,9 @@ class Chronik;
 class Druckwerk;
 class UndoRing;
 struct Ansicht;
-struct Auswahl;
 struct Auswahlliste;
 struct Dokument;
+struct Leinwandlage;
 struct Zwischenablage;
 
 /// What menus and toolbar show of the model's state: captions, ticks, what can be pressed. It reads the state and
@@ -21,7 +21,7 @@ class Anzeige {
     struct Zustand {
         const Dokument &dokument;
         const Ansicht &ansicht;
-        const Auswahl &auswahl;
+        const Leinwandlage &lage;
         const Zwischenablage &ablage;
         const UndoRing &ring;
         const Chronik &zuletzt;
@@ -53,12 +53,16 @@ class Anzeige {
     void RasterweiteZeigen();
     /// Whether the tool palette is shown.
     void WerkzeugleisteZeigen();
-    /// Undo and redo, as the ring has steps.
-    void UndoKnöpfeZeigen();
-    /// Cut, copy and paste in the edit menu.
-    void BearbeitenZeigen();
+    /// What can be chosen now, of menus, toolbar and palette, and which tool is in hand: after every event and redraw.
+    void MöglichesZeigen();
+    /// Undo and redo off, whatever the ring holds: the document is about to go.
+    void UndoKnöpfeSperren();
 
   private:
+    void UndoKnöpfeZeigen();
+    void AngebotZeigen();
+    void PaletteZeigen();
+
     Bedienelemente &bedienung_;
     const Zustand z_;
 };

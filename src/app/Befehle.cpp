@@ -25,6 +25,7 @@
 #include "output/Druckwerk.h"
 #include "output/basBildExport.h"
 
+#include "platform/Bedienelemente.h"
 #include <algorithm>
 
 namespace kw {
@@ -48,7 +49,7 @@ void Lage(Befehlsumgebung &u, int seitenlage) { u.darstellung.LageWählen(seiten
 
 /// The paste entries of the context menus go when they have been used.
 void EinfügenImKontext(Befehlsumgebung &u, int) {
-    u.werkbank.bedienung["mnuEinfügen8"].Visible = u.werkbank.bedienung["mnustr15"].Visible = false;
+    u.werkbank.lage.Angebot.EinfügenImKontext = false;
     Einfügen(u.werkbank);
 }
 
@@ -79,7 +80,6 @@ void LegendeAktualisieren(Befehlsumgebung &u, int) {
 /// One step back or forward in the ring; afterwards nothing is selected and no gesture runs.
 template <bool (UndoRing::*Gehen)(Dokument &)> void Schritt(Befehlsumgebung &u, int) {
     if (!(u.ring.*Gehen)(u.werkbank.dokument)) return;
-    u.werkbank.fenster.UndoKnöpfeSetzen();
     NichtsAuswählen(u.werkbank);
     u.werkbank.fenster.Vorschau();
 }
@@ -92,7 +92,7 @@ void PdfErzeugen(Befehlsumgebung &u, int) {
 /// The manual, in the default browser. The caption of the menu bar tells the language, whatever the settings say.
 /// Meant.
 void HilfeÖffnen(Befehlsumgebung &u, int) {
-    const std::string &datei = u.werkbank.bedienung["mnuDatei"].Caption;
+    const std::string &datei = u.bedienung.Finden("mnuDatei")->Caption;
     const char *sprache = datei == "Datei" ? "de" : datei == "File" ? "en" : nullptr;
     if (!sprache) return;
     u.werkbank.benutzer.AdresseÖffnen("file://" + u.start.Hilfeordner + "/" + sprache + "/index.htm");
@@ -250,8 +250,7 @@ Befehl AusReihe(std::string_view name) {
 
 void NichtsAuswählen(Werkbank &w) {
     AllesAbwählen(w);
-    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = false;
-    PaletteAuffrischen(w);
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = false;
 }
 
 Befehl BefehlFinden(std::string_view name) {

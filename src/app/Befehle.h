@@ -5,6 +5,7 @@
 namespace kw {
 
 class Arbeitsbereich;
+class Bedienelemente;
 class Bildexport;
 class Darstellung;
 class Datenimport;
@@ -26,6 +27,7 @@ struct Befehlsumgebung {
     Bildexport &bildexport;
     UndoRing &ring;
     Dialogdienste &dienste;
+    const Bedienelemente &bedienung;
     const Startangaben &start;
 };
 

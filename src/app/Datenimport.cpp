@@ -8,6 +8,7 @@
 #include "editing/Personen.h"
 #include "editing/Werkbank.h"
 
+#include "platform/Bedienelemente.h"
 #include <algorithm>
 
 namespace kw {

@@ -23,7 +23,7 @@ Dialogumgebung Einblick::FürFormulare() const {
 }
 
 Befehlsumgebung Einblick::FürBefehle() const {
-    return {werkbank, projekt, darstellung, bereich, import, druck, bildexport, ring, dienste, start};
+    return {werkbank, projekt, darstellung, bereich, import, druck, bildexport, ring, dienste, bedienung, start};
 }
 
 } // namespace kw

@@ -72,7 +72,7 @@ void Projekt::InhaltLesen() {
 /// Before another project comes.
 void Projekt::RingUndAuswahlLeeren() {
     inhalt_.ring.Leeren();
-    umfeld_.anzeige.UndoKnöpfeZeigen();
+    umfeld_.anzeige.MöglichesZeigen();
     umfeld_.abwählen();
 }
 

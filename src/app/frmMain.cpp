@@ -34,15 +34,14 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       bereich(canvas, ansicht, start.BildschirmBreite, start.BildschirmHöhe,
               {[this] { Vorschau(); }, [this] { anzeige.ZoomZeigen(); }}),
       druck(plattform.drucker, plattform.benutzer, ansicht, bedienung),
-      anzeige(bedienung, {dokument, ansicht, auswahl, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster, druck}),
+      anzeige(bedienung, {dokument, ansicht, lage, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster, druck}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, *this), hinweis(bedienung, plattform.benutzer),
       bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
       projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt},
               {ansicht, anzeige, plattform.benutzer, *this, *this, [this] { NichtsAuswählen(werkbank); }},
               start.IniDatei),
       import(start, {dokument, lage, ansicht}, projekt, bedienung, plattform.benutzer, *this),
-      werkbank{dokument,           ansicht, auswahl, lage, auflagen, ablage, legende, bedienung, picVorschau,
-               plattform.benutzer, *this},
+      werkbank{dokument, ansicht, auswahl, lage, auflagen, ablage, legende, picVorschau, plattform.benutzer, *this},
       leinwand(werkbank), Kommandozeile(Entpackt(start.Kommandozeile)) {
     BedienelementeAnlegen(bedienung);
 }
@@ -111,7 +110,7 @@ bool frmMain::Schließen() {
     projekt.SpeichernAbgebrochen = false;
     const bool gefragt = projekt.Geändert;
     if (!projekt.NachÄnderungenFragen()) return false;
-    if (gefragt) UndoKnöpfeSperren();
+    if (gefragt) anzeige.UndoKnöpfeSperren();
     EinstellungenSichern();
     return true;
 }
@@ -141,7 +140,7 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
 
 /// What every event ends with: the palette follows, the face shows it.
 void frmMain::NachEreignis() {
-    PaletteAuffrischen(werkbank);
+    anzeige.MöglichesZeigen();
     plattform.benutzer.AnzeigeAuffrischen();
 }
 
@@ -194,7 +193,8 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     if (GehörtZu(name, "mnuBearbeiten")) mnuBearbeiten_Öffnen();
     if (!IstFrei(name)) return false;
     leinwand.GesteAbbrechen();
-    Befehlsumgebung umgebung{werkbank, projekt, darstellung, bereich, import, druck, bildexport, ring, *this, start};
+    Befehlsumgebung umgebung{werkbank,   projekt, darstellung, bereich,   import, druck,
+                             bildexport, ring,    *this,       bedienung, start};
     befehl.Ausführen(umgebung, befehl.Nummer);
     NachEreignis();
     return true;
@@ -250,7 +250,11 @@ void frmMain::AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) {
     else bildexport.AusschnittKopieren(cm);
 }
 
-void frmMain::mnuBearbeiten_Öffnen() { anzeige.BearbeitenZeigen(); }
+void frmMain::mnuBearbeiten_Öffnen() {
+    lage.Angebot.Ausschneiden = lage.Angebot.Kopieren = auswahl.HatKopierbares();
+    lage.Angebot.Einfügen = ablage.HatEtwas();
+    anzeige.MöglichesZeigen();
+}
 
 Zeichnung frmMain::DasBild() const { return {dokument, ansicht, auswahl, lage, legende, plattform.uhr}; }
 
@@ -261,17 +265,14 @@ void frmMain::AufPapier(Zeichenfläche &papier) { Übernehmen(DruckZeichnen(papi
 void frmMain::Vorschau() {
     SeiteBestimmen(dokument, ansicht);
     Übernehmen(VorschauZeichnen(picVorschau, DasBild()));
+    anzeige.MöglichesZeigen();
     plattform.benutzer.AnzeigeAuffrischen();
 }
 
 void frmMain::Sichern() {
     ring.Sichern(dokument);
-    UndoKnöpfeSetzen();
+    anzeige.MöglichesZeigen();
     projekt.Geändert = true;
 }
-
-void frmMain::UndoKnöpfeSetzen() { anzeige.UndoKnöpfeZeigen(); }
-
-void frmMain::UndoKnöpfeSperren() { bedienung["btnUndo"].Enabled = bedienung["btnRedo"].Enabled = false; }
 
 } // namespace kw

@@ -90,7 +90,6 @@ class frmMain : private Fensterdienste, private Dialogdienste {
 
     // What editing and forms ask of the window.
     void Sichern() override;
-    void UndoKnöpfeSetzen() override;
     void AlsGeändertMerken() override { projekt.Geändert = true; }
     void PopupÖffnen(std::string_view menü) override;
     void FormÖffnen(std::string_view name) override;
@@ -99,8 +98,6 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     bool GenogrammDrucken() override;
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
 
-    /// Both off, whatever the ring holds: the document is about to go.
-    void UndoKnöpfeSperren();
     bool IstFrei(std::string_view name) const;
     void NachEreignis();
     void ZweiteStufe();

@@ -182,7 +182,7 @@ void frmSymbol::PersonLaden() {
 void frmSymbol::Entladen() {
     MarkierungsListBoxenLöschen(umgebung_.werkbank);
     KeineAktion(umgebung_.werkbank);
-    umgebung_.werkbank.bedienung["mnuLöschen1"].Enabled = false;
+    umgebung_.werkbank.lage.Angebot.Löschen = false;
 }
 
 void frmSymbol::Zeitgeber(std::string_view name) {

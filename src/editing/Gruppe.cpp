@@ -74,7 +74,7 @@ bool RahmenBeginnen(Werkbank &w, const Ereignis &e) {
     w.lage.AnkerX = Raster(w, e.X);
     w.lage.AnkerY = Raster(w, e.Y);
     if (!e.Rechts()) return true;
-    w.bedienung["mnuEinfügen8"].Visible = w.bedienung["mnustr15"].Visible = true;
+    w.lage.Angebot.EinfügenImKontext = true;
     PopupÖffnen(w, "mnuSymbolEinfügen");
     if (w.lage.Aktion == Aktion::RahmenZiehen) RahmenAuswählen(w); // dismissed: the end of an empty marquee
     return true;
@@ -96,7 +96,7 @@ void RahmenAuswählen(Werkbank &w) {
     for (const Gruppenart *art : Arten) Eintragen(*art, d, kasten, w.ansicht.Rasterweite, a);
 
     const bool etwas = !a.Leer();
-    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = etwas;
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = etwas;
     w.lage.Aktion = etwas ? Aktion::GruppeGewählt : Aktion::Nichts;
     if (!etwas) AuswahlrahmenParken(w);
     w.fenster.Vorschau();
@@ -122,7 +122,7 @@ bool GruppeFassen(Werkbank &w, const Ereignis &e) {
     w.lage.VersatzY = e.Y - rahmen.Top;
     if (e.Rechts()) {
         w.lage.Zeiger = Mauszeiger::Pfeil; // no drag follows
-        w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
+        w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
         PopupÖffnen(w, "mnuAuswahlBox");
     }
     return true;
@@ -136,7 +136,7 @@ void GruppeZiehen(Werkbank &w, const Ereignis &e) {
 void GruppeLoslassen(Werkbank &w, const Ereignis &) {
     Leinwandlage &lage = w.lage;
     const Auflagenform &rahmen = w.auflagen.shpBox;
-    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
     lage.DeltaX = Weg(rahmen.Left, lage.AltX);
     lage.DeltaY = Weg(rahmen.Top, lage.AltY);
     if (w.auswahl.Leer() || (lage.DeltaX == 0 && lage.DeltaY == 0)) return;
@@ -184,7 +184,7 @@ void mnuLöschen1(Werkbank &w) {
         AuswahlLöschen(w);
         MarkierungsListBoxenLöschen(w);
     }
-    w.bedienung["mnuLöschen1"].Enabled = false;
+    w.lage.Angebot.Löschen = false;
 }
 
 void mnuSymbolLöschen(Werkbank &w) {
@@ -195,7 +195,7 @@ void mnuSymbolLöschen(Werkbank &w) {
     MarkerEntfernen(w);
     w.lage.Aktion = Aktion::Nichts;
     w.auflagen.shpMask.Visible = false;
-    w.bedienung["mnuLöschen1"].Enabled = false;
+    w.lage.Angebot.Löschen = false;
 }
 
 void cmdDelete(Werkbank &w) {

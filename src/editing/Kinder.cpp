@@ -80,7 +80,7 @@ bool KindLinieTreffer(Werkbank &w, double x, double y) {
     return true;
 }
 
-void KindLinieLoslassen(Werkbank &w, const Ereignis &) { w.bedienung["mnuLöschen1"].Enabled = true; }
+void KindLinieLoslassen(Werkbank &w, const Ereignis &) { w.lage.Angebot.Löschen = true; }
 
 void mnuKindVon(Werkbank &w) {
     RubberStart(w);
@@ -130,7 +130,7 @@ void KindLinieEntfernen(Werkbank &w) {
     w.lage.KindAuswahl = -1;
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();
-    w.bedienung["mnuLöschen1"].Enabled = false;
+    w.lage.Angebot.Löschen = false;
     w.fenster.Vorschau();
 }
 

@@ -105,7 +105,7 @@ bool KreisTreffen(Werkbank &w, const Ereignis &e) {
 bool KreisGewählt(Werkbank &w, const Ereignis &e) {
     if (w.lage.Aktion != Aktion::KreisGewählt) return false;
     MarkerEntfernen(w);
-    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
     if (!w.lage.KreisGetroffen) { // the press only ends the selection
         w.auswahl.lstMovedKreisLinien.Leeren();
         w.lage.Aktion = Aktion::Nichts;

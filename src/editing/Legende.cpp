@@ -7,8 +7,8 @@ namespace kw {
 
 bool LegendeUnterMaus(const Werkbank &w) {
     const Dokument &d = w.dokument;
-    return w.bedienung["btnLegende"].Checked && Kleiner(d.LegendeX, w.lage.MausX) &&
-           Kleiner(d.LegendeY, w.lage.MausY) && Kleiner(w.lage.MausX, d.LegendeX + w.legende.LegendeBreite) &&
+    return d.LegendeSichtbar && Kleiner(d.LegendeX, w.lage.MausX) && Kleiner(d.LegendeY, w.lage.MausY) &&
+           Kleiner(w.lage.MausX, d.LegendeX + w.legende.LegendeBreite) &&
            Kleiner(w.lage.MausY, d.LegendeY + w.legende.LegendeHoehe);
 }
 

@@ -25,10 +25,9 @@ bool Zurücksetzen(Werkbank &w, const Ereignis &e) {
     // The last release got lost; a dragged circle line has moved already.
     if (std::exchange(w.lage.Gedrückt, true) && w.lage.Aktion == Aktion::KreisGewählt) KreisLoslassen(w, e);
     w.auflagen.Line5.Visible = false;
-    w.bedienung["mnuLöschen1"].Enabled = false;
+    w.lage.Angebot.Löschen = false;
     w.auflagen.shpMask.Visible = false;
     w.lage.Info.Visible = false;
-    w.bedienung["mnustr14"].Visible = false;
     return false;
 }
 
@@ -54,7 +53,7 @@ bool LinieWarGewählt(Werkbank &w, const Ereignis &e) {
                                                                    : nullptr;
     if (!menü) return false;
     if (e.Rechts()) {
-        w.bedienung["mnuLöschen1"].Enabled = true;
+        w.lage.Angebot.Löschen = true;
         PopupÖffnen(w, menü);
         return true;
     }
@@ -171,7 +170,6 @@ void Leinwand::MouseUp(int taste, double x, double y) {
     w.auflagen.Line1.Visible = w.auflagen.Line5.Visible = false;
     w.lage.Zeiger = Mauszeiger::Pfeil;
     Gummi2Parken(w);
-    w.fenster.UndoKnöpfeSetzen();
     const Ereignis e{taste, x, y};
     for (const Ende &ende : Enden) {
         if (ende.Aktion != w.lage.Aktion) continue;

@@ -25,6 +25,21 @@ struct Personeninfo {
     bool Erkrankung = false;
 };
 
+/// What menus offer for the selection. Told by the gestures and not read off the selection: a press takes back what the
+/// release gives again, a dismissed menu leaves it, and of the sizes the last command has the word.
+struct Angebot {
+    bool Löschen = false;
+    bool Ausschneiden = false; ///< copying and pasting too, as the edit menu found them when it was opened last
+    bool Kopieren = false;
+    bool Einfügen = false;
+    bool EinfügenImKontext = false; ///< pasting stands in the menu of the empty page
+    bool Vergrößern = true;         ///< the selected person
+    bool Verkleinern = true;
+    bool Zwillinge = false; ///< two siblings are selected that can become twins
+    bool Verknüpfen = true; ///< the person whose menu was opened last
+    bool AlsKind = true;    ///< the same: it has no parents
+};
+
 /// What the canvas remembers between two events. Lengths and places are centimetres on the page.
 struct Leinwandlage : Gestenlage {
     int SymbolTyp = 0;        ///< of the tool or of the selected person
@@ -83,6 +98,7 @@ struct Leinwandlage : Gestenlage {
 
     Mauszeiger Zeiger = Mauszeiger::Pfeil;
     Personeninfo Info;
+    kw::Angebot Angebot;
 };
 
 } // namespace kw

@@ -100,7 +100,7 @@ bool BezLinieTreffer(Werkbank &w, double x, double y) {
     w.lage.BezAuswahl = i;
     MarkierungsListBoxenLöschen(w);
     w.lage.Aktion = Aktion::BeziehungGewählt;
-    w.bedienung["mnuLöschen1"].Enabled = true;
+    w.lage.Angebot.Löschen = true;
     w.fenster.Vorschau();
     return true;
 }
@@ -136,7 +136,7 @@ void BalkenLoslassen(Werkbank &w, const Ereignis &) {
     }
     w.fenster.Vorschau();
     if (verschoben) w.fenster.Sichern();
-    w.bedienung["mnuLöschen1"].Enabled = !verschoben;
+    w.lage.Angebot.Löschen = !verschoben;
 }
 
 void BezLinieLoslassen(Werkbank &w, const Ereignis &e) {

@@ -7,8 +7,8 @@ namespace kw {
 
 void MarkierungsListBoxenLöschen(Werkbank &w) {
     w.auswahl = {};
-    w.bedienung["mnuMakeTwins"].Visible = false; // it was offered for what the lists held
-    w.lage.Info.Visible = false;                 // and the panel told of whom they held
+    w.lage.Angebot.Zwillinge = false; // it was offered for what the lists held
+    w.lage.Info.Visible = false;      // and the panel told of whom they held
 }
 
 void MarkerParken(Werkbank &w) {
@@ -71,6 +71,7 @@ void PositionenVergessen(Leinwandlage &lage) {
 void AllesAbwählen(Werkbank &w) {
     MarkierungsListBoxenLöschen(w);
     const Leinwandlage vorher = std::exchange(w.lage, {});
+    w.lage.Angebot = vorher.Angebot;
     w.lage.MausX = vorher.MausX; // the pointer stays where it is, and what was measured last remains so
     w.lage.MausY = vorher.MausY;
     w.lage.AuswahlGröße = vorher.AuswahlGröße;
@@ -82,7 +83,7 @@ void LöschenAbschließen(Werkbank &w) {
     PositionenVergessen(w.lage);
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();
-    w.bedienung["mnuLöschen1"].Enabled = false;
+    w.lage.Angebot.Löschen = false;
     w.fenster.Vorschau();
 }
 

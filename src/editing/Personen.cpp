@@ -47,9 +47,8 @@ void Anhängen(Dokument &d, int typ, double x, double y, double größe) {
 /// Its menu: an institution can't be linked, and a child of somebody can't become another's.
 void MenüÖffnen(Werkbank &w, const PersonSatz &person) {
     w.lage.Aktion = Aktion::MenüOffen;
-    for (const char *eintrag : {"mnuBeziehungErstellen2", "mnuPartnerschaftsLinie", "mnuKindVon", "mnuStr2"})
-        w.bedienung[eintrag].Visible = w.lage.SymbolTyp != TypInstitution;
-    w.bedienung["mnuKindVon"].Enabled = !person.HatEltern();
+    w.lage.Angebot.Verknüpfen = w.lage.SymbolTyp != TypInstitution;
+    w.lage.Angebot.AlsKind = !person.HatEltern();
     PopupÖffnen(w, "mnuPerson");
 }
 
@@ -141,7 +140,7 @@ bool PersonTreffen(Werkbank &w, const Ereignis &e) {
     if (i < 0) return false;
     PersonAuswählen(w, i);
     Gummi1Parken(w);
-    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
     const PersonSatz person(w.lage.PersRecord);
     w.lage.VersatzX = e.X - person.PosX();
     w.lage.VersatzY = e.Y - person.PosY();

@@ -24,9 +24,7 @@ void PfeilFassen(Werkbank &w) {
     w.auflagen.Line5.Legen(pfeil.X1(), pfeil.Y1(), w.lage.PfeilEndeX, w.lage.PfeilEndeY);
 }
 
-void LöschenUndAusschneidenAnbieten(Werkbank &w) {
-    w.bedienung["mnuAusschneiden"].Enabled = w.bedienung["mnuLöschen1"].Enabled = true;
-}
+void LöschenUndAusschneidenAnbieten(Werkbank &w) { w.lage.Angebot.Ausschneiden = w.lage.Angebot.Löschen = true; }
 
 /// Whether a sample of the arrow lies in the box. Samples begin at the first end, of an upright arrow at the upper
 /// one, and step by the raster along the longer axis.
@@ -171,7 +169,7 @@ void PfeilEndeLoslassen(Werkbank &w, const Ereignis &e) {
 }
 
 void PfeilLoslassen(Werkbank &w, const Ereignis &e) {
-    w.bedienung["mnuLöschen1"].Enabled = true;
+    w.lage.Angebot.Löschen = true;
     if (e.Rechts()) {
         w.fenster.PopupÖffnen("mnuPfeil1");
         return;

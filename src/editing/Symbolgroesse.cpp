@@ -61,23 +61,23 @@ void mnuSymbolVergrößern(Werkbank &w) {
     GrößeÄndern(w, GrößenSchritt);
     const auto maß = Gewählte(w);
     if (!maß) return;
-    w.bedienung["mnuSymbolVergrößern"].Enabled = Kleiner(maß->Größe, maß->Grenzen.MenüEnde);
-    w.bedienung["mnuSymbolVerkleinern"].Enabled = true;
+    w.lage.Angebot.Vergrößern = Kleiner(maß->Größe, maß->Grenzen.MenüEnde);
+    w.lage.Angebot.Verkleinern = true;
 }
 
 void mnuSymbolVerkleinern(Werkbank &w) {
     GrößeÄndern(w, -GrößenSchritt);
     const auto maß = Gewählte(w);
     if (!maß) return;
-    w.bedienung["mnuSymbolVerkleinern"].Enabled = Kleiner(maß->Grenzen.Kleinste, maß->Größe);
-    w.bedienung["mnuSymbolVergrößern"].Enabled = true;
+    w.lage.Angebot.Verkleinern = Kleiner(maß->Grenzen.Kleinste, maß->Größe);
+    w.lage.Angebot.Vergrößern = true;
 }
 
 void GrößeMenüsPrüfen(Werkbank &w) {
     const auto maß = Gewählte(w);
     if (!maß) return;
-    w.bedienung["mnuSymbolVergrößern"].Enabled = Kleiner(maß->Größe, maß->Grenzen.Größte);
-    w.bedienung["mnuSymbolVerkleinern"].Enabled = Kleiner(maß->Grenzen.Kleinste, maß->Größe);
+    w.lage.Angebot.Vergrößern = Kleiner(maß->Größe, maß->Grenzen.Größte);
+    w.lage.Angebot.Verkleinern = Kleiner(maß->Grenzen.Kleinste, maß->Größe);
 }
 
 } // namespace kw

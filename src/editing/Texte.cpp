@@ -108,7 +108,7 @@ void TextZiehen(Werkbank &w, const Ereignis &e) {
 }
 
 void TextLoslassen(Werkbank &w, const Ereignis &e) {
-    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
     if (e.Rechts()) {
         w.lage.Aktion = Aktion::MenüOffen;
         w.fenster.PopupÖffnen("mnuTextBox");

@@ -4,7 +4,6 @@
 #include "editing/Ablage.h"
 #include "editing/Auflagen.h"
 #include "editing/Leinwandlage.h"
-#include "platform/Bedienelemente.h"
 #include "platform/Benutzer.h"
 #include "platform/Bilder.h"
 #include "rendering/Ansicht.h"
@@ -26,7 +25,6 @@ class Fensterdienste {
     virtual void Sichern() = 0;
     /// Marks the document as changed: what no snapshot holds.
     virtual void AlsGeändertMerken() = 0;
-    virtual void UndoKnöpfeSetzen() = 0;
     /// Shows a context menu at the pointer and runs what the user picks there, before it returns.
     virtual void PopupÖffnen(std::string_view menü) = 0;
     /// Shows a form modally; what it changes is changed when this returns.
@@ -35,8 +33,8 @@ class Fensterdienste {
     virtual void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) = 0;
 };
 
-/// All that the editing routines work on. Each routine stands with what it changes and gets the bench as its
-/// first argument.
+/// What a gesture works on: an event or a command can change any of it. Routines that are no whole gesture take what
+/// they change instead.
 struct Werkbank {
     Dokument &dokument;
     Ansicht &ansicht;
@@ -45,12 +43,9 @@ struct Werkbank {
     Auflagen &auflagen;
     Zwischenablage &ablage;
     Legendenblatt &legende;
-    Bedienelemente &bedienung;
     Zeichenfläche &picVorschau;
     Benutzer &benutzer;
     Fensterdienste &fenster;
-
-    bool IstDeutsch() const { return ansicht.Sprache == Sprache::Deutsch; }
 };
 
 } // namespace kw

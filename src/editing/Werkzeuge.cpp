@@ -1,11 +1,12 @@
 #include "editing/Werkzeuge.h"
 
-#include "document/Felder.h"
-#include "document/Texte.h"
-#include "document/Zahlen.h"
+#include "document/Nachschlagen.h"
+#include "document/saetze/Person.h"
 #include "editing/Kinder.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
+
+#include <algorithm>
 
 namespace kw {
 
@@ -43,41 +44,45 @@ constexpr Werkzeug Werkzeuge[] = {
     {20, Aktion::PersonSetzen, TypDivers, GrößeNormal},
 };
 
-bool HatPerson(const Werkbank &w) {
-    return w.lage.PersAuswahl > 0 && w.lage.PersAuswahl <= w.dokument.cboPersonen.Anzahl();
-}
+bool HatPerson(const Dokument &d, const Leinwandlage &lage) { return Gültig(d.cboPersonen, lage.PersAuswahl - 1); }
 
 /// A child of somebody can't become another's.
-bool KannKindWerden(const Werkbank &w) {
-    if (!HatPerson(w) || ZahlLesen(w.lage.PersNr) < 1) return false;
-    const Felder feld(w.dokument.cboPersonen.Satz(w.lage.PersAuswahl - 1));
-    return Getrimmt(feld.OderLeer(PersonFeld::ElternLinie)).empty();
+bool KannKindWerden(const Dokument &d, const Leinwandlage &lage) {
+    return HatPerson(d, lage) && ZahlLesen(lage.PersNr) >= 1 &&
+           !PersonSatz(d.cboPersonen.Satz(lage.PersAuswahl - 1), Lücken::Leer).HatEltern();
 }
 
-bool Brauchbar(const Werkbank &w, int nummer) {
-    if (nummer == WerkzeugKind) return KannKindWerden(w);
-    return (nummer != WerkzeugBeziehung && nummer != WerkzeugPartnerschaft) || HatPerson(w);
+const Werkzeug *WerkzeugFinden(int nummer) {
+    const auto *werkzeug =
+        std::find_if(std::begin(Werkzeuge), std::end(Werkzeuge), [&](const Werkzeug &z) { return z.Nummer == nummer; });
+    return werkzeug == std::end(Werkzeuge) ? nullptr : werkzeug;
 }
 
 /// The links start from the selected person; without one nothing is armed.
 bool LinkBeginnen(Werkbank &w, int nummer) {
     if (nummer != WerkzeugBeziehung && nummer != WerkzeugPartnerschaft && nummer != WerkzeugKind) return false;
-    if (!Brauchbar(w, nummer)) w.lage.Aktion = Aktion::Nichts;
+    if (!WerkzeugBrauchbar(nummer, w.dokument, w.lage)) w.lage.Aktion = Aktion::Nichts;
     else if (nummer == WerkzeugBeziehung) mnuBeziehungErstellen2(w);
     else if (nummer == WerkzeugPartnerschaft) mnuPartnerschaftsLinie(w);
     else mnuKindVon(w);
     return true;
 }
 
-bool IstGedrückt(const Leinwandlage &lage, const Werkzeug &werkzeug) {
-    if (lage.Aktion != werkzeug.Aktion) return false;
-    if (werkzeug.PfeilArt) return werkzeug.PfeilArt == lage.PfeilArt;
-    return lage.Aktion != Aktion::PersonSetzen || werkzeug.Typ == lage.SymbolTyp;
-}
-
 } // namespace
 
 std::string WerkzeugName(int nummer) { return "cmdSymb(" + std::to_string(nummer) + ")"; }
+
+bool WerkzeugBrauchbar(int nummer, const Dokument &d, const Leinwandlage &lage) {
+    if (nummer == WerkzeugKind) return KannKindWerden(d, lage);
+    return (nummer != WerkzeugBeziehung && nummer != WerkzeugPartnerschaft) || HatPerson(d, lage);
+}
+
+bool WerkzeugGedrückt(int nummer, const Leinwandlage &lage) {
+    const Werkzeug *werkzeug = WerkzeugFinden(nummer);
+    if (!werkzeug || lage.Aktion != werkzeug->Aktion) return false;
+    if (werkzeug->PfeilArt) return werkzeug->PfeilArt == lage.PfeilArt;
+    return lage.Aktion != Aktion::PersonSetzen || werkzeug->Typ == lage.SymbolTyp;
+}
 
 void WerkzeugDrücken(Werkbank &w, int nummer) {
     if (nummer == WerkzeugZwillinge) { // works on what is selected, so it arms and empties nothing. Meant.
@@ -89,9 +94,8 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
     AuswahlAufgeben(w);
     lage.Zeiger = nummer < WerkzeugZwillinge ? Mauszeiger::Person : Mauszeiger::Pfeil;
     if (LinkBeginnen(w, nummer)) return;
-    const auto werkzeug =
-        std::find_if(std::begin(Werkzeuge), std::end(Werkzeuge), [&](const Werkzeug &z) { return z.Nummer == nummer; });
-    if (werkzeug == std::end(Werkzeuge)) return;
+    const Werkzeug *werkzeug = WerkzeugFinden(nummer);
+    if (!werkzeug) return;
     lage.Aktion = werkzeug->Aktion;
     if (werkzeug->Typ) {
         lage.SymbolTyp = werkzeug->Typ;
@@ -99,17 +103,6 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
     }
     if (werkzeug->PfeilArt) lage.PfeilArt = werkzeug->PfeilArt;
     if (nummer == WerkzeugKreislinie) lage.KreisAuswahl = 0;
-}
-
-void PaletteAuffrischen(Werkbank &w) {
-    for (const Werkzeug &werkzeug : Werkzeuge) {
-        Bedienelement &knopf = w.bedienung[WerkzeugName(werkzeug.Nummer)];
-        knopf.Checked = IstGedrückt(w.lage, werkzeug);
-        knopf.Enabled = Brauchbar(w, werkzeug.Nummer);
-    }
-    w.bedienung["mnuEinfügen8"].Enabled = w.ablage.HatEtwas();
-    w.bedienung["cmdDelete"].Enabled = w.lage.Aktion == Aktion::GruppeGewählt;
-    w.bedienung["btnAuswahlZuBild"].Checked = w.lage.BildAuswahl && w.lage.bAuswahlInDatei;
 }
 
 } // namespace kw

@@ -28,8 +28,9 @@ std::string WerkzeugName(int nummer);
 /// before ends. Tools that need a selected person arm nothing without one.
 void WerkzeugDrücken(Werkbank &w, int nummer);
 
-/// Brings the palette up to date with what the canvas is doing: which tool is armed, which would do nothing,
-/// whether there is a group to delete. After every event and command.
-void PaletteAuffrischen(Werkbank &w);
+/// Whether the tool would do something: links start from a selected person.
+bool WerkzeugBrauchbar(int nummer, const Dokument &dokument, const Leinwandlage &lage);
+/// Whether it is in hand.
+bool WerkzeugGedrückt(int nummer, const Leinwandlage &lage);
 
 } // namespace kw

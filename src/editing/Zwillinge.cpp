@@ -141,7 +141,7 @@ void ZwillingeBereit(Werkbank &w) {
     const Satzliste &gewählte = w.auswahl.lstMovedPers;
     const std::string eltern =
         gewählte.Anzahl() == 2 ? GemeinsameEltern(w.dokument, gewählte.Satz(0), gewählte.Satz(1)) : std::string();
-    w.bedienung["mnuMakeTwins"].Visible = !eltern.empty();
+    w.lage.Angebot.Zwillinge = !eltern.empty();
     if (!eltern.empty()) w.lage.Zwillingspaar = gewählte.Satz(0) + "_" + gewählte.Satz(1) + "_" + eltern;
 }
 
@@ -163,7 +163,7 @@ void ZwillingeErklären(Werkbank &w, std::string_view mark) {
     const double mitte = Gerundet(std::clamp(summe / 2, links, rechts), 2);
     for (const int i : {KindLinieVon(d, teile[0]), KindLinieVon(d, teile[1])})
         if (i >= 0) d.cboKindlinien.Ersetzen(i, KindBau(d.cboKindlinien.Satz(i)).LinieX(mitte).Text());
-    w.bedienung["mnuMakeTwins"].Visible = false;
+    w.lage.Angebot.Zwillinge = false;
     AuswahlrahmenParken(w);
     MarkierungsListBoxenLöschen(w);
     w.lage.Aktion = Aktion::Nichts;

@@ -193,7 +193,7 @@ void EingefügtesAuswählen(Werkbank &w) {
     PositionenVergessen(w.lage);
     MarkerParken(w);
     ZwillingeBereit(w);
-    w.bedienung["mnuLöschen1"].Enabled = w.bedienung["mnuAusschneiden"].Enabled = true;
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
     if (!eins) return AlsGruppeAuswählen(w);
     if (personen) return PersonAuswählen(w, d.cboPersonen.Anzahl() - 1);
     if (kreise) return KreisAuswählen(w, d.cboFreehandlines.Anzahl() - 1);
