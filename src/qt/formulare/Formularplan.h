@@ -56,7 +56,22 @@ struct Baustein {
     constexpr Baustein Platzhaltend() const { return Mit(&Baustein::Haltend, true); }
     constexpr Baustein UnterOption() const { return Mit(&Baustein::Eingerückt, true); }
     constexpr Baustein AlsAbsatz(int zeichen) const { return Mindestens(zeichen).Mit(&Baustein::Absatz, true); }
-    template <typename Wert> constexpr Baustein Mit(Wert Baustein::*feld, Wert wert) const {
+    constexpr Baustein Mit(int Baustein::*feld, int wert) const {
+        Baustein b = *this;
+        b.*feld = wert;
+        return b;
+    }
+    constexpr Baustein Mit(double Baustein::*feld, double wert) const {
+        Baustein b = *this;
+        b.*feld = wert;
+        return b;
+    }
+    constexpr Baustein Mit(bool Baustein::*feld, bool wert) const {
+        Baustein b = *this;
+        b.*feld = wert;
+        return b;
+    }
+    constexpr Baustein Mit(std::string_view Baustein::*feld, std::string_view wert) const {
         Baustein b = *this;
         b.*feld = wert;
         return b;
