@@ -73,7 +73,7 @@ class Importmodell : public QAbstractListModel {
         const Importperson &person = Person(zeile);
         Sinnbild bild = ImportSinnbild(person);
         if (bild.dokument.cboPersonen.Leer()) bild = WerkzeugSinnbild(person.Symboltyp);
-        return Symbolbild(std::move(bild), anblick_.uhr, Ziehkante, pixelverhältnis);
+        return Symbolbild(bild, anblick_.uhr, Ziehkante, pixelverhältnis);
     }
 
   private:

@@ -56,7 +56,7 @@ class Symbolicon : public QIconEngine {
 } // namespace
 
 /// At the size of the icon lines are as wide as on the page at 100 %, one pixel.
-QPixmap Symbolbild(Sinnbild sinnbild, const Uhr &uhr, int kante, double pixelverhältnis) {
+QPixmap Symbolbild(const Sinnbild &sinnbild, const Uhr &uhr, int kante, double pixelverhältnis) {
     const int pixel = static_cast<int>(std::lround(kante * pixelverhältnis));
     QImage bild(pixel, pixel, QImage::Format_ARGB32_Premultiplied);
     bild.fill(Qt::transparent);

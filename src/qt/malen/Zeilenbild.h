@@ -11,7 +11,7 @@ class Uhr;
 struct Sinnbild;
 
 /// A tiny diagram in a square of `kante` logical pixels, for a screen of that resolution.
-QPixmap Symbolbild(Sinnbild sinnbild, const Uhr &uhr, int kante, double pixelverhältnis);
+QPixmap Symbolbild(const Sinnbild &sinnbild, const Uhr &uhr, int kante, double pixelverhältnis);
 
 /// The same on a plate of the page's white, which it is drawn for, at every size. `uhr` must outlive it.
 QIcon Sinnbildicon(Sinnbild sinnbild, const Uhr &uhr);
