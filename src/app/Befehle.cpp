@@ -24,6 +24,7 @@
 #include "output/Arbeitsbereich.h"
 #include "output/Druckwerk.h"
 #include "output/basBildExport.h"
+#include "platform/Benutzer.h"
 
 #include "platform/Bedienelemente.h"
 #include <algorithm>

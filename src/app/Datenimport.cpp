@@ -7,6 +7,7 @@
 #include "document/Texte.h"
 #include "editing/Personen.h"
 #include "editing/Werkbank.h"
+#include "platform/Benutzer.h"
 
 #include "platform/Bedienelemente.h"
 #include <algorithm>

@@ -4,6 +4,7 @@
 #include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Werkbank.h"
+#include "platform/Benutzer.h"
 #include "platform/Drucker.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 #include "dialogs/Dialogumgebung.h"
 #include "document/Einstellungen.h"
 #include "editing/Werkbank.h"
+#include "platform/Benutzer.h"
 
 #include <iterator>
 

@@ -10,6 +10,7 @@
 #include "editing/Marker.h"
 #include "editing/Satzbau.h"
 #include "editing/Werkbank.h"
+#include "platform/Benutzer.h"
 
 #include <algorithm>
 #include <array>

@@ -2,6 +2,7 @@
 
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
+#include "platform/Bilder.h"
 
 namespace kw {
 

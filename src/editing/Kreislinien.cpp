@@ -5,6 +5,7 @@
 #include "document/saetze/Kreislinie.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
+#include "rendering/Zeichenflaeche.h"
 
 #include <cmath>
 #include <utility>

@@ -13,6 +13,7 @@
 #include "editing/Personen.h"
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
+#include "platform/Benutzer.h"
 
 #include <algorithm>
 #include <utility>

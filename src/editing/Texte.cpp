@@ -4,6 +4,7 @@
 #include "document/saetze/Textbox.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
+#include "platform/Benutzer.h"
 
 #include <utility>
 

@@ -4,16 +4,17 @@
 #include "editing/Ablage.h"
 #include "editing/Auflagen.h"
 #include "editing/Leinwandlage.h"
-#include "platform/Benutzer.h"
-#include "platform/Bilder.h"
 #include "rendering/Ansicht.h"
 #include "rendering/Auswahl.h"
 #include "rendering/Legende.h"
-#include "rendering/Zeichenflaeche.h"
 
 #include <string_view>
 
 namespace kw {
+
+class Benutzer;
+class Zeichenfläche;
+struct Bildausschnitt;
 
 /// What editing asks of the main window around it.
 class Fensterdienste {

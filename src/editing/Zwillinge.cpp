@@ -6,6 +6,7 @@
 #include "editing/Kinder.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
+#include "platform/Benutzer.h"
 
 #include <algorithm>
 #include <array>

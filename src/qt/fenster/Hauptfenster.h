@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/frmMain.h"
+#include "platform/Benutzer.h"
 #include "qt/drucken/QtBilder.h"
 #include "qt/drucken/QtDrucker.h"
 #include "qt/fenster/Arbeitsflaeche.h"
