@@ -1,7 +1,7 @@
 #include "dialogs/frmBezLinien.h"
 
 #include "dialogs/Dialogumgebung.h"
-#include "document/Felder.h"
+#include "document/saetze/Beziehung.h"
 #include "editing/Linien.h"
 #include "editing/Werkbank.h"
 #include "rendering/Ebenen.h"
@@ -63,10 +63,10 @@ frmBezLinien::frmBezLinien(Dialogumgebung &umgebung) : Formular(Tafel, umgebung.
 void frmBezLinien::Laden() {
     const Satzliste &linien = umgebung_.werkbank.dokument.cboBeziehungsLinien;
     const int i = umgebung_.werkbank.lage.BezAuswahl;
-    if (i < 0 || i >= linien.Anzahl()) return;
-    const Felder feld(linien.Satz(i));
+    if (!Gültig(linien, i)) return;
+    const BeziehungSatz linie(linien.Satz(i), Lücken::Leer);
     for (size_t code = 0; code < Arten.size(); ++code)
-        if (feld.OderLeer(BezFeld::Beziehungsart) == std::to_string(code)) OptionSetzen(Arten[code].Option);
+        if (linie.Beziehungsart() == std::to_string(code)) OptionSetzen(Arten[code].Option);
 }
 
 int frmBezLinien::Gewählt() const {

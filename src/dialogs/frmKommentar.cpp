@@ -4,11 +4,10 @@
 #include "dialogs/Schriftlisten.h"
 #include "dialogs/frmSchrift.h"
 #include "document/Einstellungen.h"
-#include "document/Felder.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
+#include "document/saetze/Textbox.h"
 #include "editing/Marker.h"
-#include "editing/Satzbau.h"
 #include "editing/Werkbank.h"
 #include "platform/Benutzer.h"
 
@@ -35,12 +34,13 @@ constexpr std::array<Größenknopf, 3> Größen{{
 struct Stilknopf {
     const char *Name;
     bool Steuerelement::*Schrift;
-    int Feld;
+    bool (TextSatz::*Gilt)() const;
+    TextBau &(TextBau::*Setzen)(std::string_view);
 };
 constexpr std::array<Stilknopf, 3> Stile{{
-    {"btnStyle(0)", &Steuerelement::FontBold, TextFeld::Fett},
-    {"btnStyle(1)", &Steuerelement::FontItalic, TextFeld::Kursiv},
-    {"btnStyle(2)", &Steuerelement::FontUnderline, TextFeld::Unterstrichen},
+    {"btnStyle(0)", &Steuerelement::FontBold, &TextSatz::Fett, &TextBau::Fett},
+    {"btnStyle(1)", &Steuerelement::FontItalic, &TextSatz::Kursiv, &TextBau::Kursiv},
+    {"btnStyle(2)", &Steuerelement::FontUnderline, &TextSatz::Unterstrichen, &TextBau::Unterstrichen},
 }};
 
 constexpr std::array<const char *, 3> Ausrichtungen{"btnLeft", "btnRight", "btnMid"}; ///< in the order of their codes
@@ -80,12 +80,6 @@ bool IstLeer(const std::string &text) {
     return Ersetzt(text, Absatzzeichen, "").find_first_not_of(" \r\n") == std::string::npos;
 }
 
-/// A typed font or size, without what would be one field too many.
-std::string AlsFeld(std::string text) {
-    std::erase(text, '_');
-    return text;
-}
-
 } // namespace
 
 frmKommentar::frmKommentar(Dialogumgebung &umgebung) : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung) {
@@ -116,17 +110,16 @@ void frmKommentar::Entladen() { Aktion_Nichts(umgebung_.werkbank); }
 
 /// The box keeps its own place: the marker's is beside it.
 void frmKommentar::TextboxAufnehmen(std::string_view satz) {
-    const Felder feld(satz);
-    textX_ = ZahlLesen(feld.OderLeer(TextFeld::TextX));
-    textY_ = ZahlLesen(feld.OderLeer(TextFeld::TextY));
-    TextSetzen("cboSchriftart", feld.OderLeer(TextFeld::Schriftart));
-    TextSetzen("cboFontSize", feld.OderLeer(TextFeld::Schriftgroesse));
-    const double farbe = ZahlLesen(feld.OderLeer(TextFeld::Farbe));
+    const TextSatz box(satz, Lücken::Leer);
+    textX_ = box.TextX();
+    textY_ = box.TextY();
+    TextSetzen("cboSchriftart", box.Schriftart());
+    TextSetzen("cboFontSize", box.SchriftgroesseText());
+    const double farbe = box.Farbe();
     FarbeSetzen(farbe >= 0 && farbe <= Weiß ? static_cast<Farbe>(farbe) : Schwarz);
-    TextSetzen("Text1", Dekodiert(feld.OderLeer(TextFeld::Text)));
-    for (const auto &stil : Stile) WertSetzen(stil.Name, feld.OderLeer(stil.Feld) == "1");
-    const std::string_view ausrichtung = feld.OderLeer(TextFeld::Ausrichtung);
-    Ausrichten(ausrichtung == "1" ? 1 : ausrichtung == "2" ? 2 : 0);
+    TextSetzen("Text1", Dekodiert(box.Inhalt()));
+    for (const auto &stil : Stile) WertSetzen(stil.Name, (box.*stil.Gilt)());
+    Ausrichten(box.Ausrichtung() == "1" ? 1 : box.Ausrichtung() == "2" ? 2 : 0);
 }
 
 bool frmKommentar::TasteErlaubt(std::string_view name, std::string_view zeichen) const {
@@ -205,14 +198,13 @@ void frmKommentar::StandardschriftBearbeiten() {
 
 std::string frmKommentar::Satz() const {
     const auto text = [this](std::string_view name) { return Finden(name)->Text; };
-    Feldbau satz("", TextFeld::AnzahlUngemessen);
-    satz.Setzen(TextFeld::TextX, Gerundet(textX_, 1)).Setzen(TextFeld::TextY, Gerundet(textY_, 1));
-    satz.Setzen(TextFeld::Schriftart, AlsFeld(GültigeSchriftart(text("cboSchriftart"))));
-    satz.Setzen(TextFeld::Schriftgroesse, AlsFeld(GültigeSchriftgröße(text("cboFontSize"))));
-    satz.Setzen(TextFeld::Farbe, std::to_string(Finden("lblColor")->Farbwert));
-    for (const auto &stil : Stile) satz.Setzen(stil.Feld, Finden(stil.Name)->Value ? "1" : "0");
-    satz.Setzen(TextFeld::Ausrichtung, std::to_string(Finden("Text1")->Alignment));
-    return satz.Setzen(TextFeld::Text, Kodiert(text("Text1"))).Text();
+    TextBau box;
+    box.Ort(Gerundet(textX_, 1), Gerundet(textY_, 1));
+    box.Schriftart(Ohne(GültigeSchriftart(text("cboSchriftart")), '_'));
+    box.Schriftgroesse(Ohne(GültigeSchriftgröße(text("cboFontSize")), '_'));
+    box.Farbe(std::to_string(Finden("lblColor")->Farbwert));
+    for (const auto &stil : Stile) (box.*stil.Setzen)(Finden(stil.Name)->Value ? "1" : "0");
+    return box.Ausrichtung(std::to_string(Finden("Text1")->Alignment)).Inhalt(Kodiert(text("Text1"))).Text();
 }
 
 void frmKommentar::Command2_Click() {

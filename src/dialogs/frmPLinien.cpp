@@ -3,7 +3,8 @@
 #include "dialogs/Bildtext.h"
 #include "dialogs/Dialogumgebung.h"
 #include "document/Felder.h"
-#include "document/Zahlen.h"
+#include "document/Texte.h"
+#include "document/saetze/Partnerschaft.h"
 #include "editing/Linien.h"
 #include "editing/Werkbank.h"
 #include "rendering/Ebenen.h"
@@ -50,11 +51,6 @@ constexpr double DatumÜberBalken = 0.38;
 constexpr std::array<std::string_view, 4> Datumsfelder{"txtNichtEhelich", "txtGetrennt", "txtVerheiratet",
                                                        "txtGeschieden"}; ///< in the record's order
 
-std::string OhneFeldtrenner(std::string text) {
-    std::erase(text, '_');
-    return text;
-}
-
 } // namespace
 
 /// One state, in the form's order. Its mark stands left of the date and is `Markenbreite` wide, 0 for none. Drawing
@@ -87,12 +83,12 @@ void frmPLinien::Laden() {
     OptionSetzen("Option1"); // a new line has no state yet
     const Satzliste &linien = umgebung_.werkbank.dokument.cboPartnerschaftsLinien;
     const int i = umgebung_.werkbank.lage.PLinieAuswahl;
-    if (i < 0 || i >= linien.Anzahl()) return;
-    const Felder feld(linien.Satz(i));
+    if (!Gültig(linien, i)) return;
+    const PartnerschaftSatz linie(linien.Satz(i), Lücken::Leer);
     for (const Stand &stand : Stände)
-        if (feld.OderLeer(PLinieFeld::Status) == stand.Status) OptionSetzen(stand.Option);
-    WertSetzen("Check1", feld.OderLeer(PLinieFeld::Distanziert) == "1");
-    const Felder daten(feld.OderLeer(PLinieFeld::Daten), '#');
+        if (linie.Status() == stand.Status) OptionSetzen(stand.Option);
+    WertSetzen("Check1", linie.Distanziert());
+    const Felder daten(linie.Daten(), '#');
     for (size_t d = 0; d < Datumsfelder.size(); ++d) TextSetzen(Datumsfelder[d], daten.OderLeer(static_cast<int>(d)));
 }
 
@@ -145,7 +141,7 @@ void frmPLinien::Geklickt(std::string_view name) {
 void frmPLinien::Bestätigen() {
     std::string daten = (*this)[Datumsfelder[0]].Text;
     for (size_t d = 1; d < Datumsfelder.size(); ++d) daten += "#" + (*this)[Datumsfelder[d]].Text;
-    P_LinieAnpassen(umgebung_.werkbank, (*this)["Check1"].Value ? "1" : "0", Gewählt().Status, OhneFeldtrenner(daten));
+    P_LinieAnpassen(umgebung_.werkbank, (*this)["Check1"].Value ? "1" : "0", Gewählt().Status, Ohne(daten, '_'));
     Schließen();
 }
 
@@ -155,11 +151,11 @@ std::pair<double, double> frmPLinien::BildGröße(std::string_view) const { retu
 void frmPLinien::BildZeichnen(std::string_view, Zeichenfläche &f) {
     Werkbank &w = umgebung_.werkbank;
     Dokument muster;
-    const auto z = [](double zahl) { return "_" + ZahlSchreiben(zahl); };
     const double rechts = Breite - Rand;
-    muster.cboPartnerschaftsLinien.Anhängen("001_" + z(Rand) + z(Balken) + z(rechts) + z(Balken) + "_001_002" +
-                                            z(Rand) + z(Rand) + z(Rand) + z(rechts) +
-                                            ((*this)["Check1"].Value ? "_1_" : "_0_"));
+    PartnerschaftBau linie;
+    linie.Nr("001").PersNr1("001").PersNr2("002").BalkenX1(Rand).BalkenX2(rechts).BalkenY(Balken);
+    linie.Anschluss1(Rand, Rand).Anschluss2(rechts, Rand).Distanziert((*this)["Check1"].Value ? "1" : "0");
+    muster.cboPartnerschaftsLinien.Anhängen(linie.Text());
     f.DrawWidth = 1;
     PartnerschaftslinienZeichnen(f, {muster, w.ansicht, w.auswahl, w.lage, w.legende, umgebung_.uhr}, f.Faktor());
     const Stand &stand = Gewählt();

@@ -2,10 +2,11 @@
 
 #include "dialogs/Dialogumgebung.h"
 #include "dialogs/Personenbild.h"
+#include "document/Nachschlagen.h"
 #include "document/Texte.h"
+#include "document/saetze/Person.h"
 #include "editing/Gruppe.h"
 #include "editing/Marker.h"
-#include "editing/Satzbau.h"
 #include "editing/Werkbank.h"
 
 #include <algorithm>
@@ -114,12 +115,6 @@ template <typename Liste> bool Enthält(const Liste &namen, std::string_view nam
     return std::find(std::begin(namen), std::end(namen), name) != std::end(namen);
 }
 
-std::string Ohne(std::string_view text, char zeichen) {
-    std::string rest(text);
-    std::erase(rest, zeichen);
-    return rest;
-}
-
 } // namespace
 
 frmSymbol::frmSymbol(Dialogumgebung &umgebung)
@@ -142,15 +137,14 @@ void frmSymbol::Laden() {
     satz_ = lage.PersRecord;
     position_ = lage.PersAuswahl - 1;
     // The record may have been rewritten since the person was selected: by a link, or by this form.
-    const bool dieselbe =
-        position_ >= 0 && position_ < personen.Anzahl() && personen.Satz(position_).substr(0, 3) == satz_.substr(0, 3);
+    const bool dieselbe = Gültig(personen, position_) && Nummer(personen.Satz(position_)) == Nummer(satz_);
     if (dieselbe) satz_ = personen.Satz(position_);
-    typ_ = SymbolKennzahl(Felder(satz_).OderLeer(PersonFeld::Symboltyp));
+    typ_ = SymbolKennzahl(PersonSatz(satz_, Lücken::Leer).Symboltyp());
     institution_ = typ_ == TypInstitution;
     GesichtZeigen();
     ZeitgeberStellen("Timer2", 100);
     if (institution_) {
-        TextSetzen("txtInstitution", Felder(satz_).OderLeer(PersonFeld::Vorname));
+        TextSetzen("txtInstitution", PersonSatz(satz_, Lücken::Leer).Vorname());
         return;
     }
     PersonLaden();
@@ -167,16 +161,15 @@ void frmSymbol::GesichtZeigen() {
 }
 
 void frmSymbol::PersonLaden() {
-    const Felder feld(satz_);
-    const std::string_view sterbealter = feld.OderLeer(PersonFeld::Sterbealter);
-    TextSetzen("txtVorname", feld.OderLeer(PersonFeld::Vorname));
-    TextSetzen("txtNachname", feld.OderLeer(PersonFeld::Nachname));
-    TextSetzen("txtGeburtsdatum", feld.OderLeer(PersonFeld::Geburtsdatum));
-    WertSetzen("chkIndexPerson", feld.OderLeer(PersonFeld::IndexPerson) == "1");
-    WertSetzen("chkVerstorben", sterbealter.starts_with('$'));
-    TextSetzen("txtSterbealter", Ohne(sterbealter, '$'));
-    WertSetzen("chkSucht", feld.OderLeer(PersonFeld::Sucht) == "1");
-    WertSetzen("chkErkrankung", feld.OderLeer(PersonFeld::Erkrankung) == "1");
+    const PersonSatz person(satz_, Lücken::Leer);
+    TextSetzen("txtVorname", person.Vorname());
+    TextSetzen("txtNachname", person.Nachname());
+    TextSetzen("txtGeburtsdatum", person.Geburtsdatum());
+    WertSetzen("chkIndexPerson", person.IndexPerson() == "1");
+    WertSetzen("chkVerstorben", person.Verstorben());
+    TextSetzen("txtSterbealter", Ohne(person.Sterbealter(), '$'));
+    WertSetzen("chkSucht", person.Sucht());
+    WertSetzen("chkErkrankung", person.Erkrankung());
 }
 
 void frmSymbol::Entladen() {
@@ -318,7 +311,7 @@ void frmSymbol::Übernehmen() {
     if (Das("shpFalsch").Visible || Das("shpFalsch2").Visible) return;
     Werkbank &w = umgebung_.werkbank;
     Satzliste &personen = w.dokument.cboPersonen;
-    if (position_ >= 0 && position_ < personen.Anzahl()) {
+    if (Gültig(personen, position_)) {
         personen.Ersetzen(position_, NeuerSatz());
         w.fenster.Sichern();
         w.fenster.Vorschau();
@@ -327,27 +320,19 @@ void frmSymbol::Übernehmen() {
 }
 
 std::string frmSymbol::NeuerSatz() {
-    Feldbau satz(satz_, PersonFeld::Anzahl);
-    satz.Setzen(PersonFeld::Groesse, satz.Zahl(PersonFeld::Groesse));
-    if (institution_) {
-        satz.Setzen(PersonFeld::Symboltyp, TypInstitution);
-        for (int i = PersonFeld::IndexPerson; i < PersonFeld::Anzahl; ++i) satz.Setzen(i, "");
-        return satz.Setzen(PersonFeld::Vorname, Text("txtInstitution")).Text();
-    }
+    PersonBau person(satz_);
+    person.Groesse(person.Stand().Groesse());
+    if (institution_) return person.Institution(Text("txtInstitution")).Text();
     const int kennzahl = Symbolkennzahl(); // none while the list is empty: kind and size stay
-    if (kennzahl != 0) satz.Setzen(PersonFeld::Symboltyp, kennzahl);
+    if (kennzahl != 0) person.Symboltyp(kennzahl);
     if (kennzahl != 0 && kennzahl != typ_)
-        satz.Setzen(PersonFeld::Groesse, Das("cboSymbol").ListIndex < ErsterKleiner ? GrößeNormal : GrößeKlein);
+        person.Groesse(Das("cboSymbol").ListIndex < ErsterKleiner ? GrößeNormal : GrößeKlein);
     // The mark is the tick's alone, however it came into the box.
     const std::string sterbealter(Getrimmt(Ohne(Ohne(Text("txtSterbealter"), '_'), '$')));
-    satz.Setzen(PersonFeld::IndexPerson, Ja("chkIndexPerson"))
-        .Setzen(PersonFeld::Sterbealter, (Das("chkVerstorben").Value ? "$" : "") + sterbealter)
-        .Setzen(PersonFeld::Sucht, Ja("chkSucht"))
-        .Setzen(PersonFeld::Erkrankung, Ja("chkErkrankung"))
-        .Setzen(PersonFeld::Vorname, Ohne(Text("txtVorname"), '_'))
-        .Setzen(PersonFeld::Nachname, Ohne(Text("txtNachname"), '_'))
-        .Setzen(PersonFeld::Geburtsdatum, Ohne(Text("txtGeburtsdatum"), '_'));
-    return satz.Text();
+    person.IndexPerson(Ja("chkIndexPerson")).Sterbealter((Das("chkVerstorben").Value ? "$" : "") + sterbealter);
+    person.Sucht(Ja("chkSucht")).Erkrankung(Ja("chkErkrankung"));
+    person.Vorname(Ohne(Text("txtVorname"), '_')).Nachname(Ohne(Text("txtNachname"), '_'));
+    return person.Geburtsdatum(Ohne(Text("txtGeburtsdatum"), '_')).Text();
 }
 
 /// The snapshot comes before, so that it holds the person whatever the deletion itself keeps.

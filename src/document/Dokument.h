@@ -8,33 +8,6 @@
 
 namespace kw {
 
-// Field positions, one namespace a record kind. Lengths are centimetres on the page.
-// clang-format off
-namespace PersonFeld {
-enum : int { Nr, Symboltyp, PosX, PosY, Groesse, IndexPerson, Sterbealter, Sucht, Erkrankung, Vorname, Nachname,
-             Geburtsdatum, ElternLinie, Zwilling, Anzahl };
-}
-namespace PLinieFeld {
-enum : int { Nr, Status, BalkenX1, BalkenY1, BalkenX2, BalkenY2, PersNr1, PersNr2, AnschlussY1, AnschlussY2,
-             AnschlussX1, AnschlussX2, Distanziert, Daten, Anzahl };
-}
-namespace KindFeld {
-enum : int { KindNr, Kindart, PLinie, KindX, LinieX, KindY, LinieY, Anzahl };
-}
-namespace BezFeld {
-enum : int { Leer, Beziehungsart, LinieX1, LinieY1, LinieX2, LinieY2, PersNr1, PersNr2, Anzahl };
-}
-namespace PfeilFeld {
-enum : int { Pfeilart, PfeilX1, PfeilY1, PfeilX2, PfeilY2, Anzahl };
-}
-namespace TextFeld {
-enum : int { TextX, TextY, Schriftart, Schriftgroesse, Farbe, Fett, Kursiv, Unterstrichen, Ausrichtung, Text,
-             TextBreite, TextHoehe, Anzahl };
-/// Fields of a text box that has not been measured yet.
-constexpr int AnzahlUngemessen = TextBreite;
-}
-// clang-format on
-
 constexpr double LegendeStartX = 25; ///< cm; where a new project has its legend
 constexpr double LegendeStartY = 2;
 

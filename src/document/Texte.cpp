@@ -20,6 +20,12 @@ std::string Ersetzt(std::string text, std::string_view alt, std::string_view neu
     return text;
 }
 
+std::string Ohne(std::string_view text, char zeichen) {
+    std::string rest(text);
+    std::erase(rest, zeichen);
+    return rest;
+}
+
 std::string MitAbsatzzeichen(std::string_view text) { return Ersetzt(std::string(text), "_", Absatzzeichen); }
 
 std::string OhneAbsatzzeichen(std::string_view text) { return Ersetzt(std::string(text), Absatzzeichen, "_"); }

@@ -18,6 +18,9 @@ std::string_view Getrimmt(std::string_view text);
 /// `text` with `neu` for every `alt`, from the left; what was put in isn't looked at again. `alt` must not be empty.
 std::string Ersetzt(std::string text, std::string_view alt, std::string_view neu);
 
+/// `text` without that character.
+std::string Ohne(std::string_view text, char zeichen);
+
 /// Stands for "_" in the stored text of a box, since "_" separates fields.
 constexpr std::string_view Absatzzeichen = "¶";
 std::string MitAbsatzzeichen(std::string_view text);  ///< for the record

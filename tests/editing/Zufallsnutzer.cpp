@@ -1,5 +1,12 @@
 #include "Zufallsnutzer.h"
 
+#include "document/saetze/Beziehung.h"
+#include "document/saetze/Kind.h"
+#include "document/saetze/Partnerschaft.h"
+#include "document/saetze/Person.h"
+#include "document/saetze/Pfeil.h"
+#include "document/saetze/Textbox.h"
+
 #include "app/Befehle.h"
 #include "app/Datenimport.h"
 #include "app/Formulare.h"
@@ -67,26 +74,32 @@ constexpr std::string_view Texte[] = {
 
 } // namespace
 
-/// Half way between two fields' places, where a line can be hit. Y stands behind X where nothing else is said.
-void Zufallsnutzer::Merken(std::vector<Ort> &orte, const Satzliste &speicher, std::string_view menü, int x1, int x2,
-                           int y1) {
+template <typename Satz>
+void Zufallsnutzer::Merken(std::vector<Ort> &orte, const Satzliste &speicher, std::string_view menü,
+                           std::pair<double, double> (*ort)(const Satz &)) {
     for (const auto &satz : speicher) {
-        const Felder f(satz);
-        const auto mitte = [&](int a, int b) { return (ZahlLesen(f[a]) + ZahlLesen(f[b])) / 2; };
-        orte.push_back({mitte(x1, x2), y1 ? mitte(y1, y1 + 1) : mitte(x1 + 1, x2 + 1), menü});
+        const auto [x, y] = ort(Satz(satz));
+        orte.push_back({x, y, menü});
     }
 }
 
 void Zufallsnutzer::Umsehen() {
     const Dokument &d = innen_->dokument;
     for (auto *orte : {&personen_, &balken_, &alle_}) orte->clear();
-    Merken(personen_, d.cboPersonen, "mnuPerson", PersonFeld::PosX, PersonFeld::PosX);
-    Merken(balken_, d.cboPartnerschaftsLinien, "mnuPLinie", PLinieFeld::BalkenX1, PLinieFeld::BalkenX2);
-    Merken(alle_, d.cboKindlinien, "mnuKindLinie", KindFeld::KindX, KindFeld::LinieX, KindFeld::KindY);
-    Merken(alle_, d.cboBeziehungsLinien, "mnuBezLinie", BezFeld::LinieX1, BezFeld::LinieX2);
-    Merken(alle_, d.cboPfeile, "mnuPfeil1", PfeilFeld::PfeilX1, PfeilFeld::PfeilX2);
-    Merken(alle_, d.cboPfeile, "mnuPfeil1", PfeilFeld::PfeilX2, PfeilFeld::PfeilX2);
-    Merken(alle_, d.cboTextboxen, "mnuTextBox", TextFeld::TextX, TextFeld::TextX);
+    // Half way between the ends of a line it can be hit.
+    Merken<PersonSatz>(personen_, d.cboPersonen, "mnuPerson", [](auto &p) { return std::pair(p.PosX(), p.PosY()); });
+    Merken<PartnerschaftSatz>(balken_, d.cboPartnerschaftsLinien, "mnuPLinie", [](auto &l) {
+        return std::pair((l.BalkenX1() + l.BalkenX2()) / 2, (l.BalkenY1() + l.BalkenY2()) / 2);
+    });
+    Merken<KindSatz>(alle_, d.cboKindlinien, "mnuKindLinie",
+                     [](auto &l) { return std::pair((l.KindX() + l.LinieX()) / 2, (l.KindY() + l.LinieY()) / 2); });
+    Merken<BeziehungSatz>(alle_, d.cboBeziehungsLinien, "mnuBezLinie", [](auto &l) {
+        return std::pair((l.LinieX1() + l.LinieX2()) / 2, (l.LinieY1() + l.LinieY2()) / 2);
+    });
+    Merken<PfeilSatz>(alle_, d.cboPfeile, "mnuPfeil1",
+                      [](auto &p) { return std::pair((p.X1() + p.X2()) / 2, (p.Y1() + p.Y2()) / 2); });
+    Merken<PfeilSatz>(alle_, d.cboPfeile, "mnuPfeil1", [](auto &p) { return std::pair(p.X2(), p.Y2()); });
+    Merken<TextSatz>(alle_, d.cboTextboxen, "mnuTextBox", [](auto &t) { return std::pair(t.TextX(), t.TextY()); });
     for (const std::string_view satz : d.cboFreehandlines)
         alle_.push_back({ZahlLesen(satz), ZahlLesen(satz.substr(satz.find('^') + 1)) + 0.05, "mnuKreislinie"});
     for (const auto *orte : {&personen_, &balken_}) alle_.insert(alle_.end(), orte->begin(), orte->end());

@@ -61,7 +61,9 @@ class Zufallsnutzer {
     };
     int Würfel(size_t seiten) { return static_cast<int>(zufall_() % seiten); }
     void Umsehen();
-    void Merken(std::vector<Ort> &orte, const Satzliste &speicher, std::string_view menü, int x1, int x2, int y1 = 0);
+    template <typename Satz>
+    static void Merken(std::vector<Ort> &orte, const Satzliste &speicher, std::string_view menü,
+                       std::pair<double, double> (*ort)(const Satz &));
     const Ort &Wählen(const std::vector<Ort> &orte);
     std::string Eintrag(std::string_view menü);
     std::string Formularzeilen(std::string_view name);

@@ -1,10 +1,9 @@
 // What the hand does: pointer on the canvas, palette, menus. Events go to the real widgets, what came of them is
 // read in the records and in the pixels that show.
 #include "app/Einblick.h"
-#include "document/saetze/Person.h"
 #include "app/frmMain.h"
-#include "document/Felder.h"
 #include "document/Zahlen.h"
+#include "document/saetze/Person.h"
 #include "qt/drucken/QtBilder.h"
 #include "qt/fenster/Arbeitsflaeche.h"
 #include "qt/fenster/Importliste.h"
@@ -89,7 +88,7 @@ class Bedienung : public testing::Test {
 
     QImage Bild() { return fläche.grab().toImage().convertToFormat(QImage::Format_RGB32); }
     /// The field of the only person, cm.
-    double Person(int feld) { return ZahlLesen(Felder(innen.dokument.cboPersonen.Satz(0))[feld]); }
+    double PersonX() { return PersonSatz(innen.dokument.cboPersonen.Satz(0)).PosX(); }
 
     std::ostringstream aus;
     std::string wirkungen;
@@ -149,10 +148,10 @@ TEST_F(Bedienung, ZiehenKostetKeinBild) {
     EXPECT_EQ(leinwand.Bilder, bilder);
     EXPECT_TRUE(ZeigtAuflagen(innen.auflagen));
     EXPECT_NE(Bild(), vorher); // the mask follows
-    const double x = Person(PersonFeld::PosX);
+    const double x = PersonX();
     Lassen(ort + QPoint(120, 60));
     EXPECT_GT(leinwand.Bilder, bilder);
-    EXPECT_GT(Person(PersonFeld::PosX), x);
+    EXPECT_GT(PersonX(), x);
     EXPECT_FALSE(ZeigtAuflagen(innen.auflagen));
 }
 
@@ -174,15 +173,15 @@ TEST_F(Bedienung, NurEineTasteZählt) {
     Bewegen(ziel, Qt::LeftButton);
     Maus(QEvent::MouseButtonPress, ziel, Qt::RightButton, Qt::LeftButton | Qt::RightButton);
     Maus(QEvent::MouseButtonRelease, ziel, Qt::RightButton, Qt::LeftButton);
-    const double x = Person(PersonFeld::PosX);
+    const double x = PersonX();
     Bewegen(ziel + QPoint(200, 0)); // no button is down any more: the drag ended at the last place
-    const double neu = Person(PersonFeld::PosX);
+    const double neu = PersonX();
     EXPECT_GT(neu, x);
     Lassen(ziel + QPoint(200, 0));
-    EXPECT_EQ(Person(PersonFeld::PosX), neu);
+    EXPECT_EQ(PersonX(), neu);
     Maus(QEvent::MouseButtonPress, ziel, Qt::MiddleButton, Qt::MiddleButton);
     Bewegen(ziel + QPoint(90, 90), Qt::MiddleButton);
-    EXPECT_EQ(Person(PersonFeld::PosX), neu);
+    EXPECT_EQ(PersonX(), neu);
 }
 
 class Palettentest : public Bedienung {
