@@ -14,6 +14,7 @@
 #include "output/Arbeitsbereich.h"
 #include "output/Druckwerk.h"
 #include "platform/Bedienelemente.h"
+#include "platform/Befehlsnamen.h"
 #include "rendering/Ansicht.h"
 #include "rendering/Auswahl.h"
 
@@ -22,11 +23,12 @@ namespace kw {
 namespace {
 
 struct Schema {
-    const char *Menü;
-    const char *Knopf;
+    Befehlsname Menü;
+    Befehlsname Knopf;
 };
-constexpr Schema Schemata[] = {
-    {"mnuSchwarzWeiß", "keySchwarzweiß"}, {"mnuGraustufen", "keyGraustufen"}, {"mnuFarbig", "keyFarbig"}};
+constexpr Schema Schemata[] = {{Name::mnuSchwarzWeiß, Name::keySchwarzweiß},
+                               {Name::mnuGraustufen, Name::keyGraustufen},
+                               {Name::mnuFarbig, Name::keyFarbig}};
 
 /// A caption that says what the next use does.
 struct Schaltertext {
@@ -59,7 +61,7 @@ void Anzeige::Beschriften() {
 void Anzeige::DruckerZeigen() { RänderknopfBeschriften(bedienung_, z_.ansicht.Sprache, z_.druck.DefaultPrinter); }
 
 void Anzeige::LegendeZeigen() {
-    Bedienelement &knopf = bedienung_["btnLegende"];
+    Bedienelement &knopf = bedienung_[Name::btnLegende];
     knopf.Checked = z_.dokument.LegendeSichtbar;
     knopf.Caption = Text(Legendentext, knopf.Checked, z_.ansicht);
 }
@@ -68,33 +70,33 @@ void Anzeige::ChronikZeigen() {
     bool einer = false;
     for (int i = 1; i <= Chronik::Plätze; ++i) {
         const std::string &pfad = z_.zuletzt[i];
-        Bedienelement &eintrag = bedienung_["mnuRecent(" + std::to_string(i) + ")"];
+        Bedienelement &eintrag = bedienung_.Mit("mnuRecent(" + std::to_string(i) + ")");
         eintrag.Caption = "  " + std::to_string(i) + " " + DateiName(pfad);
         eintrag.Visible = !pfad.empty();
         einer = einer || eintrag.Visible;
     }
-    Bedienelement &menü = bedienung_["mnuZuletztGeöffnet"];
-    menü.Enabled = menü.Visible = bedienung_["mnuStr3"].Visible = einer;
+    Bedienelement &menü = bedienung_[Name::mnuZuletztGeöffnet];
+    menü.Enabled = menü.Visible = bedienung_[Name::mnuStr3].Visible = einer;
 }
 
 void Anzeige::SeiteZeigen() {
     for (const Papier &papier : Papiere) {
         const bool gilt = papier.Code == z_.dokument.Papiercode;
-        bedienung_[Papierschlüssel(papier)].Checked = gilt;
-        if (gilt) bedienung_["btnPapier"].Caption = papier.Name;
+        bedienung_.Mit(Papierschlüssel(papier)).Checked = gilt;
+        if (gilt) bedienung_[Name::btnPapier].Caption = papier.Name;
     }
-    bedienung_["btnHochformat"].Checked = z_.dokument.Seitenlage == 1;
-    bedienung_["btnQuerformat"].Checked = z_.dokument.Seitenlage != 1;
+    bedienung_[Name::btnHochformat].Checked = z_.dokument.Seitenlage == 1;
+    bedienung_[Name::btnQuerformat].Checked = z_.dokument.Seitenlage != 1;
 }
 
-void Anzeige::DruckränderZeigen() { bedienung_["btnBlattränder"].Checked = z_.ansicht.bDruckrandAnzeigen; }
+void Anzeige::DruckränderZeigen() { bedienung_[Name::btnBlattränder].Checked = z_.ansicht.bDruckrandAnzeigen; }
 
 void Anzeige::ZoomZeigen() {
     const std::string &zoom = z_.bereich.cboBildGröße.Text();
-    bedienung_["btnZoom"].Caption = zoom;
+    bedienung_[Name::btnZoom].Caption = zoom;
     bedienung_.NurAnkreuzen("keyZoom", "keyZoom" + ZahlSchreiben(ZahlLesen(zoom)));
-    bedienung_["btnBildGrößer"].Enabled = z_.bereich.KannVergrößern();
-    bedienung_["btnBildKleiner"].Enabled = z_.bereich.KannVerkleinern();
+    bedienung_[Name::btnBildGrößer].Enabled = z_.bereich.KannVergrößern();
+    bedienung_[Name::btnBildKleiner].Enabled = z_.bereich.KannVerkleinern();
 }
 
 void Anzeige::FarbschemaZeigen() {
@@ -103,51 +105,52 @@ void Anzeige::FarbschemaZeigen() {
 }
 
 void Anzeige::RasterZeigen() {
-    bedienung_["btnGitterZeichnen"].Checked = z_.ansicht.bRasterAnzeigen;
-    bedienung_["mnuRasterAnzeigen"].Caption = Text(Rastertext, z_.ansicht.bRasterAnzeigen, z_.ansicht);
+    bedienung_[Name::btnGitterZeichnen].Checked = z_.ansicht.bRasterAnzeigen;
+    bedienung_[Name::mnuRasterAnzeigen].Caption = Text(Rastertext, z_.ansicht.bRasterAnzeigen, z_.ansicht);
 }
 
 void Anzeige::RasterweiteZeigen() {
-    bedienung_["mnuRasterGroß"].Checked = z_.cboRaster.ListIndex != 0;
-    bedienung_["mnuRasterKlein"].Checked = z_.cboRaster.ListIndex == 0;
+    bedienung_[Name::mnuRasterGroß].Checked = z_.cboRaster.ListIndex != 0;
+    bedienung_[Name::mnuRasterKlein].Checked = z_.cboRaster.ListIndex == 0;
 }
 
 void Anzeige::WerkzeugleisteZeigen() {
-    bedienung_["mnuWerkzeugleiste"].Caption = Text(Palettentext, z_.bereich.WerkzeugleisteSichtbar(), z_.ansicht);
+    bedienung_[Name::mnuWerkzeugleiste].Caption = Text(Palettentext, z_.bereich.WerkzeugleisteSichtbar(), z_.ansicht);
 }
 
 void Anzeige::UndoKnöpfeZeigen() {
-    bedienung_["btnUndo"].Enabled = bedienung_["mnuRückgängig"].Enabled = z_.ring.UndoSchritte() >= 1;
-    bedienung_["btnRedo"].Enabled = bedienung_["mnuWiederholen"].Enabled = z_.ring.RedoSchritte() >= 1;
+    bedienung_[Name::btnUndo].Enabled = bedienung_[Name::mnuRückgängig].Enabled = z_.ring.UndoSchritte() >= 1;
+    bedienung_[Name::btnRedo].Enabled = bedienung_[Name::mnuWiederholen].Enabled = z_.ring.RedoSchritte() >= 1;
 }
 
-void Anzeige::UndoKnöpfeSperren() { bedienung_["btnUndo"].Enabled = bedienung_["btnRedo"].Enabled = false; }
+void Anzeige::UndoKnöpfeSperren() { bedienung_[Name::btnUndo].Enabled = bedienung_[Name::btnRedo].Enabled = false; }
 
 /// The entries for the selection, as the gestures have left them.
 void Anzeige::AngebotZeigen() {
     const Angebot &angebot = z_.lage.Angebot;
-    bedienung_["mnuLöschen1"].Enabled = angebot.Löschen;
-    bedienung_["mnuAusschneiden"].Enabled = angebot.Ausschneiden;
-    bedienung_["mnuKopieren"].Enabled = angebot.Kopieren;
-    bedienung_["mnuEinfügen"].Enabled = angebot.Einfügen;
-    bedienung_["mnuSymbolVergrößern"].Enabled = angebot.Vergrößern;
-    bedienung_["mnuSymbolVerkleinern"].Enabled = angebot.Verkleinern;
-    bedienung_["mnuMakeTwins"].Visible = angebot.Zwillinge;
-    bedienung_["mnuEinfügen8"].Visible = bedienung_["mnustr15"].Visible = angebot.EinfügenImKontext;
-    bedienung_["mnuEinfügen8"].Enabled = z_.ablage.HatEtwas();
-    for (const char *eintrag : {"mnuBeziehungErstellen2", "mnuPartnerschaftsLinie", "mnuKindVon", "mnuStr2"})
+    bedienung_[Name::mnuLöschen1].Enabled = angebot.Löschen;
+    bedienung_[Name::mnuAusschneiden].Enabled = angebot.Ausschneiden;
+    bedienung_[Name::mnuKopieren].Enabled = angebot.Kopieren;
+    bedienung_[Name::mnuEinfügen].Enabled = angebot.Einfügen;
+    bedienung_[Name::mnuSymbolVergrößern].Enabled = angebot.Vergrößern;
+    bedienung_[Name::mnuSymbolVerkleinern].Enabled = angebot.Verkleinern;
+    bedienung_[Name::mnuMakeTwins].Visible = angebot.Zwillinge;
+    bedienung_[Name::mnuEinfügen8].Visible = bedienung_[Name::mnustr15].Visible = angebot.EinfügenImKontext;
+    bedienung_[Name::mnuEinfügen8].Enabled = z_.ablage.HatEtwas();
+    for (const Befehlsname eintrag :
+         {Name::mnuBeziehungErstellen2, Name::mnuPartnerschaftsLinie, Name::mnuKindVon, Name::mnuStr2})
         bedienung_[eintrag].Visible = angebot.Verknüpfen;
-    bedienung_["mnuKindVon"].Enabled = angebot.AlsKind;
+    bedienung_[Name::mnuKindVon].Enabled = angebot.AlsKind;
 }
 
 void Anzeige::PaletteZeigen() {
     for (int nummer = 1; nummer <= WerkzeugAnzahl; ++nummer) {
-        Bedienelement &knopf = bedienung_[WerkzeugName(nummer)];
+        Bedienelement &knopf = bedienung_.Mit(WerkzeugName(nummer));
         knopf.Checked = WerkzeugGedrückt(nummer, z_.lage);
         knopf.Enabled = WerkzeugBrauchbar(nummer, z_.dokument, z_.lage);
     }
-    bedienung_["cmdDelete"].Enabled = z_.lage.Aktion == Aktion::GruppeGewählt;
-    bedienung_["btnAuswahlZuBild"].Checked = z_.lage.BildAuswahl && z_.lage.bAuswahlInDatei;
+    bedienung_[Name::cmdDelete].Enabled = z_.lage.Aktion == Aktion::GruppeGewählt;
+    bedienung_[Name::btnAuswahlZuBild].Checked = z_.lage.BildAuswahl && z_.lage.bAuswahlInDatei;
 }
 
 void Anzeige::MöglichesZeigen() {

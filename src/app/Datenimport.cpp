@@ -7,6 +7,7 @@
 #include "document/Texte.h"
 #include "editing/Personen.h"
 #include "editing/Werkbank.h"
+#include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 
 #include "platform/Bedienelemente.h"
@@ -104,15 +105,15 @@ void Datenimport::ListeFüllen() {
     Listenzeilen.clear();
     for (const std::string &zeile : cboTextDateizeilen) Listenzeilen.push_back(ImportpersonAus(zeile));
     const bool gefüllt = !Listenzeilen.empty();
-    bedienung_["btnImport"].Visible = bedienung_["btnImport"].Enabled = gefüllt;
+    bedienung_[Name::btnImport].Visible = bedienung_[Name::btnImport].Enabled = gefüllt;
     ListeZeigen(gefüllt);
 }
 
 void Datenimport::ListeZeigen(bool sichtbar) {
-    bedienung_["imgVariable"].Visible = bedienung_["btnImport"].Checked = sichtbar;
+    bedienung_[Name::imgVariable].Visible = bedienung_[Name::btnImport].Checked = sichtbar;
 }
 
-void Datenimport::ListeUmschalten() { ListeZeigen(!bedienung_["imgVariable"].Visible); }
+void Datenimport::ListeUmschalten() { ListeZeigen(!bedienung_[Name::imgVariable].Visible); }
 
 void Datenimport::Ablegen(Werkbank &w, int zeile, double x, double y) const {
     if (zeile < 0 || zeile >= static_cast<int>(Listenzeilen.size())) return;

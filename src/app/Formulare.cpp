@@ -12,6 +12,7 @@
 #include "dialogs/frmSeiteEinrichten.h"
 #include "dialogs/frmSymbGlobal.h"
 #include "dialogs/frmSymbol.h"
+#include "platform/Befehlsnamen.h"
 
 #include <algorithm>
 #include <stdexcept>
@@ -31,17 +32,17 @@ struct Bauplan {
 };
 
 constexpr Bauplan Baupläne[] = {
-    {"frmSymbol", Bauen<frmSymbol>},
-    {"frmPLinien", Bauen<frmPLinien>},
-    {"frmBezLinien", Bauen<frmBezLinien>},
-    {"frmKommentar", Bauen<frmKommentar>},
-    {"frmSchrift", Bauen<frmSchrift>},
-    {"frmSymbGlobal", Bauen<frmSymbGlobal>},
-    {"frmLegende", Bauen<frmLegende>},
-    {"frmDrucken", Bauen<frmDrucken>},
-    {"frmSeiteEinrichten", Bauen<frmSeiteEinrichten>},
-    {"frmEinstellungen", Bauen<frmEinstellungen>},
-    {"frmInfo",
+    {Name::frmSymbol, Bauen<frmSymbol>},
+    {Name::frmPLinien, Bauen<frmPLinien>},
+    {Name::frmBezLinien, Bauen<frmBezLinien>},
+    {Name::frmKommentar, Bauen<frmKommentar>},
+    {Name::frmSchrift, Bauen<frmSchrift>},
+    {Name::frmSymbGlobal, Bauen<frmSymbGlobal>},
+    {Name::frmLegende, Bauen<frmLegende>},
+    {Name::frmDrucken, Bauen<frmDrucken>},
+    {Name::frmSeiteEinrichten, Bauen<frmSeiteEinrichten>},
+    {Name::frmEinstellungen, Bauen<frmEinstellungen>},
+    {Name::frmInfo,
      [](Dialogumgebung &u) -> std::unique_ptr<Formular> { return std::make_unique<frmInfo>(u, Programmversion); }},
 };
 

@@ -8,6 +8,7 @@
 #include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "editing/Werkzeuge.h"
+#include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
 #include "rendering/Seite.h"
@@ -129,7 +130,7 @@ void frmMain::EinstellungenSichern() {
 
 void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "Timer2" && !Getrimmt(Kommandozeile).empty()) projekt.Öffnen(Kommandozeile);
-    if (name == "Timer3" && !Getrimmt(lage.PersRecord).empty()) FormÖffnen("frmSymbol");
+    if (name == "Timer3" && !Getrimmt(lage.PersRecord).empty()) FormÖffnen(Name::frmSymbol);
     if (name == "Timer4") Vorschau();
     if (name == "Timer5") DatenÜbernehmen();
     if (name == "tmrDrucker") DruckerErmitteln();
@@ -190,7 +191,7 @@ bool frmMain::IstFrei(std::string_view name) const {
 bool frmMain::BefehlAusführen(std::string_view name) {
     const Befehl befehl = BefehlFinden(name);
     if (!befehl) return false;
-    if (GehörtZu(name, "mnuBearbeiten")) mnuBearbeiten_Öffnen();
+    if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
     if (!IstFrei(name)) return false;
     leinwand.GesteAbbrechen();
     Befehlsumgebung umgebung{werkbank,   projekt, darstellung, bereich,   import, druck,
@@ -200,12 +201,12 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     return true;
 }
 
-void frmMain::PopupÖffnen(std::string_view menü) {
+void frmMain::PopupÖffnen(Befehlsname menü) {
     NachEreignis(); // what the press has selected shows beside the open menu
     if (const auto gewählt = plattform.benutzer.PopupZeigen(menü)) BefehlAusführen(*gewählt);
 }
 
-void frmMain::FormÖffnen(std::string_view name) {
+void frmMain::FormÖffnen(Formularname name) {
     Dialogumgebung umgebung = Umgebung();
     const auto form = FormularErzeugen(name, umgebung);
     plattform.benutzer.FormZeigen(*form);

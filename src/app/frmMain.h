@@ -91,8 +91,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     // What editing and forms ask of the window.
     void Sichern() override;
     void AlsGeändertMerken() override { projekt.Geändert = true; }
-    void PopupÖffnen(std::string_view menü) override;
-    void FormÖffnen(std::string_view name) override;
+    void PopupÖffnen(Befehlsname menü) override;
+    void FormÖffnen(Formularname name) override;
     void LegendeZeigen(bool sichtbar) override;
     void SeiteAnwenden() override;
     bool GenogrammDrucken() override;

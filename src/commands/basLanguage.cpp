@@ -2,6 +2,7 @@
 
 #include "commands/Menuetafel.h"
 #include "platform/Bedienelemente.h"
+#include "platform/Befehlsnamen.h"
 
 #include <string>
 
@@ -9,13 +10,13 @@ namespace kw {
 
 namespace {
 
-constexpr std::string_view Rändertipp = "btnBlattränder";
+constexpr Befehlsname Rändertipp = Name::btnBlattränder;
 
 } // namespace
 
 void MenuesBeschriften(Bedienelemente &elemente, Sprache sprache, std::string_view deviceName) {
     for (const Menüzeile &zeile : Menütafel()) {
-        Bedienelement &element = elemente[zeile.Name];
+        Bedienelement &element = elemente.Mit(zeile.Name);
         element.Caption = zeile.Caption.In(sprache);
         element.Tipp = zeile.Menü == Werkzeugband ? element.Caption : "";
     }

@@ -12,7 +12,7 @@ bool HatSichBewegt(const Werkbank &w, const Ereignis &e) {
     return Gerundet(e.X, 2) != w.lage.DownX || Gerundet(e.Y, 2) != w.lage.DownY;
 }
 
-void PopupÖffnen(Werkbank &w, std::string_view menü) {
+void PopupÖffnen(Werkbank &w, Befehlsname menü) {
     w.lage.Gedrückt = false; // what is picked there may arm a tool, which waits for the next press
     w.fenster.PopupÖffnen(menü);
 }

@@ -2,8 +2,6 @@
 
 #include "editing/Werkbank.h"
 
-#include <string_view>
-
 // What the gestures of all things share: the event, the raster, the context menu of a press.
 namespace kw {
 
@@ -23,6 +21,6 @@ double RasterZehntel(const Werkbank &w, double wert); ///< snapped and rounded t
 /// Whether the pointer has left the place of the press, by two decimals.
 bool HatSichBewegt(const Werkbank &w, const Ereignis &e);
 /// Opens a context menu from a press: its release will end no gesture.
-void PopupÖffnen(Werkbank &w, std::string_view menü);
+void PopupÖffnen(Werkbank &w, Befehlsname menü);
 
 } // namespace kw

@@ -9,6 +9,7 @@
 #include "editing/Personen.h"
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
+#include "platform/Befehlsnamen.h"
 
 #include <algorithm>
 #include <cmath>
@@ -75,7 +76,7 @@ bool RahmenBeginnen(Werkbank &w, const Ereignis &e) {
     w.lage.AnkerY = Raster(w, e.Y);
     if (!e.Rechts()) return true;
     w.lage.Angebot.EinfügenImKontext = true;
-    PopupÖffnen(w, "mnuSymbolEinfügen");
+    PopupÖffnen(w, Name::mnuSymbolEinfügen);
     if (w.lage.Aktion == Aktion::RahmenZiehen) RahmenAuswählen(w); // dismissed: the end of an empty marquee
     return true;
 }
@@ -123,7 +124,7 @@ bool GruppeFassen(Werkbank &w, const Ereignis &e) {
     if (e.Rechts()) {
         w.lage.Zeiger = Mauszeiger::Pfeil; // no drag follows
         w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
-        PopupÖffnen(w, "mnuAuswahlBox");
+        PopupÖffnen(w, Name::mnuAuswahlBox);
     }
     return true;
 }

@@ -5,6 +5,7 @@
 #include "document/saetze/Kreislinie.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
+#include "platform/Befehlsnamen.h"
 #include "rendering/Zeichenflaeche.h"
 
 #include <cmath>
@@ -112,7 +113,7 @@ bool KreisGewählt(Werkbank &w, const Ereignis &e) {
         w.lage.Aktion = Aktion::Nichts;
         w.fenster.Vorschau();
     } else if (e.Rechts()) {
-        PopupÖffnen(w, "mnuKreislinie");
+        PopupÖffnen(w, Name::mnuKreislinie);
     }
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
+#include "platform/Befehlsnamen.h"
 
 namespace kw {
 
@@ -27,7 +28,7 @@ bool LegendeFassen(Werkbank &w, const Ereignis &e) {
     w.lage.VersatzX = e.X - maske.Left;
     w.lage.VersatzY = e.Y - maske.Top;
     if (!e.Rechts()) return true;
-    PopupÖffnen(w, "mnuLegende");
+    PopupÖffnen(w, Name::mnuLegende);
     if (w.lage.Aktion == Aktion::LegendeGefasst) w.lage.Aktion = Aktion::Nichts;
     return true;
 }

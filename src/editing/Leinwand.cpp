@@ -13,9 +13,11 @@
 #include "editing/Personen.h"
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
+#include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 namespace kw {
@@ -46,16 +48,29 @@ bool MenüWarOffen(Werkbank &w, const Ereignis &) {
     return ende;
 }
 
+/// A kind of line by what selects it: its menu, and the form that a double click opens instead, if there is one.
+struct Zeile {
+    kw::Aktion Aktion;
+    Befehlsname Menü;
+    std::optional<Formularname> Form;
+};
+constexpr Zeile Linien[] = {{Aktion::BeziehungGewählt, Name::mnuBezLinie, Name::frmBezLinien},
+                            {Aktion::PLinieGewählt, Name::mnuPLinie, Name::frmPLinien},
+                            {Aktion::KindlinieGewählt, Name::mnuKindLinie, std::nullopt}};
+
+const Zeile *LinieVon(Aktion aktion) {
+    const auto *zeile =
+        std::find_if(std::begin(Linien), std::end(Linien), [&](const Zeile &z) { return z.Aktion == aktion; });
+    return zeile == std::end(Linien) ? nullptr : zeile;
+}
+
 /// A line that is selected already: its menu, or the end of the selection.
 bool LinieWarGewählt(Werkbank &w, const Ereignis &e) {
-    const char *menü = w.lage.Aktion == Aktion::BeziehungGewählt   ? "mnuBezLinie"
-                       : w.lage.Aktion == Aktion::PLinieGewählt    ? "mnuPLinie"
-                       : w.lage.Aktion == Aktion::KindlinieGewählt ? "mnuKindLinie"
-                                                                   : nullptr;
-    if (!menü) return false;
+    const Zeile *zeile = LinieVon(w.lage.Aktion);
+    if (!zeile) return false;
     if (e.Rechts()) {
         w.lage.Angebot.Löschen = true;
-        PopupÖffnen(w, menü);
+        PopupÖffnen(w, zeile->Menü);
         return true;
     }
     Gummi1Parken(w);
@@ -187,26 +202,19 @@ void Leinwand::DblClick(double x, double y) {
         TextboxAuswählen(w, text);
         w.lage.Aktion = Aktion::TextDialog;
         w.fenster.Vorschau();
-        w.fenster.FormÖffnen("frmKommentar");
+        w.fenster.FormÖffnen(Name::frmKommentar);
         return;
     }
     if (LegendeUnterMaus(w)) {
-        w.fenster.FormÖffnen("frmLegende");
+        w.fenster.FormÖffnen(Name::frmLegende);
         return;
     }
     // A press on a selected line has just unselected it: the double click means the line all the same.
     if (w.lage.Aktion == Aktion::Nichts && Getrimmt(w.lage.PersRecord).empty())
         BezLinieTreffer(w, x, y) || PLinieTreffer(w, x, y) || KindLinieTreffer(w, x, y);
-    struct Tür {
-        kw::Aktion Aktion;
-        const char *Form;
-    };
-    for (const auto &[aktion, form] :
-         {Tür{Aktion::BeziehungGewählt, "frmBezLinien"}, Tür{Aktion::PLinieGewählt, "frmPLinien"},
-          Tür{Aktion::KindlinieGewählt, nullptr}}) {
-        if (w.lage.Aktion != aktion) continue;
-        if (form) w.fenster.FormÖffnen(form);
-        else w.fenster.PopupÖffnen("mnuKindLinie");
+    if (const Zeile *zeile = LinieVon(w.lage.Aktion)) {
+        if (zeile->Form) w.fenster.FormÖffnen(*zeile->Form);
+        else w.fenster.PopupÖffnen(zeile->Menü);
         w.lage.Aktion = Aktion::Nichts;
         w.fenster.Vorschau();
         return;

@@ -7,6 +7,7 @@
 #include "editing/Geometrie.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
+#include "platform/Befehlsnamen.h"
 
 #include <algorithm>
 #include <utility>
@@ -140,7 +141,7 @@ void BalkenLoslassen(Werkbank &w, const Ereignis &) {
 }
 
 void BezLinieLoslassen(Werkbank &w, const Ereignis &e) {
-    if (e.Rechts()) w.fenster.PopupÖffnen("mnuBezLinie");
+    if (e.Rechts()) w.fenster.PopupÖffnen(Name::mnuBezLinie);
 }
 
 void LinienNachziehen(Dokument &d, const Bezüge &bezüge, std::string_view nr, double x, double y, double raster,

@@ -5,6 +5,7 @@
 #include "document/saetze/Person.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
+#include "platform/Befehlsnamen.h"
 #include "rendering/Symbole.h"
 
 #include <algorithm>
@@ -106,7 +107,7 @@ void BeziehungAnlegen(Werkbank &w) {
     w.lage.Aktion = Aktion::BeziehungGewählt;
     w.fenster.Vorschau();
     w.lage.Aktion = Aktion::BeziehungZiehen; // the form tells a new line by it
-    w.fenster.FormÖffnen("frmBezLinien");
+    w.fenster.FormÖffnen(Name::frmBezLinien);
 }
 
 } // namespace

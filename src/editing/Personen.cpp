@@ -7,6 +7,7 @@
 #include "editing/Kinder.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
+#include "platform/Befehlsnamen.h"
 
 #include <algorithm>
 #include <cmath>
@@ -49,7 +50,7 @@ void MenüÖffnen(Werkbank &w, const PersonSatz &person) {
     w.lage.Aktion = Aktion::MenüOffen;
     w.lage.Angebot.Verknüpfen = w.lage.SymbolTyp != TypInstitution;
     w.lage.Angebot.AlsKind = !person.HatEltern();
-    PopupÖffnen(w, "mnuPerson");
+    PopupÖffnen(w, Name::mnuPerson);
 }
 
 } // namespace

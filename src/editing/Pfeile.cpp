@@ -4,6 +4,7 @@
 #include "document/saetze/Pfeil.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
+#include "platform/Befehlsnamen.h"
 
 #include <algorithm>
 #include <cmath>
@@ -171,7 +172,7 @@ void PfeilEndeLoslassen(Werkbank &w, const Ereignis &e) {
 void PfeilLoslassen(Werkbank &w, const Ereignis &e) {
     w.lage.Angebot.Löschen = true;
     if (e.Rechts()) {
-        w.fenster.PopupÖffnen("mnuPfeil1");
+        w.fenster.PopupÖffnen(Name::mnuPfeil1);
         return;
     }
     if (!HatSichBewegt(w, e) || !Gültig(w.dokument.cboPfeile, w.lage.PfeilAuswahl)) return;

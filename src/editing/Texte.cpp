@@ -4,6 +4,7 @@
 #include "document/saetze/Textbox.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
+#include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 
 #include <utility>
@@ -77,7 +78,7 @@ bool TextSetzen(Werkbank &w, const Ereignis &e) {
     if (w.lage.Aktion != Aktion::TextGesetzt) return false;
     w.lage.AuswahlX = RasterZehntel(w, e.X);
     w.lage.AuswahlY = RasterZehntel(w, e.Y);
-    w.fenster.FormÖffnen("frmKommentar");
+    w.fenster.FormÖffnen(Name::frmKommentar);
     w.lage.Zeiger = Mauszeiger::Pfeil;
     return true;
 }
@@ -85,7 +86,7 @@ bool TextSetzen(Werkbank &w, const Ereignis &e) {
 bool TextWarGefasst(Werkbank &w, const Ereignis &) {
     if (w.lage.Aktion != Aktion::TextGefasst) return false;
     w.lage.Aktion = Aktion::TextDialog;
-    w.fenster.FormÖffnen("frmKommentar");
+    w.fenster.FormÖffnen(Name::frmKommentar);
     return false;
 }
 
@@ -112,7 +113,7 @@ void TextLoslassen(Werkbank &w, const Ereignis &e) {
     w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
     if (e.Rechts()) {
         w.lage.Aktion = Aktion::MenüOffen;
-        w.fenster.PopupÖffnen("mnuTextBox");
+        w.fenster.PopupÖffnen(Name::mnuTextBox);
         return;
     }
     Satzliste &boxen = w.dokument.cboTextboxen;

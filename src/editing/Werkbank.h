@@ -4,11 +4,10 @@
 #include "editing/Ablage.h"
 #include "editing/Auflagen.h"
 #include "editing/Leinwandlage.h"
+#include "platform/Befehlsnamen.h"
 #include "rendering/Ansicht.h"
 #include "rendering/Auswahl.h"
 #include "rendering/Legende.h"
-
-#include <string_view>
 
 namespace kw {
 
@@ -27,9 +26,9 @@ class Fensterdienste {
     /// Marks the document as changed: what no snapshot holds.
     virtual void AlsGeändertMerken() = 0;
     /// Shows a context menu at the pointer and runs what the user picks there, before it returns.
-    virtual void PopupÖffnen(std::string_view menü) = 0;
+    virtual void PopupÖffnen(Befehlsname menü) = 0;
     /// Shows a form modally; what it changes is changed when this returns.
-    virtual void FormÖffnen(std::string_view form) = 0;
+    virtual void FormÖffnen(Formularname form) = 0;
     /// Puts a region of the canvas's picture, in its centimetres, where the tool says: on the clipboard or in a file.
     virtual void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) = 0;
 };

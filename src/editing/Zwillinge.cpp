@@ -6,6 +6,7 @@
 #include "editing/Kinder.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
+#include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 
 #include <algorithm>
@@ -179,7 +180,7 @@ void cmdZwillinge(Werkbank &w) {
     lage.Aktion = Aktion::PersonSetzen;
     lage.SymbolGröße = GrößeNormal;
     lage.SymbolTyp = TypZwilling;
-    w.fenster.PopupÖffnen("mnuZwillinge");
+    w.fenster.PopupÖffnen(Name::mnuZwillinge);
     if (lage.Aktion != Aktion::PersonSetzen) return;
     // A dismissed menu arms nothing: what was selected or armed stays so.
     lage.Aktion = vorher.Aktion;

@@ -3,6 +3,7 @@
 #include "document/Dateien.h"
 #include "output/Zieldatei.h"
 #include "platform/Bedienelemente.h"
+#include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
 #include "rendering/Zeichnung.h"
@@ -77,7 +78,7 @@ bool Druckwerk::RänderUmschalten() {
         return false;
     }
     ansicht_.bDruckrandAnzeigen = !ansicht_.bDruckrandAnzeigen;
-    bedienung_["btnBlattränder"].Checked = ansicht_.bDruckrandAnzeigen;
+    bedienung_[Name::btnBlattränder].Checked = ansicht_.bDruckrandAnzeigen;
     return true;
 }
 
@@ -105,7 +106,7 @@ bool Druckwerk::GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen,
         ziel = DateiName(datei.value_or(""));
         return datei;
     };
-    drucker_.OrientationSetzen(bedienung_["btnQuerformat"].Checked ? 2 : 1);
+    drucker_.OrientationSetzen(bedienung_[Name::btnQuerformat].Checked ? 2 : 1);
     const Druckende ende = drucker_.Drucken({titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite,
                                              ansicht_.SeitenHöhe, std::move(zeichnen), zielWählen});
     if (ende == Druckende::NichtGeschrieben)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Befehlsnamen.h"
+
 #include <map>
 #include <string>
 #include <string_view>
@@ -19,11 +21,15 @@ struct Bedienelement {
 /// the face shows them; neither decides by them but for the buttons that stand for a state (legend).
 class Bedienelemente {
   public:
-    /// Element `name`; an unknown name is a fault of the program and throws std::out_of_range.
-    Bedienelement &operator[](std::string_view name) {
+    Bedienelement &operator[](Befehlsname name) { return Mit(name.Text); }
+    const Bedienelement &operator[](Befehlsname name) const { return *Finden(name.Text); }
+    /// Element `name`, for names that are put together, or read; an unknown name is a fault of the program and throws
+    /// std::out_of_range.
+    Bedienelement &Mit(std::string_view name) {
         const auto i = elemente_.find(name);
         return i == elemente_.end() ? elemente_.at(std::string(name)) : i->second;
     }
+    /// The element, or nothing.
     const Bedienelement *Finden(std::string_view name) const {
         const auto i = elemente_.find(name);
         return i == elemente_.end() ? nullptr : &i->second;

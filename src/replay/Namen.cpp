@@ -166,7 +166,7 @@ void Namen::Auswahllisten(const Einblick &h) {
     const auto angekreuzt = [&elemente = h.bedienung](const std::string &papier) {
         std::string schlüssel = "key" + papier;
         std::erase(schlüssel, ' ');
-        return elemente[schlüssel].Checked;
+        return elemente.Mit(schlüssel).Checked;
     };
     Variablen["cboPaperSize.index"].Lesen = [&liste = cboPaperSize_, angekreuzt] {
         const auto &papiere = liste.Einträge;

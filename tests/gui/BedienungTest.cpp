@@ -278,15 +278,15 @@ TEST_F(Palettentest, BerührterKnopfWirdGenannt) {
     fläche.setFocus();
     EXPECT_TRUE(hinweise().isEmpty());
     berühren(4, QEvent::Enter); // the fifth button isn't the fifth tool
-    EXPECT_EQ(innen.bedienung["lblTool"].Caption, "Transgender - Female To Male");
+    EXPECT_EQ(innen.bedienung[Name::lblTool].Caption, "Transgender - Female To Male");
     EXPECT_EQ(hinweise(), QStringList(QStringLiteral("Transgender - Female To Male")));
     berühren(4, QEvent::Leave);
-    EXPECT_EQ(innen.bedienung["lblTool"].Caption, "");
+    EXPECT_EQ(innen.bedienung[Name::lblTool].Caption, "");
     EXPECT_TRUE(hinweise().isEmpty());
     Taste(Qt::Key_Tab);
-    EXPECT_EQ(innen.bedienung["lblTool"].Caption, "Male");
+    EXPECT_EQ(innen.bedienung[Name::lblTool].Caption, "Male");
     Bewegen({400, 300});
-    EXPECT_EQ(innen.bedienung["lblTool"].Caption, "");
+    EXPECT_EQ(innen.bedienung[Name::lblTool].Caption, "");
 }
 
 TEST_F(Bedienung, ImportzeileFälltNurAufDieSeite) {

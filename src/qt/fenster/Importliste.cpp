@@ -3,6 +3,7 @@
 #include "app/Anblick.h"
 #include "document/Importdaten.h"
 #include "platform/Bedienelemente.h"
+#include "platform/Befehlsnamen.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Zeilenbild.h"
 #include "rendering/Sinnbilder.h"
@@ -137,11 +138,11 @@ Importliste::Importliste(const Anblick &anblick) : anblick_(anblick), modell_(ne
     Auffrischen();
 }
 
-bool Importliste::IstVerlangt(const Anblick &anblick) { return anblick.bedienung.Finden("imgVariable")->Visible; }
+bool Importliste::IstVerlangt(const Anblick &anblick) { return anblick.bedienung[Name::imgVariable].Visible; }
 
 void Importliste::Auffrischen() {
     modell_->Auffrischen();
-    widget()->setAccessibleName(Text(anblick_.bedienung.Finden("btnImport")->Caption));
+    widget()->setAccessibleName(Text(anblick_.bedienung[Name::btnImport].Caption));
     setVisible(IstVerlangt(anblick_));
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/Anblick.h"
 #include "platform/Bedienelemente.h"
+#include "platform/Befehlsnamen.h"
 #include "qt/fenster/Menues.h"
 #include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
@@ -15,7 +16,7 @@ namespace kw {
 
 namespace {
 
-constexpr std::string_view Rändername = "cmdRänder";
+constexpr std::string_view Rändername = Name::cmdRänder;
 constexpr int Einzug = 6;
 
 } // namespace
@@ -43,7 +44,7 @@ Statuszeile::Statuszeile(std::function<void(std::string_view)> ausführen) {
 }
 
 void Statuszeile::Auffrischen(const Anblick &anblick) {
-    lblTool_->setText(Text(anblick.bedienung.Finden("lblTool")->Caption));
+    lblTool_->setText(Text(anblick.bedienung[Name::lblTool].Caption));
     const Bedienelement &knopf = *anblick.bedienung.Finden(Rändername);
     cmdRänder_->setText(Text(knopf.Caption));
     cmdRänder_->setEnabled(knopf.Enabled);

@@ -4,6 +4,7 @@
 #include "commands/Bildertafel.h"
 #include "commands/Menuetafel.h"
 #include "platform/Bedienelemente.h"
+#include "platform/Befehlsnamen.h"
 #include "qt/fenster/Bandknopf.h"
 #include "qt/fenster/Menues.h"
 #include "qt/grund/Text.h"
@@ -24,9 +25,9 @@ namespace kw {
 namespace {
 
 /// The last rows of groups: a line stands behind them.
-constexpr std::string_view Gruppenenden[] = {"btnDrucken",     "btnRedo",       "btnQuerformat",
-                                             "btnBlattränder", "btnPapier",     "btnBildKleiner",
-                                             "btnLegende",     "btnFarbschema", "btnAuswahlZuBild"};
+constexpr std::string_view Gruppenenden[] = {Name::btnDrucken,     Name::btnRedo,       Name::btnQuerformat,
+                                             Name::btnBlattränder, Name::btnPapier,     Name::btnBildKleiner,
+                                             Name::btnLegende,     Name::btnFarbschema, Name::btnAuswahlZuBild};
 
 /// Of a drop-down whose choices have no pictures the button shows the choice in words.
 bool ZeigtZustand(const Menüzeile &zeile) {

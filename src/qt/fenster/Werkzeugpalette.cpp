@@ -2,6 +2,7 @@
 
 #include "app/frmMain.h"
 #include "editing/Werkzeuge.h"
+#include "platform/Befehlsnamen.h"
 #include "qt/fenster/Palettenknopf.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Zeilenbild.h"
@@ -51,9 +52,13 @@ constexpr std::array<Merkmalname, MerkmalAnzahl> Merkmalnamen{{
 }};
 
 /// The row of the table that has the button's state and caption.
-std::string Elementname(int werkzeug) { return werkzeug == Löschen ? "cmdDelete" : WerkzeugName(werkzeug); }
+std::string Elementname(int werkzeug) {
+    return werkzeug == Löschen ? std::string(Name::cmdDelete.Text) : WerkzeugName(werkzeug);
+}
 
-std::string Befehlsname(int werkzeug) { return werkzeug == WerkzeugZwillinge ? "cmdZwillinge" : Elementname(werkzeug); }
+std::string BefehlVon(int werkzeug) {
+    return werkzeug == WerkzeugZwillinge ? std::string(Name::cmdZwillinge.Text) : Elementname(werkzeug);
+}
 
 Bildmacher BildVon(Sinnbild sinnbild, const Uhr &uhr) {
     return [sinnbild = std::move(sinnbild), &uhr](int kante, double verhältnis) {
@@ -82,7 +87,7 @@ void Werkzeugpalette::KnöpfeAnlegen() {
         auto *knopf = new Palettenknopf(bild, this);
         knopf->TasteWeitergeben = [this, i](int taste) { return Gehen(i, taste); };
         if (werkzeug != Löschen) knopf->Berührt = [this, i](bool darauf) { Berühren(i, darauf); };
-        connect(knopf, &QAbstractButton::clicked, this, [this, name = Befehlsname(werkzeug)] { ausführen_(name); });
+        connect(knopf, &QAbstractButton::clicked, this, [this, name = BefehlVon(werkzeug)] { ausführen_(name); });
         knöpfe_.push_back(knopf);
         fokus_.Aufnehmen(*knopf);
     }
@@ -118,7 +123,7 @@ void Werkzeugpalette::Berühren(int stelle, bool darauf) {
 
 /// Beside the button, over the page.
 void Werkzeugpalette::HinweisZeigen() {
-    const Bedienelement &element = *anblick_.bedienung.Finden("picToolTipp");
+    const Bedienelement &element = anblick_.bedienung[Name::picToolTipp];
     if (!hinweis_ && element.Visible) hinweis_ = new Palettenhinweis(parentWidget());
     if (!hinweis_) return;
     hinweis_->setVisible(element.Visible && isVisible());
