@@ -57,7 +57,7 @@ void EinfügenImKontext(Befehlsumgebung &u, int) {
 
 void AuswahlLöschenImKontext(Befehlsumgebung &u, int) {
     AuswahlLöschen(u.werkbank);
-    MarkierungsListBoxenLöschen(u.werkbank);
+    MarkierungsListBoxenLöschen(u.werkbank.auswahl, u.werkbank.lage);
 }
 
 void SymbolBearbeiten(Befehlsumgebung &u, int) {
@@ -252,7 +252,7 @@ Befehl AusReihe(std::string_view name) {
 } // namespace
 
 void NichtsAuswählen(Werkbank &w) {
-    AllesAbwählen(w);
+    AllesAbwählen(w.auswahl, w.lage, w.auflagen);
     w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = false;
 }
 

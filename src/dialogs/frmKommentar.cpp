@@ -106,7 +106,7 @@ void frmKommentar::Laden() {
     TextboxAufnehmen(w.dokument.cboTextboxen.Satz(position_));
 }
 
-void frmKommentar::Entladen() { Aktion_Nichts(umgebung_.werkbank); }
+void frmKommentar::Entladen() { Aktion_Nichts(umgebung_.werkbank.lage); }
 
 /// The box keeps its own place: the marker's is beside it.
 void frmKommentar::TextboxAufnehmen(std::string_view satz) {

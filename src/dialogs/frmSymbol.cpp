@@ -173,7 +173,7 @@ void frmSymbol::PersonLaden() {
 }
 
 void frmSymbol::Entladen() {
-    MarkierungsListBoxenLöschen(umgebung_.werkbank);
+    MarkierungsListBoxenLöschen(umgebung_.werkbank.auswahl, umgebung_.werkbank.lage);
     KeineAktion(umgebung_.werkbank);
     umgebung_.werkbank.lage.Angebot.Löschen = false;
 }

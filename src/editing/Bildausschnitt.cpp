@@ -19,8 +19,8 @@ void BildauswahlBeginnen(Werkbank &w, bool inDatei) {
 bool BildBeginnen(Werkbank &w, const Ereignis &e) {
     if (!w.lage.BildAuswahl) return false;
     w.lage.Aktion = Aktion::RahmenZiehen;
-    w.lage.AnkerX = Raster(w, e.X);
-    w.lage.AnkerY = Raster(w, e.Y);
+    w.lage.AnkerX = Raster(w.ansicht, e.X);
+    w.lage.AnkerY = Raster(w.ansicht, e.Y);
     return true;
 }
 
@@ -30,7 +30,7 @@ void BildLoslassen(Werkbank &w) {
     const Bildausschnitt region{box.Left, box.Top, box.Width, box.Height};
     if (Kleiner(Kleinstes, region.Width) && Kleiner(Kleinstes, region.Height))
         w.fenster.AusschnittAusgeben(region, w.lage.bAuswahlInDatei);
-    AuswahlrahmenParken(w);
+    AuswahlrahmenParken(w.auflagen);
     w.lage.BildAuswahl = false;
     w.lage.Zeiger = Mauszeiger::Pfeil;
     w.lage.Aktion = Aktion::Nichts;

@@ -4,12 +4,12 @@
 
 namespace kw {
 
-double Raster(const Werkbank &w, double wert) { return Gerastert(wert, w.ansicht.Rasterweite); }
+double Raster(const Ansicht &ansicht, double wert) { return Gerastert(wert, ansicht.Rasterweite); }
 
-double RasterZehntel(const Werkbank &w, double wert) { return Gerundet(Raster(w, wert), 1); }
+double RasterZehntel(const Ansicht &ansicht, double wert) { return Gerundet(Raster(ansicht, wert), 1); }
 
-bool HatSichBewegt(const Werkbank &w, const Ereignis &e) {
-    return Gerundet(e.X, 2) != w.lage.DownX || Gerundet(e.Y, 2) != w.lage.DownY;
+bool HatSichBewegt(const Leinwandlage &lage, const Ereignis &e) {
+    return Gerundet(e.X, 2) != lage.DownX || Gerundet(e.Y, 2) != lage.DownY;
 }
 
 void PopupÖffnen(Werkbank &w, Befehlsname menü) {

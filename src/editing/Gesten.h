@@ -16,10 +16,10 @@ struct Ereignis {
     bool Rechts() const { return Taste == TasteRechts; }
 };
 
-double Raster(const Werkbank &w, double wert);        ///< snapped
-double RasterZehntel(const Werkbank &w, double wert); ///< snapped and rounded to one decimal, as stored
+double Raster(const Ansicht &ansicht, double wert);        ///< snapped
+double RasterZehntel(const Ansicht &ansicht, double wert); ///< snapped and rounded to one decimal, as stored
 /// Whether the pointer has left the place of the press, by two decimals.
-bool HatSichBewegt(const Werkbank &w, const Ereignis &e);
+bool HatSichBewegt(const Leinwandlage &lage, const Ereignis &e);
 /// Opens a context menu from a press: its release will end no gesture.
 void PopupÖffnen(Werkbank &w, Befehlsname menü);
 

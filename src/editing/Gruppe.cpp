@@ -72,8 +72,8 @@ double Weg(double jetzt, double vorher) { return Gerundet(Gerundet(jetzt - vorhe
 
 bool RahmenBeginnen(Werkbank &w, const Ereignis &e) {
     w.lage.Aktion = Aktion::RahmenZiehen;
-    w.lage.AnkerX = Raster(w, e.X);
-    w.lage.AnkerY = Raster(w, e.Y);
+    w.lage.AnkerX = Raster(w.ansicht, e.X);
+    w.lage.AnkerY = Raster(w.ansicht, e.Y);
     if (!e.Rechts()) return true;
     w.lage.Angebot.EinfügenImKontext = true;
     PopupÖffnen(w, Name::mnuSymbolEinfügen);
@@ -99,7 +99,7 @@ void RahmenAuswählen(Werkbank &w) {
     const bool etwas = !a.Leer();
     w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = etwas;
     w.lage.Aktion = etwas ? Aktion::GruppeGewählt : Aktion::Nichts;
-    if (!etwas) AuswahlrahmenParken(w);
+    if (!etwas) AuswahlrahmenParken(w.auflagen);
     w.fenster.Vorschau();
 }
 
@@ -112,8 +112,8 @@ bool GruppeFassen(Werkbank &w, const Ereignis &e) {
     w.lage.AltY = Gerundet(rahmen.Top, 1);
     const Auswahlkasten kasten{rahmen.Left, rahmen.Top, rahmen.Left + rahmen.Width, rahmen.Top + rahmen.Height};
     if (!kasten.Enthält(e.X, e.Y)) { // the press only ends the selection
-        AuswahlrahmenParken(w);
-        MarkierungsListBoxenLöschen(w);
+        AuswahlrahmenParken(w.auflagen);
+        MarkierungsListBoxenLöschen(w.auswahl, w.lage);
         w.lage.Aktion = Aktion::Nichts;
         w.fenster.Vorschau();
         return true;
@@ -130,8 +130,8 @@ bool GruppeFassen(Werkbank &w, const Ereignis &e) {
 }
 
 void GruppeZiehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.shpBox.Left = Raster(w, e.X - w.lage.VersatzX);
-    w.auflagen.shpBox.Top = Raster(w, e.Y - w.lage.VersatzY);
+    w.auflagen.shpBox.Left = Raster(w.ansicht, e.X - w.lage.VersatzX);
+    w.auflagen.shpBox.Top = Raster(w.ansicht, e.Y - w.lage.VersatzY);
 }
 
 void GruppeLoslassen(Werkbank &w, const Ereignis &) {
@@ -156,7 +156,7 @@ void AuswahlLöschen(Werkbank &w) {
     for (const Gruppenart *art : Arten) Entfernen(*art, w.dokument, w.auswahl);
     PositionenVergessen(w.lage);
     PersonenEntfernen(w);
-    AuswahlrahmenParken(w);
+    AuswahlrahmenParken(w.auflagen);
     if (Satzzahl(w.dokument) < vorher) w.fenster.Sichern();
     w.fenster.Vorschau();
     w.lage.Aktion = Aktion::Nichts;
@@ -183,7 +183,7 @@ void mnuLöschen1(Werkbank &w) {
     } else {
         w.lage.Aktion = Aktion::GruppeGewählt;
         AuswahlLöschen(w);
-        MarkierungsListBoxenLöschen(w);
+        MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     }
     w.lage.Angebot.Löschen = false;
 }
@@ -192,7 +192,7 @@ void mnuSymbolLöschen(Werkbank &w) {
     w.lage.Info.Visible = false;
     if (w.lage.ElementArt == "Textbox") LetzteTextboxLöschen(w);
     else PersonLöschen(w);
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     MarkerEntfernen(w);
     w.lage.Aktion = Aktion::Nichts;
     w.auflagen.shpMask.Visible = false;
@@ -206,8 +206,8 @@ void cmdDelete(Werkbank &w) {
     PositionenVergessen(w.lage);
     PersonenEntfernen(w);
     for (const auto &nr : w.auswahl.lstMovedPLines) PartnerschaftAlleinEntfernen(w.dokument, nr);
-    AuswahlrahmenParken(w);
-    MarkierungsListBoxenLöschen(w);
+    AuswahlrahmenParken(w.auflagen);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     if (Satzzahl(w.dokument) < vorher) w.fenster.Sichern();

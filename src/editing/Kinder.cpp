@@ -74,7 +74,7 @@ bool KindLinieTreffer(Werkbank &w, double x, double y) {
     const int i = KindLinieBei(w.dokument, x, y, w.lage.AuswahlGröße);
     if (i < 0) return false;
     w.lage.KindAuswahl = i;
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.lage.Aktion = Aktion::KindlinieGewählt;
     w.fenster.Vorschau();
     return true;
@@ -105,7 +105,7 @@ bool KindLinkBeenden(Werkbank &w, const Ereignis &) {
     w.lage.Aktion = Aktion::Nichts; // before the redraw, which marks the bar under the pointer
     w.lage.PLinieUnterMaus = false;
     w.lage.PersRecord.clear();
-    LinkAufräumen(w);
+    LinkAufräumen(w.lage, w.auflagen);
     w.auswahl.lstMovedPLines.Leeren();
     MarkerEntfernen(w);
     if (angelegt) w.fenster.Sichern();

@@ -78,7 +78,7 @@ void KreisAuswählen(Werkbank &w, int position) {
     w.lage.Aktion = Aktion::KreisGewählt;
     w.lage.KreisAuswahl = position + 1;
     w.lage.PersRecord.clear();
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.auswahl.lstMovedKreisLinien.Anhängen(std::to_string(position + 1));
     w.lage.KreisPunkte = KreisPunkte(w.dokument.cboFreehandlines.Satz(position));
 }
@@ -96,8 +96,8 @@ bool KreisTreffen(Werkbank &w, const Ereignis &e) {
     w.lage.KreisGetroffen = i >= 0;
     w.lage.KreisAuswahl = 0;
     if (w.lage.KreisGetroffen) {
-        AuswahlrahmenParken(w);
-        LinkAufräumen(w);
+        AuswahlrahmenParken(w.auflagen);
+        LinkAufräumen(w.lage, w.auflagen);
         KreisAuswählen(w, i);
     }
     w.fenster.Vorschau();

@@ -15,10 +15,10 @@ bool LegendeUnterMaus(const Werkbank &w) {
 
 bool LegendeFassen(Werkbank &w, const Ereignis &e) {
     if (!LegendeUnterMaus(w)) return false;
-    LinkAbbrechen(w);
+    LinkAbbrechen(w.auswahl, w.lage, w.auflagen);
     if (w.lage.Aktion == Aktion::GruppeGewählt) {
-        AuswahlrahmenParken(w);
-        MarkierungsListBoxenLöschen(w);
+        AuswahlrahmenParken(w.auflagen);
+        MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     }
     w.lage.Aktion = Aktion::LegendeGefasst;
     Auflagenform &maske = w.auflagen.shpMask;
@@ -34,13 +34,13 @@ bool LegendeFassen(Werkbank &w, const Ereignis &e) {
 }
 
 void LegendeZiehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.shpMask.Left = Raster(w, e.X - w.lage.VersatzX);
-    w.auflagen.shpMask.Top = Raster(w, e.Y - w.lage.VersatzY);
+    w.auflagen.shpMask.Left = Raster(w.ansicht, e.X - w.lage.VersatzX);
+    w.auflagen.shpMask.Top = Raster(w.ansicht, e.Y - w.lage.VersatzY);
 }
 
 void LegendeLoslassen(Werkbank &w, const Ereignis &) {
-    const double x = RasterZehntel(w, w.auflagen.shpMask.Left);
-    const double y = RasterZehntel(w, w.auflagen.shpMask.Top);
+    const double x = RasterZehntel(w.ansicht, w.auflagen.shpMask.Left);
+    const double y = RasterZehntel(w.ansicht, w.auflagen.shpMask.Top);
     if (x != w.dokument.LegendeX || y != w.dokument.LegendeY) w.fenster.AlsGeändertMerken();
     w.dokument.LegendeX = x;
     w.dokument.LegendeY = y;

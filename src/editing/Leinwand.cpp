@@ -42,7 +42,7 @@ bool OrtMerken(Werkbank &w, const Ereignis &e) {
 
 bool MenüWarOffen(Werkbank &w, const Ereignis &) {
     const bool ende = w.lage.Aktion == Aktion::MenüOffen;
-    if (ende || w.lage.Aktion == Aktion::Nichts) Gummi1Parken(w);
+    if (ende || w.lage.Aktion == Aktion::Nichts) Gummi1Parken(w.auflagen);
     if (ende) w.lage.Aktion = Aktion::Nichts;
     if (ende) w.lage.PersRecord.clear(); // a double click that begins so isn't meant for that person
     return ende;
@@ -73,7 +73,7 @@ bool LinieWarGewählt(Werkbank &w, const Ereignis &e) {
         PopupÖffnen(w, zeile->Menü);
         return true;
     }
-    Gummi1Parken(w);
+    Gummi1Parken(w.auflagen);
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     return true;
@@ -150,7 +150,7 @@ void ZugAbbrechen(Werkbank &w) {
     case Aktion::KreisZeichnen:
     case Aktion::PfeilZeichnen:
     case Aktion::LegendeGefasst:
-        AuswahlrahmenParken(w);
+        AuswahlrahmenParken(w.auflagen);
         w.lage.PunktListe.clear();
         w.lage.BildAuswahl = false;
         w.lage.Aktion = Aktion::Nichts;
@@ -185,7 +185,7 @@ void Leinwand::MouseUp(int taste, double x, double y) {
     if (w.lage.BildAuswahl) return BildLoslassen(w);
     w.auflagen.Line1.Visible = w.auflagen.Line5.Visible = false;
     w.lage.Zeiger = Mauszeiger::Pfeil;
-    Gummi2Parken(w);
+    Gummi2Parken(w.auflagen);
     const Ereignis e{taste, x, y};
     for (const Ende &ende : Enden) {
         if (ende.Aktion != w.lage.Aktion) continue;
@@ -224,7 +224,7 @@ void Leinwand::DblClick(double x, double y) {
 }
 
 void Leinwand::GesteAbbrechen() {
-    LinkAbbrechen(w);
+    LinkAbbrechen(w.auswahl, w.lage, w.auflagen);
     if (std::exchange(w.lage.Gedrückt, false)) ZugAbbrechen(w);
 }
 

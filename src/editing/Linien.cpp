@@ -60,7 +60,7 @@ bool BalkenBewegen(Dokument &d, int position, const Auflagenlinie &neu) {
 
 void LinieAngepasst(Werkbank &w) {
     w.lage.Aktion = Aktion::Nichts;
-    Gummi1Parken(w);
+    Gummi1Parken(w.auflagen);
     w.fenster.Vorschau();
     w.fenster.Sichern();
 }
@@ -99,7 +99,7 @@ bool BezLinieTreffer(Werkbank &w, double x, double y) {
     const int i = BezLinieBei(w.dokument, x, y);
     if (i < 0) return false;
     w.lage.BezAuswahl = i;
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.lage.Aktion = Aktion::BeziehungGewählt;
     w.lage.Angebot.Löschen = true;
     w.fenster.Vorschau();
@@ -112,7 +112,7 @@ bool PLinieTreffer(Werkbank &w, double x, double y) {
     if (i < 0) return false;
     w.lage.PLinieAuswahl = i;
     w.lage.LinieVerschoben = false;
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.auswahl.lstMovedPLines.Anhängen(std::to_string(i + 1));
     if (w.lage.Aktion == Aktion::KindZiehen) return true; // a link gesture goes on
     w.lage.Aktion = Aktion::PLinieGewählt;
@@ -122,7 +122,7 @@ bool PLinieTreffer(Werkbank &w, double x, double y) {
 
 void BalkenZiehen(Werkbank &w, const Ereignis &e) {
     const PartnerschaftSatz linie(w.dokument.cboPartnerschaftsLinien.Satz(w.lage.PLinieAuswahl));
-    const double y = Raster(w, e.Y);
+    const double y = Raster(w.ansicht, e.Y);
     w.auflagen.Line1.Legen(linie.BalkenX1(), y, linie.BalkenX2(), y);
     w.auflagen.Line1.Visible = true;
     w.lage.LinieVerschoben = true;
@@ -133,7 +133,7 @@ void BalkenLoslassen(Werkbank &w, const Ereignis &) {
                             BalkenBewegen(w.dokument, w.lage.PLinieAuswahl, w.auflagen.Line1);
     if (verschoben) {
         w.lage.Aktion = Aktion::Nichts;
-        Gummi1Parken(w);
+        Gummi1Parken(w.auflagen);
     }
     w.fenster.Vorschau();
     if (verschoben) w.fenster.Sichern();
@@ -194,7 +194,7 @@ void PLinieLöschen(Werkbank &w) {
     if (!Gültig(w.dokument.cboPartnerschaftsLinien, w.lage.PLinieAuswahl)) return;
     PartnerschaftEntfernen(w.dokument, w.lage.PLinieAuswahl);
     w.auswahl.lstMovedPLines.Leeren();
-    Gummi1Parken(w);
+    Gummi1Parken(w.auflagen);
     LöschenAbschließen(w);
 }
 

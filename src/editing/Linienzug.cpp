@@ -66,7 +66,8 @@ void ZielAnzeigen(Werkbank &w) {
     const double größe = person.Groesse();
     const int typ = SymbolKennzahl(person.Symboltyp());
     ziel.Shape = typ == TypWeiblich || typ == TypMännlichZuWeiblich ? Umriss::Kreis : Umriss::Quadrat;
-    ziel.Legen(RasterZehntel(w, x - größe / 2), RasterZehntel(w, y - größe / 2), größe + 0.02, größe + 0.02);
+    ziel.Legen(RasterZehntel(w.ansicht, x - größe / 2), RasterZehntel(w.ansicht, y - größe / 2), größe + 0.02,
+               größe + 0.02);
     if (typ == TypSchwangerschaft) ZielUmreißen(w.auflagen, Dreieck(x, y, größe));
     if (typ == TypDivers) {
         auto ecken = Sechseck(x, y, größe);
@@ -88,8 +89,8 @@ void BeziehungAnlegen(Werkbank &w) {
     Dokument &d = w.dokument;
     const auto paar = Paar(d, w.lage);
     if (!IstPaar(d.cboPersonen, paar)) {
-        MarkierungsListBoxenLöschen(w);
-        Aktion_Nichts(w);
+        MarkierungsListBoxenLöschen(w.auswahl, w.lage);
+        Aktion_Nichts(w.lage);
         w.fenster.Vorschau();
         return;
     }
@@ -99,7 +100,7 @@ void BeziehungAnlegen(Werkbank &w) {
     if (Getrimmt(erster.Nr()).empty() || Getrimmt(zweiter.Nr()).empty()) return;
     const std::string satz = NeueBeziehung(erster, zweiter);
     const std::string_view nummern = std::string_view(satz).substr(satz.size() - PaarLänge);
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     const auto &linien = d.cboBeziehungsLinien;
     if (std::any_of(linien.begin(), linien.end(), [&](const std::string &l) { return l.ends_with(nummern); })) return;
     d.cboBeziehungsLinien.Anhängen(satz);
@@ -149,9 +150,9 @@ void LinkZiehen(Werkbank &w, int person, double x, double y) {
 
 bool LinkBeenden(Werkbank &w, const Ereignis &) {
     if (w.lage.Aktion != Aktion::BeziehungZiehen && w.lage.Aktion != Aktion::PartnerschaftZiehen) return false;
-    LinkAufräumen(w);
+    LinkAufräumen(w.lage, w.auflagen);
     w.lage.PersRecord.clear();
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     if (w.lage.Aktion == Aktion::BeziehungZiehen) BeziehungAnlegen(w);
     else PartnerschaftAnlegen(w);
     w.lage.Aktion = Aktion::Nichts;
@@ -182,7 +183,7 @@ void PartnerschaftAnlegen(Werkbank &w) {
         KeineAktion(w);
         return;
     }
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     const bool neu = !GibtEsPartnerschaft(d, erster.Nr(), zweiter.Nr());
     if (neu) PaarVerbinden(d, paar.first, paar.second);
     else d.NeuePLinienNr(); // a number is taken for a pair that has a line already, and stays taken. Meant.
@@ -195,7 +196,7 @@ void BezLAbbrechen(Werkbank &w) {
     Satzliste &linien = w.dokument.cboBeziehungsLinien;
     if (Gültig(linien, w.lage.BezAuswahl)) linien.Entfernen(w.lage.BezAuswahl);
     PositionenVergessen(w.lage);
-    Aktion_Nichts(w);
+    Aktion_Nichts(w.lage);
     w.fenster.Vorschau();
 }
 

@@ -5,20 +5,20 @@
 
 namespace kw {
 
-void MarkierungsListBoxenLöschen(Werkbank &w) {
-    w.auswahl = {};
-    w.lage.Angebot.Zwillinge = false; // it was offered for what the lists held
-    w.lage.Info.Visible = false;      // and the panel told of whom they held
+void MarkierungsListBoxenLöschen(Auswahl &auswahl, Leinwandlage &lage) {
+    auswahl = {};
+    lage.Angebot.Zwillinge = false; // it was offered for what the lists held
+    lage.Info.Visible = false;      // and the panel told of whom they held
 }
 
-void MarkerParken(Werkbank &w) {
-    w.lage.AuswahlX = w.lage.AuswahlY = Geparkt;
-    w.lage.MarkerBreite = w.lage.MarkerHöhe = 0.01;
-    w.auflagen.shpMask.Visible = false;
+void MarkerParken(Leinwandlage &lage, Auflagen &auflagen) {
+    lage.AuswahlX = lage.AuswahlY = Geparkt;
+    lage.MarkerBreite = lage.MarkerHöhe = 0.01;
+    auflagen.shpMask.Visible = false;
 }
 
 void MarkerEntfernen(Werkbank &w) {
-    MarkerParken(w);
+    MarkerParken(w.lage, w.auflagen);
     w.fenster.Vorschau();
 }
 
@@ -27,38 +27,38 @@ void KeineAktion(Werkbank &w) {
     w.lage.Aktion = Aktion::Nichts;
 }
 
-void Aktion_Nichts(Werkbank &w) { w.lage.Aktion = Aktion::Nichts; }
+void Aktion_Nichts(Leinwandlage &lage) { lage.Aktion = Aktion::Nichts; }
 
-void Gummi1Parken(Werkbank &w) { w.auflagen.Line1.Parken(); }
+void Gummi1Parken(Auflagen &auflagen) { auflagen.Line1.Parken(); }
 
-void Gummi2Parken(Werkbank &w) { w.auflagen.Line2.Parken(); }
+void Gummi2Parken(Auflagen &auflagen) { auflagen.Line2.Parken(); }
 
-void AuswahlrahmenParken(Werkbank &w) { w.auflagen.shpBox.Legen(Geparkt, Geparkt, 0, 0); }
+void AuswahlrahmenParken(Auflagen &auflagen) { auflagen.shpBox.Legen(Geparkt, Geparkt, 0, 0); }
 
-void LinkAufräumen(Werkbank &w) {
-    Gummi1Parken(w);
-    Gummi2Parken(w);
-    w.auflagen.Line1.Visible = w.auflagen.Line2.Visible = w.auflagen.shpPerson.Visible = false;
-    for (Auflagenlinie &linie : w.auflagen.MarkLine) linie.Visible = false;
-    w.lage.lblPersAuswahl.clear();
+void LinkAufräumen(Leinwandlage &lage, Auflagen &auflagen) {
+    Gummi1Parken(auflagen);
+    Gummi2Parken(auflagen);
+    auflagen.Line1.Visible = auflagen.Line2.Visible = auflagen.shpPerson.Visible = false;
+    for (Auflagenlinie &linie : auflagen.MarkLine) linie.Visible = false;
+    lage.lblPersAuswahl.clear();
 }
 
-void LinkAbbrechen(Werkbank &w) {
-    if (w.lage.Aktion != Aktion::BeziehungZiehen && w.lage.Aktion != Aktion::PartnerschaftZiehen &&
-        w.lage.Aktion != Aktion::KindZiehen)
+void LinkAbbrechen(Auswahl &auswahl, Leinwandlage &lage, Auflagen &auflagen) {
+    if (lage.Aktion != Aktion::BeziehungZiehen && lage.Aktion != Aktion::PartnerschaftZiehen &&
+        lage.Aktion != Aktion::KindZiehen)
         return;
-    LinkAufräumen(w);
-    MarkierungsListBoxenLöschen(w); // positions of the two, which nothing else must take for numbers
-    w.lage.PLinieUnterMaus = false;
-    w.lage.Aktion = Aktion::Nichts;
+    LinkAufräumen(lage, auflagen);
+    MarkierungsListBoxenLöschen(auswahl, lage); // positions of the two, which nothing else must take for numbers
+    lage.PLinieUnterMaus = false;
+    lage.Aktion = Aktion::Nichts;
 }
 
 void AuswahlAufgeben(Werkbank &w) {
     w.lage.BildAuswahl = false;
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.lage.PersRecord.clear();
-    AuswahlrahmenParken(w);
-    LinkAufräumen(w);
+    AuswahlrahmenParken(w.auflagen);
+    LinkAufräumen(w.lage, w.auflagen);
     MarkerEntfernen(w);
 }
 
@@ -68,15 +68,15 @@ void PositionenVergessen(Leinwandlage &lage) {
     lage.PersRecord.clear();
 }
 
-void AllesAbwählen(Werkbank &w) {
-    MarkierungsListBoxenLöschen(w);
-    const Leinwandlage vorher = std::exchange(w.lage, {});
-    w.lage.Angebot = vorher.Angebot;
-    w.lage.MausX = vorher.MausX; // the pointer stays where it is, and what was measured last remains so
-    w.lage.MausY = vorher.MausY;
-    w.lage.AuswahlGröße = vorher.AuswahlGröße;
-    w.lage.TextRahmenUnten = vorher.TextRahmenUnten;
-    w.auflagen = {};
+void AllesAbwählen(Auswahl &auswahl, Leinwandlage &lage, Auflagen &auflagen) {
+    MarkierungsListBoxenLöschen(auswahl, lage);
+    const Leinwandlage vorher = std::exchange(lage, {});
+    lage.Angebot = vorher.Angebot;
+    lage.MausX = vorher.MausX; // the pointer stays where it is, and what was measured last remains so
+    lage.MausY = vorher.MausY;
+    lage.AuswahlGröße = vorher.AuswahlGröße;
+    lage.TextRahmenUnten = vorher.TextRahmenUnten;
+    auflagen = {};
 }
 
 void LöschenAbschließen(Werkbank &w) {

@@ -82,7 +82,7 @@ void PersonUmgeben(std::string_view satz, Umgebung &umgebung) {
 
 void PersonAuswählen(Werkbank &w, int position) {
     Leinwandlage &lage = w.lage;
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     lage.PersAuswahl = position + 1;
     lage.ElementArt = "Person";
     lage.PersRecord = w.dokument.cboPersonen.Satz(position);
@@ -105,20 +105,20 @@ void PersonAuswählen(Werkbank &w, int position) {
 
 void PersonAnlegen(Werkbank &w, const Importperson *import) {
     if (w.lage.Aktion != Aktion::PersonSetzen) return;
-    const double x = RasterZehntel(w, w.lage.MausX);
-    const double y = RasterZehntel(w, w.lage.MausY);
+    const double x = RasterZehntel(w.ansicht, w.lage.MausX);
+    const double y = RasterZehntel(w.ansicht, w.lage.MausY);
     if (import) w.dokument.cboPersonen.Anhängen(ImportSatz(*import, w.dokument.NeuePersNr(), x, y, GrößeNormal));
     else Anhängen(w.dokument, w.lage.SymbolTyp, x, y, w.lage.SymbolGröße);
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.fenster.Vorschau();
 }
 
 void ElternAnlegen(Werkbank &w) {
     const double rechtsaußen = w.ansicht.SeitenBreite - ElternPlatz;
-    const double y = RasterZehntel(w, w.lage.MausY);
-    const double x = RasterZehntel(w, std::min(w.lage.MausX, rechtsaußen));
+    const double y = RasterZehntel(w.ansicht, w.lage.MausY);
+    const double x = RasterZehntel(w.ansicht, std::min(w.lage.MausX, rechtsaußen));
     Anhängen(w.dokument, TypMännlich, x, y, w.lage.SymbolGröße);
-    Anhängen(w.dokument, TypWeiblich, RasterZehntel(w, x + ElternAbstand), y, w.lage.SymbolGröße);
+    Anhängen(w.dokument, TypWeiblich, RasterZehntel(w.ansicht, x + ElternAbstand), y, w.lage.SymbolGröße);
     const int mutter = w.dokument.cboPersonen.Anzahl() - 1;
     PaarVerbinden(w.dokument, mutter - 1, mutter);
     w.lage.Aktion = Aktion::Nichts;
@@ -140,7 +140,7 @@ bool PersonTreffen(Werkbank &w, const Ereignis &e) {
     const int i = PersonBei(w.dokument, e.X, e.Y);
     if (i < 0) return false;
     PersonAuswählen(w, i);
-    Gummi1Parken(w);
+    Gummi1Parken(w.auflagen);
     w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
     const PersonSatz person(w.lage.PersRecord);
     w.lage.VersatzX = e.X - person.PosX();
@@ -154,8 +154,8 @@ void PersonZiehen(Werkbank &w, const Ereignis &e) {
     const double schritt = w.ansicht.Rasterweite;
     Auflagenform &maske = w.auflagen.shpMask;
     if (!Kleiner(schritt, w.lage.VersatzX) && !Kleiner(schritt, w.lage.VersatzY)) maske.Visible = false;
-    maske.Left = Raster(w, e.X - w.lage.VersatzX) - w.lage.SymbolGröße / 2;
-    maske.Top = Raster(w, e.Y - w.lage.VersatzY) - w.lage.SymbolGröße / 2;
+    maske.Left = Raster(w.ansicht, e.X - w.lage.VersatzX) - w.lage.SymbolGröße / 2;
+    maske.Top = Raster(w.ansicht, e.Y - w.lage.VersatzY) - w.lage.SymbolGröße / 2;
     if (Kleiner(schritt, std::fabs(e.X - w.lage.DownX)) || Kleiner(schritt, std::fabs(e.Y - w.lage.DownY)))
         maske.Visible = true;
 }
@@ -170,7 +170,7 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e) {
     Satzliste &personen = w.dokument.cboPersonen;
     const int i = lage.PersAuswahl - 1;
     if (!Gültig(personen, i)) return;
-    const bool bewegt = HatSichBewegt(w, e);
+    const bool bewegt = HatSichBewegt(w.lage, e);
     if (bewegt) { // back on the spot it stays where it was, off the raster too
         lage.AuswahlX = Gerundet(w.auflagen.shpMask.Left, 2);
         lage.AuswahlY = Gerundet(w.auflagen.shpMask.Top, 2);
@@ -186,7 +186,7 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e) {
     if (!bewegt) return;
     LinienDerPersonNachziehen(w.dokument, Bezüge(w.dokument), lage.PersNr, lage.NeuX, lage.NeuY, w.ansicht.Rasterweite,
                               std::nullopt);
-    MarkerParken(w);
+    MarkerParken(w.lage, w.auflagen);
     lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     w.auflagen.shpMask.Parken();
@@ -213,7 +213,7 @@ void PersonMitbewegen(Werkbank &w, const Bezüge &bezüge, std::string_view nr, 
     w.lage.NeuX = person.Stand().PosX();
     w.lage.NeuY = person.Stand().PosY();
     LinienDerPersonNachziehen(w.dokument, bezüge, w.lage.PersNr, w.lage.NeuX, w.lage.NeuY, raster, gruppe);
-    MarkerParken(w);
+    MarkerParken(w.lage, w.auflagen);
 }
 
 void PersonLöschen(Werkbank &w) {

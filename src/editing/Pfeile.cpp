@@ -82,8 +82,8 @@ int PfeilEndeBei(const Dokument &d, int position, double x, double y) {
 
 bool PfeilBeginnen(Werkbank &w, const Ereignis &e) {
     if (w.lage.Aktion != Aktion::PfeilZeichnen) return false;
-    w.lage.AnkerX = Raster(w, e.X);
-    w.lage.AnkerY = Raster(w, e.Y);
+    w.lage.AnkerX = Raster(w.ansicht, e.X);
+    w.lage.AnkerY = Raster(w.ansicht, e.Y);
     w.auflagen.Line5.Legen(w.lage.AnkerX, w.lage.AnkerY, w.lage.AnkerX, w.lage.AnkerY); // not where the last arrow was
     w.auflagen.Line5.Visible = true;
     return true;
@@ -93,7 +93,7 @@ bool PfeilTreffer(Werkbank &w, double x, double y) {
     const int i = PfeilBei(w.dokument, x, y);
     if (i < 0) return false;
     w.lage.PfeilAuswahl = i;
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.auswahl.lstMovedPfeile.Anhängen(std::to_string(i));
     LöschenUndAusschneidenAnbieten(w);
     PfeilFassen(w);
@@ -116,15 +116,15 @@ bool PfeilEndeTreffer(Werkbank &w, double x, double y) {
 }
 
 void PfeilAufziehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.Line5.Legen(w.lage.AnkerX, w.lage.AnkerY, Raster(w, e.X), Raster(w, e.Y));
+    w.auflagen.Line5.Legen(w.lage.AnkerX, w.lage.AnkerY, Raster(w.ansicht, e.X), Raster(w.ansicht, e.Y));
 }
 
 void PfeilZiehen(Werkbank &w, const Ereignis &e) {
     // The second end has a handle; without one on show it doesn't follow. The first end does. Meant.
     if (w.lage.Aktion == Aktion::PfeilEnde2 && !w.ansicht.PfeilMarkiert) return;
     const PfeilSatz pfeil(w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl));
-    const double dx = Raster(w, e.X - w.lage.DownX);
-    const double dy = Raster(w, e.Y - w.lage.DownY);
+    const double dx = Raster(w.ansicht, e.X - w.lage.DownX);
+    const double dy = Raster(w.ansicht, e.Y - w.lage.DownY);
     const bool ende1 = w.lage.Aktion != Aktion::PfeilEnde2;
     const bool ende2 = w.lage.Aktion != Aktion::PfeilEnde1;
     w.auflagen.Line5.Legen(pfeil.X1() + (ende1 ? dx : 0), pfeil.Y1() + (ende1 ? dy : 0),
@@ -137,8 +137,8 @@ void PfeilGezogen(Werkbank &w, const Ereignis &e) {
     if (Kleiner(std::fabs(e.X - w.lage.AnkerX), KürzesterPfeil) &&
         Kleiner(std::fabs(e.Y - w.lage.AnkerY), KürzesterPfeil))
         return;
-    w.lage.PfeilEndeX = RasterZehntel(w, e.X);
-    w.lage.PfeilEndeY = RasterZehntel(w, e.Y);
+    w.lage.PfeilEndeX = RasterZehntel(w.ansicht, e.X);
+    w.lage.PfeilEndeY = RasterZehntel(w.ansicht, e.Y);
     PfeilBau pfeil;
     pfeil.Pfeilart(w.lage.PfeilArt).Ende1(Gerundet(w.lage.AnkerX, 1), Gerundet(w.lage.AnkerY, 1));
     w.dokument.cboPfeile.Anhängen(pfeil.Ende2(w.lage.PfeilEndeX, w.lage.PfeilEndeY).Text());
@@ -156,10 +156,10 @@ void PfeilEndeLoslassen(Werkbank &w, const Ereignis &e) {
     const bool zweites = w.lage.Aktion == Aktion::PfeilEnde2;
     PfeilBau pfeil(w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl));
     const PfeilSatz alt = pfeil.Stand();
-    const double x = RasterZehntel(w, zweites ? w.auflagen.Line5.X2 : w.auflagen.Line5.X1);
-    const double y = RasterZehntel(w, zweites ? w.auflagen.Line5.Y2 : w.auflagen.Line5.Y1);
+    const double x = RasterZehntel(w.ansicht, zweites ? w.auflagen.Line5.X2 : w.auflagen.Line5.X1);
+    const double y = RasterZehntel(w.ansicht, zweites ? w.auflagen.Line5.Y2 : w.auflagen.Line5.Y1);
     const bool dort = zweites ? alt.X2() == x && alt.Y2() == y : alt.X1() == x && alt.Y1() == y;
-    if (!HatSichBewegt(w, e) || dort) return;
+    if (!HatSichBewegt(w.lage, e) || dort) return;
     if (zweites) {
         w.lage.PfeilEndeX = x;
         w.lage.PfeilEndeY = y;
@@ -175,12 +175,12 @@ void PfeilLoslassen(Werkbank &w, const Ereignis &e) {
         w.fenster.PopupÖffnen(Name::mnuPfeil1);
         return;
     }
-    if (!HatSichBewegt(w, e) || !Gültig(w.dokument.cboPfeile, w.lage.PfeilAuswahl)) return;
+    if (!HatSichBewegt(w.lage, e) || !Gültig(w.dokument.cboPfeile, w.lage.PfeilAuswahl)) return;
     const Auflagenlinie &linie = w.auflagen.Line5;
     const std::string alt = w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl);
     PfeilBau pfeil(alt);
-    pfeil.Ende1(RasterZehntel(w, linie.X1), RasterZehntel(w, linie.Y1));
-    pfeil.Ende2(RasterZehntel(w, linie.X2), RasterZehntel(w, linie.Y2));
+    pfeil.Ende1(RasterZehntel(w.ansicht, linie.X1), RasterZehntel(w.ansicht, linie.Y1));
+    pfeil.Ende2(RasterZehntel(w.ansicht, linie.X2), RasterZehntel(w.ansicht, linie.Y2));
     w.dokument.cboPfeile.Ersetzen(w.lage.PfeilAuswahl, pfeil.Text());
     w.lage.Aktion = Aktion::PfeilGewählt;
     if (pfeil.Text() == alt) return;

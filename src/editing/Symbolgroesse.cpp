@@ -51,7 +51,7 @@ void GrößeÄndern(Werkbank &w, double delta) {
         person.Groesse(std::clamp(person.Stand().Groesse() + delta, familie.Kleinste, familie.Größte));
         personen.Ersetzen(i, person.Text());
     }
-    AuswahlrahmenParken(w);
+    AuswahlrahmenParken(w.auflagen);
     w.fenster.Vorschau();
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();

@@ -57,8 +57,8 @@ int TextboxBei(const Dokument &d, double x, double y) {
 
 void TextboxAuswählen(Werkbank &w, int position) {
     Leinwandlage &lage = w.lage;
-    Gummi1Parken(w);
-    MarkierungsListBoxenLöschen(w);
+    Gummi1Parken(w.auflagen);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     lage.PersRecord.clear();
     lage.TextAuswahl = position;
     lage.ElementArt = "Textbox";
@@ -76,8 +76,8 @@ void TextboxAuswählen(Werkbank &w, int position) {
 
 bool TextSetzen(Werkbank &w, const Ereignis &e) {
     if (w.lage.Aktion != Aktion::TextGesetzt) return false;
-    w.lage.AuswahlX = RasterZehntel(w, e.X);
-    w.lage.AuswahlY = RasterZehntel(w, e.Y);
+    w.lage.AuswahlX = RasterZehntel(w.ansicht, e.X);
+    w.lage.AuswahlY = RasterZehntel(w.ansicht, e.Y);
     w.fenster.FormÖffnen(Name::frmKommentar);
     w.lage.Zeiger = Mauszeiger::Pfeil;
     return true;
@@ -105,7 +105,8 @@ bool TextTreffen(Werkbank &w, const Ereignis &e) {
 void TextZiehen(Werkbank &w, const Ereignis &e) {
     const TextSatz box(w.lage.TextRecord, Lücken::Leer);
     Auflagenform &maske = w.auflagen.shpMask;
-    maske.Legen(Raster(w, e.X - w.lage.VersatzX), Raster(w, e.Y - w.lage.VersatzY), box.TextBreite(), box.TextHoehe());
+    maske.Legen(Raster(w.ansicht, e.X - w.lage.VersatzX), Raster(w.ansicht, e.Y - w.lage.VersatzY), box.TextBreite(),
+                box.TextHoehe());
     maske.Visible = true;
 }
 
@@ -119,9 +120,10 @@ void TextLoslassen(Werkbank &w, const Ereignis &e) {
     Satzliste &boxen = w.dokument.cboTextboxen;
     const Auflagenform maske = std::exchange(w.auflagen.shpMask, {});
     w.lage.Aktion = Aktion::TextGewählt;
-    if (!HatSichBewegt(w, e) || !Gültig(boxen, w.lage.TextAuswahl)) return;
+    if (!HatSichBewegt(w.lage, e) || !Gültig(boxen, w.lage.TextAuswahl)) return;
     const std::string alt = boxen.Satz(w.lage.TextAuswahl);
-    w.lage.TextRecord = TextBau(alt).Ort(RasterZehntel(w, maske.Left), RasterZehntel(w, maske.Top)).Text();
+    w.lage.TextRecord =
+        TextBau(alt).Ort(RasterZehntel(w.ansicht, maske.Left), RasterZehntel(w.ansicht, maske.Top)).Text();
     boxen.Ersetzen(w.lage.TextAuswahl, w.lage.TextRecord);
     if (w.lage.TextRecord != alt) w.fenster.Sichern();
     w.benutzer.ZeitgeberStarten("Timer4", NachDemEreignis); // redraws, once, behind the event
@@ -131,7 +133,7 @@ void TextLöschen(Werkbank &w) {
     w.auswahl.lstMovedText.Leeren();
     if (!Gültig(w.dokument.cboTextboxen, w.lage.TextAuswahl)) return;
     w.dokument.cboTextboxen.Entfernen(w.lage.TextAuswahl);
-    MarkerParken(w);
+    MarkerParken(w.lage, w.auflagen);
     LöschenAbschließen(w);
 }
 

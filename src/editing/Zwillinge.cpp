@@ -34,8 +34,8 @@ constexpr Zweisprachig ErstDieEltern{
 void Melden(Werkbank &w, const Zweisprachig &text) {
     w.benutzer.Fragen(
         {"Kinwright Information ", std::string(text.In(w.ansicht.Sprache)), Knöpfe::Ok, Zeichen::Warnung});
-    AuswahlrahmenParken(w);
-    MarkierungsListBoxenLöschen(w);
+    AuswahlrahmenParken(w.auflagen);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
 }
 
 /// The first partnership between the two, in either order; -1 none.
@@ -91,7 +91,7 @@ void ZwillingeAnlegen(Werkbank &w) {
     w.lage.PLinieAuswahl = linie;
     w.auflagen.shpMask.Parken();
     Anlegen(w.dokument, Arten[w.lage.ZwillingsArt - 1], linie, w.ansicht.Rasterweite, w.lage.SymbolGröße);
-    AuswahlrahmenParken(w);
+    AuswahlrahmenParken(w.auflagen);
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     w.fenster.Sichern();
@@ -166,8 +166,8 @@ void ZwillingeErklären(Werkbank &w, std::string_view mark) {
     for (const int i : {KindLinieVon(d, teile[0]), KindLinieVon(d, teile[1])})
         if (i >= 0) d.cboKindlinien.Ersetzen(i, KindBau(d.cboKindlinien.Satz(i)).LinieX(mitte).Text());
     w.lage.Angebot.Zwillinge = false;
-    AuswahlrahmenParken(w);
-    MarkierungsListBoxenLöschen(w);
+    AuswahlrahmenParken(w.auflagen);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Sichern();
     w.fenster.Vorschau();

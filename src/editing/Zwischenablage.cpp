@@ -191,7 +191,7 @@ void EingefügtesAuswählen(Werkbank &w) {
     const int kreise = za.ZA_Kreislinien.Anzahl();
     const bool eins = personen + za.ZA_Textboxen.Anzahl() + kreise == 1 && za.ZA_Pfeile.Leer() && za.ZA_PLines.Leer();
     PositionenVergessen(w.lage);
-    MarkerParken(w);
+    MarkerParken(w.lage, w.auflagen);
     ZwillingeBereit(w);
     w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
     if (!eins) return AlsGruppeAuswählen(w);
@@ -217,9 +217,9 @@ void AblageFüllen(Werkbank &w, const char *modus) {
 }
 
 void NachKopie(Werkbank &w) {
-    Gummi1Parken(w);
-    Gummi2Parken(w);
-    MarkierungsListBoxenLöschen(w);
+    Gummi1Parken(w.auflagen);
+    Gummi2Parken(w.auflagen);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.fenster.Vorschau();
 }
 
@@ -241,10 +241,10 @@ void Einfügen(Werkbank &w) {
     Dokument &d = w.dokument;
     if (!za.HatEtwas()) return;
     AllesUmnummern(d, za);
-    MarkierungsListBoxenLöschen(w);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.lage.BildAuswahl = false; // the copies are what is in hand now
     w.lage.Zeiger = Mauszeiger::Pfeil;
-    AuswahlrahmenParken(w);
+    AuswahlrahmenParken(w.auflagen);
     if (za.KopierModus == "Kopieren") AllesVersetzen(za);
     NummernEinfügen(za.ZA_Personen, d.cboPersonen, w.auswahl.lstMovedPers);
     NummernEinfügen(za.ZA_PLines, d.cboPartnerschaftsLinien, w.auswahl.lstMovedPLines);
