@@ -1,5 +1,6 @@
 #include "app/Einzelbild.h"
 
+#include "document/Dateien.h"
 #include "document/Einstellungen.h"
 #include "document/Felder.h"
 #include "document/ProjektDatei.h"

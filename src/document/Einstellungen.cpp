@@ -1,5 +1,6 @@
 #include "document/Einstellungen.h"
 
+#include "document/Dateien.h"
 #include "document/Papier.h"
 #include "document/Zahlen.h"
 

@@ -1,6 +1,7 @@
 #include "document/Profil.h"
 
 #include "document/Codepage.h"
+#include "document/Dateien.h"
 
 #include <algorithm>
 #include <limits>

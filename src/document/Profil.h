@@ -1,7 +1,5 @@
 #pragma once
 
-#include "document/Dateien.h"
-
 #include <cstdint>
 #include <optional>
 #include <string>

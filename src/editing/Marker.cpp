@@ -1,8 +1,5 @@
 #include "editing/Marker.h"
 
-#include "document/Felder.h"
-#include "document/Zahlen.h"
-
 namespace kw {
 
 void MarkierungsListBoxenLöschen(Auswahl &auswahl, Leinwandlage &lage) {

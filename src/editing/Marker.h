@@ -1,6 +1,5 @@
 #pragma once
 
-#include "document/Nachschlagen.h"
 #include "editing/Werkbank.h"
 
 // Selecting and unselecting, and putting the shapes over the page out of the way.

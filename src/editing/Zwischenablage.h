@@ -1,7 +1,5 @@
 #pragma once
 
-#include "editing/Ablage.h"
-
 namespace kw {
 
 struct Werkbank;

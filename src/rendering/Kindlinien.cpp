@@ -1,5 +1,4 @@
 #include "document/Nachschlagen.h"
-#include "document/Zahlen.h"
 #include "document/saetze/Kind.h"
 #include "document/saetze/Person.h"
 #include "rendering/Ebenen.h"

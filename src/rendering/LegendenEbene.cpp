@@ -1,4 +1,3 @@
-#include "document/Zahlen.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Symbole.h"
 

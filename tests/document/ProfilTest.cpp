@@ -1,4 +1,5 @@
 #include "document/Profil.h"
+#include "document/Dateien.h"
 
 #include "document/Codepage.h"
 #include "replay/Skript.h"

@@ -1,5 +1,6 @@
 #include "app/Einzelbild.h"
 #include "app/Programmversion.h"
+#include "document/Dateien.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/fenster/Hauptfenster.h"
 #include "qt/grund/QtPlattform.h"
