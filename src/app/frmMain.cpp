@@ -139,7 +139,7 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     NachEreignis();
 }
 
-/// What every event ends with: the palette follows, the face shows it.
+/// What every event ends with: what can be chosen follows, the face shows it.
 void frmMain::NachEreignis() {
     anzeige.MöglichesZeigen();
     plattform.benutzer.AnzeigeAuffrischen();

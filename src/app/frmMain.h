@@ -40,7 +40,8 @@ struct Plattform {
 };
 
 /// The main window as a model: owns every part of the program and wires them. It keeps only what is truly
-/// its own: the order of starting, redrawing, closing. Routines stand with the state that they change.
+/// its own: the order of starting, redrawing, closing, and what a timer does. Routines stand with the state that they
+/// change.
 class frmMain : private Fensterdienste, private Dialogdienste {
   public:
     /// `canvas` becomes `picVorschau`. Nothing happens before `Laden`.

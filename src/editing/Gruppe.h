@@ -10,8 +10,8 @@ struct Werkbank;
 /// A press on the empty page begins a marquee, or opens the page's menu. Says whether the event ends with it.
 bool RahmenBeginnen(Werkbank &w, const Ereignis &e);
 void RahmenZiehen(Werkbank &w, const Ereignis &e);
-/// The end of a marquee: fills the selection lists with what `shpBox` holds. Ends in `Aktion` 17 with the frame as
-/// dragged, or in 0 without it.
+/// The end of a marquee: fills the selection lists with what `shpBox` holds. Ends in `GruppeGewählt` with the
+/// frame as dragged, or in `Nichts` without it.
 void RahmenAuswählen(Werkbank &w);
 void RahmenLoslassen(Werkbank &w, const Ereignis &e);
 

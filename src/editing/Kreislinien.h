@@ -11,7 +11,7 @@ struct Werkbank;
 /// Position of the first circle line that has a stretch between two points in whose box the point lies, however far
 /// from the stroke; -1 none.
 int KreisLinieBei(const Dokument &dokument, double x, double y);
-/// Selects the circle line at `position` (from 0) alone; `Aktion` 19.
+/// Selects the circle line at `position` (from 0) alone; `Aktion::KreisGewählt`.
 void KreisAuswählen(Werkbank &w, int position);
 
 // A press: with the tool in hand; on a line, which is looked for in every state; with a line selected. Each says

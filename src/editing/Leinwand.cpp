@@ -85,8 +85,9 @@ bool LinieTreffen(Werkbank &w, const Ereignis &e) {
            PfeilTreffer(w, e.X, e.Y) || PfeilEndeTreffer(w, e.X, e.Y);
 }
 
-/// The order decides what a press means: what is armed or selected comes before what lies under the pointer, and
-/// of that circle lines come first, then persons, lines, arrows, text boxes.
+/// The order decides what a press means. The tools of region, arrow, text and circle line come first, then the legend
+/// and the circle lines under the pointer, whatever is armed or selected; then a group and what else is armed, then
+/// persons, lines, arrows and text boxes under the pointer. On the empty page a marquee begins.
 using Schritt = bool (*)(Werkbank &, const Ereignis &);
 constexpr Schritt Schritte[] = {Zurücksetzen,   BildBeginnen,    PfeilBeginnen, TextSetzen,   OrtMerken,
                                 KreisBeginnen,  LegendeFassen,   KreisTreffen,  KreisGewählt, GruppeFassen,

@@ -43,7 +43,7 @@ std::optional<double> HöheInDerGruppe(const PartnerschaftSatz &linie, const std
     return Gerundet(linie.BalkenY1() + gruppe->DeltaY, 1);
 }
 
-/// Gives the bar of `PLinieAuswahl` and its children's lines the height of `Line1`. False when it has that already.
+/// Gives the bar at `position` and its children's lines the height of `neu`. False when it has that already.
 bool BalkenBewegen(Dokument &d, int position, const Auflagenlinie &neu) {
     if (!Gültig(d.cboPartnerschaftsLinien, position)) return false;
     const double y = Gerundet(neu.Y1, 2);

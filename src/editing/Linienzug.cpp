@@ -50,7 +50,7 @@ void ZielUmreißen(Auflagen &auflagen, std::span<const Ecke> ecken) {
     }
 }
 
-/// The hidden label's change event: marks the link target.
+/// Marks the link target, which is another now.
 void ZielAnzeigen(Werkbank &w) {
     const Leinwandlage &lage = w.lage;
     Auflagenform &ziel = w.auflagen.shpPerson;

@@ -13,7 +13,7 @@ void MarkerEntfernen(Werkbank &w);
 void MarkerParken(Leinwandlage &lage, Auflagen &auflagen);
 /// `MarkerEntfernen`, then no action.
 void KeineAktion(Werkbank &w);
-/// Nothing but `Aktion` 0: what the forms call when they are left.
+/// Nothing but `Aktion::Nichts`: what the forms call when they are left.
 void Aktion_Nichts(Leinwandlage &lage);
 void Gummi1Parken(Auflagen &auflagen);
 void Gummi2Parken(Auflagen &auflagen);

@@ -22,7 +22,7 @@ int PersonBei(const Dokument &dokument, double x, double y);
 bool PersonImKasten(std::string_view satz, const Auswahlkasten &kasten);
 void PersonUmgeben(std::string_view satz, Umgebung &umgebung);
 
-/// Selects the person at `position` alone: lists, marker, drag mask and panel; `Aktion` 3.
+/// Selects the person at `position` alone: lists, marker, drag mask and panel; `Aktion::PersonGewählt`.
 void PersonAuswählen(Werkbank &w, int position);
 
 // Placing.

@@ -17,8 +17,9 @@ struct Bedienelement {
     bool Checked = false; ///< ticked, or for a button pressed
 };
 
-/// The states of everything that the user can press, under the names of the elements. The model writes them,
-/// the face shows them; neither decides by them but for the buttons that stand for a state (legend).
+/// The states of everything that the user can press, under the names of the elements. The model writes them, the faces
+/// show them; a command that is disabled or hidden isn't run. Of what they show, a print run reads the orientation, the
+/// manual's command the language, and the panel of the import list whether it is open.
 class Bedienelemente {
   public:
     Bedienelement &operator[](Befehlsname name) { return Mit(name.Text); }

@@ -75,7 +75,7 @@ class Personenzeichner {
     Altersberechnung alter_;
     double pixelJeCm_;
     std::unordered_map<int, int> gewählt_;
-    std::unordered_set<std::string_view> verbunden_; ///< `lstZWPartner`
+    std::unordered_set<std::string_view> verbunden_; ///< twins whose band is drawn
 };
 
 } // namespace
