@@ -19,7 +19,8 @@ int KindLinieBei(const Dokument &dokument, double x, double y, double auswahlGr√
 bool KindLinieTreffer(Werkbank &w, double x, double y);
 void KindLinieLoslassen(Werkbank &w, const Ereignis &e);
 
-/// Starts the link gesture of a child: its line follows the pointer to a bar, where a press hangs it up.
+/// Starts the link gesture of a child: its line follows the pointer to a bar, where a press hangs it up. Somebody who
+/// has parents already is offered neither the tool (`WerkzeugBrauchbar`) nor the menu's entry (`Angebot::AlsKind`).
 void mnuKindVon(Werkbank &w);
 void KindLinkZiehen(Werkbank &w, const Ereignis &e);
 bool KindLinkBeenden(Werkbank &w, const Ereignis &e);
