@@ -24,10 +24,10 @@
 #include "output/Arbeitsbereich.h"
 #include "output/Druckwerk.h"
 #include "output/basBildExport.h"
+#include "platform/Bedienelemente.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 
-#include "platform/Bedienelemente.h"
 #include <algorithm>
 
 namespace kw {

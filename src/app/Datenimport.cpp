@@ -7,10 +7,10 @@
 #include "document/Texte.h"
 #include "editing/Personen.h"
 #include "editing/Werkbank.h"
+#include "platform/Bedienelemente.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 
-#include "platform/Bedienelemente.h"
 #include <algorithm>
 
 namespace kw {

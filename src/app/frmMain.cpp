@@ -6,8 +6,6 @@
 #include "dialogs/frmEinstellungen.h"
 #include "document/Dateien.h"
 #include "document/Texte.h"
-#include "document/Zahlen.h"
-#include "editing/Werkzeuge.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
