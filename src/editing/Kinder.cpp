@@ -82,6 +82,12 @@ bool KindLinieTreffer(Werkbank &w, double x, double y) {
 
 void KindLinieLoslassen(Werkbank &w, const Ereignis &) { w.lage.Angebot.Löschen = true; }
 
+bool KannKindWerden(const Dokument &d, const Leinwandlage &lage) {
+    const int person = lage.PersAuswahl - 1;
+    return Gültig(d.cboPersonen, person) && ZahlLesen(lage.PersNr) >= 1 &&
+           !PersonSatz(d.cboPersonen.Satz(person), Lücken::Leer).HatEltern();
+}
+
 void mnuKindVon(Werkbank &w) {
     RubberStart(w);
     w.lage.Aktion = Aktion::KindZiehen;

@@ -9,6 +9,7 @@ namespace kw {
 
 struct Dokument;
 struct Ereignis;
+struct Leinwandlage;
 struct Werkbank;
 
 /// Position of the first child line under the point, -1 none. The lines end half of `auswahlGröße` above the child's
@@ -19,8 +20,9 @@ int KindLinieBei(const Dokument &dokument, double x, double y, double auswahlGr�
 bool KindLinieTreffer(Werkbank &w, double x, double y);
 void KindLinieLoslassen(Werkbank &w, const Ereignis &e);
 
-/// Starts the link gesture of a child: its line follows the pointer to a bar, where a press hangs it up. Somebody who
-/// has parents already is offered neither the tool (`WerkzeugBrauchbar`) nor the menu's entry (`Angebot::AlsKind`).
+/// Whether the selected person may become a child: it has no parents yet.
+bool KannKindWerden(const Dokument &dokument, const Leinwandlage &lage);
+/// Starts the link gesture of a child: its line follows the pointer to a bar, where a press hangs it up.
 void mnuKindVon(Werkbank &w);
 void KindLinkZiehen(Werkbank &w, const Ereignis &e);
 bool KindLinkBeenden(Werkbank &w, const Ereignis &e);

@@ -1,7 +1,6 @@
 #include "editing/Werkzeuge.h"
 
 #include "document/Nachschlagen.h"
-#include "document/saetze/Person.h"
 #include "editing/Kinder.h"
 #include "editing/Linien.h"
 #include "editing/Marker.h"
@@ -45,12 +44,6 @@ constexpr Werkzeug Werkzeuge[] = {
 };
 
 bool HatPerson(const Dokument &d, const Leinwandlage &lage) { return Gültig(d.cboPersonen, lage.PersAuswahl - 1); }
-
-/// A child of somebody can't become another's.
-bool KannKindWerden(const Dokument &d, const Leinwandlage &lage) {
-    return HatPerson(d, lage) && ZahlLesen(lage.PersNr) >= 1 &&
-           !PersonSatz(d.cboPersonen.Satz(lage.PersAuswahl - 1), Lücken::Leer).HatEltern();
-}
 
 const Werkzeug *WerkzeugFinden(int nummer) {
     const auto *werkzeug =
