@@ -10,8 +10,8 @@ struct Werkbank;
 
 /// Position of the first arrow whose shaft lies under the point, -1 none.
 int PfeilBei(const Dokument &dokument, double x, double y);
-/// 2 near the arrow's second end, 1 near its first, 0 near none.
-int PfeilEndeBei(const Dokument &dokument, int pfeil, double x, double y);
+/// 2 near the second end of the arrow at that position, 1 near its first, 0 near none.
+int PfeilEndeBei(const Dokument &dokument, int position, double x, double y);
 
 // A press: with the tool in hand, on a shaft, on an end of the last arrow. Each says whether the event ends with it.
 bool PfeilBeginnen(Werkbank &w, const Ereignis &e);
