@@ -154,7 +154,6 @@ void Anzeige::PaletteZeigen() {
 }
 
 void Anzeige::MöglichesZeigen() {
-    UndoKnöpfeZeigen();
     AngebotZeigen();
     PaletteZeigen();
 }

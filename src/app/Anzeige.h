@@ -53,13 +53,14 @@ class Anzeige {
     void RasterweiteZeigen();
     /// Whether the tool palette is shown.
     void WerkzeugleisteZeigen();
-    /// What can be chosen now, of menus, toolbar and palette, and which tool is in hand: after every event and redraw.
+    /// What can be chosen now, of menus and palette, and which tool is in hand: after every event.
     void MöglichesZeigen();
-    /// Undo and redo off, whatever the ring holds: the document is about to go.
+    /// Undo and redo, as the ring has steps: whenever it has changed, and not after every event, since closing takes
+    /// both away whatever it holds.
+    void UndoKnöpfeZeigen();
     void UndoKnöpfeSperren();
 
   private:
-    void UndoKnöpfeZeigen();
     void AngebotZeigen();
     void PaletteZeigen();
 

@@ -1,5 +1,6 @@
 #include "app/Befehle.h"
 
+#include "app/Anzeige.h"
 #include "app/Darstellung.h"
 #include "app/Datenimport.h"
 #include "app/Projekt.h"
@@ -82,6 +83,7 @@ void LegendeAktualisieren(Befehlsumgebung &u, int) {
 /// One step back or forward in the ring; afterwards nothing is selected and no gesture runs.
 template <bool (UndoRing::*Gehen)(Dokument &)> void Schritt(Befehlsumgebung &u, int) {
     if (!(u.ring.*Gehen)(u.werkbank.dokument)) return;
+    u.anzeige.UndoKnöpfeZeigen();
     NichtsAuswählen(u.werkbank);
     u.werkbank.fenster.Vorschau();
 }

@@ -4,6 +4,7 @@
 
 namespace kw {
 
+class Anzeige;
 class Arbeitsbereich;
 class Bedienelemente;
 class Bildexport;
@@ -21,6 +22,7 @@ struct Befehlsumgebung {
     Werkbank &werkbank;
     Projekt &projekt;
     Darstellung &darstellung;
+    Anzeige &anzeige;
     Arbeitsbereich &bereich;
     Datenimport &import;
     Druckwerk &druck;

@@ -4,6 +4,7 @@
 
 namespace kw {
 
+class Anzeige;
 class Arbeitsbereich;
 class Bedienelemente;
 class Darstellung;
@@ -58,6 +59,7 @@ struct Einblick {
     Bedienelemente &bedienung;
     Einstellungen &einstellungen;
     Darstellung &darstellung;
+    Anzeige &anzeige;
     Druckwerk &druck;
     Bildexport &bildexport;
     Datenimport &import;

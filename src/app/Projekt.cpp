@@ -72,8 +72,9 @@ void Projekt::InhaltLesen() {
 /// Before another project comes.
 void Projekt::RingUndAuswahlLeeren() {
     inhalt_.ring.Leeren();
-    umfeld_.anzeige.MöglichesZeigen();
+    umfeld_.anzeige.UndoKnöpfeZeigen();
     umfeld_.abwählen();
+    umfeld_.anzeige.MöglichesZeigen();
 }
 
 void Projekt::Öffnen(const std::string &datei) {

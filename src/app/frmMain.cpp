@@ -192,8 +192,8 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
     if (!IstFrei(name)) return false;
     leinwand.GesteAbbrechen();
-    Befehlsumgebung umgebung{werkbank,   projekt, darstellung, bereich,   import, druck,
-                             bildexport, ring,    *this,       bedienung, start};
+    Befehlsumgebung umgebung{werkbank, projekt,    darstellung, anzeige, bereich,   import,
+                             druck,    bildexport, ring,        *this,   bedienung, start};
     befehl.Ausführen(umgebung, befehl.Nummer);
     NachEreignis();
     return true;
@@ -264,13 +264,12 @@ void frmMain::AufPapier(Zeichenfläche &papier) { Übernehmen(DruckZeichnen(papi
 void frmMain::Vorschau() {
     SeiteBestimmen(dokument, ansicht);
     Übernehmen(VorschauZeichnen(picVorschau, DasBild()));
-    anzeige.MöglichesZeigen();
     plattform.benutzer.AnzeigeAuffrischen();
 }
 
 void frmMain::Sichern() {
     ring.Sichern(dokument);
-    anzeige.MöglichesZeigen();
+    anzeige.UndoKnöpfeZeigen();
     projekt.Geändert = true;
 }
 
