@@ -1,9 +1,11 @@
 #include "app/Darstellung.h"
 
 #include "app/Anzeige.h"
+#include "document/Dokument.h"
 #include "document/Zahlen.h"
-#include "editing/Werkbank.h"
+#include "editing/Fensterdienste.h"
 #include "output/Arbeitsbereich.h"
+#include "rendering/Ansicht.h"
 
 namespace kw {
 

@@ -4,12 +4,16 @@
 #include "dialogs/Dialogumgebung.h"
 #include "document/Chronik.h"
 #include "document/Dateien.h"
+#include "document/Dokument.h"
 #include "document/Felder.h"
 #include "document/ProjektDatei.h"
 #include "document/UndoRing.h"
-#include "editing/Werkbank.h"
+#include "editing/Ablage.h"
+#include "editing/Fensterdienste.h"
 #include "output/Zieldatei.h"
 #include "platform/Benutzer.h"
+#include "rendering/Ansicht.h"
+#include "rendering/Legende.h"
 
 #include <filesystem>
 

@@ -154,6 +154,7 @@ void frmMain::MouseMove(int taste, double x, double y) {
 }
 
 void frmMain::MouseUp(int taste, double x, double y) {
+    anzeige.UndoKnöpfeZeigen();
     leinwand.MouseUp(taste, x, y);
     NachEreignis();
 }

@@ -163,11 +163,11 @@ void AuswahlLöschen(Werkbank &w) {
 }
 
 void mnuLöschen1(Werkbank &w) {
-    struct Weg {
+    struct Löschweg {
         kw::Aktion Aktion;
         void (*Löschen)(Werkbank &);
     };
-    static constexpr Weg Wege[] = {
+    static constexpr Löschweg Wege[] = {
         {Aktion::KindlinieGewählt, KindLinieEntfernen},
         {Aktion::KreisGewählt, KreisLinieLöschen},
         {Aktion::BeziehungGewählt, BezLinieLöschen},
@@ -177,7 +177,7 @@ void mnuLöschen1(Werkbank &w) {
     };
     w.lage.Info.Visible = false;
     const auto *weg =
-        std::find_if(std::begin(Wege), std::end(Wege), [&](const Weg &g) { return g.Aktion == w.lage.Aktion; });
+        std::find_if(std::begin(Wege), std::end(Wege), [&](const Löschweg &g) { return g.Aktion == w.lage.Aktion; });
     if (weg != std::end(Wege)) {
         weg->Löschen(w);
     } else {

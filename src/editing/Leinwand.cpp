@@ -49,28 +49,28 @@ bool MenüWarOffen(Werkbank &w, const Ereignis &) {
 }
 
 /// A kind of line by what selects it: its menu, and the form that a double click opens instead, if there is one.
-struct Zeile {
+struct Linienart {
     kw::Aktion Aktion;
     Befehlsname Menü;
     std::optional<Formularname> Form;
 };
-constexpr Zeile Linien[] = {{Aktion::BeziehungGewählt, Name::mnuBezLinie, Name::frmBezLinien},
-                            {Aktion::PLinieGewählt, Name::mnuPLinie, Name::frmPLinien},
-                            {Aktion::KindlinieGewählt, Name::mnuKindLinie, std::nullopt}};
+constexpr Linienart Linienarten[] = {{Aktion::BeziehungGewählt, Name::mnuBezLinie, Name::frmBezLinien},
+                                     {Aktion::PLinieGewählt, Name::mnuPLinie, Name::frmPLinien},
+                                     {Aktion::KindlinieGewählt, Name::mnuKindLinie, std::nullopt}};
 
-const Zeile *LinieVon(Aktion aktion) {
-    const auto *zeile =
-        std::find_if(std::begin(Linien), std::end(Linien), [&](const Zeile &z) { return z.Aktion == aktion; });
-    return zeile == std::end(Linien) ? nullptr : zeile;
+const Linienart *LinieVon(Aktion aktion) {
+    const auto *art = std::find_if(std::begin(Linienarten), std::end(Linienarten),
+                                   [&](const Linienart &z) { return z.Aktion == aktion; });
+    return art == std::end(Linienarten) ? nullptr : art;
 }
 
 /// A line that is selected already: its menu, or the end of the selection.
 bool LinieWarGewählt(Werkbank &w, const Ereignis &e) {
-    const Zeile *zeile = LinieVon(w.lage.Aktion);
-    if (!zeile) return false;
+    const Linienart *art = LinieVon(w.lage.Aktion);
+    if (!art) return false;
     if (e.Rechts()) {
         w.lage.Angebot.Löschen = true;
-        PopupÖffnen(w, zeile->Menü);
+        PopupÖffnen(w, art->Menü);
         return true;
     }
     Gummi1Parken(w.auflagen);
@@ -213,9 +213,9 @@ void Leinwand::DblClick(double x, double y) {
     // A press on a selected line has just unselected it: the double click means the line all the same.
     if (w.lage.Aktion == Aktion::Nichts && Getrimmt(w.lage.PersRecord).empty())
         BezLinieTreffer(w, x, y) || PLinieTreffer(w, x, y) || KindLinieTreffer(w, x, y);
-    if (const Zeile *zeile = LinieVon(w.lage.Aktion)) {
-        if (zeile->Form) w.fenster.FormÖffnen(*zeile->Form);
-        else w.fenster.PopupÖffnen(zeile->Menü);
+    if (const Linienart *art = LinieVon(w.lage.Aktion)) {
+        if (art->Form) w.fenster.FormÖffnen(*art->Form);
+        else w.fenster.PopupÖffnen(art->Menü);
         w.lage.Aktion = Aktion::Nichts;
         w.fenster.Vorschau();
         return;

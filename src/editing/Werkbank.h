@@ -3,8 +3,8 @@
 #include "document/Dokument.h"
 #include "editing/Ablage.h"
 #include "editing/Auflagen.h"
+#include "editing/Fensterdienste.h"
 #include "editing/Leinwandlage.h"
-#include "platform/Befehlsnamen.h"
 #include "rendering/Ansicht.h"
 #include "rendering/Auswahl.h"
 #include "rendering/Legende.h"
@@ -13,25 +13,6 @@ namespace kw {
 
 class Benutzer;
 class Zeichenfläche;
-struct Bildausschnitt;
-
-/// What editing asks of the main window around it.
-class Fensterdienste {
-  public:
-    virtual ~Fensterdienste() = default;
-    /// Redraws the whole canvas from the stores.
-    virtual void Vorschau() = 0;
-    /// Takes an undo snapshot and marks the document as changed.
-    virtual void Sichern() = 0;
-    /// Marks the document as changed: what no snapshot holds.
-    virtual void AlsGeändertMerken() = 0;
-    /// Shows a context menu at the pointer and runs what the user picks there, before it returns.
-    virtual void PopupÖffnen(Befehlsname menü) = 0;
-    /// Shows a form modally; what it changes is changed when this returns.
-    virtual void FormÖffnen(Formularname form) = 0;
-    /// Puts a region of the canvas's picture, in its centimetres, where the tool says: on the clipboard or in a file.
-    virtual void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) = 0;
-};
 
 /// What a gesture works on: an event or a command can change any of it. Routines that are no whole gesture take what
 /// they change instead.

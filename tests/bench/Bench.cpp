@@ -3,6 +3,7 @@
 // texts prepared.
 
 #include "app/Einzelbild.h"
+#include "document/Dateien.h"
 #include "document/Profil.h"
 #include "document/ProjektDatei.h"
 #include "document/Zahlen.h"

@@ -19,18 +19,20 @@ Stelle StelleVon(std::string_view satz, int feld) {
 
 } // namespace
 
-Satzbau::Satzbau(std::string_view satz, int felder) : text_(satz) {
+Satzbau::Satzbau(std::string_view satz, int felder) : text_(satz), felder_(felder) {
     const auto trenner = std::count(satz.begin(), satz.end(), '_');
     if (trenner >= felder) text_.resize(StelleVon(satz, felder).Anfang - 1);
     else text_.append(static_cast<std::size_t>(felder - 1 - trenner), '_');
 }
 
 void Satzbau::Setzen(int feld, std::string_view text) {
+    if (feld >= felder_) return;
     const Stelle stelle = StelleVon(text_, feld);
     text_.replace(stelle.Anfang, stelle.Ende - stelle.Anfang, text);
 }
 
 void Satzbau::Erhöhen(int feld, double um) {
+    if (feld >= felder_) return;
     const Stelle stelle = StelleVon(text_, feld);
     Setzen(feld, ZahlLesen(std::string_view(text_).substr(stelle.Anfang, stelle.Ende - stelle.Anfang)) + um);
 }

@@ -75,6 +75,7 @@ class Satzbau {
     std::string TextOhneBlanks() const;
 
   protected:
+    /// Of a field that the record doesn't have nothing stays: only a text box, damaged, has fewer than its kind.
     void Setzen(int feld, std::string_view text);
     void Setzen(int feld, double zahl) { Setzen(feld, std::string_view(ZahlSchreiben(zahl))); }
     /// Adds `um` to the number of a field.
@@ -82,6 +83,7 @@ class Satzbau {
 
   private:
     std::string text_;
+    int felder_;
 };
 
 } // namespace kw

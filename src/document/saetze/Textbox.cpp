@@ -13,7 +13,7 @@ int Felderzahl(std::string_view satz) {
 
 } // namespace
 
-TextBau::TextBau(std::string_view satz) : Satzbau(satz, std::max(Felderzahl(satz), S::FeldTextY + 1)) {}
+TextBau::TextBau(std::string_view satz) : Satzbau(satz, Felderzahl(satz)) {}
 
 std::string GemesseneTextbox(std::string_view satz, double breite, double höhe) {
     std::string text;
