@@ -9,14 +9,17 @@ struct Werkbank;
 
 /// A press on the empty page begins a marquee, or opens the page's menu. Says whether the event ends with it.
 bool RahmenBeginnen(Werkbank &w, const Ereignis &e);
+/// The marquee follows the pointer, unsnapped but for the corner where it began.
 void RahmenZiehen(Werkbank &w, const Ereignis &e);
 /// The end of a marquee: fills the selection lists with what `shpBox` holds. Ends in `GruppeGewählt` with the
 /// frame as dragged, or in `Nichts` without it.
 void RahmenAuswählen(Werkbank &w);
+/// The release of a marquee.
 void RahmenLoslassen(Werkbank &w, const Ereignis &e);
 
 /// A press with a group selected takes the frame, or ends the selection. Says whether the event ends with it.
 bool GruppeFassen(Werkbank &w, const Ereignis &e);
+/// The frame follows the pointer, snapped.
 void GruppeZiehen(Werkbank &w, const Ereignis &e);
 /// Everything selected goes the frame's way. The frame stays, ready for another move.
 void GruppeLoslassen(Werkbank &w, const Ereignis &e);

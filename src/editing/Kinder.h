@@ -18,6 +18,7 @@ int KindLinieBei(const Dokument &dokument, double x, double y, double auswahlGr√
 
 /// A press on one selects it. Says whether the event ends with it.
 bool KindLinieTreffer(Werkbank &w, double x, double y);
+/// The release leaves it selected, ready to be deleted.
 void KindLinieLoslassen(Werkbank &w, const Ereignis &e);
 
 /// Whether the selected person may become a child: it has no parents yet.

@@ -24,12 +24,14 @@ bool KreisGewählt(Werkbank &w, const Ereignis &e);
 void KreisZiehen(Werkbank &w, const Ereignis &e);
 void KreisZeichnen(Werkbank &w, const Ereignis &e);
 
-// The release.
+// The release: a line that was dragged gets its snapshot; a stroke is closed, and stored if it has two points.
 void KreisLoslassen(Werkbank &w, const Ereignis &e);
 void KreisSchließen(Werkbank &w, const Ereignis &e);
 
+/// The selected line. One snapshot.
 void KreisLinieLöschen(Werkbank &w);
 
+/// Circle lines as a part of marquees, groups and the clipboard: whole, if one point is in.
 extern const Gruppenart KreislinienInGruppen;
 
 } // namespace kw

@@ -15,6 +15,7 @@ class Leinwand {
     void MouseDown(int taste, double x, double y);
     void MouseMove(int taste, double x, double y);
     void MouseUp(int taste, double x, double y);
+    /// Opens the form of what lies there, text boxes and the legend first; of a person behind the event, by a timer.
     void DblClick(double x, double y);
 
     /// A command comes: a link gesture ends with nothing made, and so does what the button is dragging, but for a

@@ -28,6 +28,7 @@ bool PLinieTreffer(Werkbank &w, double x, double y);
 /// A bar follows the pointer, up and down only; released, it and its children's lines take that height.
 void BalkenZiehen(Werkbank &w, const Ereignis &e);
 void BalkenLoslassen(Werkbank &w, const Ereignis &e);
+/// The release of the right button opens the menu of a relationship line.
 void BezLinieLoslassen(Werkbank &w, const Ereignis &e);
 
 // How they are made (Linienzug.cpp): by a link gesture from the selected person to another.
@@ -69,7 +70,9 @@ void BalkenMitbewegen(Dokument &dokument, const Bezüge &bezüge, const Satzlist
 void Bez_LinieAnpassen(Werkbank &w, std::string_view beziehungsart);
 void P_LinieAnpassen(Werkbank &w, std::string_view distanziert, std::string_view status, std::string_view daten);
 
+/// The selected bar with its children's lines; the children stay. One snapshot.
 void PLinieLöschen(Werkbank &w);
+/// The selected relationship line. One snapshot.
 void BezLinieLöschen(Werkbank &w);
 
 } // namespace kw

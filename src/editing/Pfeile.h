@@ -27,8 +27,10 @@ void PfeilGezogen(Werkbank &w, const Ereignis &e);
 void PfeilEndeLoslassen(Werkbank &w, const Ereignis &e);
 void PfeilLoslassen(Werkbank &w, const Ereignis &e);
 
+/// The selected arrow. One snapshot.
 void PfeilLöschen(Werkbank &w);
 
+/// Arrows as a part of marquees, groups and the clipboard.
 extern const Gruppenart PfeileInGruppen;
 
 } // namespace kw

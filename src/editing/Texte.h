@@ -20,14 +20,16 @@ bool TextSetzen(Werkbank &w, const Ereignis &e);
 bool TextWarGefasst(Werkbank &w, const Ereignis &e);
 bool TextTreffen(Werkbank &w, const Ereignis &e);
 
+// What is in hand follows the pointer as a mask; the release stores the place, snapped, or opens the menu.
 void TextZiehen(Werkbank &w, const Ereignis &e);
 void TextLoslassen(Werkbank &w, const Ereignis &e);
 
-/// The selected box.
+/// The selected box. One snapshot.
 void TextLöschen(Werkbank &w);
 /// The box that was selected last, however: what deleting does while `ElementArt` says "Textbox".
 void LetzteTextboxLöschen(Werkbank &w);
 
+/// Text boxes as a part of marquees, groups and the clipboard: measured ones only in a marquee.
 extern const Gruppenart TexteInGruppen;
 
 } // namespace kw

@@ -4,7 +4,8 @@ namespace kw {
 
 struct Werkbank;
 
-/// Both fill the clipboard from the selection lists; cutting deletes the selection afterwards.
+/// Both fill the clipboard from the selection lists; cutting deletes the selection afterwards. Lines go along only with
+/// both whom they join.
 void Kopieren(Werkbank &w);
 void Ausschneiden(Werkbank &w);
 
