@@ -7,6 +7,14 @@ if(KW_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${KW_CCACHE})
 endif()
 
+# Headers that most files of a target read, parsed once a target. No file may lean on them: the tidy build goes without,
+# so that a missing include is found there. ccache doesn't keep what was compiled with them, so they give way to it.
+set(KW_STANDARD_HEADERS <algorithm> <array> <cmath> <functional> <map> <optional> <string> <string_view> <utility> <vector>)
+set(KW_QT_HEADERS <QApplication> <QKeyEvent> <QLabel> <QPainter> <QStyle> <QTimer> <QToolButton>)
+if(KW_TIDY OR CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+endif()
+
 # As a part of compiling, the check follows the build's own dependencies: a file is looked at again only when it or
 # a header of it changed. The compiler's warnings are the compiler's business (-w).
 if(KW_TIDY)
