@@ -5,6 +5,7 @@
 #include "document/Nachschlagen.h"
 #include "document/Texte.h"
 #include "document/saetze/Person.h"
+#include "editing/Abwahl.h"
 #include "editing/Gruppe.h"
 #include "editing/Marker.h"
 #include "editing/Werkbank.h"

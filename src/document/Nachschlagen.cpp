@@ -17,6 +17,12 @@ int MitAnfang(const Satzliste &speicher, std::string_view nr) {
     return -1;
 }
 
+template <typename Satz, typename Bedingung> int ErsteMit(const Satzliste &speicher, Bedingung erfüllt) {
+    for (int i = 0; i < speicher.Anzahl(); ++i)
+        if (erfüllt(Satz(speicher.Satz(i), Lücken::Leer))) return i;
+    return -1;
+}
+
 /// Enters the two persons that each line of a store names.
 template <typename Satz, typename Verzeichnis>
 void PaareEintragen(const Satzliste &speicher, Verzeichnis &verzeichnis) {
@@ -36,11 +42,28 @@ int PLinieMitNr(const Dokument &dokument, std::string_view nr) {
     return MitAnfang(dokument.cboPartnerschaftsLinien, nr);
 }
 
+int PLinieVonNach(const Dokument &dokument, std::string_view nr1, std::string_view nr2) {
+    return ErsteMit<PartnerschaftSatz>(dokument.cboPartnerschaftsLinien, [&](const PartnerschaftSatz &linie) {
+        return linie.PersNr1() == nr1 && linie.PersNr2() == nr2;
+    });
+}
+
+int PLinieZwischen(const Dokument &dokument, std::string_view nr1, std::string_view nr2) {
+    return ErsteMit<PartnerschaftSatz>(dokument.cboPartnerschaftsLinien,
+                                       [&](const PartnerschaftSatz &linie) { return linie.Verbindet(nr1, nr2); });
+}
+
 int KindLinieVon(const Dokument &dokument, std::string_view nr) { return MitAnfang(dokument.cboKindlinien, nr); }
 
 int PositionAus(std::string_view eintrag, const Satzliste &speicher, int erste) {
     const int i = Ganzzahl16(ZahlLesen(eintrag)) - erste;
     return Gültig(speicher, i) ? i : -1;
+}
+
+std::unordered_set<int> PositionenAus(const Satzliste &liste, const Satzliste &speicher, int erste) {
+    std::unordered_set<int> positionen;
+    for (const auto &eintrag : liste) positionen.insert(PositionAus(eintrag, speicher, erste));
+    return positionen;
 }
 
 Nummernverzeichnis::Nummernverzeichnis(const Satzliste &speicher) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 // Every way from a number, or from an entry of a selection list, to a position in a store. Positions count from 0, -1
@@ -17,11 +18,17 @@ struct Dokument;
 int PersonMitNr(const Dokument &dokument, std::string_view nr);
 /// The same for partnership lines.
 int PLinieMitNr(const Dokument &dokument, std::string_view nr);
+/// The first partnership line of the two persons in that order, compared as a whole.
+int PLinieVonNach(const Dokument &dokument, std::string_view nr1, std::string_view nr2);
+/// The same in either order.
+int PLinieZwischen(const Dokument &dokument, std::string_view nr1, std::string_view nr2);
 /// The child line of child `nr`.
 int KindLinieVon(const Dokument &dokument, std::string_view nr);
 
 /// The position that an entry of a selection list stands for, in a store that the list counts from `erste`.
 int PositionAus(std::string_view eintrag, const Satzliste &speicher, int erste);
+/// The same for all entries of a list.
+std::unordered_set<int> PositionenAus(const Satzliste &liste, const Satzliste &speicher, int erste);
 /// Whether a store has that position.
 inline bool Gültig(const Satzliste &speicher, int position) { return position >= 0 && position < speicher.Anzahl(); }
 

@@ -1,5 +1,6 @@
 #include "editing/Bildausschnitt.h"
 
+#include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
 #include "platform/Bilder.h"

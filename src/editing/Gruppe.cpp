@@ -1,6 +1,7 @@
 #include "editing/Gruppe.h"
 
 #include "document/Verweise.h"
+#include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
@@ -138,15 +139,14 @@ void GruppeLoslassen(Werkbank &w, const Ereignis &) {
     Leinwandlage &lage = w.lage;
     const Auflagenform &rahmen = w.auflagen.shpBox;
     w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
-    lage.DeltaX = Weg(rahmen.Left, lage.AltX);
-    lage.DeltaY = Weg(rahmen.Top, lage.AltY);
-    if (w.auswahl.Leer() || (lage.DeltaX == 0 && lage.DeltaY == 0)) return;
+    const double dx = lage.Spur.DeltaX = Weg(rahmen.Left, lage.AltX);
+    const double dy = lage.Spur.DeltaY = Weg(rahmen.Top, lage.AltY);
+    if (w.auswahl.Leer() || (dx == 0 && dy == 0)) return;
     const Bezüge bezüge(w.dokument);
-    BalkenMitbewegen(w.dokument, bezüge, w.auswahl.lstMovedPLines, lage.DeltaX, lage.DeltaY);
-    const Balkenmitnahme zug{lage.DeltaX, lage.DeltaY, rahmen.Left, rahmen.Left + rahmen.Width};
+    BalkenMitbewegen(w.dokument, bezüge, w.auswahl.lstMovedPLines, dx, dy);
+    const Balkenmitnahme zug{dx, dy, rahmen.Left, rahmen.Left + rahmen.Width};
     for (const auto &nr : w.auswahl.lstMovedPers) PersonMitbewegen(w, bezüge, nr, zug);
-    for (const Gruppenart *art : Arten)
-        Mitbewegen(*art, w.dokument, w.auswahl, lage.DeltaX, lage.DeltaY, w.ansicht.Rasterweite);
+    for (const Gruppenart *art : Arten) Mitbewegen(*art, w.dokument, w.auswahl, dx, dy, w.ansicht.Rasterweite);
     w.fenster.Vorschau();
     w.fenster.Sichern();
 }

@@ -4,6 +4,7 @@
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
+#include "editing/Abwahl.h"
 #include "editing/Geometrie.h"
 #include "editing/Gesten.h"
 #include "editing/Linien.h"

@@ -3,6 +3,7 @@
 #include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Kreislinie.h"
+#include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
 #include "platform/Befehlsnamen.h"

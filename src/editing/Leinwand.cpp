@@ -2,6 +2,7 @@
 
 #include "document/Texte.h"
 #include "document/Zahlen.h"
+#include "editing/Abwahl.h"
 #include "editing/Bildausschnitt.h"
 #include "editing/Gesten.h"
 #include "editing/Gruppe.h"

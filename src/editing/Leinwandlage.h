@@ -40,6 +40,19 @@ struct Angebot {
     bool AlsKind = true;    ///< the same: it has no parents
 };
 
+/// What the last gestures came to. Written for those who watch from outside; nothing in the program reads it.
+struct Gestenspur {
+    double DeltaX = 0; ///< way of a group move, cm
+    double DeltaY = 0;
+    double NeuX = 0; ///< centre of the person that was moved last, cm
+    double NeuY = 0;
+    double MarkerBreite = 0.01; ///< of the marker around the selected person or text box, cm
+    double MarkerHöhe = 0.01;
+    int ZwillingsArt = 0; ///< 1 to 6, see the twins' table
+    std::string PersNrA;  ///< the parents of a twin command
+    std::string PersNrB;
+};
+
 /// What the canvas remembers between two events. Lengths and places are centimetres on the page.
 struct Leinwandlage : Gestenlage {
     int SymbolTyp = 0;        ///< of the tool or of the selected person
@@ -69,10 +82,6 @@ struct Leinwandlage : Gestenlage {
     double GummiY = 0;
     double AltX = 0; ///< group frame at the grab
     double AltY = 0;
-    double DeltaX = 0; ///< way of a group move
-    double DeltaY = 0;
-    double NeuX = 0; ///< new centre of the person in hand
-    double NeuY = 0;
 
     bool LinieVerschoben = false;
     bool BildAuswahl = false;     ///< the next marquee is a region of the picture
@@ -87,18 +96,14 @@ struct Leinwandlage : Gestenlage {
 
     double AuswahlX = Geparkt; ///< marker of the selected person or text box
     double AuswahlY = Geparkt;
-    double MarkerBreite = 0.01;
-    double MarkerHöhe = 0.01;
     double AuswahlGröße = 0; ///< of the person last hit
 
-    int ZwillingsArt = 0;      ///< 1 to 6, see the twins' table
     std::string Zwillingspaar; ///< two siblings that can become twins, and their parents' line
-    std::string PersNrA;       ///< the parents of a twin command
-    std::string PersNrB;
 
     Mauszeiger Zeiger = Mauszeiger::Pfeil;
     Personeninfo Info;
     kw::Angebot Angebot;
+    Gestenspur Spur;
 };
 
 } // namespace kw

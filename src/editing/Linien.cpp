@@ -4,6 +4,7 @@
 #include "document/saetze/Beziehung.h"
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
+#include "editing/Abwahl.h"
 #include "editing/Geometrie.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string_view>
+#include <utility>
 
 // Partnership and relationship lines. Lines hold their own ends, so they are rewritten whenever a person moves.
 namespace kw {
@@ -43,11 +44,12 @@ void mnuBeziehungErstellen2(Werkbank &w);
 void LinkZiehen(Werkbank &w, int person, double x, double y);
 /// A press ends the gesture at the person under the last move. Says whether the event ends with it.
 bool LinkBeenden(Werkbank &w, const Ereignis &e);
-/// A partnership line between link target and selected person; in a twin command (`ElternPrüfen`) between
-/// `PersNrA` and `PersNrB`. Nothing when the same pair has one, in the same order.
-void PartnerschaftAnlegen(Werkbank &w);
+/// Two persons, as positions in their store.
+using Paar = std::pair<int, int>;
+/// A partnership line between the two. Nothing when the same pair has one, in the same order, or is none.
+void PartnerschaftAnlegen(Werkbank &w, Paar paar);
 /// A couple's line, whose bar hangs as far below the lower partner as every new one. Takes a number.
-void PaarVerbinden(Dokument &dokument, int partner1, int partner2);
+void PaarVerbinden(Dokument &dokument, Paar paar);
 /// Takes the relationship line away again whose form has been left without OK, while `BeziehungZiehen` tells that it is
 /// new. No snapshot: there was none of it. A line that was there before stays.
 void BezLAbbrechen(Werkbank &w);

@@ -3,6 +3,7 @@
 #include "document/saetze/Beziehung.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
+#include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
 #include "platform/Befehlsnamen.h"
@@ -14,17 +15,8 @@ namespace kw {
 
 namespace {
 
-bool GibtEsPartnerschaft(const Dokument &d, std::string_view nr1, std::string_view nr2) {
-    const auto &linien = d.cboPartnerschaftsLinien;
-    return std::any_of(linien.begin(), linien.end(), [&](const std::string &satz) {
-        const PartnerschaftSatz linie(satz, Lücken::Leer);
-        return linie.PersNr1() == nr1 && linie.PersNr2() == nr2;
-    });
-}
-
-/// The pair that a link gesture or a twin command joins, as positions; the earlier person of a gesture first.
-std::pair<int, int> Paar(const Dokument &d, const Leinwandlage &lage) {
-    if (lage.Aktion == Aktion::ElternPrüfen) return {PersonMitNr(d, lage.PersNrA), PersonMitNr(d, lage.PersNrB)};
+/// The pair that a link gesture joins, the earlier person first.
+Paar Verknüpfte(const Leinwandlage &lage) {
     const auto [a, b] = std::minmax(lage.ZielPerson, lage.PersAuswahl);
     return {a - 1, b - 1};
 }
@@ -33,7 +25,7 @@ bool GibtEs(const Satzliste &personen, int position) {
     return Gültig(personen, position) && PersonSatz(personen.Satz(position)).Vollständig();
 }
 
-bool IstPaar(const Satzliste &personen, std::pair<int, int> paar) {
+bool IstPaar(const Satzliste &personen, Paar paar) {
     return paar.first != paar.second && GibtEs(personen, paar.first) && GibtEs(personen, paar.second);
 }
 
@@ -87,7 +79,7 @@ std::string NeueBeziehung(const PersonSatz &erster, const PersonSatz &zweiter) {
 void BeziehungAnlegen(Werkbank &w) {
     constexpr size_t PaarLänge = 7; // "001_002"
     Dokument &d = w.dokument;
-    const auto paar = Paar(d, w.lage);
+    const auto paar = Verknüpfte(w.lage);
     if (!IstPaar(d.cboPersonen, paar)) {
         MarkierungsListBoxenLöschen(w.auswahl, w.lage);
         Aktion_Nichts(w.lage);
@@ -153,16 +145,20 @@ bool LinkBeenden(Werkbank &w, const Ereignis &) {
     LinkAufräumen(w.lage, w.auflagen);
     w.lage.PersRecord.clear();
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
-    if (w.lage.Aktion == Aktion::BeziehungZiehen) BeziehungAnlegen(w);
-    else PartnerschaftAnlegen(w);
+    if (w.lage.Aktion == Aktion::BeziehungZiehen) {
+        BeziehungAnlegen(w);
+    } else {
+        w.lage.Aktion = Aktion::Nichts;
+        PartnerschaftAnlegen(w, Verknüpfte(w.lage));
+    }
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     return true;
 }
 
-void PaarVerbinden(Dokument &d, int partner1, int partner2) {
-    const PersonSatz erster(d.cboPersonen.Satz(partner1));
-    const PersonSatz zweiter(d.cboPersonen.Satz(partner2));
+void PaarVerbinden(Dokument &d, Paar paar) {
+    const PersonSatz erster(d.cboPersonen.Satz(paar.first));
+    const PersonSatz zweiter(d.cboPersonen.Satz(paar.second));
     PartnerschaftBau linie;
     linie.Nr(d.NeuePLinienNr()).PersNr1(erster.Nr()).PersNr2(zweiter.Nr());
     linie.BalkenX1(erster.PosX()).BalkenX2(zweiter.PosX());
@@ -171,10 +167,8 @@ void PaarVerbinden(Dokument &d, int partner1, int partner2) {
     d.cboPartnerschaftsLinien.Anhängen(linie.Text());
 }
 
-void PartnerschaftAnlegen(Werkbank &w) {
+void PartnerschaftAnlegen(Werkbank &w, Paar paar) {
     Dokument &d = w.dokument;
-    const auto paar = Paar(d, w.lage);
-    if (w.lage.Aktion != Aktion::ElternPrüfen) w.lage.Aktion = Aktion::Nichts;
     if (!IstPaar(d.cboPersonen, paar)) return;
     MarkerEntfernen(w);
     const PersonSatz erster(d.cboPersonen.Satz(paar.first));
@@ -184,8 +178,8 @@ void PartnerschaftAnlegen(Werkbank &w) {
         return;
     }
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
-    const bool neu = !GibtEsPartnerschaft(d, erster.Nr(), zweiter.Nr());
-    if (neu) PaarVerbinden(d, paar.first, paar.second);
+    const bool neu = PLinieVonNach(d, erster.Nr(), zweiter.Nr()) < 0;
+    if (neu) PaarVerbinden(d, paar);
     else d.NeuePLinienNr(); // a number is taken for a pair that has a line already, and stays taken. Meant.
     if (neu) w.fenster.Sichern();
     w.fenster.Vorschau();

@@ -2,6 +2,7 @@
 
 #include "document/Verweise.h"
 #include "document/saetze/Person.h"
+#include "editing/Abwahl.h"
 #include "editing/Geometrie.h"
 #include "editing/Gesten.h"
 #include "editing/Kinder.h"
@@ -91,7 +92,7 @@ void PersonAuswählen(Werkbank &w, int position) {
     w.auswahl.lstMovedPers.Anhängen(lage.PersNr);
     const double größe = person.Groesse();
     lage.SymbolTyp = Ganzzahl16(ZahlLesen(person.Symboltyp()));
-    lage.SymbolGröße = lage.AuswahlGröße = lage.MarkerBreite = lage.MarkerHöhe = größe;
+    lage.SymbolGröße = lage.AuswahlGröße = lage.Spur.MarkerBreite = lage.Spur.MarkerHöhe = größe;
     lage.AuswahlX = Gerundet(person.PosX() - größe / 2, 2);
     lage.AuswahlY = Gerundet(person.PosY() - größe / 2, 2);
     Auflagenform &maske = w.auflagen.shpMask;
@@ -120,7 +121,7 @@ void ElternAnlegen(Werkbank &w) {
     Anhängen(w.dokument, TypMännlich, x, y, w.lage.SymbolGröße);
     Anhängen(w.dokument, TypWeiblich, RasterZehntel(w.ansicht, x + ElternAbstand), y, w.lage.SymbolGröße);
     const int mutter = w.dokument.cboPersonen.Anzahl() - 1;
-    PaarVerbinden(w.dokument, mutter - 1, mutter);
+    PaarVerbinden(w.dokument, {mutter - 1, mutter});
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     w.fenster.Sichern();
@@ -175,17 +176,16 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e) {
         lage.AuswahlX = Gerundet(w.auflagen.shpMask.Left, 2);
         lage.AuswahlY = Gerundet(w.auflagen.shpMask.Top, 2);
     }
-    lage.NeuX = Gerundet(lage.AuswahlX + lage.SymbolGröße / 2, 2);
-    lage.NeuY = Gerundet(lage.AuswahlY + lage.SymbolGröße / 2, 2);
-    lage.MarkerBreite = lage.MarkerHöhe = lage.SymbolGröße;
+    const double x = lage.Spur.NeuX = Gerundet(lage.AuswahlX + lage.SymbolGröße / 2, 2);
+    const double y = lage.Spur.NeuY = Gerundet(lage.AuswahlY + lage.SymbolGröße / 2, 2);
+    lage.Spur.MarkerBreite = lage.Spur.MarkerHöhe = lage.SymbolGröße;
     PersonBau person(personen.Satz(i));
     personen.Ersetzen(i, person.Text());
     const Dokument vorher = w.dokument;
-    lage.PersRecord = person.Ort(lage.NeuX, lage.NeuY).Text();
+    lage.PersRecord = person.Ort(x, y).Text();
     personen.Ersetzen(i, lage.PersRecord);
     if (!bewegt) return;
-    LinienDerPersonNachziehen(w.dokument, Bezüge(w.dokument), lage.PersNr, lage.NeuX, lage.NeuY, w.ansicht.Rasterweite,
-                              std::nullopt);
+    LinienDerPersonNachziehen(w.dokument, Bezüge(w.dokument), lage.PersNr, x, y, w.ansicht.Rasterweite, std::nullopt);
     MarkerParken(w.lage, w.auflagen);
     lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
@@ -210,9 +210,9 @@ void PersonMitbewegen(Werkbank &w, const Bezüge &bezüge, std::string_view nr, 
     person.Ort(neu(person.Stand().PosX() + gruppe.DeltaX), neu(person.Stand().PosY() + gruppe.DeltaY));
     personen.Ersetzen(i, person.Text());
     w.lage.PersNr = person.Stand().Nr();
-    w.lage.NeuX = person.Stand().PosX();
-    w.lage.NeuY = person.Stand().PosY();
-    LinienDerPersonNachziehen(w.dokument, bezüge, w.lage.PersNr, w.lage.NeuX, w.lage.NeuY, raster, gruppe);
+    const double x = w.lage.Spur.NeuX = person.Stand().PosX();
+    const double y = w.lage.Spur.NeuY = person.Stand().PosY();
+    LinienDerPersonNachziehen(w.dokument, bezüge, w.lage.PersNr, x, y, raster, gruppe);
     MarkerParken(w.lage, w.auflagen);
 }
 

@@ -48,8 +48,7 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e);
 /// Carries all lines of person `nr` along to (x, y), cm; `raster` is the snap step.
 void LinienDerPersonNachziehen(Dokument &dokument, const Bezüge &bezüge, std::string_view nr, double x, double y,
                                double raster, const std::optional<Balkenmitnahme> &gruppe);
-/// Moves the person of that number by (dx, dy), cm, with all its lines, as a part of a group. Its new centre goes into
-/// `NeuX`, `NeuY`.
+/// Moves the person of that number by (dx, dy), cm, with all its lines, as a part of a group.
 void PersonMitbewegen(Werkbank &w, const Bezüge &bezüge, std::string_view nr, const Balkenmitnahme &gruppe);
 
 /// Person `PersNr` with every line that names it. Within a group, and of a single selected person, no redraw and no

@@ -2,8 +2,8 @@
 
 #include "document/Nachschlagen.h"
 #include "document/saetze/Pfeil.h"
+#include "editing/Abwahl.h"
 #include "editing/Gesten.h"
-#include "editing/Marker.h"
 #include "platform/Befehlsnamen.h"
 
 #include <algorithm>

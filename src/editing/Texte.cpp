@@ -2,6 +2,7 @@
 
 #include "document/Nachschlagen.h"
 #include "document/saetze/Textbox.h"
+#include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
 #include "platform/Befehlsnamen.h"
@@ -66,12 +67,12 @@ void TextboxAuswählen(Werkbank &w, int position) {
     const TextSatz box(lage.TextRecord, Lücken::Leer);
     lage.AuswahlX = box.TextX() - RandLinks;
     lage.AuswahlY = box.TextY();
-    lage.MarkerBreite = box.TextBreite() + MaskeMehr;
-    lage.MarkerHöhe = lage.TextRahmenUnten;
+    const double breite = lage.Spur.MarkerBreite = box.TextBreite() + MaskeMehr;
+    const double höhe = lage.Spur.MarkerHöhe = lage.TextRahmenUnten;
     Auflagenform &maske = w.auflagen.shpMask;
     maske.Visible = false;
     maske.Shape = Umriss::Rechteck;
-    maske.Legen(box.TextX(), box.TextY(), lage.MarkerBreite, lage.MarkerHöhe);
+    maske.Legen(box.TextX(), box.TextY(), breite, höhe);
 }
 
 bool TextSetzen(Werkbank &w, const Ereignis &e) {

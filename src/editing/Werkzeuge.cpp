@@ -1,9 +1,9 @@
 #include "editing/Werkzeuge.h"
 
 #include "document/Nachschlagen.h"
+#include "editing/Abwahl.h"
 #include "editing/Kinder.h"
 #include "editing/Linien.h"
-#include "editing/Marker.h"
 
 #include <algorithm>
 

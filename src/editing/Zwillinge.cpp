@@ -2,6 +2,7 @@
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
+#include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Kinder.h"
 #include "editing/Linien.h"
@@ -36,14 +37,6 @@ void Melden(Werkbank &w, const Zweisprachig &text) {
         {"Kinwright Information ", std::string(text.In(w.ansicht.Sprache)), Knöpfe::Ok, Zeichen::Warnung});
     AuswahlrahmenParken(w.auflagen);
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
-}
-
-/// The first partnership between the two, in either order; -1 none.
-int PartnerschaftZwischen(const Dokument &d, std::string_view a, std::string_view b) {
-    const auto &linien = d.cboPartnerschaftsLinien;
-    for (int i = 0; i < linien.Anzahl(); ++i)
-        if (PartnerschaftSatz(linien.Satz(i), Lücken::Leer).Verbindet(a, b)) return i;
-    return -1;
 }
 
 /// Numbers for two persons who come together.
@@ -85,12 +78,12 @@ void Anlegen(Dokument &d, const Zwillingsart &art, int linie, double raster, dou
     for (int i = 0; i < 2; ++i) d.cboBeziehungsLinien.Anhängen(Zwillingsband(nummern, x[0], x[1], y));
 }
 
-void ZwillingeAnlegen(Werkbank &w) {
-    const int linie = PartnerschaftZwischen(w.dokument, w.lage.PersNrA, w.lage.PersNrB);
+void ZwillingeAnlegen(Werkbank &w, const Zwillingsart &art, std::string_view eltern1, std::string_view eltern2) {
+    const int linie = PLinieZwischen(w.dokument, eltern1, eltern2);
     if (linie < 0) return;
     w.lage.PLinieAuswahl = linie;
     w.auflagen.shpMask.Parken();
-    Anlegen(w.dokument, Arten[w.lage.ZwillingsArt - 1], linie, w.ansicht.Rasterweite, w.lage.SymbolGröße);
+    Anlegen(w.dokument, art, linie, w.ansicht.Rasterweite, w.lage.SymbolGröße);
     AuswahlrahmenParken(w.auflagen);
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
@@ -98,16 +91,16 @@ void ZwillingeAnlegen(Werkbank &w) {
 }
 
 /// The guard in front of the twin commands: exactly two persons must be selected.
-void ElternPrüfen(Werkbank &w) {
+void ElternPrüfen(Werkbank &w, const Zwillingsart &art) {
     const Satzliste &gewählte = w.auswahl.lstMovedPers;
     if (gewählte.Anzahl() > 2) {
         Melden(w, ZuViele);
     } else if (gewählte.Anzahl() == 2) {
-        w.lage.PersNrA = gewählte.Satz(0);
-        w.lage.PersNrB = gewählte.Satz(1);
+        const std::string a = w.lage.Spur.PersNrA = gewählte.Satz(0); // the lists are emptied on the way
+        const std::string b = w.lage.Spur.PersNrB = gewählte.Satz(1);
         w.lage.Aktion = Aktion::ElternPrüfen;
-        PartnerschaftAnlegen(w);
-        ZwillingeAnlegen(w);
+        PartnerschaftAnlegen(w, {PersonMitNr(w.dokument, a), PersonMitNr(w.dokument, b)});
+        ZwillingeAnlegen(w, art, a, b);
     } else {
         Melden(w, ErstDieEltern);
     }
@@ -133,10 +126,10 @@ std::string GemeinsameEltern(const Dokument &d, const std::string &eins, const s
 
 void ZwillingeEinfügen(Werkbank &w, int art) {
     constexpr int TypZwilling = 13; // of the command; no record has it
-    w.lage.ZwillingsArt = std::clamp(art, 1, static_cast<int>(std::size(Arten)));
+    w.lage.Spur.ZwillingsArt = std::clamp(art, 1, static_cast<int>(std::size(Arten)));
     w.lage.SymbolTyp = TypZwilling;
     w.lage.SymbolGröße = GrößeNormal;
-    ElternPrüfen(w);
+    ElternPrüfen(w, Arten[w.lage.Spur.ZwillingsArt - 1]);
 }
 
 void ZwillingeBereit(Werkbank &w) {

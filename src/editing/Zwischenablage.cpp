@@ -4,6 +4,7 @@
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
+#include "editing/Abwahl.h"
 #include "editing/Gruppe.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"

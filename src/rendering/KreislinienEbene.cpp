@@ -1,3 +1,4 @@
+#include "document/Nachschlagen.h"
 #include "document/saetze/Kreislinie.h"
 #include "rendering/Ebenen.h"
 #include "rendering/basKurvenGlaettung.h"
@@ -30,13 +31,13 @@ void KreislinienEbene(Zeichenfläche &f, const Zeichnung &z) {
     f.ForeColor = a.Pfeilfarbe;
     f.DrawWidth = z.Druck ? 6 : 1;
     f.DrawStyle = StilDurchgezogen;
-    std::unordered_set<int> gewählt; // one-based positions
-    if (!z.Druck)
-        for (const auto &eintrag : z.auswahl.lstMovedKreisLinien) gewählt.insert(Ganzzahl16(ZahlLesen(eintrag)));
-    for (int i = 0; i < z.dokument.cboFreehandlines.Anzahl(); ++i) try {
+    const Satzliste &linien = z.dokument.cboFreehandlines;
+    std::unordered_set<int> gewählt;
+    if (!z.Druck) gewählt = PositionenAus(z.auswahl.lstMovedKreisLinien, linien, 1);
+    for (int i = 0; i < linien.Anzahl(); ++i) try {
             int n = 0;
-            Kurvenpunkte punkte = PunkteLesen(z.dokument.cboFreehandlines.Satz(i), n);
-            const bool hervorgehoben = gewählt.contains(i + 1);
+            Kurvenpunkte punkte = PunkteLesen(linien.Satz(i), n);
+            const bool hervorgehoben = gewählt.contains(i);
             f.DrawWidth = z.Druck ? 3 : hervorgehoben ? 2 : 1;
             if (!punkte.empty()) KurveZeichnen(f, punkte, n, a.Glättungsgrad, hervorgehoben ? Rot : a.Pfeilfarbe, true);
         } catch (const FeldFehlt &) { // a damaged stroke isn't drawn

@@ -1,3 +1,4 @@
+#include "document/Nachschlagen.h"
 #include "document/saetze/Pfeil.h"
 #include "rendering/Ebenen.h"
 
@@ -70,7 +71,7 @@ Pfeilbefund PfeilEbene(Zeichenfläche &f, const Zeichnung &z) {
     std::unordered_set<int> gewählt;
     if (!z.Druck) {
         befund.Markiert = false;
-        for (const auto &eintrag : z.auswahl.lstMovedPfeile) gewählt.insert(Ganzzahl16(ZahlLesen(eintrag)));
+        gewählt = PositionenAus(z.auswahl.lstMovedPfeile, z.dokument.cboPfeile, 0);
     }
     double w = 0;
     for (int i = 0; i < z.dokument.cboPfeile.Anzahl(); ++i) {

@@ -1,3 +1,4 @@
+#include "document/Nachschlagen.h"
 #include "document/saetze/Textbox.h"
 #include "rendering/Ebenen.h"
 
@@ -67,8 +68,8 @@ Maße MaßeVon(const TextSatz &box, int i, const std::vector<Textmaße> &gemesse
 void AuswahlRahmen(Zeichenfläche &f, const Zeichnung &z, Textbefund &befund) {
     const Satzliste &boxen = z.dokument.cboTextboxen;
     for (const auto &eintrag : z.auswahl.lstMovedText) {
-        const int i = Ganzzahl16(ZahlLesen(eintrag));
-        if (i < 0 || i >= boxen.Anzahl()) continue;
+        const int i = PositionAus(eintrag, boxen, 0);
+        if (i < 0) continue;
         const TextSatz box(boxen.Satz(i), Lücken::Leer);
         const auto [w, h] = MaßeVon(box, i, befund.Gemessen);
         const double x = box.TextX();
