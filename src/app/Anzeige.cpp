@@ -1,5 +1,6 @@
 #include "app/Anzeige.h"
 
+#include "app/Datenimport.h"
 #include "commands/basLanguage.h"
 #include "document/Auswahlliste.h"
 #include "document/Chronik.h"
@@ -95,8 +96,6 @@ void Anzeige::ZoomZeigen() {
     const std::string &zoom = z_.bereich.cboBildGröße.Text();
     bedienung_[Name::btnZoom].Caption = zoom;
     bedienung_.NurAnkreuzen("keyZoom", "keyZoom" + ZahlSchreiben(ZahlLesen(zoom)));
-    bedienung_[Name::btnBildGrößer].Enabled = z_.bereich.KannVergrößern();
-    bedienung_[Name::btnBildKleiner].Enabled = z_.bereich.KannVerkleinern();
 }
 
 void Anzeige::FarbschemaZeigen() {
@@ -153,9 +152,19 @@ void Anzeige::PaletteZeigen() {
     bedienung_[Name::btnAuswahlZuBild].Checked = z_.lage.BildAuswahl && z_.lage.bAuswahlInDatei;
 }
 
+/// Zooming, and the list of persons that another application has handed over.
+void Anzeige::RestZeigen() {
+    bedienung_[Name::btnBildGrößer].Enabled = z_.bereich.KannVergrößern();
+    bedienung_[Name::btnBildKleiner].Enabled = z_.bereich.KannVerkleinern();
+    Bedienelement &import = bedienung_[Name::btnImport];
+    import.Visible = import.Enabled = !z_.import.Listenzeilen.empty();
+    import.Checked = bedienung_[Name::imgVariable].Visible = z_.import.ListeSichtbar;
+}
+
 void Anzeige::MöglichesZeigen() {
     AngebotZeigen();
     PaletteZeigen();
+    RestZeigen();
 }
 
 } // namespace kw

@@ -5,6 +5,7 @@ namespace kw {
 class Arbeitsbereich;
 class Bedienelemente;
 class Chronik;
+class Datenimport;
 class Druckwerk;
 class UndoRing;
 struct Ansicht;
@@ -28,6 +29,7 @@ class Anzeige {
         const Arbeitsbereich &bereich;
         const Auswahlliste &cboRaster;
         const Druckwerk &druck;
+        const Datenimport &import;
     };
     Anzeige(Bedienelemente &bedienung, Zustand zustand) : bedienung_(bedienung), z_(zustand) {}
 
@@ -43,7 +45,7 @@ class Anzeige {
     void SeiteZeigen();
     /// Whether the margins' frame is shown.
     void DruckränderZeigen();
-    /// The zoom in force, and whether there is a greater and a smaller one.
+    /// The zoom in force.
     void ZoomZeigen();
     /// The colour scheme in force.
     void FarbschemaZeigen();
@@ -63,6 +65,7 @@ class Anzeige {
   private:
     void AngebotZeigen();
     void PaletteZeigen();
+    void RestZeigen();
 
     Bedienelemente &bedienung_;
     const Zustand z_;

@@ -103,7 +103,9 @@ void HilfeÖffnen(Befehlsumgebung &u, int) {
 }
 
 void DruckränderUmschalten(Befehlsumgebung &u, int) {
-    if (u.druck.RänderUmschalten()) u.werkbank.fenster.Vorschau();
+    if (!u.druck.RänderUmschalten()) return;
+    u.anzeige.DruckränderZeigen();
+    u.werkbank.fenster.Vorschau();
 }
 
 void LegendeUmschalten(Befehlsumgebung &u, int) {

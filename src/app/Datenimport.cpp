@@ -7,8 +7,6 @@
 #include "document/Texte.h"
 #include "editing/Personen.h"
 #include "editing/Werkbank.h"
-#include "platform/Bedienelemente.h"
-#include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 
 #include <algorithm>
@@ -104,16 +102,8 @@ void Datenimport::DatenEinlesen(const std::string &basis) {
 void Datenimport::ListeFüllen() {
     Listenzeilen.clear();
     for (const std::string &zeile : cboTextDateizeilen) Listenzeilen.push_back(ImportpersonAus(zeile));
-    const bool gefüllt = !Listenzeilen.empty();
-    bedienung_[Name::btnImport].Visible = bedienung_[Name::btnImport].Enabled = gefüllt;
-    ListeZeigen(gefüllt);
+    ListeSichtbar = !Listenzeilen.empty();
 }
-
-void Datenimport::ListeZeigen(bool sichtbar) {
-    bedienung_[Name::imgVariable].Visible = bedienung_[Name::btnImport].Checked = sichtbar;
-}
-
-void Datenimport::ListeUmschalten() { ListeZeigen(!bedienung_[Name::imgVariable].Visible); }
 
 void Datenimport::Ablegen(Werkbank &w, int zeile, double x, double y) const {
     if (zeile < 0 || zeile >= static_cast<int>(Listenzeilen.size())) return;

@@ -8,7 +8,6 @@
 
 namespace kw {
 
-class Bedienelemente;
 class Benutzer;
 class Fensterdienste;
 class Projekt;
@@ -28,13 +27,12 @@ class Datenimport {
         Gestenlage &geste; ///< a text box is measured as one that has just been placed
         const Ansicht &ansicht;
     };
-    Datenimport(const Startangaben &start, Ziel ziel, Projekt &projekt, Bedienelemente &bedienung, Benutzer &benutzer,
-                Fensterdienste &fenster)
-        : start_(start), ziel_(ziel), projekt_(projekt), bedienung_(bedienung), benutzer_(benutzer), fenster_(fenster) {
-    }
+    Datenimport(const Startangaben &start, Ziel ziel, Projekt &projekt, Benutzer &benutzer, Fensterdienste &fenster)
+        : start_(start), ziel_(ziel), projekt_(projekt), benutzer_(benutzer), fenster_(fenster) {}
 
     Satzliste cboTextDateizeilen;           ///< lines of the list, as they were read
     std::vector<Importperson> Listenzeilen; ///< the list that the panel shows
+    bool ListeSichtbar = false;
 
     /// Whether the command line, however it is quoted, asks for an import.
     static bool IstVerlangt(const std::string &kommandozeile);
@@ -45,19 +43,17 @@ class Datenimport {
     void DatenEinlesen(const std::string &basis);
     /// Fills the list from the lines and shows its panel.
     void ListeFüllen();
-    void ListeUmschalten();
+    void ListeUmschalten() { ListeSichtbar = !ListeSichtbar; }
     /// A line of the list, from 0, dropped on the page, where nothing is selected: one person there. Other rows do
     /// nothing.
     void Ablegen(Werkbank &w, int zeile, double x, double y) const;
 
   private:
     void FallEinlesen(const std::string &datei);
-    void ListeZeigen(bool sichtbar);
 
     const Startangaben &start_;
     Ziel ziel_;
     Projekt &projekt_;
-    Bedienelemente &bedienung_;
     Benutzer &benutzer_;
     Fensterdienste &fenster_;
 };

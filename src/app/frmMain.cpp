@@ -31,15 +31,20 @@ std::string Entpackt(std::string_view kommandozeile) {
 frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben startangaben)
     : plattform(plattform_), start(std::move(startangaben)), picVorschau(canvas),
       bereich(canvas, ansicht, start.BildschirmBreite, start.BildschirmHöhe,
-              {[this] { Vorschau(); }, [this] { anzeige.ZoomZeigen(); }}),
-      druck(plattform.drucker, plattform.benutzer, ansicht, bedienung),
-      anzeige(bedienung, {dokument, ansicht, lage, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster, druck}),
+              {[this] { Vorschau(); },
+               [this] {
+                   anzeige.ZoomZeigen();
+                   anzeige.MöglichesZeigen();
+               }}),
+      druck(plattform.drucker, plattform.benutzer, ansicht, dokument),
+      anzeige(bedienung,
+              {dokument, ansicht, lage, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster, druck, import}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, *this), hinweis(bedienung, plattform.benutzer),
       bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
       projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt},
               {ansicht, anzeige, plattform.benutzer, *this, *this, [this] { NichtsAuswählen(werkbank); }},
               start.IniDatei),
-      import(start, {dokument, lage, ansicht}, projekt, bedienung, plattform.benutzer, *this),
+      import(start, {dokument, lage, ansicht}, projekt, plattform.benutzer, *this),
       werkbank{dokument, ansicht, auswahl, lage, auflagen, ablage, legende, picVorschau, plattform.benutzer, *this},
       leinwand(werkbank), Kommandozeile(Entpackt(start.Kommandozeile)) {
     BedienelementeAnlegen(bedienung);
@@ -193,8 +198,7 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
     if (!IstFrei(name)) return false;
     leinwand.GesteAbbrechen();
-    Befehlsumgebung umgebung{werkbank, projekt,    darstellung, anzeige, bereich,   import,
-                             druck,    bildexport, ring,        *this,   bedienung, start};
+    Befehlsumgebung umgebung = FürBefehle();
     befehl.Ausführen(umgebung, befehl.Nummer);
     NachEreignis();
     return true;
@@ -206,18 +210,22 @@ void frmMain::PopupÖffnen(Befehlsname menü) {
 }
 
 void frmMain::FormÖffnen(Formularname name) {
-    Dialogumgebung umgebung = Umgebung();
+    Dialogumgebung umgebung = FürFormulare();
     const auto form = FormularErzeugen(name, umgebung);
     plattform.benutzer.FormZeigen(*form);
 }
 
-Dialogumgebung frmMain::Umgebung() {
+Dialogumgebung frmMain::FürFormulare() {
     return {werkbank, einstellungen, start.IniDatei, plattform.uhr, plattform.drucker, *this};
+}
+
+Befehlsumgebung frmMain::FürBefehle() {
+    return {werkbank, projekt, darstellung, anzeige, bereich, import, druck, bildexport, ring, *this, bedienung, start};
 }
 
 /// At the very first start, and until one has been chosen.
 void frmMain::SpracheErfragen() {
-    Dialogumgebung umgebung = Umgebung();
+    Dialogumgebung umgebung = FürFormulare();
     frmEinstellungen form(umgebung, true);
     plattform.benutzer.FormZeigen(form);
 }

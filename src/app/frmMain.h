@@ -27,6 +27,7 @@ class Benutzer;
 class Bilder;
 class Drucker;
 class Uhr;
+struct Befehlsumgebung;
 struct Einblick;
 struct Zeichenbefund;
 struct Zeichnung;
@@ -112,7 +113,9 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void Übernehmen(const Zeichenbefund &befund);
     /// One print run on a surface whose scale is set.
     void AufPapier(Zeichenfläche &papier);
-    Dialogumgebung Umgebung();
+    /// What a form and what a command work on.
+    Dialogumgebung FürFormulare();
+    Befehlsumgebung FürBefehle();
 
     Plattform plattform;
     Startangaben start;

@@ -1,9 +1,8 @@
 #include "output/Druckwerk.h"
 
 #include "document/Dateien.h"
+#include "document/Dokument.h"
 #include "output/Zieldatei.h"
-#include "platform/Bedienelemente.h"
-#include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
 #include "rendering/Zeichnung.h"
@@ -78,7 +77,6 @@ bool Druckwerk::RänderUmschalten() {
         return false;
     }
     ansicht_.bDruckrandAnzeigen = !ansicht_.bDruckrandAnzeigen;
-    bedienung_[Name::btnBlattränder].Checked = ansicht_.bDruckrandAnzeigen;
     return true;
 }
 
@@ -106,7 +104,7 @@ bool Druckwerk::GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen,
         ziel = DateiName(datei.value_or(""));
         return datei;
     };
-    drucker_.OrientationSetzen(bedienung_[Name::btnQuerformat].Checked ? 2 : 1);
+    drucker_.OrientationSetzen(dokument_.Seitenlage == 1 ? 1 : 2);
     const Druckende ende = drucker_.Drucken({titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite,
                                              ansicht_.SeitenHöhe, std::move(zeichnen), zielWählen});
     if (ende == Druckende::NichtGeschrieben)

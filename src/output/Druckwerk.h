@@ -5,19 +5,19 @@
 
 namespace kw {
 
-class Bedienelemente;
 class Benutzer;
 class Drucker;
 class Zeichenfläche;
 struct Ansicht;
+struct Dokument;
 struct Druckränder;
 struct Zweisprachig;
 
 /// Printing, and the frame of what the printer can't reach. Owned by the main window.
 class Druckwerk {
   public:
-    Druckwerk(Drucker &drucker, Benutzer &benutzer, Ansicht &ansicht, Bedienelemente &bedienung)
-        : drucker_(drucker), benutzer_(benutzer), ansicht_(ansicht), bedienung_(bedienung) {}
+    Druckwerk(Drucker &drucker, Benutzer &benutzer, Ansicht &ansicht, const Dokument &dokument)
+        : drucker_(drucker), benutzer_(benutzer), ansicht_(ansicht), dokument_(dokument) {}
 
     /// Whether there is a default printer, whose data could be read.
     bool DruckerVorhanden = false;
@@ -45,7 +45,7 @@ class Druckwerk {
     Drucker &drucker_;
     Benutzer &benutzer_;
     Ansicht &ansicht_;
-    Bedienelemente &bedienung_;
+    const Dokument &dokument_;
 };
 
 } // namespace kw

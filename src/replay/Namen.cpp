@@ -2,7 +2,6 @@
 
 #include "app/Darstellung.h"
 #include "app/Datenimport.h"
-#include "app/Einblick.h"
 #include "app/Programmversion.h"
 #include "app/Projekt.h"
 #include "document/Einstellungen.h"
@@ -17,6 +16,7 @@
 #include "rendering/Ansicht.h"
 #include "rendering/Auswahl.h"
 #include "rendering/Legende.h"
+#include "replay/Einblick.h"
 
 #include <algorithm>
 
@@ -166,7 +166,7 @@ void Namen::Auswahllisten(const Einblick &h) {
     const auto angekreuzt = [&elemente = h.bedienung](const std::string &papier) {
         std::string schlüssel = "key" + papier;
         std::erase(schlüssel, ' ');
-        return elemente.Mit(schlüssel).Checked;
+        return elemente.Finden(schlüssel)->Checked;
     };
     Variablen["cboPaperSize.index"].Lesen = [&liste = cboPaperSize_, angekreuzt] {
         const auto &papiere = liste.Einträge;

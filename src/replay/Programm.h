@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/Einblick.h"
 #include "document/basAltersberechnung.h"
 #include "replay/Aufzeichnung.h"
+#include "replay/Einblick.h"
 #include "replay/Plattform.h"
 
 #include <memory>

@@ -4,7 +4,6 @@
 #include "Familien.h"
 
 #include "app/Befehle.h"
-#include "app/Einblick.h"
 #include "app/frmMain.h"
 #include "editing/Gruppe.h"
 #include "editing/Kinder.h"
@@ -14,6 +13,7 @@
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
 #include "replay/Aufzeichnung.h"
+#include "replay/Einblick.h"
 #include "replay/Plattform.h"
 
 #include <benchmark/benchmark.h>
@@ -99,7 +99,7 @@ void Löschen(benchmark::State &lauf) {
 void UndoUndRedo(benchmark::State &lauf) {
     Sitzung s(lauf);
     s.innen.fenster.Sichern();
-    Befehlsumgebung umgebung = s.innen.FürBefehle();
+    Befehlsumgebung umgebung = s.innen;
     const auto [rückgängig, zurück] = BefehlFinden("cmdUndo");
     const auto [wiederholen, vor] = BefehlFinden("cmdredo");
     for (auto _ : lauf) {

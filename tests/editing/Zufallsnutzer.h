@@ -2,11 +2,11 @@
 
 #include "Satzregeln.h"
 
-#include "app/Einblick.h"
 #include "document/Dokument.h"
 #include "document/UndoRing.h"
 #include "editing/Leinwandlage.h"
 #include "rendering/Auswahl.h"
+#include "replay/Einblick.h"
 #include "replay/Programm.h"
 #include "replay/Skript.h"
 

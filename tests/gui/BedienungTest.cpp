@@ -1,6 +1,5 @@
 // What the hand does: pointer on the canvas, palette, menus. Events go to the real widgets, what came of them is
 // read in the records and in the pixels that show.
-#include "app/Einblick.h"
 #include "app/frmMain.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Person.h"
@@ -12,6 +11,7 @@
 #include "qt/fenster/Werkzeugpalette.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "qt/malen/LeinwandFlaeche.h"
+#include "replay/Einblick.h"
 #include "replay/Plattform.h"
 
 #include <QAbstractItemView>
