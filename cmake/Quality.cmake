@@ -4,16 +4,16 @@ option(KW_TIDY "Run clang-tidy on each file before it is compiled" OFF)
 
 find_program(KW_CCACHE ccache)
 if(KW_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${KW_CCACHE})
+  # It keeps what was compiled with precompiled headers only when told that these hold no macros of their own.
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${KW_CCACHE})
+  add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endif()
 
 # Headers that most files of a target read, parsed once a target. No file may lean on them: the tidy build goes without,
-# so that a missing include is found there. ccache doesn't keep what was compiled with them, so they give way to it.
+# so that a missing include is found there.
 set(KW_STANDARD_HEADERS <algorithm> <array> <cmath> <functional> <map> <optional> <string> <string_view> <utility> <vector>)
 set(KW_QT_HEADERS <QApplication> <QKeyEvent> <QLabel> <QPainter> <QStyle> <QTimer> <QToolButton>)
-if(KW_TIDY OR CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
-endif()
+set(CMAKE_DISABLE_PRECOMPILE_HEADERS ${KW_TIDY})
 
 # As a part of compiling, the check follows the build's own dependencies: a file is looked at again only when it or
 # a header of it changed. The compiler's warnings are the compiler's business (-w).
