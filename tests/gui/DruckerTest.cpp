@@ -20,7 +20,7 @@ namespace {
 
 class EingebauterDrucker : public testing::Test {
   protected:
-    EingebauterDrucker() { bild.dokument.cboPersonen.Anhängen(jörg); }
+    EingebauterDrucker() { bild.dokument.cboPersonen.Anhängen("001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__"); }
 
     void Drucken(int papier, int lage, bool farbig) {
         bild.dokument.Papiercode = papier;
@@ -32,7 +32,6 @@ class EingebauterDrucker : public testing::Test {
     }
     QString Ort(const char *name) const { return ordner.filePath(QString::fromUtf8(name)); }
 
-    const std::string jörg = "001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__";
     QTemporaryDir ordner;
     std::string ziel; ///< what the user answers
     int gefragt = 0;
