@@ -9,11 +9,13 @@ if(KW_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
   add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endif()
 
-# Headers that most files of a target read, parsed once a target. No file may lean on them: the tidy build goes without,
-# so that a missing include is found there.
+# Headers that most files of a target read, parsed once a target where one works on it. No file may lean on them: release
+# and tidy builds go without, so that a missing include is found there.
 set(KW_STANDARD_HEADERS <algorithm> <array> <cmath> <functional> <map> <optional> <string> <string_view> <utility> <vector>)
 set(KW_QT_HEADERS <QApplication> <QKeyEvent> <QLabel> <QPainter> <QStyle> <QTimer> <QToolButton>)
-set(CMAKE_DISABLE_PRECOMPILE_HEADERS ${KW_TIDY})
+if(CMAKE_BUILD_TYPE STREQUAL "Release")
+  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+endif()
 
 # As a part of compiling, the check follows the build's own dependencies: a file is looked at again only when it or
 # a header of it changed. The compiler's warnings are the compiler's business (-w).

@@ -19,7 +19,7 @@ class Satzliste {
     const std::string &Satz(int i) const { return sätze_.at(static_cast<size_t>(i)); }
     const std::string &Letzter() const { return sätze_.back(); }
     void Ersetzen(int i, std::string satz) { sätze_.at(static_cast<size_t>(i)) = std::move(satz); }
-    void Anhängen(std::string satz) { sätze_.push_back(std::move(satz)); }
+    void Anhängen(std::string satz);
     void Entfernen(int i) { sätze_.erase(sätze_.begin() + i); }
     void Leeren() { sätze_.clear(); }
 
