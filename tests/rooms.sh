@@ -23,7 +23,7 @@ below() {
 # here stands on top.
 floors_within() {
     case $1 in
-    document) printf '%s\n' 'Felder Texte Zahlen Satzliste' saetze/ Dokument Nachschlagen Verweise ;;
+    document) printf '%s\n' 'Felder Texte Zahlen Satzliste' saetze/ Nummernvergabe Dokument Nachschlagen Verweise ;;
     editing)
         printf '%s\n' 'Ablage Auflagen Fensterdienste Geometrie' 'Gruppenart Leinwandlage' Werkbank 'Gesten Marker' Abwahl
         printf '%s\n' Linien+Linienzug Kinder+Zwillinge 'Personen+Symbolgroesse Pfeile Kreislinien Texte Legende Bildausschnitt'

@@ -27,19 +27,13 @@ namespace {
 
 double NummerAmAnfang(const std::string &satz) { return ZahlLesen(Nummer(satz)); }
 
-std::string NeueNummer(Satzliste &freie, const Satzliste &speicher) {
-    if (freie.Leer()) return Dreistellig(speicher.Anzahl() + 1);
-    auto nummer = freie.Satz(0);
-    freie.Entfernen(0);
-    return nummer;
-}
-
 void FreieAufbauen(const Satzliste &speicher, Satzliste &freie) {
     freie.Leeren();
     if (speicher.Leer()) return;
     std::unordered_set<double> vergeben;
     for (const auto &satz : speicher) vergeben.insert(NummerAmAnfang(satz));
-    // The last record's number bounds the scan, not the highest one in the store: see the header.
+    // The last record's number bounds the scan, not the highest one in the store. Meant: those between are found when
+    // they are needed.
     const int letzte = static_cast<int>(std::floor(NummerAmAnfang(speicher.Letzter())));
     for (int nummer = 1; nummer <= letzte; ++nummer) {
         if (!vergeben.contains(nummer)) freie.Anhängen(Dreistellig(nummer));
@@ -57,9 +51,11 @@ void Dokument::SpeicherLeeren() {
     for (const auto &zeile : SpeicherTabelle) (this->*zeile.Liste).Leeren();
 }
 
-std::string Dokument::NeuePersNr() { return NeueNummer(lstGelöschtePersNr, cboPersonen); }
+Nummernvergabe Dokument::PersNummern() { return {cboPersonen, lstGelöschtePersNr, cboPersonen.Anzahl()}; }
 
-std::string Dokument::NeuePLinienNr() { return NeueNummer(lstGelöschtePLinien, cboPartnerschaftsLinien); }
+Nummernvergabe Dokument::PLinienNummern() {
+    return {cboPartnerschaftsLinien, lstGelöschtePLinien, cboPartnerschaftsLinien.Anzahl()};
+}
 
 void Dokument::FreieNummernAufbauen() {
     FreieAufbauen(cboPersonen, lstGelöschtePersNr);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/Nummernvergabe.h"
 #include "document/Satzliste.h"
 
 #include <array>
@@ -40,13 +41,14 @@ struct Dokument {
     /// Empties the seven stores, not the free lists.
     void SpeicherLeeren();
 
-    /// The next person's number: the first free one, which is taken, else count plus 1.
-    std::string NeuePersNr();
+    /// Numbers for new persons: free ones first, then count plus 1 and on.
+    Nummernvergabe PersNummern();
+    std::string NeuePersNr() { return PersNummern().Nächste(); }
     /// The same for partnership lines.
-    std::string NeuePLinienNr();
+    Nummernvergabe PLinienNummern();
+    std::string NeuePLinienNr() { return PLinienNummern().Nächste(); }
 
-    /// Rebuilds both free lists after a load. Each scan stops at the number of its store's last record,
-    /// not at the highest: a later person can then get a number that is in use. Meant, and kept.
+    /// Rebuilds both free lists after a load. Each scan stops at the number of its store's last record.
     void FreieNummernAufbauen();
 };
 

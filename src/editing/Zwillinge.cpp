@@ -39,12 +39,6 @@ void Melden(Werkbank &w, const Zweisprachig &text) {
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
 }
 
-/// Numbers for two persons who come together.
-std::array<std::string, 2> ZweiNummern(Dokument &d) {
-    std::string erste = d.NeuePersNr();
-    return {std::move(erste), d.lstGelöschtePersNr.Leer() ? Dreistellig(d.cboPersonen.Anzahl() + 2) : d.NeuePersNr()};
-}
-
 /// The marks of somebody who is born by a command are all "0", that of the age at death too.
 std::string NeuerZwilling(std::string_view nr, int typ, double x, double y, double größe) {
     PersonBau person(NeuePerson(nr, typ, x, y, größe));
@@ -65,7 +59,8 @@ void Anlegen(Dokument &d, const Zwillingsart &art, int linie, double raster, dou
     const double gerastert = Gerastert(mitte, raster);
     const double y = Gerundet(Gerastert(balken.BalkenY2(), raster) + AbstandUnterBalken, 1);
     const std::array x{Gerundet(gerastert + GrößeNormal, 1), Gerundet(gerastert - GrößeNormal, 1)};
-    const auto nummern = ZweiNummern(d);
+    Nummernvergabe neue = d.PersNummern();
+    const std::array nummern{neue.Nächste(), neue.Nächste()};
     for (size_t i = 0; i < 2; ++i) {
         PersonBau person(NeuerZwilling(nummern[i], i == 0 ? art.Typ1 : art.Typ2, x[i], y, größe));
         d.cboPersonen.Anhängen(person.ElternLinie(plinie).Zwilling(std::string(art.Marke) + nummern[1 - i]).Text());

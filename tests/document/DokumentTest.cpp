@@ -81,5 +81,5 @@ TEST(Dokument, FreieNummernEndenBeimLetztenSatz) {
     EXPECT_TRUE(d.lstGelöschtePLinien.Leer());
     d.cboPersonen = {"003_", "001_"};
     d.FreieNummernAufbauen();
-    EXPECT_EQ(d.NeuePersNr(), "003") << "in use already: meant";
+    EXPECT_EQ(d.NeuePersNr(), "002") << "003, as counted, is in use";
 }
