@@ -21,6 +21,7 @@ class Satzliste {
     void Ersetzen(int i, std::string satz) { sätze_.at(static_cast<size_t>(i)) = std::move(satz); }
     void Anhängen(std::string satz);
     void Entfernen(int i) { sätze_.erase(sätze_.begin() + i); }
+    template <typename Passt> void EntfernenWenn(Passt passt) { std::erase_if(sätze_, passt); }
     void Leeren() { sätze_.clear(); }
 
     auto begin() const { return sätze_.begin(); }

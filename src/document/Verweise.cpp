@@ -7,35 +7,56 @@
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
 
+#include <algorithm>
+#include <set>
+#include <unordered_map>
+#include <utility>
+
 namespace kw {
 
 namespace {
 
-/// Removes, from the end, the undamaged records that `passt`.
+/// Removes the undamaged records that `passt`.
 template <typename Satz, typename Passt> void Entfernen(Satzliste &speicher, Passt passt) {
-    for (int i = speicher.Anzahl() - 1; i >= 0; --i) {
-        const Satz satz(speicher.Satz(i));
-        if (satz.Vollständig() && passt(satz)) speicher.Entfernen(i);
+    speicher.EntfernenWenn([&](const std::string &text) {
+        const Satz satz(text);
+        return satz.Vollständig() && passt(satz);
+    });
+}
+
+/// Numbers of records that go. Numbers of another length than three, which no whole record has, are compared by value:
+/// "2" is "002".
+class Nummernmenge {
+  public:
+    void Aufnehmen(std::string_view nr) {
+        nummern_.emplace(nr);
+        werte_.insert(ZahlLesen(nr));
     }
+    bool Enthält(std::string_view nr) const {
+        constexpr size_t Üblich = 3;
+        return nummern_.contains(nr) || (nr.size() != Üblich && werte_.contains(ZahlLesen(nr)));
+    }
+    template <typename Satz> bool EinEnde(const Satz &linie) const {
+        return Enthält(linie.PersNr1()) || Enthält(linie.PersNr2());
+    }
+
+  private:
+    std::set<std::string, std::less<>> nummern_;
+    std::set<double> werte_;
+};
+
+void PositionenEntfernen(Satzliste &speicher, const std::vector<int> &positionen) {
+    const std::set<int> weg(positionen.begin(), positionen.end());
+    int i = 0;
+    speicher.EntfernenWenn([&](const std::string &) { return weg.contains(i++); });
 }
 
-/// Equal in value: "002" is "2". Three digits, as nearly all numbers are, need no reading.
-bool NummernGleich(std::string_view a, std::string_view b) {
-    constexpr size_t Üblich = 3;
-    return a == b || ((a.size() != Üblich || b.size() != Üblich) && ZahlLesen(a) == ZahlLesen(b));
-}
-
-void KinderlinienEntfernen(Dokument &d, std::string_view plinie) {
-    Entfernen<KindSatz>(d.cboKindlinien, [&](const KindSatz &linie) { return linie.PLinie() == plinie; });
-}
-
-/// The persons whose parents were that line have none any more; nor the relationship records that join a pair of
+/// The persons whose parents were those lines have none any more; nor the relationship records that join a pair of
 /// identical twins.
-void KinderFreigeben(Dokument &d, std::string_view plinie) {
+void KinderFreigeben(Dokument &d, const Nummernmenge &linien) {
     for (int i = 0; i < d.cboPersonen.Anzahl(); ++i) {
-        if (d.cboPersonen.Satz(i).find(plinie) == std::string::npos) continue; // spares splitting nearly all of them
         const PersonSatz kind(d.cboPersonen.Satz(i), Lücken::Leer);
-        if (kind.ElternLinie() != plinie) continue;
+        if (kind.ElternLinie().empty() || !linien.Enthält(kind.ElternLinie())) continue;
         if (kind.Eineiig())
             Entfernen<BeziehungSatz>(d.cboBeziehungsLinien, [&](const BeziehungSatz &linie) {
                 return linie.Verbindet(kind.Nr(), kind.ZwillingNr());
@@ -44,40 +65,70 @@ void KinderFreigeben(Dokument &d, std::string_view plinie) {
     }
 }
 
+/// Removes the partnership lines at those positions with their children's lines. Their numbers become free in the
+/// order given.
+void LinienEntfernen(Dokument &d, const std::vector<int> &positionen) {
+    if (positionen.empty()) return;
+    Nummernmenge linien;
+    for (const int i : positionen) {
+        linien.Aufnehmen(Nummer(d.cboPartnerschaftsLinien.Satz(i)));
+        d.lstGelöschtePLinien.Anhängen(std::string(Nummer(d.cboPartnerschaftsLinien.Satz(i))));
+    }
+    Entfernen<KindSatz>(d.cboKindlinien, [&](const KindSatz &linie) { return linien.Enthält(linie.PLinie()); });
+    KinderFreigeben(d, linien);
+    PositionenEntfernen(d.cboPartnerschaftsLinien, positionen);
+}
+
 void ZwillingsmarkeLöschen(Dokument &d, std::string_view nr) {
     const int person = nr.empty() ? -1 : PersonMitNr(d, nr);
     if (person >= 0) d.cboPersonen.Ersetzen(person, PersonBau(d.cboPersonen.Satz(person)).Zwilling("").Text());
 }
 
+/// Positions of the lines of those who go: person by person, from the last line on.
+std::vector<int> LinienDerPersonen(const Dokument &d, const std::vector<std::string> &nummern,
+                                   const Nummernmenge &menge) {
+    std::unordered_map<std::string_view, int> rang;
+    for (const auto &nr : nummern) rang.try_emplace(nr, static_cast<int>(rang.size()));
+    std::vector<std::pair<int, int>> linien;
+    for (int i = 0; i < d.cboPartnerschaftsLinien.Anzahl(); ++i) {
+        const PartnerschaftSatz linie(d.cboPartnerschaftsLinien.Satz(i));
+        if (!linie.Vollständig() || !menge.EinEnde(linie)) continue;
+        int erster = static_cast<int>(nummern.size());
+        for (const auto nr : {linie.PersNr1(), linie.PersNr2()})
+            if (const auto r = rang.find(nr); r != rang.end()) erster = std::min(erster, r->second);
+        linien.emplace_back(erster, -i);
+    }
+    std::sort(linien.begin(), linien.end());
+    std::vector<int> positionen;
+    for (const auto &[erster, position] : linien) positionen.push_back(-position);
+    return positionen;
+}
+
 } // namespace
 
-bool PersonEntfernen(Dokument &d, std::string_view nr) {
-    const int person = PersonMitNr(d, nr);
-    if (person < 0) return false; // its number must not become free twice
-    const auto genannt = [&](const auto &linie) {
-        return NummernGleich(linie.PersNr1(), nr) || NummernGleich(linie.PersNr2(), nr);
-    };
-    Entfernen<BeziehungSatz>(d.cboBeziehungsLinien, genannt);
-    for (int i = d.cboPartnerschaftsLinien.Anzahl() - 1; i >= 0; --i) {
-        const PartnerschaftSatz linie(d.cboPartnerschaftsLinien.Satz(i));
-        if (linie.Vollständig() && genannt(linie)) PartnerschaftEntfernen(d, i);
+bool PersonenEntfernen(Dokument &d, const std::vector<std::string> &nummern) {
+    const Nummernverzeichnis verzeichnis(d.cboPersonen);
+    Nummernmenge menge;
+    std::vector<int> positionen;
+    std::vector<std::string> zwillinge;
+    for (const auto &nr : nummern) {
+        const int i = verzeichnis.Position(Nummer(nr));
+        if (i < 0 || std::find(positionen.begin(), positionen.end(), i) != positionen.end()) continue;
+        positionen.push_back(i);
+        menge.Aufnehmen(nr);
+        zwillinge.emplace_back(PersonSatz(d.cboPersonen.Satz(i), Lücken::Leer).ZwillingNr());
+        d.lstGelöschtePersNr.Anhängen(nr);
     }
-    Entfernen<KindSatz>(d.cboKindlinien, [&](const KindSatz &linie) { return NummernGleich(linie.KindNr(), nr); });
-    d.lstGelöschtePersNr.Anhängen(std::string(nr));
-
-    const std::string zwilling(PersonSatz(d.cboPersonen.Satz(person), Lücken::Leer).ZwillingNr());
-    d.cboPersonen.Entfernen(person);
-    ZwillingsmarkeLöschen(d, zwilling);
+    if (positionen.empty()) return false;
+    Entfernen<BeziehungSatz>(d.cboBeziehungsLinien, [&](const BeziehungSatz &linie) { return menge.EinEnde(linie); });
+    LinienEntfernen(d, LinienDerPersonen(d, nummern, menge));
+    Entfernen<KindSatz>(d.cboKindlinien, [&](const KindSatz &linie) { return menge.Enthält(linie.KindNr()); });
+    PositionenEntfernen(d.cboPersonen, positionen);
+    for (const auto &zwilling : zwillinge) ZwillingsmarkeLöschen(d, zwilling);
     return true;
 }
 
-void PartnerschaftEntfernen(Dokument &d, int position) {
-    const std::string nr(Nummer(d.cboPartnerschaftsLinien.Satz(position)));
-    KinderlinienEntfernen(d, nr);
-    KinderFreigeben(d, nr);
-    d.cboPartnerschaftsLinien.Entfernen(position);
-    d.lstGelöschtePLinien.Anhängen(nr);
-}
+void PartnerschaftEntfernen(Dokument &d, int position) { LinienEntfernen(d, {position}); }
 
 void KindlinieEntfernen(Dokument &d, int position) {
     const int kind = PersonMitNr(d, d.cboKindlinien.Satz(position));
@@ -87,12 +138,6 @@ void KindlinieEntfernen(Dokument &d, int position) {
         ZwillingsmarkeLöschen(d, zwilling); // it keeps its parents
     }
     d.cboKindlinien.Entfernen(position);
-}
-
-void PartnerschaftAlleinEntfernen(Dokument &d, std::string_view nr) {
-    const int position = PLinieMitNr(d, nr);
-    if (position >= 0) d.cboPartnerschaftsLinien.Entfernen(position);
-    KinderlinienEntfernen(d, nr);
 }
 
 int Satzzahl(const Dokument &d) {

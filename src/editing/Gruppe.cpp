@@ -14,6 +14,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <vector>
 
 namespace kw {
 
@@ -57,13 +59,18 @@ void Entfernen(const Gruppenart &art, Dokument &d, Auswahl &auswahl) {
     gewählt.Leeren();
 }
 
-void PersonenEntfernen(Werkbank &w) {
-    const Satzliste personen = w.auswahl.lstMovedPers;
-    for (int i = personen.Anzahl() - 1; i >= 0; --i) {
-        w.lage.ElementArt = "Person";
-        w.lage.PersNr = personen.Satz(i);
-        PersonLöschen(w);
-    }
+/// The last one first, as their numbers become free.
+void PersonenEntfernen(Dokument &d, const Auswahl &auswahl) {
+    const Satzliste &personen = auswahl.lstMovedPers;
+    std::vector<std::string> nummern(personen.begin(), personen.end());
+    std::reverse(nummern.begin(), nummern.end());
+    PersonenEntfernen(d, nummern);
+}
+
+/// Those that no partner has taken along.
+void BalkenEntfernen(Dokument &d, const Auswahl &auswahl) {
+    for (const auto &nr : auswahl.lstMovedPLines)
+        if (const int i = PLinieMitNr(d, nr); i >= 0) PartnerschaftEntfernen(d, i);
 }
 
 /// The way that the frame has gone. Half a tenth is no way: a frame between two tenths mustn't creep with each click.
@@ -155,7 +162,9 @@ void AuswahlLöschen(Werkbank &w) {
     const int vorher = Satzzahl(w.dokument);
     for (const Gruppenart *art : Arten) Entfernen(*art, w.dokument, w.auswahl);
     PositionenVergessen(w.lage);
-    PersonenEntfernen(w);
+    PersonenEntfernen(w.dokument, w.auswahl);
+    BalkenEntfernen(w.dokument, w.auswahl);
+    w.auflagen.shpMask.Parken();
     AuswahlrahmenParken(w.auflagen);
     if (Satzzahl(w.dokument) < vorher) w.fenster.Sichern();
     w.fenster.Vorschau();
@@ -200,17 +209,7 @@ void mnuSymbolLöschen(Werkbank &w) {
 }
 
 void cmdDelete(Werkbank &w) {
-    if (w.lage.Aktion != Aktion::GruppeGewählt) return;
-    const int vorher = Satzzahl(w.dokument);
-    for (const Gruppenart *art : {&KreislinienInGruppen, &TexteInGruppen}) Entfernen(*art, w.dokument, w.auswahl);
-    PositionenVergessen(w.lage);
-    PersonenEntfernen(w);
-    for (const auto &nr : w.auswahl.lstMovedPLines) PartnerschaftAlleinEntfernen(w.dokument, nr);
-    AuswahlrahmenParken(w.auflagen);
-    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
-    w.lage.Aktion = Aktion::Nichts;
-    w.fenster.Vorschau();
-    if (Satzzahl(w.dokument) < vorher) w.fenster.Sichern();
+    if (w.lage.Aktion == Aktion::GruppeGewählt) mnuLöschen1(w);
 }
 
 } // namespace kw

@@ -24,14 +24,13 @@ void GruppeZiehen(Werkbank &w, const Ereignis &e);
 /// Everything selected goes the frame's way. The frame stays, ready for another move.
 void GruppeLoslassen(Werkbank &w, const Ereignis &e);
 
-/// Everything in the selection lists but partnership lines: those go with a partner only.
+/// Everything in the selection lists, with all that names it; one snapshot.
 void AuswahlLöschen(Werkbank &w);
 /// The delete command: what is selected, as `Aktion` tells.
 void mnuLöschen1(Werkbank &w);
 /// Context menu of a person: the selected person with every line that names it, or the text box that was selected last.
 void mnuSymbolLöschen(Werkbank &w);
-/// The delete button of the palette. It deletes a group's partnership lines too, without freeing their children,
-/// and leaves its arrows. Meant.
+/// The delete button of the palette: the same for a group.
 void cmdDelete(Werkbank &w);
 
 } // namespace kw

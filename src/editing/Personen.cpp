@@ -218,7 +218,7 @@ void PersonMitbewegen(Werkbank &w, const Bezüge &bezüge, std::string_view nr, 
 
 void PersonLöschen(Werkbank &w) {
     if (w.dokument.cboPersonen.Leer()) return;
-    const bool entfernt = PersonEntfernen(w.dokument, w.lage.PersNr);
+    const bool entfernt = PersonenEntfernen(w.dokument, {w.lage.PersNr});
     if (entfernt) w.auflagen.shpMask.Parken();
     PositionenVergessen(w.lage);
     if (w.lage.Aktion == Aktion::GruppeGewählt || w.lage.Aktion == Aktion::PersonGewählt) return;

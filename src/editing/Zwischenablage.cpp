@@ -1,6 +1,7 @@
 #include "editing/Zwischenablage.h"
 
 #include "document/Nachschlagen.h"
+#include "document/Nummernvergabe.h"
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
@@ -87,12 +88,8 @@ void Kopieren(const Gruppenart &art, const Dokument &d, const Auswahl &auswahl, 
 /// New numbers for the records of one list: free ones first, then those behind the store's last record.
 Nummern NeueNummern(const Satzliste &liste, Satzliste &freie, const Satzliste &speicher) {
     Nummern neu;
-    int letzte = speicher.Leer() ? 0 : Ganzzahl16(ZahlLesen(Nummer(speicher.Letzter())));
-    for (const auto &satz : liste) {
-        std::string nr = freie.Leer() ? Dreistellig(++letzte) : freie.Satz(0);
-        if (!freie.Leer()) freie.Entfernen(0);
-        neu[std::string(Nummer(satz))] = std::move(nr);
-    }
+    Nummernvergabe vergabe(speicher, freie, speicher.Leer() ? 0 : Ganzzahl16(ZahlLesen(Nummer(speicher.Letzter()))));
+    for (const auto &satz : liste) neu[std::string(Nummer(satz))] = vergabe.Nächste();
     return neu;
 }
 
@@ -233,6 +230,7 @@ void Kopieren(Werkbank &w) {
 
 void Ausschneiden(Werkbank &w) {
     AblageFüllen(w, "Ausschneiden");
+    w.auswahl.lstMovedPLines.Leeren(); // a bar goes with a partner only: alone it isn't in the clipboard
     mnuLöschen1(w);
     NachKopie(w);
 }

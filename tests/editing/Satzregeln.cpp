@@ -278,41 +278,12 @@ std::string Anzeigefehler(const Stand &stand) {
 
 namespace {
 
-/// Whether the list has the number of `wer` as an entry.
-bool Enthält(const Satzliste &liste, const std::string &wer) {
-    return !wer.empty() && std::find(liste.begin(), liste.end(), wer.substr(1)) != liste.end();
-}
-
-/// A paste leaves the copies selected.
-bool Eingefügt(const Schritt &s, const std::string &wer) {
-    return s.Neu.dokument.cboPersonen.Anzahl() > s.Alt.dokument.cboPersonen.Anzahl() &&
-           Enthält(wer[0] == 'P' ? s.Neu.auswahl.lstMovedPers : s.Neu.auswahl.lstMovedPLines, wer);
-}
-
 /// A rule that the program breaks by its own rules: which one, any when none is named, and when it does.
 struct Macke {
     std::string_view Name, Regel;
     bool (*Gilt)(const Schritt &, const Verstoß &);
 };
 constexpr Macke Macken[] = {
-    {"numbers are counted where too few free ones are listed: a couple takes two", "double number",
-     [](const Schritt &s, const Verstoß &v) {
-         const Dokument &d = s.Alt.dokument;
-         return v.Wer[0][0] == 'P' ? d.lstGelöschtePersNr.Anzahl() < 2 : d.lstGelöschtePLinien.Leer(); }},
-    {"a paste counts its numbers", "double number",
-     [](const Schritt &s, const Verstoß &v) { return Eingefügt(s, v.Wer[0]); }},
-    {"a number that two records share spoils whatever else hangs on it, for the rest of the document's life", "",
-     [](const Schritt &s, const Verstoß &v) {
-         return std::any_of(v.Wer.begin(), v.Wer.end(),
-                            [&](const auto &wer) { return s.Entschuldigt.contains("double number: " + wer); }); }},
-    {"a copy has the faults of what was copied", "", [](const Schritt &s, const Verstoß &v) {
-         return !s.Entschuldigt.empty() && !v.Wer.empty() && Eingefügt(s, v.Wer[0]); }},
-    {"cmdDelete takes lines but does not free their children", "parents without child line",
-     [](const Schritt &s, const Verstoß &v) {
-         return s.Zeile.ends_with("press cmdDelete") && Enthält(s.Alt.auswahl.lstMovedPLines, v.Wer[1]); }},
-    {"a group's bar moves without the partner outside the group", "end of bar", [](const Schritt &s, const Verstoß &v) {
-         return s.Alt.lage.Aktion == Aktion::GruppeGewählt && Enthält(s.Alt.auswahl.lstMovedPLines, v.Wer[0]) &&
-                !Enthält(s.Alt.auswahl.lstMovedPers, v.Wer[1]); }},
     {"copied twins have no parents, and get them one by one", "twins of different parents",
      [](const Schritt &s, const Verstoß &) { return s.Alt.lage.Aktion == Aktion::KindZiehen; }},
     {"a person who was given a child line without parents can get another", "two child lines",
