@@ -66,6 +66,12 @@ std::unordered_set<int> PositionenAus(const Satzliste &liste, const Satzliste &s
     return positionen;
 }
 
+std::set<std::string, std::less<>> NummernIn(const Satzliste &liste) {
+    std::set<std::string, std::less<>> nummern;
+    for (const auto &satz : liste) nummern.emplace(Nummer(satz));
+    return nummern;
+}
+
 Nummernverzeichnis::Nummernverzeichnis(const Satzliste &speicher) {
     positionen_.reserve(static_cast<size_t>(speicher.Anzahl()));
     int position = 0;

@@ -2,6 +2,7 @@
 
 #include "document/Satzliste.h"
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -29,6 +30,8 @@ int KindLinieVon(const Dokument &dokument, std::string_view nr);
 int PositionAus(std::string_view eintrag, const Satzliste &speicher, int erste);
 /// The same for all entries of a list.
 std::unordered_set<int> PositionenAus(const Satzliste &liste, const Satzliste &speicher, int erste);
+/// The numbers that the records or entries of a list begin with.
+std::set<std::string, std::less<>> NummernIn(const Satzliste &liste);
 /// Whether a store has that position.
 inline bool Gültig(const Satzliste &speicher, int position) { return position >= 0 && position < speicher.Anzahl(); }
 

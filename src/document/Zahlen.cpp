@@ -86,6 +86,14 @@ double Gerastert(double wert, double raster) {
     return std::nearbyint(Gerundet(wert / raster, 6)) * raster;
 }
 
+double RasterZwischen(double wert, double raster, double von, double bis) {
+    if (raster <= 0) return std::clamp(wert, von, std::max(von, bis));
+    const double erstes = std::ceil(Gerundet(von / raster, 6)) * raster;
+    const double letztes = std::floor(Gerundet(bis / raster, 6)) * raster;
+    const double nächstes = Gerastert(wert, raster);
+    return letztes < erstes ? nächstes : std::clamp(nächstes, erstes, letztes);
+}
+
 int Ganzzahl16(double wert) {
     if (std::isnan(wert)) return 0;
     return static_cast<int>(std::clamp(std::nearbyint(wert), -32768.0, 32767.0));

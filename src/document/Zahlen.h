@@ -22,6 +22,10 @@ double Gerundet(double wert, int stellen);
 /// a raster. What is stored is rounded to one decimal afterwards.
 double Gerastert(double wert, double raster);
 
+/// The multiple of `raster` nearest to `wert` that lies between `von` and `bis`; where none does, the nearest of all.
+/// Without a raster `wert` itself, held between them.
+double RasterZwischen(double wert, double raster, double von, double bis);
+
 /// Whether `a` is below `b` by more than the noise of computing with decimals: what lies exactly on an edge,
 /// as people write it, isn't inside.
 inline bool Kleiner(double a, double b) { return b - a > 1e-6; }

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kw {
@@ -41,11 +42,11 @@ void NummernEintragen(bool (*imKasten)(std::string_view, const Auswahlkasten &),
         if (imKasten(satz, kasten)) gewählt.Anhängen(satz.substr(0, satz.find('_')));
 }
 
-void Mitbewegen(const Gruppenart &art, Dokument &d, const Auswahl &auswahl, double dx, double dy, double raster) {
+void Mitbewegen(const Gruppenart &art, Dokument &d, const Auswahl &auswahl, double dx, double dy) {
     Satzliste &speicher = d.*art.Speicher;
     for (const auto &eintrag : auswahl.*art.Gewählt) {
         const int i = PositionAus(eintrag, speicher, art.Erste);
-        if (i >= 0) speicher.Ersetzen(i, art.Verschoben(speicher.Satz(i), dx, dy, raster));
+        if (i >= 0) speicher.Ersetzen(i, art.Verschoben(speicher.Satz(i), dx, dy));
     }
 }
 
@@ -73,8 +74,11 @@ void BalkenEntfernen(Dokument &d, const Auswahl &auswahl) {
         if (const int i = PLinieMitNr(d, nr); i >= 0) PartnerschaftEntfernen(d, i);
 }
 
-/// The way that the frame has gone. Half a tenth is no way: a frame between two tenths mustn't creep with each click.
-double Weg(double jetzt, double vorher) { return Gerundet(Gerundet(jetzt - vorher, 6), 1); }
+/// A way of whole raster steps, as near to `weg` as the page lets a frame go that reaches from `von` to `bis`. What
+/// lies beyond the page already may come in, and go no further.
+double Rasterweg(double weg, double raster, double von, double bis, double seite) {
+    return RasterZwischen(weg, raster, std::min(0.0, -von), std::max(0.0, seite - bis));
+}
 
 } // namespace
 
@@ -127,6 +131,7 @@ bool GruppeFassen(Werkbank &w, const Ereignis &e) {
         return true;
     }
     w.lage.Zeiger = Mauszeiger::Verschieben;
+    w.lage.DeltaX = w.lage.DeltaY = 0;
     w.lage.VersatzX = e.X - rahmen.Left;
     w.lage.VersatzY = e.Y - rahmen.Top;
     if (e.Rechts()) {
@@ -138,22 +143,31 @@ bool GruppeFassen(Werkbank &w, const Ereignis &e) {
 }
 
 void GruppeZiehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.shpBox.Left = Raster(w.ansicht, e.X - w.lage.VersatzX);
-    w.auflagen.shpBox.Top = Raster(w.ansicht, e.Y - w.lage.VersatzY);
+    Leinwandlage &lage = w.lage;
+    Auflagenform &rahmen = w.auflagen.shpBox;
+    const double links = rahmen.Left - lage.DeltaX; // where it was taken
+    const double oben = rahmen.Top - lage.DeltaY;
+    const double raster = w.ansicht.Rasterweite;
+    lage.DeltaX = Rasterweg(e.X - lage.VersatzX - links, raster, links, links + rahmen.Width, w.ansicht.SeitenBreite);
+    lage.DeltaY = Rasterweg(e.Y - lage.VersatzY - oben, raster, oben, oben + rahmen.Height, w.ansicht.SeitenHöhe);
+    rahmen.Left = links + lage.DeltaX;
+    rahmen.Top = oben + lage.DeltaY;
+}
+
+void GruppeZurücksetzen(Werkbank &w) {
+    w.auflagen.shpBox.Left -= std::exchange(w.lage.DeltaX, 0);
+    w.auflagen.shpBox.Top -= std::exchange(w.lage.DeltaY, 0);
 }
 
 void GruppeLoslassen(Werkbank &w, const Ereignis &) {
-    Leinwandlage &lage = w.lage;
-    const Auflagenform &rahmen = w.auflagen.shpBox;
     w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
-    const double dx = lage.Spur.DeltaX = Weg(rahmen.Left, lage.AltX);
-    const double dy = lage.Spur.DeltaY = Weg(rahmen.Top, lage.AltY);
-    if (w.auswahl.Leer() || (dx == 0 && dy == 0)) return;
-    const Bezüge bezüge(w.dokument);
-    BalkenMitbewegen(w.dokument, bezüge, w.auswahl.lstMovedPLines, dx, dy);
-    const Balkenmitnahme zug{dx, dy, rahmen.Left, rahmen.Left + rahmen.Width};
-    for (const auto &nr : w.auswahl.lstMovedPers) PersonMitbewegen(w, bezüge, nr, zug);
-    for (const Gruppenart *art : Arten) Mitbewegen(*art, w.dokument, w.auswahl, dx, dy, w.ansicht.Rasterweite);
+    const double dx = w.lage.DeltaX;
+    const double dy = w.lage.DeltaY;
+    if (dx == 0 && dy == 0) return;
+    if (!w.auswahl.HatKopierbares()) return GruppeZurücksetzen(w); // bars without their partners stay
+    PersonenMitbewegen(w.dokument, {NummernIn(w.auswahl.lstMovedPers), dx, dy});
+    for (const Gruppenart *art : Arten) Mitbewegen(*art, w.dokument, w.auswahl, dx, dy);
+    MarkerParken(w.lage, w.auflagen);
     w.fenster.Vorschau();
     w.fenster.Sichern();
 }

@@ -19,8 +19,10 @@ void RahmenLoslassen(Werkbank &w, const Ereignis &e);
 
 /// A press with a group selected takes the frame, or ends the selection. Says whether the event ends with it.
 bool GruppeFassen(Werkbank &w, const Ereignis &e);
-/// The frame follows the pointer, snapped.
+/// The frame follows the pointer by whole steps of the raster, as far as it stays on the page.
 void GruppeZiehen(Werkbank &w, const Ereignis &e);
+/// The frame goes back to where it was taken.
+void GruppeZurücksetzen(Werkbank &w);
 /// Everything selected goes the frame's way. The frame stays, ready for another move.
 void GruppeLoslassen(Werkbank &w, const Ereignis &e);
 

@@ -18,8 +18,8 @@ struct Gruppenart {
     Satzliste Zwischenablage::*Ablage; ///< its copies
     /// Whether a marquee takes the element in; a damaged one never. `raster` is the snap step, cm.
     bool (*ImKasten)(std::string_view satz, const Auswahlkasten &kasten, double raster);
-    /// The record shifted by (dx, dy), cm, on the raster where the kind keeps to it; a raster of 0 is none.
-    std::string (*Verschoben)(std::string_view satz, double dx, double dy, double raster);
+    /// The record shifted by (dx, dy), cm.
+    std::string (*Verschoben)(std::string_view satz, double dx, double dy);
     void (*Umgeben)(std::string_view satz, Umgebung &umgebung);
 };
 

@@ -36,6 +36,8 @@ bool KindLinieAnlegen(Dokument &d, int plinie, int kind) {
     return true;
 }
 
+double PosY(const Dokument &d, int person) { return PersonSatz(d.cboPersonen.Satz(person), Lücken::Leer).PosY(); }
+
 double PosX(const Dokument &d, int person) { return PersonSatz(d.cboPersonen.Satz(person), Lücken::Leer).PosX(); }
 
 /// The other twin of a person; empty when it has none.
@@ -150,6 +152,33 @@ void KinderAnpassen(Dokument &d, const Bezüge &bezüge, std::string_view partne
         const double x = mitte.value_or(linie.Stand().KindX());
         linie.LinieX(Gerundet(std::clamp(x, links, rechts), 2)).LinieY(balken.BalkenY2());
         d.cboKindlinien.Ersetzen(i, linie.TextOhneBlanks());
+    }
+}
+
+void KinderMitbewegen(Dokument &d, const Gruppenzug &zug) {
+    const Bezüge bezüge(d);
+    for (int i = 0; i < d.cboKindlinien.Anzahl(); ++i) {
+        const KindSatz linie(d.cboKindlinien.Satz(i));
+        const int person = bezüge.Person(linie.KindNr());
+        if (!linie.Vollständig() || person < 0) continue;
+        const int balken = bezüge.PLinie(linie.PLinie());
+        const PartnerschaftSatz eltern(balken < 0 ? std::string_view() : d.cboPartnerschaftsLinien.Satz(balken),
+                                       Lücken::Leer);
+        const auto zwilling = ZwillingVon(d, person);
+        const bool selbst = zug.Nimmt(linie.KindNr());
+        const int mit = selbst + zug.Nimmt(eltern.PersNr1()) + zug.Nimmt(eltern.PersNr2()) + zug.Nimmt(zwilling);
+        if (mit == 0) continue;
+        KindBau neu(d.cboKindlinien.Satz(i));
+        if (mit == (zwilling.empty() ? 3 : 4)) {
+            neu.Verschieben(zug.DeltaX, zug.DeltaY);
+        } else {
+            if (selbst) neu.KindX(Gerundet(PosX(d, person), 2)).KindY(Gerundet(PosY(d, person), 2));
+            const auto [links, rechts] = BereichVon(d, bezüge, linie);
+            const double x = ZwillingsMitte(d, bezüge, person).value_or(neu.Stand().KindX());
+            neu.LinieX(Gerundet(std::clamp(x, links, rechts), 2));
+            if (balken >= 0) neu.LinieY(eltern.BalkenY2());
+        }
+        d.cboKindlinien.Ersetzen(i, neu.Text());
     }
 }
 

@@ -9,6 +9,7 @@ namespace kw {
 
 struct Dokument;
 struct Ereignis;
+struct Gruppenzug;
 struct Leinwandlage;
 struct Werkbank;
 
@@ -35,6 +36,8 @@ void KindLinieEntfernen(Werkbank &w);
 
 /// Puts the child lines of that partnership on its bar.
 void KinderAnpassen(Dokument &dokument, const Bezüge &bezüge, std::string_view partnerschaft);
+/// Carries the child lines along of a group whose persons and partnership lines have moved already.
+void KinderMitbewegen(Dokument &dokument, const Gruppenzug &zug);
 /// Lets the child line of person `nr`, and its twin's, follow the person to (x, y), cm.
 void KindlinieNachziehen(Dokument &dokument, const Bezüge &bezüge, std::string_view nr, double x, double y);
 

@@ -49,11 +49,6 @@ bool ImKasten(std::string_view satz, const Auswahlkasten &kasten, double /*raste
     return false;
 }
 
-/// Not snapped: the shape is kept.
-std::string Verschoben(std::string_view satz, double dx, double dy, double /*raster*/) {
-    return KreisVerschoben(satz, dx, dy);
-}
-
 void Umgeben(std::string_view satz, Umgebung &umgebung) {
     KreisSatz kreis(satz);
     while (const auto punkt = kreis.Nächster()) umgebung.Aufnehmen(punkt->X, punkt->Y);
@@ -66,7 +61,7 @@ const Gruppenart KreislinienInGruppen{&Dokument::cboFreehandlines,
                                       1,
                                       &Zwischenablage::ZA_Kreislinien,
                                       ImKasten,
-                                      Verschoben,
+                                      KreisVerschoben,
                                       Umgeben};
 
 int KreisLinieBei(const Dokument &d, double x, double y) {

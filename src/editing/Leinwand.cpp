@@ -144,10 +144,7 @@ void ZugAbbrechen(Werkbank &w) {
     case Aktion::KreisGewählt: KreisLoslassen(w, {}); break;
     case Aktion::PersonSetzen: PersonGesetzt(w, {}); break; // it stands already
     case Aktion::TextGefasst: w.lage.Aktion = Aktion::TextGewählt; break;
-    case Aktion::GruppeGewählt:
-        w.auflagen.shpBox.Left = w.lage.AltX;
-        w.auflagen.shpBox.Top = w.lage.AltY;
-        break;
+    case Aktion::GruppeGewählt: GruppeZurücksetzen(w); break;
     case Aktion::RahmenZiehen:
     case Aktion::KreisZeichnen:
     case Aktion::PfeilZeichnen:

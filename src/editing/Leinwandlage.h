@@ -42,8 +42,6 @@ struct Angebot {
 
 /// What the last gestures came to. Written for those who watch from outside; nothing in the program reads it.
 struct Gestenspur {
-    double DeltaX = 0; ///< way of a group move, cm
-    double DeltaY = 0;
     double NeuX = 0; ///< centre of the person that was moved last, cm
     double NeuY = 0;
     double MarkerBreite = 0.01; ///< of the marker around the selected person or text box, cm
@@ -80,8 +78,10 @@ struct Leinwandlage : Gestenlage {
     double VersatzY = 0;
     double GummiX = 0; ///< fixed end of a rubber line
     double GummiY = 0;
-    double AltX = 0; ///< group frame at the grab
+    double AltX = 0; ///< group frame at the grab, one decimal
     double AltY = 0;
+    double DeltaX = 0; ///< way of the group in hand, whole steps of the raster
+    double DeltaY = 0;
 
     bool LinieVerschoben = false;
     bool BildAuswahl = false;     ///< the next marquee is a region of the picture

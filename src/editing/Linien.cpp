@@ -4,6 +4,7 @@
 #include "document/saetze/Beziehung.h"
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
+#include "document/saetze/Person.h"
 #include "editing/Abwahl.h"
 #include "editing/Geometrie.h"
 #include "editing/Gesten.h"
@@ -34,14 +35,35 @@ void BeziehungenNachziehen(Dokument &d, const Bezüge &bezüge, const Bewegter &
     }
 }
 
-/// The bar's new height when a group takes it along: the bar as it stands before this step must lie within the
-/// frame as it stands after the move. A bar that is selected itself has then moved already, and moves twice. Meant.
-std::optional<double> HöheInDerGruppe(const PartnerschaftSatz &linie, const std::optional<Balkenmitnahme> &gruppe) {
-    if (!gruppe) return std::nullopt;
-    const double x1 = linie.BalkenX1() + gruppe->DeltaX;
-    const double x2 = linie.BalkenX2() + gruppe->DeltaX;
-    if (Kleiner(x1, gruppe->Links) || Kleiner(gruppe->Rechts, x2)) return std::nullopt;
-    return Gerundet(linie.BalkenY1() + gruppe->DeltaY, 1);
+/// A line's end that stays with a person.
+template <typename Bau> using Endschreiber = void (*)(Bau &, double x, double y);
+
+void BalkenEnde1(PartnerschaftBau &l, double x, double y) { l.BalkenX1(x).Anschluss1(x, y); }
+void BalkenEnde2(PartnerschaftBau &l, double x, double y) { l.BalkenX2(x).Anschluss2(x, y); }
+void BeziehungEnde1(BeziehungBau &l, double x, double y) { l.Ende1(x, y); }
+void BeziehungEnde2(BeziehungBau &l, double x, double y) { l.Ende2(x, y); }
+
+/// Shifts the lines of a store that lie within the group, and puts the one end of others at its person.
+template <typename Satz, typename Bau>
+void Mitbewegen(Satzliste &linien, const Dokument &d, const Nummernverzeichnis &personen, const Gruppenzug &zug,
+                Endschreiber<Bau> ende1, Endschreiber<Bau> ende2) {
+    for (int i = 0; i < linien.Anzahl(); ++i) {
+        const Satz linie(linien.Satz(i));
+        if (!linie.Vollständig()) continue;
+        const bool erster = zug.Nimmt(linie.PersNr1());
+        const bool zweiter = zug.Nimmt(linie.PersNr2());
+        if (!erster && !zweiter) continue;
+        Bau neu(linien.Satz(i));
+        if (erster && zweiter) {
+            neu.Verschieben(zug.DeltaX, zug.DeltaY);
+        } else {
+            const int person = personen.Position(erster ? linie.PersNr1() : linie.PersNr2());
+            if (person < 0) continue;
+            const PersonSatz p(d.cboPersonen.Satz(person), Lücken::Leer);
+            (erster ? ende1 : ende2)(neu, Gerundet(p.PosX(), 2), Gerundet(p.PosY(), 2));
+        }
+        linien.Ersetzen(i, neu.Text());
+    }
 }
 
 /// Gives the bar at `position` and its children's lines the height of `neu`. False when it has that already.
@@ -145,33 +167,22 @@ void BezLinieLoslassen(Werkbank &w, const Ereignis &e) {
     if (e.Rechts()) w.fenster.PopupÖffnen(Name::mnuBezLinie);
 }
 
-void LinienNachziehen(Dokument &d, const Bezüge &bezüge, std::string_view nr, double x, double y, double raster,
-                      const std::optional<Balkenmitnahme> &gruppe) {
+void LinienNachziehen(Dokument &d, const Bezüge &bezüge, std::string_view nr, double x, double y, double raster) {
     BeziehungenNachziehen(d, bezüge, {nr, x, y});
     const double rasterX = Gerundet(Gerastert(x, raster), 1);
     const double rasterY = Gerundet(Gerastert(y, raster), 1);
     for (const int i : bezüge.Partnerschaften(nr)) {
         PartnerschaftBau linie(d.cboPartnerschaftsLinien.Satz(i));
-        if (linie.Stand().PersNr1() == nr) {
-            const auto balkenY = HöheInDerGruppe(linie.Stand(), gruppe);
-            linie.BalkenX1(rasterX).Anschluss1(rasterX, rasterY);
-            if (balkenY) linie.BalkenY(*balkenY);
-        } else {
-            linie.BalkenX2(rasterX).Anschluss2(rasterX, rasterY);
-        }
+        (linie.Stand().PersNr1() == nr ? BalkenEnde1 : BalkenEnde2)(linie, rasterX, rasterY);
         d.cboPartnerschaftsLinien.Ersetzen(i, linie.Text());
     }
 }
 
-void BalkenMitbewegen(Dokument &d, const Bezüge &bezüge, const Satzliste &nummern, double dx, double dy) {
-    for (const auto &nr : nummern) {
-        const int i = bezüge.PLinie(nr);
-        if (i < 0) continue;
-        PartnerschaftBau linie(d.cboPartnerschaftsLinien.Satz(i));
-        d.cboPartnerschaftsLinien.Ersetzen(i, linie.BalkenVerschieben(dx, dy).Text());
-        for (const int kind : bezüge.KinderVon(nr))
-            d.cboKindlinien.Ersetzen(kind, KindBau(d.cboKindlinien.Satz(kind)).LinieVerschieben(dx, dy).Text());
-    }
+void LinienMitbewegen(Dokument &d, const Gruppenzug &zug) {
+    const Nummernverzeichnis personen(d.cboPersonen);
+    Mitbewegen<BeziehungSatz, BeziehungBau>(d.cboBeziehungsLinien, d, personen, zug, BeziehungEnde1, BeziehungEnde2);
+    Mitbewegen<PartnerschaftSatz, PartnerschaftBau>(d.cboPartnerschaftsLinien, d, personen, zug, BalkenEnde1,
+                                                    BalkenEnde2);
 }
 
 void Bez_LinieAnpassen(Werkbank &w, std::string_view beziehungsart) {

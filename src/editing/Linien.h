@@ -2,7 +2,9 @@
 
 #include "document/Nachschlagen.h"
 
-#include <optional>
+#include <functional>
+#include <set>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -56,17 +58,18 @@ void BezLAbbrechen(Werkbank &w);
 
 // Moving along.
 
-/// What a group's move does to a bar: its way, and the frame as it stands after the move, cm.
-struct Balkenmitnahme {
+/// Lets all lines of person `nr` end at (x, y), cm; `raster` is the snap step. Bars keep their height.
+void LinienNachziehen(Dokument &dokument, const Bezüge &bezüge, std::string_view nr, double x, double y, double raster);
+/// A group that goes as one: whom it takes along, and its way, cm. What lies between two of them goes the same way,
+/// unsnapped, so that all keep their places to each other; of what leads out of the group the one end follows.
+struct Gruppenzug {
+    std::set<std::string, std::less<>> Personen; ///< their numbers
     double DeltaX, DeltaY;
-    double Links, Rechts;
+
+    bool Nimmt(std::string_view nr) const { return Personen.contains(nr); }
 };
-/// Lets all lines of person `nr` end at (x, y), cm; `raster` is the snap step. The bar's height follows the first
-/// partner only, and only in a group.
-void LinienNachziehen(Dokument &dokument, const Bezüge &bezüge, std::string_view nr, double x, double y, double raster,
-                      const std::optional<Balkenmitnahme> &gruppe);
-/// Shifts the bars of these partnerships, and the ends of their children's lines, by the way of a group.
-void BalkenMitbewegen(Dokument &dokument, const Bezüge &bezüge, const Satzliste &nummern, double dx, double dy);
+/// Carries the lines along of persons who stand at their new places already.
+void LinienMitbewegen(Dokument &dokument, const Gruppenzug &zug);
 
 /// Writes a form's values into the line that it was opened for; one snapshot.
 void Bez_LinieAnpassen(Werkbank &w, std::string_view beziehungsart);

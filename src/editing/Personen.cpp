@@ -185,7 +185,7 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e) {
     lage.PersRecord = person.Ort(x, y).Text();
     personen.Ersetzen(i, lage.PersRecord);
     if (!bewegt) return;
-    LinienDerPersonNachziehen(w.dokument, Bezüge(w.dokument), lage.PersNr, x, y, w.ansicht.Rasterweite, std::nullopt);
+    LinienDerPersonNachziehen(w.dokument, Bezüge(w.dokument), lage.PersNr, x, y, w.ansicht.Rasterweite);
     MarkerParken(w.lage, w.auflagen);
     lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
@@ -194,26 +194,21 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e) {
 }
 
 void LinienDerPersonNachziehen(Dokument &d, const Bezüge &bezüge, std::string_view nr, double x, double y,
-                               double raster, const std::optional<Balkenmitnahme> &gruppe) {
-    LinienNachziehen(d, bezüge, nr, x, y, raster, gruppe);
+                               double raster) {
+    LinienNachziehen(d, bezüge, nr, x, y, raster);
     for (const int i : bezüge.Partnerschaften(nr)) KinderAnpassen(d, bezüge, d.cboPartnerschaftsLinien.Satz(i));
     KindlinieNachziehen(d, bezüge, nr, x, y);
 }
 
-void PersonMitbewegen(Werkbank &w, const Bezüge &bezüge, std::string_view nr, const Balkenmitnahme &gruppe) {
-    Satzliste &personen = w.dokument.cboPersonen;
-    const int i = bezüge.Person(nr);
-    if (i < 0 || !PersonSatz(personen.Satz(i)).Vollständig()) return;
-    const double raster = w.ansicht.Rasterweite;
-    const auto neu = [&](double summe) { return raster > 0 ? Gerundet(Gerastert(summe, raster), 1) : summe; };
-    PersonBau person(personen.Satz(i));
-    person.Ort(neu(person.Stand().PosX() + gruppe.DeltaX), neu(person.Stand().PosY() + gruppe.DeltaY));
-    personen.Ersetzen(i, person.Text());
-    w.lage.PersNr = person.Stand().Nr();
-    const double x = w.lage.Spur.NeuX = person.Stand().PosX();
-    const double y = w.lage.Spur.NeuY = person.Stand().PosY();
-    LinienDerPersonNachziehen(w.dokument, bezüge, w.lage.PersNr, x, y, raster, gruppe);
-    MarkerParken(w.lage, w.auflagen);
+void PersonenMitbewegen(Dokument &d, const Gruppenzug &zug) {
+    for (int i = 0; i < d.cboPersonen.Anzahl(); ++i) {
+        if (!zug.Nimmt(Nummer(d.cboPersonen.Satz(i))) || !PersonSatz(d.cboPersonen.Satz(i)).Vollständig()) continue;
+        PersonBau person(d.cboPersonen.Satz(i));
+        person.Ort(person.Stand().PosX() + zug.DeltaX, person.Stand().PosY() + zug.DeltaY);
+        d.cboPersonen.Ersetzen(i, person.Text());
+    }
+    LinienMitbewegen(d, zug);
+    KinderMitbewegen(d, zug);
 }
 
 void PersonLöschen(Werkbank &w) {

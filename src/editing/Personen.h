@@ -3,16 +3,15 @@
 #include "document/Importdaten.h"
 #include "document/Nachschlagen.h"
 
-#include <optional>
 #include <string_view>
 
 // Persons: placing, selecting, moving, deleting, their size.
 namespace kw {
 
 struct Auswahlkasten;
-struct Balkenmitnahme;
 struct Dokument;
 struct Ereignis;
+struct Gruppenzug;
 struct Umgebung;
 struct Werkbank;
 
@@ -47,9 +46,9 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e);
 
 /// Carries all lines of person `nr` along to (x, y), cm; `raster` is the snap step.
 void LinienDerPersonNachziehen(Dokument &dokument, const Bezüge &bezüge, std::string_view nr, double x, double y,
-                               double raster, const std::optional<Balkenmitnahme> &gruppe);
-/// Moves the person of that number by (dx, dy), cm, with all its lines, as a part of a group.
-void PersonMitbewegen(Werkbank &w, const Bezüge &bezüge, std::string_view nr, const Balkenmitnahme &gruppe);
+                               double raster);
+/// Moves the persons of a group with all their lines.
+void PersonenMitbewegen(Dokument &dokument, const Gruppenzug &zug);
 
 /// Person `PersNr` with every line that names it. Within a group, and of a single selected person, no redraw and no
 /// snapshot.

@@ -45,8 +45,7 @@ bool ImKasten(std::string_view satz, const Auswahlkasten &kasten, double raster)
     return false;
 }
 
-/// Off the raster too: an arrow keeps its length.
-std::string Verschoben(std::string_view satz, double dx, double dy, double /*raster*/) {
+std::string Verschoben(std::string_view satz, double dx, double dy) {
     return PfeilBau(satz).Verschieben(dx, dy).Text();
 }
 

@@ -24,12 +24,7 @@ bool ImKasten(std::string_view satz, const Auswahlkasten &kasten, double /*raste
            kasten.Überlappt(box.TextX(), box.TextY(), box.TextX() + box.TextBreite(), box.TextY() + box.TextHoehe());
 }
 
-std::string Verschoben(std::string_view satz, double dx, double dy, double raster) {
-    TextBau bau(satz);
-    if (raster <= 0) return bau.Verschieben(dx, dy).Text();
-    const auto gerastert = [&](double ort) { return Gerundet(Gerastert(ort, raster), 1); };
-    return bau.Ort(gerastert(bau.Stand().TextX() + dx), gerastert(bau.Stand().TextY() + dy)).Text();
-}
+std::string Verschoben(std::string_view satz, double dx, double dy) { return TextBau(satz).Verschieben(dx, dy).Text(); }
 
 void Umgeben(std::string_view satz, Umgebung &umgebung) {
     const TextSatz box(satz, Lücken::Leer);

@@ -38,12 +38,6 @@ template <typename Bau, typename Ändern> void Umschreiben(Satzliste &liste, Än
     }
 }
 
-std::unordered_set<std::string> NummernIn(const Satzliste &liste) {
-    std::unordered_set<std::string> nummern;
-    for (const auto &satz : liste) nummern.emplace(Nummer(satz));
-    return nummern;
-}
-
 /// Partnership lines go along only with both their partners.
 void PartnerschaftenKopieren(const Dokument &d, const Auswahl &auswahl, Zwischenablage &za) {
     const auto gewählt = NummernIn(auswahl.lstMovedPers);
@@ -52,7 +46,7 @@ void PartnerschaftenKopieren(const Dokument &d, const Auswahl &auswahl, Zwischen
         const int i = PLinieMitNr(d, nr);
         if (i < 0 || !schon.insert(nr).second) continue;
         const PartnerschaftSatz linie(d.cboPartnerschaftsLinien.Satz(i), Lücken::Leer);
-        if (gewählt.contains(std::string(linie.PersNr1())) && gewählt.contains(std::string(linie.PersNr2())))
+        if (gewählt.contains(linie.PersNr1()) && gewählt.contains(linie.PersNr2()))
             za.ZA_PLines.Anhängen(d.cboPartnerschaftsLinien.Satz(i));
     }
 }
@@ -69,12 +63,12 @@ void PersonenKopieren(const Dokument &d, const Auswahl &auswahl, Zwischenablage 
         const int kind = KindLinieVon(d, nr);
         if (kind < 0) continue;
         const std::string &linie = d.cboKindlinien.Satz(kind);
-        if (linien.contains(std::string(KindSatz(linie, Lücken::Leer).PLinie()))) za.ZA_KindLinien.Anhängen(linie);
+        if (linien.contains(KindSatz(linie, Lücken::Leer).PLinie())) za.ZA_KindLinien.Anhängen(linie);
     }
     const auto personen = NummernIn(za.ZA_Personen);
     Umschreiben<PersonBau>(za.ZA_Personen, [&](PersonBau &person) {
-        if (!linien.contains(std::string(person.Stand().ElternLinie()))) person.ElternLinie("");
-        if (!personen.contains(std::string(person.Stand().ZwillingNr()))) person.Zwilling("");
+        if (!linien.contains(person.Stand().ElternLinie())) person.ElternLinie("");
+        if (!personen.contains(person.Stand().ZwillingNr())) person.Zwilling("");
     });
 }
 
@@ -139,8 +133,7 @@ void AllesVersetzen(Zwischenablage &za) {
     Umschreiben<KindBau>(za.ZA_KindLinien, [](KindBau &linie) { linie.Verschieben(Versatz, Versatz); });
     for (const Gruppenart *art : Arten) {
         Satzliste &ablage = za.*art->Ablage;
-        for (int i = 0; i < ablage.Anzahl(); ++i)
-            ablage.Ersetzen(i, art->Verschoben(ablage.Satz(i), Versatz, Versatz, 0));
+        for (int i = 0; i < ablage.Anzahl(); ++i) ablage.Ersetzen(i, art->Verschoben(ablage.Satz(i), Versatz, Versatz));
     }
     const Punkt punkt = PunktAus(za.KopierPunkt);
     za.KopierPunkt = PunktText(punkt.X + Versatz, punkt.Y + Versatz);

@@ -87,7 +87,8 @@ struct Verlangt {
 /// Whether another project may stand there now: its snapshots have gone.
 bool WechseltProjekt(const Schritt &s, const Verlangt &v) {
     const bool leer = s.Neu.ring.UndoSchritte() + s.Neu.ring.RedoSchritte() == 0 && !s.Neu.geändert;
-    return v.Beginnt("save", "load") || v.Startet() || (leer && v.Öffnet() && !Unterschied(s.Alt, s.Neu).empty());
+    const bool anders = s.Alt.ring.UndoPos() != s.Neu.ring.UndoPos() || !Unterschied(s.Alt, s.Neu).empty();
+    return v.Beginnt("save", "load") || v.Startet() || (leer && v.Öffnet() && anders);
 }
 
 /// A rule of how one state comes from another.

@@ -53,6 +53,11 @@ class BeziehungBau : public Satzbau {
     BeziehungBau &Beziehungsart(std::string_view art) { return Mit(S::FeldBeziehungsart, art); }
     BeziehungBau &Ende1(double x, double y) { return Mit(S::FeldLinieX1, x).Mit(S::FeldLinieY1, y); }
     BeziehungBau &Ende2(double x, double y) { return Mit(S::FeldLinieX2, x).Mit(S::FeldLinieY2, y); }
+    BeziehungBau &Verschieben(double dx, double dy) {
+        for (const int x : {S::FeldLinieX1, S::FeldLinieX2}) Erhöhen(x, dx);
+        for (const int y : {S::FeldLinieY1, S::FeldLinieY2}) Erhöhen(y, dy);
+        return *this;
+    }
     BeziehungBau &PersNr1(std::string_view nr) { return Mit(S::FeldPersNr1, nr); }
     BeziehungBau &PersNr2(std::string_view nr) { return Mit(S::FeldPersNr2, nr); }
 
