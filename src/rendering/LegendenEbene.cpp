@@ -1,9 +1,9 @@
+#include "document/Zahlen.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Symbole.h"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace kw {
 
@@ -155,11 +155,11 @@ constexpr std::array<Eintrag, 32> Einträge{{
 /// Symbols and marks of persons have their labels close by, lines leave room for a sample.
 bool IstPersonEintrag(std::string_view code) { return code < "30"; }
 
-/// Kept on the page, then on the raster.
+/// Kept on the page, then on the raster, if there is one.
 double AufDerSeite(double ort, double größe, double seite, double raster) {
     ort = std::min(ort, seite - Seitenrand - größe);
     ort = std::max(ort, Seitenrand);
-    return raster > 0 ? std::nearbyint(ort / raster) * raster : ort;
+    return Gerastert(ort, raster);
 }
 
 Legendenkasten KastenFür(const Zeichnung &z) {

@@ -29,7 +29,7 @@ void Gestrichelt(Zeichenfläche &f, const Pfadstück &pfad, double von, double b
     double s = von;
     double e = s + sinn * Strichlänge;
     pfad.Zeichnen(f, s, e);
-    for (int i = 0; i < HöchstSchritte && sinn * (bis - sinn * Strichlänge - e) >= 0; ++i) {
+    for (int i = 0; i < HöchstSchritte && OhneRauschen(sinn * (bis - sinn * Strichlänge - e)) >= 0; ++i) {
         pfad.Zeichnen(f, s, e);
         s += sinn * Strichperiode;
         e = s + sinn * Strichlänge;

@@ -273,7 +273,7 @@ template <typename Umriss> void Symbol::AuswahlZeigen(Umriss umriss) {
 
 void Symbol::Vieleck(std::span<const Ecke> ecken) {
     constexpr double Grenze = 1e9; // of a whole number; only damaged records come near it
-    const auto pixel = [&](double cm) { return static_cast<int>(std::clamp(std::nearbyint(cm * k), -Grenze, Grenze)); };
+    const auto pixel = [&](double cm) { return static_cast<int>(std::clamp(Gerundet(cm * k, 0), -Grenze, Grenze)); };
     std::array<Bildpunkt, 9> punkte;
     for (size_t i = 0; i < ecken.size(); ++i) punkte[i] = {pixel(ecken[i][0]), pixel(ecken[i][1])};
     f.Polygon(std::span(punkte).first(ecken.size()));
