@@ -49,6 +49,7 @@ void RasterZeichnen(Zeichenfläche &fläche, const Zeichnung &z) {
     fläche.Ebene("raster");
     const double schritt = ansicht.Rasterweite;
     if (z.Druck || !ansicht.bRasterAnzeigen || schritt <= 0) return;
+    fläche.DrawWidth = z.Strichbreite();
     const int spalten = Rasterlinien(ansicht.SeitenBreite, schritt);
     for (int i = 1; i <= spalten; ++i)
         fläche.Line(LinieFarbig, i * schritt, 0, i * schritt, ansicht.SeitenHöhe, RasterFarbe);
