@@ -25,8 +25,9 @@ Textbefund TextboxenZeichnen(Zeichenfläche &fläche, const Zeichnung &z, double
 /// Whether a box waits to be measured: until then one that isn't aligned to the left stands in a wrong place.
 bool HatUngemesseneTextboxen(const Dokument &dokument);
 
-/// Draws nothing for an empty list. The box is kept on the page and on the raster: the stored position follows.
-std::optional<Legendenkasten> LegendenEbene(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
+/// The box is kept on the page and on the raster: the stored position follows. An empty list draws nothing, has no
+/// size and stays where it is.
+Legendenkasten LegendenEbene(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
 
 // Pieces that the legend's miniatures share with the layers.
 

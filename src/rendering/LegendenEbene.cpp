@@ -167,8 +167,10 @@ Legendenkasten KastenFür(const Zeichnung &z) {
     const int n = z.legende.lstLegende.Anzahl();
     const double breite = d.LegendeQuer ? Spaltenbreite * ((n + ZeilenQuer - 1) / ZeilenQuer) : Spaltenbreite;
     const double höhe = d.LegendeQuer ? HöheQuer : Zeilenhöhe * n + 0.25;
-    return {AufDerSeite(d.LegendeX, breite, z.ansicht.SeitenBreite, z.ansicht.Rasterweite),
-            AufDerSeite(d.LegendeY, höhe, z.ansicht.SeitenHöhe, z.ansicht.Rasterweite), breite, höhe};
+    // A click on it, which redraws while it is held, doesn't move it.
+    const double raster = z.geste.Aktion == Aktion::LegendeGefasst ? 0 : z.ansicht.Rasterweite;
+    return {AufDerSeite(d.LegendeX, breite, z.ansicht.SeitenBreite, raster),
+            AufDerSeite(d.LegendeY, höhe, z.ansicht.SeitenHöhe, raster), breite, höhe};
 }
 
 void RahmenZeichnen(Zeichenfläche &f, const Legendenkasten &k) {
@@ -195,10 +197,10 @@ void SchriftSetzen(Zeichenfläche &f, double faktor) {
 
 } // namespace
 
-std::optional<Legendenkasten> LegendenEbene(Zeichenfläche &f, const Zeichnung &z, double faktor) {
+Legendenkasten LegendenEbene(Zeichenfläche &f, const Zeichnung &z, double faktor) {
     f.Ebene("legende");
     const Satzliste &codes = z.legende.lstLegende;
-    if (codes.Leer()) return {};
+    if (codes.Leer()) return {z.dokument.LegendeX, z.dokument.LegendeY, 0, 0};
     const Legendenkasten kasten = KastenFür(z);
     f.DrawWidth = z.Symbolstrich();
     RahmenZeichnen(f, kasten);
