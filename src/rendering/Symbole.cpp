@@ -205,10 +205,7 @@ void Symbol::Quadrat() { f.Line(Kasten, links, oben, rechts, unten); }
 
 void Symbol::Kreis() { f.Circle(0, mx, my, r); }
 
-void Symbol::Kreuz(double e) {
-    f.Line(Linie, links + e, oben + e, rechts - e, unten - e);
-    f.Line(Linie, links + e, unten - e, rechts - e, oben + e);
-}
+void Symbol::Kreuz(double e) { f.Diagonalen(Linie, links + e, oben + e, rechts - e, unten - e); }
 
 void Symbol::HalbmarkenQuadrat() {
     if (marken_.Sucht) {
@@ -291,9 +288,6 @@ void Symbol::RotesQuadrat() { f.Line(KastenFarbig, links, oben, rechts, unten, R
 
 void Symbol::RoterKreis() { f.Circle(FarbeGilt, mx, my, r, Rot); }
 
-void Symbol::RotesKreuz(double e) {
-    f.Line(LinieFarbig, links + e, oben + e, rechts - e, unten - e, Rot);
-    f.Line(LinieFarbig, links + e, unten - e, rechts - e, oben + e, Rot);
-}
+void Symbol::RotesKreuz(double e) { f.Diagonalen(LinieFarbig, links + e, oben + e, rechts - e, unten - e, Rot); }
 
 } // namespace kw
