@@ -36,8 +36,9 @@ Legendenkasten LegendenEbene(Zeichenfläche &fläche, const Zeichnung &z, double
 void BeziehungZeichnen(Zeichenfläche &fläche, const ElementFarben &farben, std::string_view beziehungsart, char &basis,
                        double x1, double y1, double x2, double y2);
 
-/// The mark of a partnership's state and its date, at a bar whose middle is (mitte, y).
+/// The mark of a partnership's state and its date, at a bar whose middle is (mitte, y). Slashes reach `schräge` above
+/// the bar and below it.
 void PartnerstandZeichnen(Zeichenfläche &fläche, std::string_view status, std::string_view datum, double mitte,
-                          double y, double faktor);
+                          double y, double faktor, double schräge = 0.2);
 
 } // namespace kw

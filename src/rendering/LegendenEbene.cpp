@@ -78,20 +78,22 @@ struct Miniaturen {
         const double balken = z.y + 0.24;
         f.Line(Linie, z.x, balken, z.x + 1, balken);
         for (const double x : {z.x, z.x + 1}) f.Line(Linie, x, z.y + 0.08, x, balken);
-        if (code != "54") PartnerstandZeichnen(f, code.substr(1), "", z.x + 0.5, balken, faktor);
+        constexpr double Schräge = 0.13; // shorter than on the page: the mark of the row below is near
+        if (code != "54") PartnerstandZeichnen(f, code.substr(1), "", z.x + 0.5, balken, faktor, Schräge);
     }
 
     /// The row leaves room for a short piece of the dashed line only; its letter stands beside the box.
     void Kind(Zelle z, const std::string &code) const {
+        constexpr double Größe = 0.3; // clears the line of the row below
         f.DrawWidth = zeichnung.Symbolstrich();
         const double mitte = z.x + 0.5;
         const double oben = z.y + 0.1;
         f.FillStyle = Gefüllt;
         f.FillColor = Rgb(249, 249, 249);
         f.Line(Linie, mitte, z.y, mitte, oben);
-        f.Line(Kasten, mitte - Symbolgröße / 2, oben, mitte + Symbolgröße / 2, oben + Symbolgröße);
+        f.Line(Kasten, mitte - Größe / 2, oben, mitte + Größe / 2, oben + Größe);
         f.FontSize = 7 * faktor;
-        f.CurrentX = mitte + Symbolgröße / 2 + 0.08;
+        f.CurrentX = mitte + Größe / 2 + 0.08;
         f.CurrentY = oben;
         f.Print(code == "60" ? "A" : "P");
     }
