@@ -72,18 +72,24 @@ std::string ZahlSchreiben(double wert) {
     return einfach < 0 ? "-" + text : text;
 }
 
+double OhneRauschen(double wert) {
+    constexpr double Genauigkeit = 1e6;
+    const double groß = wert * Genauigkeit;
+    if (!(std::fabs(groß) < 0x1p52)) return wert; // nothing behind the point is left to clean
+    return std::nearbyint(groß) / Genauigkeit;
+}
+
 double Gerundet(double wert, int stellen) {
     static constexpr double Potenzen[] = {1, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9};
     const double faktor = Potenzen[std::clamp(stellen, 0, 9)];
     const double groß = wert * faktor;
     if (!(std::fabs(groß) < 0x1p52)) return wert; // nothing behind the point is left to round
-    return std::nearbyint(groß) / faktor;
+    return std::nearbyint(OhneRauschen(groß)) / faktor;
 }
 
 double Gerastert(double wert, double raster) {
     if (!(raster > 0)) return wert;
-    // The quotient is rounded first: 0.45 / 0.3 is a tie, though not in binary.
-    return std::nearbyint(Gerundet(wert / raster, 6)) * raster;
+    return OhneRauschen(Gerundet(wert / raster, 0) * raster); // 36 * 0.3 is 10.8 like the same place read from a record
 }
 
 double RasterZwischen(double wert, double raster, double von, double bis) {

@@ -15,7 +15,13 @@ double ZahlLesen(std::string_view text);
 /// What is no number (infinite, not a number) is written as "0".
 std::string ZahlSchreiben(double wert);
 
-/// `wert` rounded to `stellen` decimal places (0 to 9), a tie going to the even neighbour.
+/// A length or a quotient of lengths without the noise in its last bits: to six decimals. 1.2 / 0.4 is
+/// 2.9999999999999996 in binary and 3 here. Whatever is counted, compared or cut off goes through this first, or its
+/// outcome depends on where on the page it is; what rounds and snaps does so by itself.
+double OhneRauschen(double wert);
+
+/// `wert` rounded to `stellen` decimal places (0 to 9), a tie going to the even neighbour. What is a tie in decimals
+/// is one.
 double Gerundet(double wert, int stellen);
 
 /// The multiple of `raster` that is nearest to `wert`, a tie going to the even multiple; `wert` itself without

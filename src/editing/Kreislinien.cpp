@@ -18,17 +18,17 @@ namespace {
 
 constexpr double StrichSchritt = 0.9;      ///< a stroke takes a new point when the pointer has gone that far, cm
 constexpr double LückenSchritt = 1.2;      ///< between the points that close a stroke, cm
+constexpr double Zeichenschritt = 0.01;    ///< the drawing can't tell points apart that are nearer, cm
 constexpr double TrefferGrenze = 100000.0; ///< so wide that the box of a stretch decides
 
-/// The points between the last and the first one of a stroke. The last of them can lie up to half a step beyond
-/// the first point. Meant.
+/// The points between the last and the first one of a stroke. None lies on the first or beyond it: the curve would
+/// turn round there.
 std::vector<Kreispunkt> Lückenpunkte(Kreispunkt letzter, Kreispunkt erster) {
     std::vector<Kreispunkt> punkte;
     const double dx = erster.X - letzter.X;
     const double dy = erster.Y - letzter.Y;
     const double länge = std::hypot(dx, dy);
-    const int anzahl = static_cast<int>(std::floor(länge / LückenSchritt + 0.5));
-    for (int i = 1; i <= anzahl; ++i)
+    for (int i = 1; Kleiner(i * LückenSchritt, länge - Zeichenschritt); ++i)
         punkte.push_back({Gerundet(letzter.X + i * LückenSchritt * dx / länge, 2),
                           Gerundet(letzter.Y + i * LückenSchritt * dy / länge, 2)});
     return punkte;
@@ -161,7 +161,7 @@ void KreisSchließen(Werkbank &w, const Ereignis &) {
     if (punkte.size() < 2) return; // nothing was drawn
     const auto lücke = Lückenpunkte(punkte.back(), punkte.front());
     punkte.insert(punkte.end(), lücke.begin(), lücke.end());
-    punkte.push_back(punkte.front());
+    if (punkte.back() != punkte.front()) punkte.push_back(punkte.front());
     w.dokument.cboFreehandlines.Anhängen(KreisText(punkte));
     w.fenster.Sichern();
     w.fenster.Vorschau();

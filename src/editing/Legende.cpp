@@ -7,6 +7,20 @@
 
 namespace kw {
 
+namespace {
+
+/// The legend goes to where its mask was dragged, on the raster.
+void Ablegen(Werkbank &w) {
+    const double x = RasterZehntel(w.ansicht, w.auflagen.shpMask.Left);
+    const double y = RasterZehntel(w.ansicht, w.auflagen.shpMask.Top);
+    if (x != w.dokument.LegendeX || y != w.dokument.LegendeY) w.fenster.AlsGeändertMerken();
+    w.dokument.LegendeX = x;
+    w.dokument.LegendeY = y;
+    w.lage.Aktion = Aktion::Nichts;
+}
+
+} // namespace
+
 bool LegendeUnterMaus(const Werkbank &w) {
     const Dokument &d = w.dokument;
     return d.LegendeSichtbar && Kleiner(d.LegendeX, w.lage.MausX) && Kleiner(d.LegendeY, w.lage.MausY) &&
@@ -39,12 +53,9 @@ void LegendeZiehen(Werkbank &w, const Ereignis &e) {
     w.auflagen.shpMask.Top = Raster(w.ansicht, e.Y - w.lage.VersatzY);
 }
 
-void LegendeLoslassen(Werkbank &w, const Ereignis &) {
-    const double x = RasterZehntel(w.ansicht, w.auflagen.shpMask.Left);
-    const double y = RasterZehntel(w.ansicht, w.auflagen.shpMask.Top);
-    if (x != w.dokument.LegendeX || y != w.dokument.LegendeY) w.fenster.AlsGeändertMerken();
-    w.dokument.LegendeX = x;
-    w.dokument.LegendeY = y;
+/// A click leaves the legend where it is, off the raster too: the redraw knows by the gesture that it is still held.
+void LegendeLoslassen(Werkbank &w, const Ereignis &e) {
+    if (HatSichBewegt(w.lage, e)) Ablegen(w);
     LegendeAufbauen(w.dokument, w.legende);
     w.fenster.Vorschau();
     w.lage.Aktion = Aktion::Nichts;

@@ -5,7 +5,6 @@
 #include "rendering/Zeichenflaeche.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -82,7 +81,7 @@ void Arbeitsbereich::Bildgrößenveränderung() {
 void Arbeitsbereich::LeinwandGroesseSetzen() {
     const double zoom = ZahlLesen(cboBildGröße.Text()) / 100;
     const auto seite = [&](int bildschirm) {
-        return static_cast<int>(std::nearbyint((bildschirm - bildschirm / 10.0) * zoom));
+        return static_cast<int>(Gerundet((bildschirm - bildschirm / 10.0) * zoom, 0));
     };
     canvas_.GrößeSetzen(seite(bildschirmBreite_), seite(bildschirmHöhe_));
     BildlaufleistenSetzen();

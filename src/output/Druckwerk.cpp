@@ -2,6 +2,7 @@
 
 #include "document/Dateien.h"
 #include "document/Dokument.h"
+#include "document/Zahlen.h"
 #include "output/Zieldatei.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
@@ -41,7 +42,7 @@ constexpr Zweisprachig KeinPdf{
 
 /// "4.00 mm"; below one there is no zero before the point.
 std::string InMillimetern(double cm) {
-    const long hundertstel = std::lround(cm * 1000);
+    const long hundertstel = std::lround(OhneRauschen(cm * 1000));
     const long ganze = std::labs(hundertstel) / 100;
     char text[32];
     std::snprintf(text, sizeof text, ".%02ld mm", std::labs(hundertstel) % 100);

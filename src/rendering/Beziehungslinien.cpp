@@ -46,7 +46,7 @@ void Verschmolzen(Zeichenfläche &f, const Strecke &s, Farbe farbe) {
 }
 
 void Distanziert(Zeichenfläche &f, const Strecke &s, Farbe farbe) {
-    const double perioden = std::nearbyint(s.Länge() / Strichperiode);
+    const double perioden = Gerundet(s.Länge() / Strichperiode, 0);
     if (!(perioden < HöchstSchritte)) return;
     const int n = static_cast<int>(perioden);
     const double sx = (s.x2 - s.x1) / (n + 1);
@@ -95,7 +95,8 @@ void Konflikt(Zeichenfläche &f, const Strecke &s, Farbe farbe) {
     const double e = länge / Zackenhöhe;
     const double wx = a / e;
     const double wy = b / e;
-    for (int i = 1; i <= c + c - 1 && i <= HöchstSchritte; i += 2) {
+    const double letzte = OhneRauschen(c + c - 1);
+    for (int i = 1; i <= letzte && i <= HöchstSchritte; i += 2) {
         const double x = s.x1 + (i - 1) * px / 2 - wy;
         const double y = s.y1 - (i - 1) * py / 2 - wx;
         const double spitzeX = s.x1 + i * px / 2 + wy;

@@ -25,8 +25,9 @@ Textbefund TextboxenZeichnen(Zeichenfläche &fläche, const Zeichnung &z, double
 /// Whether a box waits to be measured: until then one that isn't aligned to the left stands in a wrong place.
 bool HatUngemesseneTextboxen(const Dokument &dokument);
 
-/// Draws nothing for an empty list. The box is kept on the page and on the raster: the stored position follows.
-std::optional<Legendenkasten> LegendenEbene(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
+/// The box is kept on the page and on the raster: the stored position follows. An empty list draws nothing, has no
+/// size and stays where it is.
+Legendenkasten LegendenEbene(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
 
 // Pieces that the legend's miniatures share with the layers.
 
@@ -35,8 +36,9 @@ std::optional<Legendenkasten> LegendenEbene(Zeichenfläche &fläche, const Zeich
 void BeziehungZeichnen(Zeichenfläche &fläche, const ElementFarben &farben, std::string_view beziehungsart, char &basis,
                        double x1, double y1, double x2, double y2);
 
-/// The mark of a partnership's state and its date, at a bar whose middle is (mitte, y).
+/// The mark of a partnership's state and its date, at a bar whose middle is (mitte, y). Slashes reach `schräge` above
+/// the bar and below it.
 void PartnerstandZeichnen(Zeichenfläche &fläche, std::string_view status, std::string_view datum, double mitte,
-                          double y, double faktor);
+                          double y, double faktor, double schräge = 0.2);
 
 } // namespace kw

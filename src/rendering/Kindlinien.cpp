@@ -26,7 +26,7 @@ Kindlinie Gelesen(const KindSatz &satz, const PersonSatz &kind) {
 void Gestrichelt(Zeichenfläche &f, const Kindlinie &k, Farbe farbe) {
     const double a = k.KindX - k.LinieX;
     const double b = k.KindY - k.LinieY;
-    const double striche = std::nearbyint(std::sqrt(a * a + b * b) / Strichperiode);
+    const double striche = Gerundet(std::sqrt(a * a + b * b) / Strichperiode, 0);
     if (!(striche >= 1 && striche <= HöchstSchritte)) return;
     for (int i = 0; i < striche; ++i) {
         const double x = k.LinieX + i * a / striche;

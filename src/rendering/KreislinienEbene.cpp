@@ -10,12 +10,13 @@ namespace kw {
 namespace {
 
 /// The stroke's points with the working places around them, the first point once more at the end, and
-/// how many that makes. Nothing for a stroke of fewer than two points; FeldFehlt for a point without
-/// its second number.
+/// how many that makes. A stroke that ends in its first point is closed already: once more, and the curve would
+/// have a thorn there. Nothing for a stroke of fewer than two points; FeldFehlt for a point without its second number.
 Kurvenpunkte PunkteLesen(std::string_view satz, int &n) {
     Kurvenpunkte p(1);
     KreisSatz kreis(satz, Lücken::Fehler);
     while (const auto punkt = kreis.Nächster()) p.push_back({Gerundet(punkt->X, 2), Gerundet(punkt->Y, 2)});
+    while (p.size() > 2 && p.back() == p[1]) p.pop_back();
     n = static_cast<int>(p.size());
     if (n <= 2) return {};
     p.push_back(p[1]);

@@ -1,9 +1,9 @@
+#include "document/Zahlen.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Symbole.h"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 
 namespace kw {
 
@@ -78,20 +78,22 @@ struct Miniaturen {
         const double balken = z.y + 0.24;
         f.Line(Linie, z.x, balken, z.x + 1, balken);
         for (const double x : {z.x, z.x + 1}) f.Line(Linie, x, z.y + 0.08, x, balken);
-        if (code != "54") PartnerstandZeichnen(f, code.substr(1), "", z.x + 0.5, balken, faktor);
+        constexpr double Schräge = 0.13; // shorter than on the page: the mark of the row below is near
+        if (code != "54") PartnerstandZeichnen(f, code.substr(1), "", z.x + 0.5, balken, faktor, Schräge);
     }
 
     /// The row leaves room for a short piece of the dashed line only; its letter stands beside the box.
     void Kind(Zelle z, const std::string &code) const {
+        constexpr double Größe = 0.3; // clears the line of the row below
         f.DrawWidth = zeichnung.Symbolstrich();
         const double mitte = z.x + 0.5;
         const double oben = z.y + 0.1;
         f.FillStyle = Gefüllt;
         f.FillColor = Rgb(249, 249, 249);
         f.Line(Linie, mitte, z.y, mitte, oben);
-        f.Line(Kasten, mitte - Symbolgröße / 2, oben, mitte + Symbolgröße / 2, oben + Symbolgröße);
+        f.Line(Kasten, mitte - Größe / 2, oben, mitte + Größe / 2, oben + Größe);
         f.FontSize = 7 * faktor;
-        f.CurrentX = mitte + Symbolgröße / 2 + 0.08;
+        f.CurrentX = mitte + Größe / 2 + 0.08;
         f.CurrentY = oben;
         f.Print(code == "60" ? "A" : "P");
     }
@@ -155,11 +157,11 @@ constexpr std::array<Eintrag, 32> Einträge{{
 /// Symbols and marks of persons have their labels close by, lines leave room for a sample.
 bool IstPersonEintrag(std::string_view code) { return code < "30"; }
 
-/// Kept on the page, then on the raster.
+/// Kept on the page, then on the raster, if there is one.
 double AufDerSeite(double ort, double größe, double seite, double raster) {
     ort = std::min(ort, seite - Seitenrand - größe);
     ort = std::max(ort, Seitenrand);
-    return raster > 0 ? std::nearbyint(ort / raster) * raster : ort;
+    return Gerastert(ort, raster);
 }
 
 Legendenkasten KastenFür(const Zeichnung &z) {
@@ -167,8 +169,10 @@ Legendenkasten KastenFür(const Zeichnung &z) {
     const int n = z.legende.lstLegende.Anzahl();
     const double breite = d.LegendeQuer ? Spaltenbreite * ((n + ZeilenQuer - 1) / ZeilenQuer) : Spaltenbreite;
     const double höhe = d.LegendeQuer ? HöheQuer : Zeilenhöhe * n + 0.25;
-    return {AufDerSeite(d.LegendeX, breite, z.ansicht.SeitenBreite, z.ansicht.Rasterweite),
-            AufDerSeite(d.LegendeY, höhe, z.ansicht.SeitenHöhe, z.ansicht.Rasterweite), breite, höhe};
+    // A click on it, which redraws while it is held, doesn't move it.
+    const double raster = z.geste.Aktion == Aktion::LegendeGefasst ? 0 : z.ansicht.Rasterweite;
+    return {AufDerSeite(d.LegendeX, breite, z.ansicht.SeitenBreite, raster),
+            AufDerSeite(d.LegendeY, höhe, z.ansicht.SeitenHöhe, raster), breite, höhe};
 }
 
 void RahmenZeichnen(Zeichenfläche &f, const Legendenkasten &k) {
@@ -195,10 +199,10 @@ void SchriftSetzen(Zeichenfläche &f, double faktor) {
 
 } // namespace
 
-std::optional<Legendenkasten> LegendenEbene(Zeichenfläche &f, const Zeichnung &z, double faktor) {
+Legendenkasten LegendenEbene(Zeichenfläche &f, const Zeichnung &z, double faktor) {
     f.Ebene("legende");
     const Satzliste &codes = z.legende.lstLegende;
-    if (codes.Leer()) return {};
+    if (codes.Leer()) return {z.dokument.LegendeX, z.dokument.LegendeY, 0, 0};
     const Legendenkasten kasten = KastenFür(z);
     f.DrawWidth = z.Symbolstrich();
     RahmenZeichnen(f, kasten);

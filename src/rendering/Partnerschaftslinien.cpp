@@ -29,7 +29,7 @@ void Gestrichelt(Zeichenfläche &f, const Pfadstück &pfad, double von, double b
     double s = von;
     double e = s + sinn * Strichlänge;
     pfad.Zeichnen(f, s, e);
-    for (int i = 0; i < HöchstSchritte && sinn * (bis - sinn * Strichlänge - e) >= 0; ++i) {
+    for (int i = 0; i < HöchstSchritte && OhneRauschen(sinn * (bis - sinn * Strichlänge - e)) >= 0; ++i) {
         pfad.Zeichnen(f, s, e);
         s += sinn * Strichperiode;
         e = s + sinn * Strichlänge;
@@ -87,13 +87,12 @@ void PartnerschaftZeichnen(Zeichenfläche &f, const PartnerschaftSatz &satz, dou
 } // namespace
 
 void PartnerstandZeichnen(Zeichenfläche &f, std::string_view status, std::string_view datum, double mitte,
-                          double balkenY, double faktor) {
+                          double balkenY, double faktor, double schräge) {
     if (!HatMarke(status)) return;
     constexpr double Versatz[] = {0, 0.2, 0.2, 0.3}; // by state: room for the mark left of the text
     const double x = mitte - f.TextWidth(datum) / 2 + Versatz[status[0] - '0'];
-    const double y = balkenY - 0.3;
     f.CurrentX = x;
-    f.CurrentY = y;
+    f.CurrentY = balkenY - 0.3;
     f.Print(datum);
     if (status == "2") { // two rings that overlap
         f.FontName = "Arial";
@@ -105,8 +104,11 @@ void PartnerstandZeichnen(Zeichenfläche &f, std::string_view status, std::strin
             f.Print("o");
         }
     }
-    if (status == "1" || status == "3") f.Line(Linie, x - 0.1, y + 0.1, x - 0.3, y + 0.5);
-    if (status == "3") f.Line(Linie, x - 0.2, y + 0.1, x - 0.4, y + 0.5);
+    const auto strich = [&](double fuß) {
+        f.Line(Linie, fuß + schräge / 2, balkenY - schräge, fuß - schräge / 2, balkenY + schräge);
+    };
+    if (status == "1" || status == "3") strich(x - 0.2);
+    if (status == "3") strich(x - 0.3);
 }
 
 void PartnerschaftslinienZeichnen(Zeichenfläche &f, const Zeichnung &z, double faktor) {

@@ -36,7 +36,7 @@ double Richtung(const Pfeil &p) {
 /// The filled head at the second end. A length outside the table leaves the setback `w` as the head
 /// before left it.
 void SpitzeZeichnen(Zeichenfläche &f, const Pfeil &p, Farbe farbe, double &w) {
-    const double länge = std::nearbyint(std::hypot(p.x2 - p.x1, p.y2 - p.y1));
+    const double länge = Gerundet(std::hypot(p.x2 - p.x1, p.y2 - p.y1), 0);
     if (länge >= 1 && länge < static_cast<double>(Rücksprung.size())) w = Rücksprung[static_cast<size_t>(länge)];
     const double fußX = (1 - w) * p.x2 + w * p.x1;
     const double fußY = (1 - w) * p.y2 + w * p.y1;

@@ -1,9 +1,9 @@
 #include "rendering/Seite.h"
 
 #include "document/Papier.h"
+#include "document/Zahlen.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kw {
 
@@ -12,7 +12,13 @@ namespace {
 constexpr Farbe RasterFarbe = Rgb(240, 240, 240);
 constexpr int Hochformat = 1;
 
-int InTwips(double cm) { return static_cast<int>(std::nearbyint(cm * TwipsJeCm)); }
+/// How many whole steps lie within `länge`: a step that divides it has a line at the far edge, too.
+int Rasterlinien(double länge, double schritt) {
+    constexpr double Höchstzahl = 32767; // the counter has 16 bits
+    return static_cast<int>(std::min(OhneRauschen(länge / schritt), Höchstzahl));
+}
+
+int InTwips(double cm) { return static_cast<int>(Gerundet(cm * TwipsJeCm, 0)); }
 
 } // namespace
 
@@ -43,11 +49,11 @@ void RasterZeichnen(Zeichenfläche &fläche, const Zeichnung &z) {
     fläche.Ebene("raster");
     const double schritt = ansicht.Rasterweite;
     if (z.Druck || !ansicht.bRasterAnzeigen || schritt <= 0) return;
-    constexpr double Höchstzahl = 32767; // the counter has 16 bits
-    const int spalten = static_cast<int>(std::min(ansicht.SeitenBreite / schritt, Höchstzahl));
+    fläche.DrawWidth = z.Strichbreite();
+    const int spalten = Rasterlinien(ansicht.SeitenBreite, schritt);
     for (int i = 1; i <= spalten; ++i)
         fläche.Line(LinieFarbig, i * schritt, 0, i * schritt, ansicht.SeitenHöhe, RasterFarbe);
-    const int zeilen = static_cast<int>(std::min(ansicht.SeitenHöhe / schritt, Höchstzahl));
+    const int zeilen = Rasterlinien(ansicht.SeitenHöhe, schritt);
     for (int i = 1; i <= zeilen; ++i)
         fläche.Line(LinieFarbig, 0, i * schritt, ansicht.SeitenBreite, i * schritt, RasterFarbe);
 }

@@ -205,10 +205,7 @@ void Symbol::Quadrat() { f.Line(Kasten, links, oben, rechts, unten); }
 
 void Symbol::Kreis() { f.Circle(0, mx, my, r); }
 
-void Symbol::Kreuz(double e) {
-    f.Line(Linie, links + e, oben + e, rechts - e, unten - e);
-    f.Line(Linie, links + e, unten - e, rechts - e, oben + e);
-}
+void Symbol::Kreuz(double e) { f.Diagonalen(Linie, links + e, oben + e, rechts - e, unten - e); }
 
 void Symbol::HalbmarkenQuadrat() {
     if (marken_.Sucht) {
@@ -273,7 +270,7 @@ template <typename Umriss> void Symbol::AuswahlZeigen(Umriss umriss) {
 
 void Symbol::Vieleck(std::span<const Ecke> ecken) {
     constexpr double Grenze = 1e9; // of a whole number; only damaged records come near it
-    const auto pixel = [&](double cm) { return static_cast<int>(std::clamp(std::nearbyint(cm * k), -Grenze, Grenze)); };
+    const auto pixel = [&](double cm) { return static_cast<int>(std::clamp(Gerundet(cm * k, 0), -Grenze, Grenze)); };
     std::array<Bildpunkt, 9> punkte;
     for (size_t i = 0; i < ecken.size(); ++i) punkte[i] = {pixel(ecken[i][0]), pixel(ecken[i][1])};
     f.Polygon(std::span(punkte).first(ecken.size()));
@@ -291,9 +288,6 @@ void Symbol::RotesQuadrat() { f.Line(KastenFarbig, links, oben, rechts, unten, R
 
 void Symbol::RoterKreis() { f.Circle(FarbeGilt, mx, my, r, Rot); }
 
-void Symbol::RotesKreuz(double e) {
-    f.Line(LinieFarbig, links + e, oben + e, rechts - e, unten - e, Rot);
-    f.Line(LinieFarbig, links + e, unten - e, rechts - e, oben + e, Rot);
-}
+void Symbol::RotesKreuz(double e) { f.Diagonalen(LinieFarbig, links + e, oben + e, rechts - e, unten - e, Rot); }
 
 } // namespace kw

@@ -42,7 +42,7 @@ struct Legendenkasten {
 struct Zeichenbefund {
     Textbefund Texte;
     Pfeilbefund Pfeile;
-    std::optional<Legendenkasten> Legende; ///< nothing when none was drawn
+    std::optional<Legendenkasten> Legende; ///< nothing while it isn't shown
     std::optional<double> Skalierung;      ///< of the canvas; nothing in print
     std::optional<int> StrichFaktor;       ///< the base line width that a print run leaves
 };

@@ -21,6 +21,11 @@ void Zeichenfläche::Scale(double breite, double höhe, double faktor) {
     SkalaGeändert();
 }
 
+void Zeichenfläche::Diagonalen(int flags, double x1, double y1, double x2, double y2, Farbe farbe) {
+    Line(flags, x1, y1, x2, y2, farbe);
+    Line(flags, x1, y2, x2, y1, farbe);
+}
+
 void Zeichenfläche::Print(std::string_view text) {
     if (!text.empty()) TextZeichnen(text);
     CurrentX = 0;

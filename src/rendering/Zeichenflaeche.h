@@ -79,6 +79,9 @@ class Zeichenfläche {
     /// Clears to white.
     virtual void Cls() = 0;
     virtual void Line(int flags, double x1, double y1, double x2, double y2, Farbe farbe = Schwarz) = 0;
+    /// The diagonals of the rectangle that the two points span, as lines. A surface may trim their ends to the outline
+    /// that the rectangle has or would have.
+    virtual void Diagonalen(int flags, double x1, double y1, double x2, double y2, Farbe farbe = Schwarz);
     /// A whole circle; filled unless `FillStyle` says otherwise.
     virtual void Circle(int flags, double x, double y, double radius, Farbe farbe = Schwarz) = 0;
     /// A pie, counter-clockwise from `von` to `bis` (radians from the positive x axis), with both radii.

@@ -3,7 +3,6 @@
 #include "document/Zahlen.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kw {
 
@@ -63,7 +62,7 @@ void KurveZeichnen(Zeichenfläche &fläche, Kurvenpunkte &p, int n, int schritte
 
 int KurveBerechnen(Kurvenpunkte &p, int n, int schritte, std::vector<Bildpunkt> &punkte, bool geschlossen) {
     punkte.clear();
-    const auto ganz = [](double wert) { return static_cast<int>(std::clamp(std::nearbyint(wert), -1e9, 1e9)); };
+    const auto ganz = [](double wert) { return static_cast<int>(std::clamp(Gerundet(wert, 0), -1e9, 1e9)); };
     const auto dazu = [&](Kurvenort o) { punkte.push_back({ganz(o.X), ganz(o.Y)}); };
     Durchlaufen(
         p, n, schritte, geschlossen,

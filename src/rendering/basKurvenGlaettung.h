@@ -10,6 +10,7 @@ namespace kw {
 struct Kurvenort {
     double X = 0;
     double Y = 0;
+    bool operator==(const Kurvenort &) const = default;
 };
 
 /// P(0) to P(n + 1): the stroke's points are P(1) to P(n), the two at the ends are working places.

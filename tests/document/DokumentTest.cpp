@@ -44,6 +44,9 @@ TEST(Zahlen, RundenGehtZumGeradenNachbarn) {
     EXPECT_EQ(Gerundet(0.125, 2), 0.12);
     EXPECT_EQ(Gerundet(0.375, 2), 0.38);
     EXPECT_EQ(Gerundet(-2.5, 0), -2);
+    EXPECT_EQ(Gerundet(4.35, 1), 4.4) << "a tie, though not in binary";
+    EXPECT_EQ(OhneRauschen(1.2 / 0.4), 3);
+    EXPECT_EQ(Gerastert(10.95, 0.3), 10.8);
     EXPECT_EQ(Gerundet(1e300, 9), 1e300);
     EXPECT_EQ(Ganzzahl16(2.5), 2);
     EXPECT_EQ(Ganzzahl16(1e9), 32767);

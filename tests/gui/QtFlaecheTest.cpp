@@ -55,6 +55,15 @@ std::pair<int, int> Tinte(const QImage &bild, double vonZeile, double bisZeile) 
     return spalten;
 }
 
+/// The smallest rectangle that holds all ink of the corner of the page.
+QRect Tintenrahmen(const QImage &bild) {
+    QRect rahmen;
+    for (int y = 0; y < bild.height() / 8; ++y)
+        for (int x = 0; x < bild.width() / 8; ++x)
+            if (Grau(bild, x, y) < 230) rahmen |= QRect(x, y, 1, 1);
+    return rahmen;
+}
+
 const QStringList Texte =
     QStringLiteral(
         "Anna,Müller,Jörg Weiß,AVATAR To. Wa,fi ffl Steffi,iiiii,WWW,* 1950,+ 85,Éloïse,Łukasz,Ελένη,1234567890,"
@@ -172,6 +181,36 @@ TEST(QtFläche, GedruckteLinienHabenBreiteUndOrt) {
     }
 }
 
+/// A deceased person's cross over its outline, on screens and on paper.
+TEST(QtFläche, DiagonalenBleibenImUmrissUndGleichenEinander) {
+    const auto zeichnen = [](QtFläche &f, const QImage &bild, double x) {
+        f.Line(Kasten, x, 0.3, x + 1.2, 1.5, Schwarz);
+        const QRect umriss = Tintenrahmen(bild);
+        f.Diagonalen(Linie, x, 0.3, x + 1.2, 1.5, Schwarz);
+        EXPECT_EQ(Tintenrahmen(bild), umriss) << x << ": a corner sticks out";
+        const QImage kreuz = bild.copy(umriss);
+        EXPECT_LT(Grau(kreuz, umriss.width() / 4.0, umriss.height() / 4.0), 128) << x;
+        for (int i = 0; i < kreuz.width() * kreuz.height(); ++i) {
+            const QPoint p(i % kreuz.width(), i / kreuz.width());
+            ASSERT_NEAR(Grau(kreuz, p.x(), p.y()), Grau(kreuz, p.x(), kreuz.height() - 1 - p.y()), 1) << x;
+        }
+    };
+    for (const double x : {0.3, 0.317, 0.4083, 0.45}) {
+        for (const double verhältnis : {1.0, 1.25, 1.5, 2.0})
+            for (const int breite : {1, 2}) {
+                Leinwand f(verhältnis);
+                f.DrawWidth = breite;
+                zeichnen(f, f.Bild(), x);
+            }
+        for (const double k : {DruckPixel, 96 / 2.54}) {
+            QImage bild = LeeresBild(k);
+            Papier f(bild, k);
+            f.DrawWidth = 6;
+            zeichnen(f, bild, x);
+        }
+    }
+}
+
 TEST(QtFläche, DeckenderTextLöschtWasDahinterLiegt) {
     for (const bool durchsichtig : {false, true}) {
         Leinwand f(1);
@@ -196,6 +235,7 @@ TEST(QtFläche, UnsinnigeWerteUndTexteSchadenNicht) {
                 f.DrawStyle = stil;
                 f.Line(art, u, 1, 5, 5, Schwarz);
                 f.Line(art, -u, u, u, -u, Schwarz);
+                f.Diagonalen(art, u, 1, 5, -u, Schwarz);
             }
         f.Circle(0, 5, 5, u, Schwarz);
         f.Torte(0, 5, u, 5, Rot, u, u);

@@ -1,6 +1,8 @@
 #include "qt/malen/QtFlaeche.h"
 
 #include <QPaintEngine>
+#include <QPainterPath>
+#include <QPolygonF>
 
 #include <algorithm>
 #include <array>
@@ -185,6 +187,38 @@ void QtFläche::Line(int flags, double x1, double y1, double x2, double y2, Farb
     } else {
         maler_.drawLine(von, bis);
     }
+}
+
+/// With flat ends in the middle of the outline's corners: a square end sticks out there, and so does one that isn't on
+/// the outline's pixels. On a picture as shapes, for a thin line of the painter's own is darker in one direction than
+/// in the other.
+void QtFläche::Diagonalen(int flags, double x1, double y1, double x2, double y2, Farbe farbe) {
+    if (Fern(x1) || Fern(y1) || Fern(x2) || Fern(y2)) return;
+    if (!Sichtbar(std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2))) return;
+    const QPointF von = StrichMitte(QPointF(x1, y1) * JeCm);
+    const QPointF bis = StrichMitte(QPointF(x2, y2) * JeCm);
+    const Farbe strich = flags & FarbeGilt ? farbe : ForeColor;
+    const QLineF wege[] = {{von, bis}, {QPointF(von.x(), bis.y()), QPointF(bis.x(), von.y())}};
+    if (gerastert_) return StreifenFüllen(wege, strich);
+    QPen stift = Stift(strich);
+    stift.setCapStyle(Qt::FlatCap);
+    maler_.setPen(stift);
+    stift_ = ~std::uint64_t{0};
+    maler_.drawLines(std::data(wege), static_cast<int>(std::size(wege)));
+}
+
+/// The shape of lines with flat ends.
+void QtFläche::StreifenFüllen(std::span<const QLineF> wege, Farbe farbe) {
+    QPainterPath streifen;
+    streifen.setFillRule(Qt::WindingFill);
+    for (const QLineF &weg : wege) {
+        if (!(weg.length() > 0)) continue;
+        const double halb = Strichbreite() / geräteJeEinheit_ / 2 / weg.length();
+        const QPointF quer(-weg.dy() * halb, weg.dx() * halb);
+        streifen.addPolygon(QPolygonF({weg.p1() - quer, weg.p2() - quer, weg.p2() + quer, weg.p1() + quer}));
+        streifen.closeSubpath();
+    }
+    maler_.fillPath(streifen, Farbton(farbe));
 }
 
 void QtFläche::Circle(int flags, double x, double y, double radius, Farbe farbe) {

@@ -8,6 +8,7 @@
 #include <QTransform>
 
 #include <cstdint>
+#include <span>
 #include <unordered_map>
 
 namespace kw {
@@ -35,6 +36,7 @@ class QtFläche : public Zeichenfläche {
 
     void Cls() override;
     void Line(int flags, double x1, double y1, double x2, double y2, Farbe farbe) override;
+    void Diagonalen(int flags, double x1, double y1, double x2, double y2, Farbe farbe) override;
     void Circle(int flags, double x, double y, double radius, Farbe farbe) override;
     void Torte(int flags, double x, double y, double radius, Farbe farbe, double von, double bis) override;
     void Polygon(std::span<const Bildpunkt> punkte) override;
@@ -58,6 +60,7 @@ class QtFläche : public Zeichenfläche {
     void RechteckFüllen(double links, double oben, double rechts, double unten, Farbe farbe);
     void AchsenlinieFüllen(QPointF von, QPointF bis, Farbe farbe);
     void KastenFüllen(QPointF von, QPointF bis, Farbe farbe);
+    void StreifenFüllen(std::span<const QLineF> wege, Farbe farbe);
     void TextgrundFüllen(const QRectF &grund);
     void Unterstreichen(const Schriftsatz &satz, QPointF ort, double breite);
     /// Whether any of the rectangle (user units) can show.

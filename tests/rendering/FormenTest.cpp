@@ -1,0 +1,85 @@
+// The form of a line depends on its length and direction alone, wherever on the page it is.
+#include "app/Einzelbild.h"
+#include "document/Zahlen.h"
+#include "rendering/Ebenen.h"
+#include "replay/Aufzeichnung.h"
+#include "replay/Plattform.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kw {
+namespace {
+
+using Striche = std::vector<std::array<double, 4>>;
+
+/// Collects the lines of one thing, from its beginning on.
+struct Sammler : Aufzeichnung {
+    double X = 0, Y = 0;
+    Striche Gesehen;
+    void Line(int /*flags*/, double x1, double y1, double x2, double y2, Farbe /*farbe*/) override {
+        Gesehen.push_back({x1 - X, y1 - Y, x2 - X, y2 - Y});
+    }
+};
+
+bool Gleich(const Striche &a, const Striche &b) {
+    const auto nah = [](double p, double q) { return std::fabs(p - q) < 1e-4; };
+    return std::ranges::equal(a, b, [&](const auto &p, const auto &q) { return std::ranges::equal(p, q, nah); });
+}
+
+constexpr double Raster = 0.3;                                                  // the others are multiples of it
+enum : size_t { Spitze, Kind, Partner, Gestrichelt, Abbruch, Zickzack, Arten }; // the last ones as their records say
+
+/// Each thing from one place of the raster to another, in steps of it, as records hold them.
+std::array<Striche, Arten> Gezeichnet(Einzelbild &bild, int x, int y, int dx, int dy) {
+    const auto ort = [](int schritte, double dazu = 0) { return ZahlSchreiben(schritte * Raster + dazu); };
+    const auto von = ort(x) + "_" + ort(y) + "_";
+    const auto nach = ort(x + dx) + "_" + ort(y + dy);
+    Dokument &d = bild.dokument;
+    d.cboPersonen = {"001_1_1_1_1.2_0________"};
+    d.cboPfeile = {"2_" + von + nach};
+    d.cboKindlinien = {"001_1_001_" + ort(x + dx) + "_" + ort(x) + "_" + ort(y + dy, 0.6) + "_" + ort(y)};
+    d.cboPartnerschaftsLinien = {"001__" + von + ort(x + dx) + "_" + ort(y) + "_001_002_" + ort(y + dy) + "_" +
+                                 ort(y + dy) + "_" + ort(x) + "_" + ort(x + dx) + "_1_"};
+    std::array<Striche, Arten> formen;
+    const auto sammeln = [&](size_t art, auto ebene) {
+        Sammler f;
+        f.X = x * Raster;
+        f.Y = y * Raster;
+        ebene(f, bild.DasBild());
+        formen[art] = f.Gesehen;
+    };
+    sammeln(Spitze, PfeilEbene);
+    sammeln(Kind, [](Zeichenfläche &f, const Zeichnung &z) { KindlinienZeichnen(f, z, 1); });
+    sammeln(Partner, [](Zeichenfläche &f, const Zeichnung &z) { PartnerschaftslinienZeichnen(f, z, 1); });
+    for (const size_t art : {Gestrichelt, Abbruch, Zickzack}) {
+        d.cboBeziehungsLinien = {"_" + std::to_string(art) + "_" + von + nach + "_001_002"};
+        sammeln(art, BeziehungslinienZeichnen);
+    }
+    return formen;
+}
+
+TEST(Formen, HängenNurVonLängeUndRichtungAb) {
+    DrehbuchUhr uhr;
+    Einzelbild bild(uhr, "");
+    constexpr std::array<std::array<int, 3>, 6> Richtungen{
+        {{1, 0, 1}, {-1, 0, 1}, {0, 1, 1}, {0, -1, 1}, {3, 4, 5}, {-4, 3, 5}}}; // of whole lengths
+    constexpr int Längste = 20;                                                 // steps: 6 cm
+    constexpr int Orte = 100;                                                   // along the longest page
+    for (const auto &[dx, dy, je] : Richtungen)
+        for (int n = 1; n * je <= Längste; ++n) {
+            const auto erste = Gezeichnet(bild, Längste, Längste, n * dx, n * dy);
+            EXPECT_EQ(erste[Zickzack].size(), 2U * (3 * n * je / 4)) << "a period each 0.4 cm";
+            for (int ort = 0; ort < Orte; ++ort) {
+                const auto formen = Gezeichnet(bild, ort, Orte - ort, n * dx, n * dy);
+                for (size_t art = 0; art < Arten; ++art)
+                    ASSERT_TRUE(Gleich(formen[art], erste[art]))
+                        << "kind " << art << " at " << ort << ": " << n << " x " << dx << " " << dy;
+            }
+        }
+}
+
+} // namespace
+} // namespace kw
