@@ -23,14 +23,22 @@ bool AchsenlinieGetroffen(double x1, double y1, double x2, double y2, double x, 
     return false;
 }
 
-bool SegmentGetroffen(double x1, double y1, double x2, double y2, double x, double y, double grenze) {
+bool SegmentGetroffen(double x1, double y1, double x2, double y2, double x, double y) {
     if (AchsenlinieGetroffen(x1, y1, x2, y2, x, y)) return true;
     const auto [minX, maxX] = std::minmax(x1, x2);
     const auto [minY, maxY] = std::minmax(y1, y2);
     if (!Zwischen(x, minX, maxX) || !Zwischen(y, minY, maxY)) return false;
     const double dx = x1 - x2;
     const double dy = y1 - y2;
-    return Kleiner(std::fabs((-dx * y + dy * x) - (-dx * y1 + dy * x1)), grenze);
+    return Kleiner(std::fabs((-dx * y + dy * x) - (-dx * y1 + dy * x1)), 1.0);
+}
+
+double AbstandVonStrecke(double x1, double y1, double x2, double y2, double x, double y) {
+    const double dx = x2 - x1;
+    const double dy = y2 - y1;
+    const double quadrat = dx * dx + dy * dy;
+    const double t = quadrat > 0 ? std::clamp(((x - x1) * dx + (y - y1) * dy) / quadrat, 0.0, 1.0) : 0;
+    return std::hypot(x - x1 - t * dx, y - y1 - t * dy);
 }
 
 bool Auswahlkasten::Überlappt(double links, double oben, double rechts, double unten) const {

@@ -11,9 +11,12 @@ bool Zwischen(double wert, double unten, double oben);
 bool AchsenlinieGetroffen(double x1, double y1, double x2, double y2, double x, double y);
 
 /// Near the straight line from (x1, y1) to (x2, y2): within 0.1 of an upright or level one, else within its box
-/// and distance times length below `grenze`. The measure isn't normalised: the longer the line, the nearer the
-/// point must be. Meant.
-bool SegmentGetroffen(double x1, double y1, double x2, double y2, double x, double y, double grenze = 1.0);
+/// and distance times length below 1. The measure isn't normalised: the longer the line, the nearer the point must
+/// be. Meant.
+bool SegmentGetroffen(double x1, double y1, double x2, double y2, double x, double y);
+
+/// How far the point (x, y) is from the straight stretch between the two others.
+double AbstandVonStrecke(double x1, double y1, double x2, double y2, double x, double y);
 
 /// A marquee.
 struct Auswahlkasten {

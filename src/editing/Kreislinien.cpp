@@ -7,8 +7,10 @@
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
 #include "platform/Befehlsnamen.h"
+#include "rendering/Ebenen.h"
 #include "rendering/Zeichenflaeche.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -16,10 +18,10 @@ namespace kw {
 
 namespace {
 
-constexpr double StrichSchritt = 0.9;      ///< a stroke takes a new point when the pointer has gone that far, cm
-constexpr double LückenSchritt = 1.2;      ///< between the points that close a stroke, cm
-constexpr double Zeichenschritt = 0.01;    ///< the drawing can't tell points apart that are nearer, cm
-constexpr double TrefferGrenze = 100000.0; ///< so wide that the box of a stretch decides
+constexpr double StrichSchritt = 0.9;   ///< a stroke takes a new point when the pointer has gone that far, cm
+constexpr double LückenSchritt = 1.2;   ///< between the points that close a stroke, cm
+constexpr double Zeichenschritt = 0.01; ///< the drawing can't tell points apart that are nearer, cm
+constexpr double TrefferAbstand = 0.15; ///< from the drawn stroke, cm
 
 /// The points between the last and the first one of a stroke. None lies on the first or beyond it: the curve would
 /// turn round there.
@@ -34,11 +36,26 @@ std::vector<Kreispunkt> Lückenpunkte(Kreispunkt letzter, Kreispunkt erster) {
     return punkte;
 }
 
-bool IstGetroffen(std::string_view satz, double x, double y) {
+void Umgeben(std::string_view satz, Umgebung &umgebung) {
     KreisSatz kreis(satz);
-    auto von = kreis.Nächster();
-    for (auto bis = von; von && (bis = kreis.Nächster()); von = bis)
-        if (SegmentGetroffen(von->X, von->Y, bis->X, bis->Y, x, y, TrefferGrenze)) return true;
+    while (const auto punkt = kreis.Nächster()) umgebung.Aufnehmen(punkt->X, punkt->Y);
+}
+
+/// Whether the stroke can come near the point at all: between two points the curve leaves their box by less than a
+/// quarter of its size.
+bool InReichweite(std::string_view satz, double x, double y) {
+    Umgebung u;
+    Umgeben(satz, u);
+    const double rand = TrefferAbstand + std::max(u.Rechts - u.Links, u.Unten - u.Oben) / 4;
+    return Auswahlkasten{u.Links - rand, u.Oben - rand, u.Rechts + rand, u.Unten + rand}.Enthält(x, y);
+}
+
+bool IstGetroffen(std::string_view satz, double x, double y, int glättungsgrad) {
+    if (!InReichweite(satz, x, y)) return false;
+    const auto zug = Kreiszug(satz, glättungsgrad);
+    for (size_t i = 1; i < zug.size(); ++i)
+        if (!Kleiner(TrefferAbstand, AbstandVonStrecke(zug[i - 1].X, zug[i - 1].Y, zug[i].X, zug[i].Y, x, y)))
+            return true;
     return false;
 }
 
@@ -47,11 +64,6 @@ bool ImKasten(std::string_view satz, const Auswahlkasten &kasten, double /*raste
     while (const auto punkt = kreis.Nächster())
         if (kasten.Enthält(punkt->X, punkt->Y)) return true;
     return false;
-}
-
-void Umgeben(std::string_view satz, Umgebung &umgebung) {
-    KreisSatz kreis(satz);
-    while (const auto punkt = kreis.Nächster()) umgebung.Aufnehmen(punkt->X, punkt->Y);
 }
 
 } // namespace
@@ -64,9 +76,9 @@ const Gruppenart KreislinienInGruppen{&Dokument::cboFreehandlines,
                                       KreisVerschoben,
                                       Umgeben};
 
-int KreisLinieBei(const Dokument &d, double x, double y) {
+int KreisLinieBei(const Dokument &d, double x, double y, int glättungsgrad) {
     for (int i = 0; i < d.cboFreehandlines.Anzahl(); ++i)
-        if (IstGetroffen(d.cboFreehandlines.Satz(i), x, y)) return i;
+        if (IstGetroffen(d.cboFreehandlines.Satz(i), x, y, glättungsgrad)) return i;
     return -1;
 }
 
@@ -88,7 +100,7 @@ bool KreisBeginnen(Werkbank &w, const Ereignis &e) {
 
 /// In every state that comes so far: an armed tool on a circle line selects the line and places nothing. Meant.
 bool KreisTreffen(Werkbank &w, const Ereignis &e) {
-    const int i = KreisLinieBei(w.dokument, e.X, e.Y);
+    const int i = KreisLinieBei(w.dokument, e.X, e.Y, w.ansicht.Glättungsgrad);
     w.lage.KreisGetroffen = i >= 0;
     w.lage.KreisAuswahl = 0;
     if (w.lage.KreisGetroffen) {

@@ -8,9 +8,9 @@ namespace kw {
 struct Ereignis;
 struct Werkbank;
 
-/// Position of the first circle line that has a stretch between two points in whose box the point lies, however far
-/// from the stroke; -1 none.
-int KreisLinieBei(const Dokument &dokument, double x, double y);
+/// Position of the first circle line whose drawn stroke is at most 0.15 cm away from the point, -1 none: whoever stands
+/// inside a circle stays within reach.
+int KreisLinieBei(const Dokument &dokument, double x, double y, int glättungsgrad);
 /// Selects the circle line at `position` (from 0) alone; `Aktion::KreisGewählt`.
 void KreisAuswählen(Werkbank &w, int position);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "rendering/Zeichnung.h"
+#include "rendering/basKurvenGlaettung.h"
 
 // The layers of the page. Each takes the surface and the scale factor: displayed centimetres by paper
 // centimetres, by which every nominal font size is multiplied. A damaged record (too few fields) is
@@ -14,6 +15,8 @@ void PartnerschaftslinienZeichnen(Zeichenfläche &fläche, const Zeichnung &z, d
 void KindlinienZeichnen(Zeichenfläche &fläche, const Zeichnung &z, double faktor);
 
 void KreislinienEbene(Zeichenfläche &fläche, const Zeichnung &z);
+/// Where a circle line is drawn: straight stretches between those places, cm. Empty for one that isn't drawn.
+std::vector<Kurvenort> Kreiszug(std::string_view satz, int glättungsgrad);
 /// In the colour of the scheme, which circle lines take at the next redraw.
 Pfeilbefund PfeilEbene(Zeichenfläche &fläche, const Zeichnung &z);
 

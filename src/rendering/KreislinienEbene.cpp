@@ -26,6 +26,16 @@ Kurvenpunkte PunkteLesen(std::string_view satz, int &n) {
 
 } // namespace
 
+std::vector<Kurvenort> Kreiszug(std::string_view satz, int glättungsgrad) {
+    try {
+        int n = 0;
+        Kurvenpunkte punkte = PunkteLesen(satz, n);
+        return punkte.empty() ? std::vector<Kurvenort>() : KurvenZug(punkte, n, glättungsgrad, true);
+    } catch (const FeldFehlt &) {
+        return {};
+    }
+}
+
 void KreislinienEbene(Zeichenfläche &f, const Zeichnung &z) {
     f.Ebene("kreislinien");
     const Ansicht &a = z.ansicht;

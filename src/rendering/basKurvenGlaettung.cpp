@@ -48,16 +48,22 @@ Kurvenort KurvenPunkt(const Kurvenkoeffizienten &k, double teiler, double t) {
             (((k.a.Y * t + k.b.Y) * t + k.c.Y) * t + k.d.Y) / teiler};
 }
 
-void KurveZeichnen(Zeichenfläche &fläche, Kurvenpunkte &p, int n, int schritte, Farbe farbe, bool geschlossen) {
-    Kurvenort letzter;
-    const auto gerundet = [](Kurvenort o) { return Kurvenort{Gerundet(o.X, 2), Gerundet(o.Y, 2)}; };
+std::vector<Kurvenort> KurvenZug(Kurvenpunkte &p, int n, int schritte, bool geschlossen) {
+    std::vector<Kurvenort> zug;
+    const auto dazu = [&](Kurvenort o) { zug.push_back({Gerundet(o.X, 2), Gerundet(o.Y, 2)}); };
     Durchlaufen(
-        p, n, schritte, geschlossen, [&](Kurvenort o) { letzter = gerundet(o); },
+        p, n, schritte, geschlossen,
         [&](Kurvenort o) {
-            const Kurvenort nächster = gerundet(o);
-            fläche.Line(LinieFarbig, letzter.X, letzter.Y, nächster.X, nächster.Y, farbe);
-            letzter = nächster;
-        });
+            if (zug.empty()) dazu(o);
+        },
+        dazu);
+    return zug;
+}
+
+void KurveZeichnen(Zeichenfläche &fläche, Kurvenpunkte &p, int n, int schritte, Farbe farbe, bool geschlossen) {
+    const auto zug = KurvenZug(p, n, schritte, geschlossen);
+    for (size_t i = 1; i < zug.size(); ++i)
+        fläche.Line(LinieFarbig, zug[i - 1].X, zug[i - 1].Y, zug[i].X, zug[i].Y, farbe);
 }
 
 int KurveBerechnen(Kurvenpunkte &p, int n, int schritte, std::vector<Bildpunkt> &punkte, bool geschlossen) {

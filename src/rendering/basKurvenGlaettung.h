@@ -31,6 +31,9 @@ Kurvenort KurvenPunkt(const Kurvenkoeffizienten &k, double teiler, double t);
 /// two decimals. A closed curve joins smoothly when P(n) equals P(1). Sets the two working places.
 void KurveZeichnen(Zeichenfläche &fläche, Kurvenpunkte &p, int n, int schritte, Farbe farbe, bool geschlossen);
 
+/// Where that curve goes, in straight stretches from each place to the next.
+std::vector<Kurvenort> KurvenZug(Kurvenpunkte &p, int n, int schritte, bool geschlossen);
+
 /// The same points, rounded to whole numbers; gives their count.
 int KurveBerechnen(Kurvenpunkte &p, int n, int schritte, std::vector<Bildpunkt> &punkte, bool geschlossen);
 

@@ -56,7 +56,7 @@ void Treffer(benchmark::State &lauf) {
     const Sitzung s(lauf);
     const Dokument &d = s.innen.dokument;
     for (auto _ : lauf)
-        benchmark::DoNotOptimize(KreisLinieBei(d, 29, 20) + PersonBei(d, 29, 20) + BezLinieBei(d, 29, 20) +
+        benchmark::DoNotOptimize(KreisLinieBei(d, 29, 20, 10) + PersonBei(d, 29, 20) + BezLinieBei(d, 29, 20) +
                                  PLinieBei(d, 29, 20) + KindLinieBei(d, 29, 20, 1.2) + PfeilBei(d, 29, 20) +
                                  TextboxBei(d, 29, 20));
 }
