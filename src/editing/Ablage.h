@@ -12,6 +12,7 @@ struct Zwischenablage {
     Satzliste ZA_Personen;
     Satzliste ZA_PLines;
     Satzliste ZA_KindLinien;
+    Satzliste ZA_BeziehungsLinien;
     Satzliste ZA_Textboxen;
     Satzliste ZA_Kreislinien;
     Satzliste ZA_Pfeile;

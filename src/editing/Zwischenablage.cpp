@@ -2,6 +2,7 @@
 
 #include "document/Nachschlagen.h"
 #include "document/Nummernvergabe.h"
+#include "document/saetze/Beziehung.h"
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
@@ -17,6 +18,7 @@
 
 #include <map>
 #include <unordered_set>
+#include <utility>
 
 namespace kw {
 
@@ -72,6 +74,16 @@ void PersonenKopieren(const Dokument &d, const Auswahl &auswahl, Zwischenablage 
     });
 }
 
+/// Relationship lines whose both persons go along.
+void BeziehungenKopieren(const Dokument &d, Zwischenablage &za) {
+    const auto personen = NummernIn(za.ZA_Personen);
+    for (const auto &satz : d.cboBeziehungsLinien) {
+        const BeziehungSatz linie(satz);
+        if (linie.Vollständig() && personen.contains(linie.PersNr1()) && personen.contains(linie.PersNr2()))
+            za.ZA_BeziehungsLinien.Anhängen(satz);
+    }
+}
+
 void Kopieren(const Gruppenart &art, const Dokument &d, const Auswahl &auswahl, Zwischenablage &za) {
     for (const auto &eintrag : auswahl.*art.Gewählt) {
         const int i = PositionAus(eintrag, d.*art.Speicher, art.Erste);
@@ -107,6 +119,9 @@ void AllesUmnummern(Dokument &d, Zwischenablage &za) {
         linie.Nr(Neu(linien, linie.Stand().Nr()));
         linie.PersNr1(Neu(personen, linie.Stand().PersNr1())).PersNr2(Neu(personen, linie.Stand().PersNr2()));
     });
+    Umschreiben<BeziehungBau>(za.ZA_BeziehungsLinien, [&](BeziehungBau &linie) {
+        linie.PersNr1(Neu(personen, linie.Stand().PersNr1())).PersNr2(Neu(personen, linie.Stand().PersNr2()));
+    });
     Umschreiben<KindBau>(za.ZA_KindLinien, [&](KindBau &linie) {
         linie.KindNr(Neu(personen, linie.Stand().KindNr())).PLinie(Neu(linien, linie.Stand().PLinie()));
     });
@@ -131,6 +146,7 @@ void AllesVersetzen(Zwischenablage &za) {
     });
     Umschreiben<PartnerschaftBau>(za.ZA_PLines, [](PartnerschaftBau &linie) { linie.Verschieben(Versatz, Versatz); });
     Umschreiben<KindBau>(za.ZA_KindLinien, [](KindBau &linie) { linie.Verschieben(Versatz, Versatz); });
+    Umschreiben<BeziehungBau>(za.ZA_BeziehungsLinien, [](BeziehungBau &linie) { linie.Verschieben(Versatz, Versatz); });
     for (const Gruppenart *art : Arten) {
         Satzliste &ablage = za.*art->Ablage;
         for (int i = 0; i < ablage.Anzahl(); ++i) ablage.Ersetzen(i, art->Verschoben(ablage.Satz(i), Versatz, Versatz));
@@ -204,13 +220,20 @@ void AblageFüllen(Werkbank &w, const char *modus) {
     za.KopierHöhe = rahmen.Height;
     PartnerschaftenKopieren(w.dokument, w.auswahl, za);
     PersonenKopieren(w.dokument, w.auswahl, za);
+    BeziehungenKopieren(w.dokument, za);
     for (const Gruppenart *art : Arten) Kopieren(*art, w.dokument, w.auswahl, za);
 }
 
+/// Nothing is selected any more, and nothing can be deleted.
 void NachKopie(Werkbank &w) {
     Gummi1Parken(w.auflagen);
     Gummi2Parken(w.auflagen);
+    AuswahlrahmenParken(w.auflagen);
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
+    PositionenVergessen(w.lage);
+    MarkerParken(w.lage, w.auflagen);
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = false;
+    w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
 }
 
@@ -237,10 +260,11 @@ void Einfügen(Werkbank &w) {
     w.lage.BildAuswahl = false; // the copies are what is in hand now
     w.lage.Zeiger = Mauszeiger::Pfeil;
     AuswahlrahmenParken(w.auflagen);
-    if (za.KopierModus == "Kopieren") AllesVersetzen(za);
+    if (std::exchange(za.KopierModus, "Kopieren") == "Kopieren") AllesVersetzen(za); // a cut comes back once
     NummernEinfügen(za.ZA_Personen, d.cboPersonen, w.auswahl.lstMovedPers);
     NummernEinfügen(za.ZA_PLines, d.cboPartnerschaftsLinien, w.auswahl.lstMovedPLines);
     for (const auto &linie : za.ZA_KindLinien) d.cboKindlinien.Anhängen(linie);
+    for (const auto &linie : za.ZA_BeziehungsLinien) d.cboBeziehungsLinien.Anhängen(linie);
     for (const Gruppenart *art : Arten) Einfügen(*art, d, w.auswahl, za);
     EingefügtesAuswählen(w);
     w.fenster.Vorschau();
