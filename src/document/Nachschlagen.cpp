@@ -12,15 +12,7 @@ namespace {
 int MitAnfang(const Satzliste &speicher, std::string_view nr) {
     const std::string_view gesucht = Nummer(nr);
     if (gesucht.empty()) return -1;
-    for (int i = 0; i < speicher.Anzahl(); ++i)
-        if (Nummer(speicher.Satz(i)) == gesucht) return i;
-    return -1;
-}
-
-template <typename Satz, typename Bedingung> int ErsteMit(const Satzliste &speicher, Bedingung erfüllt) {
-    for (int i = 0; i < speicher.Anzahl(); ++i)
-        if (erfüllt(Satz(speicher.Satz(i), Lücken::Leer))) return i;
-    return -1;
+    return ErsterSatz(speicher, [&](const std::string &satz) { return Nummer(satz) == gesucht; });
 }
 
 /// Enters the two persons that each line of a store names.
@@ -43,14 +35,16 @@ int PLinieMitNr(const Dokument &dokument, std::string_view nr) {
 }
 
 int PLinieVonNach(const Dokument &dokument, std::string_view nr1, std::string_view nr2) {
-    return ErsteMit<PartnerschaftSatz>(dokument.cboPartnerschaftsLinien, [&](const PartnerschaftSatz &linie) {
+    return ErsterSatz(dokument.cboPartnerschaftsLinien, [&](const std::string &satz) {
+        const PartnerschaftSatz linie(satz, Lücken::Leer);
         return linie.PersNr1() == nr1 && linie.PersNr2() == nr2;
     });
 }
 
 int PLinieZwischen(const Dokument &dokument, std::string_view nr1, std::string_view nr2) {
-    return ErsteMit<PartnerschaftSatz>(dokument.cboPartnerschaftsLinien,
-                                       [&](const PartnerschaftSatz &linie) { return linie.Verbindet(nr1, nr2); });
+    return ErsterSatz(dokument.cboPartnerschaftsLinien, [&](const std::string &satz) {
+        return PartnerschaftSatz(satz, Lücken::Leer).Verbindet(nr1, nr2);
+    });
 }
 
 int KindLinieVon(const Dokument &dokument, std::string_view nr) { return MitAnfang(dokument.cboKindlinien, nr); }

@@ -2,6 +2,7 @@
 
 #include "document/Satzliste.h"
 
+#include <algorithm>
 #include <set>
 #include <string>
 #include <string_view>
@@ -30,6 +31,11 @@ int KindLinieVon(const Dokument &dokument, std::string_view nr);
 int PositionAus(std::string_view eintrag, const Satzliste &speicher, int erste);
 /// The same for all entries of a list.
 std::unordered_set<int> PositionenAus(const Satzliste &liste, const Satzliste &speicher, int erste);
+/// Position of the first record that `passt`.
+template <typename Passt> int ErsterSatz(const Satzliste &speicher, Passt passt) {
+    const auto satz = std::find_if(speicher.begin(), speicher.end(), passt);
+    return satz == speicher.end() ? -1 : static_cast<int>(satz - speicher.begin());
+}
 /// The numbers that the records or entries of a list begin with.
 std::set<std::string, std::less<>> NummernIn(const Satzliste &liste);
 /// Whether a store has that position.

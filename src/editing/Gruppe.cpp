@@ -25,6 +25,11 @@ namespace {
 /// Kinds without a number, in the order in which a group moves and deletes them.
 constexpr const Gruppenart *Arten[] = {&KreislinienInGruppen, &TexteInGruppen, &PfeileInGruppen};
 
+Auswahlkasten Rahmenkasten(const Auflagen &auflagen) {
+    const Auflagenform &box = auflagen.shpBox;
+    return {box.Left, box.Top, box.Left + box.Width, box.Top + box.Height};
+}
+
 /// Enters the positions of what lies in the marquee.
 void Eintragen(const Gruppenart &art, const Dokument &d, const Auswahlkasten &kasten, double raster, Auswahl &auswahl) {
     const Satzliste &speicher = d.*art.Speicher;
@@ -101,8 +106,7 @@ void RahmenZiehen(Werkbank &w, const Ereignis &e) {
 void RahmenAuswählen(Werkbank &w) {
     const Dokument &d = w.dokument;
     Auswahl &a = w.auswahl;
-    const Auflagenform &box = w.auflagen.shpBox;
-    const Auswahlkasten kasten{box.Left, box.Top, box.Left + box.Width, box.Top + box.Height};
+    const Auswahlkasten kasten = Rahmenkasten(w.auflagen);
     NummernEintragen(PersonImKasten, d.cboPersonen, kasten, a.lstMovedPers);
     ZwillingeBereit(w);
     NummernEintragen(BalkenImKasten, d.cboPartnerschaftsLinien, kasten, a.lstMovedPLines);
@@ -117,13 +121,14 @@ void RahmenAuswählen(Werkbank &w) {
 
 void RahmenLoslassen(Werkbank &w, const Ereignis &) { RahmenAuswählen(w); }
 
+bool ImRahmen(const Auflagen &auflagen, double x, double y) { return Rahmenkasten(auflagen).Enthält(x, y); }
+
 bool GruppeFassen(Werkbank &w, const Ereignis &e) {
     if (w.lage.Aktion != Aktion::GruppeGewählt) return false;
     const Auflagenform &rahmen = w.auflagen.shpBox;
     w.lage.AltX = Gerundet(rahmen.Left, 1);
     w.lage.AltY = Gerundet(rahmen.Top, 1);
-    const Auswahlkasten kasten{rahmen.Left, rahmen.Top, rahmen.Left + rahmen.Width, rahmen.Top + rahmen.Height};
-    if (!kasten.Enthält(e.X, e.Y)) { // the press only ends the selection
+    if (!ImRahmen(w.auflagen, e.X, e.Y)) { // the press only ends the selection
         AuswahlrahmenParken(w.auflagen);
         MarkierungsListBoxenLöschen(w.auswahl, w.lage);
         w.lage.Aktion = Aktion::Nichts;

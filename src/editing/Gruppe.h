@@ -4,6 +4,7 @@
 // Nothing asks before it deletes: the snapshot at the end of each command is what makes it undoable.
 namespace kw {
 
+struct Auflagen;
 struct Ereignis;
 struct Werkbank;
 
@@ -17,6 +18,8 @@ void RahmenAuswählen(Werkbank &w);
 /// The release of a marquee.
 void RahmenLoslassen(Werkbank &w, const Ereignis &e);
 
+/// Whether the point lies in the frame of a group.
+bool ImRahmen(const Auflagen &auflagen, double x, double y);
 /// A press with a group selected takes the frame, or ends the selection. Says whether the event ends with it.
 bool GruppeFassen(Werkbank &w, const Ereignis &e);
 /// The frame follows the pointer by whole steps of the raster, as far as it stays on the page.

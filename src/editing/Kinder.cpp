@@ -63,14 +63,15 @@ std::pair<double, double> BereichVon(const Dokument &d, const Bezüge &bezüge, 
 
 } // namespace
 
+bool KindLinieGetroffen(std::string_view satz, double x, double y, double auswahlGröße) {
+    const KindSatz linie(satz);
+    return linie.Vollständig() &&
+           SegmentGetroffen(linie.KindX(), linie.KindY() - auswahlGröße / 2, linie.LinieX(), linie.LinieY(), x, y);
+}
+
 int KindLinieBei(const Dokument &d, double x, double y, double auswahlGröße) {
-    for (int i = 0; i < d.cboKindlinien.Anzahl(); ++i) {
-        const KindSatz linie(d.cboKindlinien.Satz(i));
-        if (linie.Vollständig() &&
-            SegmentGetroffen(linie.KindX(), linie.KindY() - auswahlGröße / 2, linie.LinieX(), linie.LinieY(), x, y))
-            return i;
-    }
-    return -1;
+    return ErsterSatz(d.cboKindlinien,
+                      [&](const std::string &satz) { return KindLinieGetroffen(satz, x, y, auswahlGröße); });
 }
 
 bool KindLinieTreffer(Werkbank &w, double x, double y) {

@@ -13,8 +13,10 @@ struct Gruppenzug;
 struct Leinwandlage;
 struct Werkbank;
 
-/// Position of the first child line under the point, -1 none. The lines end half of `auswahlGröße` above the child's
+/// Whether the child line of that record is under the point. The lines end half of `auswahlGröße` above the child's
 /// centre. That is the size of the person last hit, whoever that was, not of the child. Meant.
+bool KindLinieGetroffen(std::string_view satz, double x, double y, double auswahlGröße);
+/// Position of the first child line under the point, -1 none.
 int KindLinieBei(const Dokument &dokument, double x, double y, double auswahlGröße);
 
 /// A press on one selects it. Says whether the event ends with it.

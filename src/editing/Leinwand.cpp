@@ -28,6 +28,7 @@ namespace {
 bool Zurücksetzen(Werkbank &w, const Ereignis &e) {
     // The last release got lost; a dragged circle line has moved already.
     if (std::exchange(w.lage.Gedrückt, true) && w.lage.Aktion == Aktion::KreisGewählt) KreisLoslassen(w, e);
+    w.lage.EbenAbgewählt = Aktion::Nichts;
     w.auflagen.Line5.Visible = false;
     w.lage.Angebot.Löschen = false;
     w.auflagen.shpMask.Visible = false;
@@ -45,8 +46,23 @@ bool MenüWarOffen(Werkbank &w, const Ereignis &) {
     const bool ende = w.lage.Aktion == Aktion::MenüOffen;
     if (ende || w.lage.Aktion == Aktion::Nichts) Gummi1Parken(w.auflagen);
     if (ende) w.lage.Aktion = Aktion::Nichts;
-    if (ende) w.lage.PersRecord.clear(); // a double click that begins so isn't meant for that person
+    if (ende) w.lage.PersRecord.clear(); // the person that the menu was for
     return ende;
+}
+
+/// Whether the selected line of a kind lies under the point.
+bool BeziehungDort(const Werkbank &w, double x, double y) {
+    const Satzliste &linien = w.dokument.cboBeziehungsLinien;
+    return Gültig(linien, w.lage.BezAuswahl) && BezLinieGetroffen(linien.Satz(w.lage.BezAuswahl), x, y);
+}
+bool PLinieDort(const Werkbank &w, double x, double y) {
+    const Satzliste &linien = w.dokument.cboPartnerschaftsLinien;
+    return Gültig(linien, w.lage.PLinieAuswahl) && PLinieGetroffen(linien.Satz(w.lage.PLinieAuswahl), x, y);
+}
+bool KindlinieDort(const Werkbank &w, double x, double y) {
+    const Satzliste &linien = w.dokument.cboKindlinien;
+    return Gültig(linien, w.lage.KindAuswahl) &&
+           KindLinieGetroffen(linien.Satz(w.lage.KindAuswahl), x, y, w.lage.AuswahlGröße);
 }
 
 /// A kind of line by what selects it: its menu, and the form that a double click opens instead, if there is one.
@@ -54,15 +70,42 @@ struct Linienart {
     kw::Aktion Aktion;
     Befehlsname Menü;
     std::optional<Formularname> Form;
+    bool (*Dort)(const Werkbank &, double x, double y);
 };
-constexpr Linienart Linienarten[] = {{Aktion::BeziehungGewählt, Name::mnuBezLinie, Name::frmBezLinien},
-                                     {Aktion::PLinieGewählt, Name::mnuPLinie, Name::frmPLinien},
-                                     {Aktion::KindlinieGewählt, Name::mnuKindLinie, std::nullopt}};
+constexpr Linienart Linienarten[] = {{Aktion::BeziehungGewählt, Name::mnuBezLinie, Name::frmBezLinien, BeziehungDort},
+                                     {Aktion::PLinieGewählt, Name::mnuPLinie, Name::frmPLinien, PLinieDort},
+                                     {Aktion::KindlinieGewählt, Name::mnuKindLinie, std::nullopt, KindlinieDort}};
 
 const Linienart *LinieVon(Aktion aktion) {
     const auto *art = std::find_if(std::begin(Linienarten), std::end(Linienarten),
                                    [&](const Linienart &z) { return z.Aktion == aktion; });
     return art == std::end(Linienarten) ? nullptr : art;
+}
+
+/// Whether something is selected, or a menu was dismissed, elsewhere than at the point.
+bool AnderesGewählt(const Werkbank &w, double x, double y) {
+    if (const Linienart *art = LinieVon(w.lage.Aktion)) return !art->Dort(w, x, y);
+    switch (w.lage.Aktion) {
+    case Aktion::KreisGewählt:
+        return KreisLinieBei(w.dokument, x, y, w.ansicht.Glättungsgrad) + 1 != w.lage.KreisAuswahl;
+    case Aktion::GruppeGewählt: return !ImRahmen(w.auflagen, x, y);
+    case Aktion::MenüOffen: return true;
+    default: return false;
+    }
+}
+
+/// A right press means what is under the pointer: a selection elsewhere ends, and the press goes on as without it.
+/// Otherwise the menu of one thing would open over another, and delete it.
+bool AnderesGemeint(Werkbank &w, const Ereignis &e) {
+    if (!e.Rechts() || !AnderesGewählt(w, e.X, e.Y)) return false;
+    AuswahlrahmenParken(w.auflagen);
+    Gummi1Parken(w.auflagen);
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
+    w.lage.KreisAuswahl = 0;
+    w.lage.PersRecord.clear();
+    w.lage.Aktion = Aktion::Nichts;
+    MarkerEntfernen(w);
+    return false;
 }
 
 /// A line that is selected already: its menu, or the end of the selection.
@@ -75,6 +118,7 @@ bool LinieWarGewählt(Werkbank &w, const Ereignis &e) {
         return true;
     }
     Gummi1Parken(w.auflagen);
+    if (art->Dort(w, e.X, e.Y)) w.lage.EbenAbgewählt = w.lage.Aktion;
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     return true;
@@ -86,14 +130,26 @@ bool LinieTreffen(Werkbank &w, const Ereignis &e) {
            PfeilTreffer(w, e.X, e.Y) || PfeilEndeTreffer(w, e.X, e.Y);
 }
 
-/// The order decides what a press means. The tools of region, arrow, text and circle line come first, then the legend
-/// and the circle lines under the pointer, whatever is armed or selected; then a group and what else is armed, then
-/// persons, lines, arrows and text boxes under the pointer. On the empty page a marquee begins.
+/// The order decides what a press means. The tools of region, arrow, text and circle line come first, then, when no
+/// selection elsewhere is in the way of a right press, the legend and the circle lines under the pointer, whatever is
+/// armed or selected; then a group and what else is armed, then persons, lines, arrows and text boxes under the
+/// pointer. On the empty page a marquee begins.
 using Schritt = bool (*)(Werkbank &, const Ereignis &);
-constexpr Schritt Schritte[] = {Zurücksetzen,   BildBeginnen,    PfeilBeginnen, TextSetzen,   OrtMerken,
-                                KreisBeginnen,  LegendeFassen,   KreisTreffen,  KreisGewählt, GruppeFassen,
-                                TextWarGefasst, KindLinkBeenden, MenüWarOffen,  LinkBeenden,  PersonSetzen,
-                                PersonTreffen,  LinieWarGewählt, LinieTreffen,  TextTreffen,  RahmenBeginnen};
+constexpr Schritt Schritte[] = {
+    Zurücksetzen,  BildBeginnen, PfeilBeginnen, TextSetzen,      OrtMerken,      KreisBeginnen,   AnderesGemeint,
+    LegendeFassen, KreisTreffen, KreisGewählt,  GruppeFassen,    TextWarGefasst, KindLinkBeenden, MenüWarOffen,
+    LinkBeenden,   PersonSetzen, PersonTreffen, LinieWarGewählt, LinieTreffen,   TextTreffen,     RahmenBeginnen};
+
+/// The form of the person under the pointer, or of the one that the press has selected.
+void PersonÖffnen(Werkbank &w, int position) {
+    constexpr int NachDemEreignis = 60; // ms
+    if (position >= 0 && w.lage.Aktion != Aktion::PersonGewählt) {
+        AuswahlrahmenParken(w.auflagen);
+        PersonAuswählen(w, position);
+        w.fenster.Vorschau();
+    }
+    if (!Getrimmt(w.lage.PersRecord).empty()) w.benutzer.ZeitgeberStarten("Timer3", NachDemEreignis); // opens frmSymbol
+}
 
 void PersonVerknüpfen(Werkbank &w, const Ereignis &e) { LinkZiehen(w, PersonBei(w.dokument, e.X, e.Y), e.X, e.Y); }
 
@@ -208,9 +264,10 @@ void Leinwand::DblClick(double x, double y) {
         w.fenster.FormÖffnen(Name::frmLegende);
         return;
     }
+    const int person = PersonBei(w.dokument, x, y);
+    if (person >= 0) return PersonÖffnen(w, person);
     // A press on a selected line has just unselected it: the double click means the line all the same.
-    if (w.lage.Aktion == Aktion::Nichts && Getrimmt(w.lage.PersRecord).empty())
-        BezLinieTreffer(w, x, y) || PLinieTreffer(w, x, y) || KindLinieTreffer(w, x, y);
+    if (w.lage.Aktion == Aktion::Nichts) w.lage.Aktion = std::exchange(w.lage.EbenAbgewählt, Aktion::Nichts);
     if (const Linienart *art = LinieVon(w.lage.Aktion)) {
         if (art->Form) w.fenster.FormÖffnen(*art->Form);
         else w.fenster.PopupÖffnen(art->Menü);
@@ -218,8 +275,7 @@ void Leinwand::DblClick(double x, double y) {
         w.fenster.Vorschau();
         return;
     }
-    constexpr int NachDemEreignis = 60;                                                               // ms
-    if (!Getrimmt(w.lage.PersRecord).empty()) w.benutzer.ZeitgeberStarten("Timer3", NachDemEreignis); // opens frmSymbol
+    PersonÖffnen(w, person);
 }
 
 void Leinwand::GesteAbbrechen() {

@@ -84,10 +84,11 @@ struct Leinwandlage : Gestenlage {
     double DeltaY = 0;
 
     bool LinieVerschoben = false;
-    bool BildAuswahl = false;     ///< the next marquee is a region of the picture
-    bool bAuswahlInDatei = false; ///< that region goes to a file, otherwise to the clipboard
-    bool Gedrückt = false;        ///< a press runs a gesture; false again when something else came between
-    int PfeilArt = 1;             ///< 1 arrow, 2 double arrow
+    bool BildAuswahl = false;                      ///< the next marquee is a region of the picture
+    bool bAuswahlInDatei = false;                  ///< that region goes to a file, otherwise to the clipboard
+    kw::Aktion EbenAbgewählt = kw::Aktion::Nichts; ///< kind of the line that the last press was on and unselected
+    bool Gedrückt = false; ///< a press runs a gesture; false again when something else came between
+    int PfeilArt = 1;      ///< 1 arrow, 2 double arrow
     double PfeilEndeX = 0;
     double PfeilEndeY = 0;
     std::string PunktListe;              ///< circle line in the making

@@ -90,24 +90,24 @@ void LinieAngepasst(Werkbank &w) {
 
 } // namespace
 
+bool BezLinieGetroffen(std::string_view satz, double x, double y) {
+    const BeziehungSatz linie(satz);
+    return linie.Vollständig() &&
+           SegmentGetroffen(linie.LinieX1(), linie.LinieY1(), linie.LinieX2(), linie.LinieY2(), x, y);
+}
+
+bool PLinieGetroffen(std::string_view satz, double x, double y) {
+    const PartnerschaftSatz linie(satz);
+    return linie.Vollständig() &&
+           AchsenlinieGetroffen(linie.BalkenX1(), linie.BalkenY1(), linie.BalkenX2(), linie.BalkenY2(), x, y);
+}
+
 int BezLinieBei(const Dokument &d, double x, double y) {
-    for (int i = 0; i < d.cboBeziehungsLinien.Anzahl(); ++i) {
-        const BeziehungSatz linie(d.cboBeziehungsLinien.Satz(i));
-        if (linie.Vollständig() &&
-            SegmentGetroffen(linie.LinieX1(), linie.LinieY1(), linie.LinieX2(), linie.LinieY2(), x, y))
-            return i;
-    }
-    return -1;
+    return ErsterSatz(d.cboBeziehungsLinien, [&](const std::string &satz) { return BezLinieGetroffen(satz, x, y); });
 }
 
 int PLinieBei(const Dokument &d, double x, double y) {
-    for (int i = 0; i < d.cboPartnerschaftsLinien.Anzahl(); ++i) {
-        const PartnerschaftSatz linie(d.cboPartnerschaftsLinien.Satz(i));
-        if (linie.Vollständig() &&
-            AchsenlinieGetroffen(linie.BalkenX1(), linie.BalkenY1(), linie.BalkenX2(), linie.BalkenY2(), x, y))
-            return i;
-    }
-    return -1;
+    return ErsterSatz(d.cboPartnerschaftsLinien, [&](const std::string &satz) { return PLinieGetroffen(satz, x, y); });
 }
 
 bool BalkenImKasten(std::string_view satz, const Auswahlkasten &kasten) {

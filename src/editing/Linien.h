@@ -16,9 +16,13 @@ struct Dokument;
 struct Ereignis;
 struct Werkbank;
 
+/// Whether the line of that record is under the point; a damaged one never.
+bool BezLinieGetroffen(std::string_view satz, double x, double y);
+/// The same for the bar of a partnership; one that isn't level or upright is never hit.
+bool PLinieGetroffen(std::string_view satz, double x, double y);
 /// Position of the first relationship line under the point, -1 none.
 int BezLinieBei(const Dokument &dokument, double x, double y);
-/// The same for bars of partnerships; one that isn't level or upright is never hit.
+/// The same for bars of partnerships.
 int PLinieBei(const Dokument &dokument, double x, double y);
 /// Whether a marquee takes the bar of that record in; a damaged one never.
 bool BalkenImKasten(std::string_view satz, const Auswahlkasten &kasten);
