@@ -146,7 +146,7 @@ void Anzeige::PaletteZeigen() {
     for (int nummer = 1; nummer <= WerkzeugAnzahl; ++nummer) {
         Bedienelement &knopf = bedienung_.Mit(WerkzeugName(nummer));
         knopf.Checked = WerkzeugGedrückt(nummer, z_.lage);
-        knopf.Enabled = WerkzeugBrauchbar(nummer, z_.dokument, z_.lage);
+        knopf.Enabled = WerkzeugBrauchbar(nummer, z_.dokument, z_.auswahl, z_.lage);
     }
     bedienung_[Name::cmdDelete].Enabled = z_.lage.Aktion == Aktion::GruppeGewählt;
     bedienung_[Name::btnAuswahlZuBild].Checked = z_.lage.BildAuswahl && z_.lage.bAuswahlInDatei;
@@ -161,7 +161,13 @@ void Anzeige::RestZeigen() {
     import.Checked = bedienung_[Name::imgVariable].Visible = z_.import.ListeSichtbar;
 }
 
+void Anzeige::HinweisZeigen() {
+    const Zweisprachig *hinweis = z_.lage.Hinweis;
+    bedienung_[Name::lblHinweis].Caption = hinweis ? hinweis->In(z_.ansicht.Sprache) : std::string_view();
+}
+
 void Anzeige::MöglichesZeigen() {
+    HinweisZeigen();
     AngebotZeigen();
     PaletteZeigen();
     RestZeigen();

@@ -9,6 +9,7 @@ class Datenimport;
 class Druckwerk;
 class UndoRing;
 struct Ansicht;
+struct Auswahl;
 struct Auswahlliste;
 struct Dokument;
 struct Leinwandlage;
@@ -22,6 +23,7 @@ class Anzeige {
     struct Zustand {
         const Dokument &dokument;
         const Ansicht &ansicht;
+        const Auswahl &auswahl;
         const Leinwandlage &lage;
         const Zwischenablage &ablage;
         const UndoRing &ring;
@@ -66,6 +68,7 @@ class Anzeige {
     void AngebotZeigen();
     void PaletteZeigen();
     void RestZeigen();
+    void HinweisZeigen();
 
     Bedienelemente &bedienung_;
     const Zustand z_;

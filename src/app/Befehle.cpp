@@ -68,6 +68,7 @@ void SymbolBearbeiten(Befehlsumgebung &u, int) {
 void PLinieBearbeiten(Befehlsumgebung &u, int) {
     u.werkbank.fenster.FormÖffnen(Name::frmPLinien);
     u.werkbank.lage.Aktion = Aktion::PLinieBearbeitet;
+    u.werkbank.lage.Angebot.Löschen = false; // the line isn't selected any more
 }
 
 void TextBearbeiten(Befehlsumgebung &u, int) {

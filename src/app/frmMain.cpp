@@ -37,8 +37,8 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
                    anzeige.MöglichesZeigen();
                }}),
       druck(plattform.drucker, plattform.benutzer, ansicht, dokument),
-      anzeige(bedienung,
-              {dokument, ansicht, lage, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster, druck, import}),
+      anzeige(bedienung, {dokument, ansicht, auswahl, lage, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster,
+                          druck, import}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, *this), hinweis(bedienung, plattform.benutzer),
       bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
       projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt},

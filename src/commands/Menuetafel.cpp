@@ -249,6 +249,7 @@ constexpr Menüzeile Tafel[] = {
 
     {Name::cmdRänder, Fensterteile, {"Druckränder ...", "Print Margins ..."}},
     {Name::lblTool, Fensterteile, {}},
+    {Name::lblHinweis, Fensterteile, {}}, // why nothing came of a gesture
     {Name::picToolTipp, Fensterteile, {}, "", true, Versteckt},
     {Name::imgVariable, Fensterteile, {}, "", true, Versteckt},
 };

@@ -21,9 +21,7 @@ void LinkAufräumen(Leinwandlage &lage, Auflagen &auflagen) {
 }
 
 void LinkAbbrechen(Auswahl &auswahl, Leinwandlage &lage, Auflagen &auflagen) {
-    if (lage.Aktion != Aktion::BeziehungZiehen && lage.Aktion != Aktion::PartnerschaftZiehen &&
-        lage.Aktion != Aktion::KindZiehen)
-        return;
+    if (!IstLink(lage.Aktion)) return;
     LinkAufräumen(lage, auflagen);
     MarkierungsListBoxenLöschen(auswahl, lage); // positions of the two, which nothing else must take for numbers
     lage.PLinieUnterMaus = false;

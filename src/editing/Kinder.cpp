@@ -12,6 +12,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <unordered_set>
+#include <vector>
 
 namespace kw {
 
@@ -34,6 +36,28 @@ bool KindLinieAnlegen(Dokument &d, int plinie, int kind) {
     linie.KindY(person.Stand().PosYText()).LinieY(balken.BalkenY2Text());
     d.cboKindlinien.Anhängen(linie.Text());
     return true;
+}
+
+constexpr Zweisprachig KeinKreis{"Nicht verknüpft: Niemand kann Kind von sich selbst oder von eigenen Nachkommen sein.",
+                                 "Not linked: nobody can be a child of themselves or of their own descendants."};
+
+/// Whether the couple of a partnership are that person, or come from it.
+bool StammtVon(const Dokument &d, int plinie, int person) {
+    if (!Gültig(d.cboPartnerschaftsLinien, plinie) || !Gültig(d.cboPersonen, person)) return false;
+    std::vector<int> offen{plinie};
+    std::unordered_set<int> gesehen{plinie};
+    while (!offen.empty()) {
+        const PartnerschaftSatz linie(d.cboPartnerschaftsLinien.Satz(offen.back()), Lücken::Leer);
+        offen.pop_back();
+        for (const auto nr : {linie.PersNr1(), linie.PersNr2()}) {
+            const int i = PersonMitNr(d, nr);
+            if (i == person) return true;
+            if (i < 0) continue;
+            const int eltern = PLinieMitNr(d, PersonSatz(d.cboPersonen.Satz(i), Lücken::Leer).ElternLinie());
+            if (eltern >= 0 && gesehen.insert(eltern).second) offen.push_back(eltern);
+        }
+    }
+    return false;
 }
 
 double PosY(const Dokument &d, int person) { return PersonSatz(d.cboPersonen.Satz(person), Lücken::Leer).PosY(); }
@@ -96,6 +120,7 @@ void mnuKindVon(Werkbank &w) {
     RubberStart(w);
     w.lage.Aktion = Aktion::KindZiehen;
     w.lage.PLinieUnterMaus = false;
+    w.fenster.Vorschau(); // the person that the line starts from shows
 }
 
 void KindLinkZiehen(Werkbank &w, const Ereignis &e) {
@@ -110,8 +135,11 @@ void KindLinkZiehen(Werkbank &w, const Ereignis &e) {
 
 bool KindLinkBeenden(Werkbank &w, const Ereignis &) {
     if (w.lage.Aktion != Aktion::KindZiehen) return false;
-    const bool angelegt =
-        w.lage.PLinieUnterMaus && KindLinieAnlegen(w.dokument, w.lage.PLinieAuswahl, w.lage.PersAuswahl - 1);
+    const int plinie = w.lage.PLinieUnterMaus ? w.lage.PLinieAuswahl : -1;
+    const int kind = w.lage.PersAuswahl - 1;
+    const bool kreis = StammtVon(w.dokument, plinie, kind);
+    if (kreis) w.lage.Hinweis = &KeinKreis;
+    const bool angelegt = !kreis && KindLinieAnlegen(w.dokument, plinie, kind);
     w.lage.Aktion = Aktion::Nichts; // before the redraw, which marks the bar under the pointer
     w.lage.PLinieUnterMaus = false;
     w.lage.PersRecord.clear();

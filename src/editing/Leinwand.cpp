@@ -29,6 +29,7 @@ bool Zurücksetzen(Werkbank &w, const Ereignis &e) {
     // The last release got lost; a dragged circle line has moved already.
     if (std::exchange(w.lage.Gedrückt, true) && w.lage.Aktion == Aktion::KreisGewählt) KreisLoslassen(w, e);
     w.lage.EbenAbgewählt = Aktion::Nichts;
+    w.lage.Hinweis = nullptr;
     w.auflagen.Line5.Visible = false;
     w.lage.Angebot.Löschen = false;
     w.auflagen.shpMask.Visible = false;
@@ -279,6 +280,7 @@ void Leinwand::DblClick(double x, double y) {
 }
 
 void Leinwand::GesteAbbrechen() {
+    w.lage.Hinweis = nullptr;
     LinkAbbrechen(w.auswahl, w.lage, w.auflagen);
     if (std::exchange(w.lage.Gedrückt, false)) ZugAbbrechen(w);
 }

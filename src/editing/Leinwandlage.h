@@ -10,6 +10,8 @@
 
 namespace kw {
 
+struct Zweisprachig;
+
 constexpr double GrößeNormal = 1.2;   ///< cm; size of a new symbol
 constexpr double GrößeKlein = 0.6;    ///< of a new small symbol: pregnancy to abortion
 constexpr double BalkenAbstand = 1.8; ///< drop of a new partnership bar below the lower partner
@@ -55,7 +57,6 @@ struct Gestenspur {
 struct Leinwandlage : Gestenlage {
     int SymbolTyp = 0;        ///< of the tool or of the selected person
     double SymbolGröße = 1.2; ///< the same
-    int PersAuswahl = 0;      ///< one-based position of the selected person, 0 none
     std::string PersRecord;
     std::string PersNr;     ///< survives the end of the selection
     std::string ElementArt; ///< "Person" or "Textbox"
@@ -102,6 +103,7 @@ struct Leinwandlage : Gestenlage {
     std::string Zwillingspaar; ///< two siblings that can become twins, and their parents' line
 
     Mauszeiger Zeiger = Mauszeiger::Pfeil;
+    const Zweisprachig *Hinweis = nullptr; ///< why nothing came of the last gesture; none
     Personeninfo Info;
     kw::Angebot Angebot;
     Gestenspur Spur;

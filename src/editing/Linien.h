@@ -52,8 +52,9 @@ void LinkZiehen(Werkbank &w, int person, double x, double y);
 bool LinkBeenden(Werkbank &w, const Ereignis &e);
 /// Two persons, as positions in their store.
 using Paar = std::pair<int, int>;
-/// A partnership line between the two. Nothing when the same pair has one, in the same order, or is none.
-void PartnerschaftAnlegen(Werkbank &w, Paar paar);
+/// A partnership line between the two. False, and none made, when the same pair has one, in the same order, or is none.
+/// No snapshot.
+bool PartnerschaftAnlegen(Werkbank &w, Paar paar);
 /// A couple's line, whose bar hangs as far below the lower partner as every new one. Takes a number.
 void PaarVerbinden(Dokument &dokument, Paar paar);
 /// Takes the relationship line away again whose form has been left without OK, while `BeziehungZiehen` tells that it is

@@ -119,6 +119,7 @@ void RubberStart(Werkbank &w) {
 void mnuPartnerschaftsLinie(Werkbank &w) {
     RubberStart(w);
     w.lage.Aktion = Aktion::PartnerschaftZiehen;
+    w.fenster.Vorschau(); // the person that the line starts from shows
 }
 
 void mnuBeziehungErstellen2(Werkbank &w) {
@@ -126,6 +127,7 @@ void mnuBeziehungErstellen2(Werkbank &w) {
     RubberStart(w);
     w.lage.Aktion = Aktion::BeziehungZiehen;
     w.auflagen.Line1.Visible = true;
+    w.fenster.Vorschau();
 }
 
 void LinkZiehen(Werkbank &w, int person, double x, double y) {
@@ -149,7 +151,7 @@ bool LinkBeenden(Werkbank &w, const Ereignis &) {
         BeziehungAnlegen(w);
     } else {
         w.lage.Aktion = Aktion::Nichts;
-        PartnerschaftAnlegen(w, Verknüpfte(w.lage));
+        if (PartnerschaftAnlegen(w, Verknüpfte(w.lage))) w.fenster.Sichern();
     }
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
@@ -167,22 +169,22 @@ void PaarVerbinden(Dokument &d, Paar paar) {
     d.cboPartnerschaftsLinien.Anhängen(linie.Text());
 }
 
-void PartnerschaftAnlegen(Werkbank &w, Paar paar) {
+bool PartnerschaftAnlegen(Werkbank &w, Paar paar) {
     Dokument &d = w.dokument;
-    if (!IstPaar(d.cboPersonen, paar)) return;
+    if (!IstPaar(d.cboPersonen, paar)) return false;
     MarkerEntfernen(w);
     const PersonSatz erster(d.cboPersonen.Satz(paar.first));
     const PersonSatz zweiter(d.cboPersonen.Satz(paar.second));
     if (erster.Nr().empty() || zweiter.Nr().empty()) {
         KeineAktion(w);
-        return;
+        return false;
     }
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     const bool neu = PLinieVonNach(d, erster.Nr(), zweiter.Nr()) < 0;
     if (neu) PaarVerbinden(d, paar);
     else d.NeuePLinienNr(); // a number is taken for a pair that has a line already, and stays taken. Meant.
-    if (neu) w.fenster.Sichern();
     w.fenster.Vorschau();
+    return neu;
 }
 
 void BezLAbbrechen(Werkbank &w) {

@@ -105,9 +105,8 @@ bool PfeilEndeTreffer(Werkbank &w, double x, double y) {
     const int ende = PfeilEndeBei(w.dokument, w.lage.PfeilAuswahl, x, y);
     if (ende == 0) return false;
     PfeilFassen(w);
-    Auswahl übrige;
-    übrige.lstMovedPfeile = w.auswahl.lstMovedPfeile; // it may show its handles, or not
-    w.auswahl = übrige;
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
+    w.auswahl.lstMovedPfeile.Anhängen(std::to_string(w.lage.PfeilAuswahl));
     LöschenUndAusschneidenAnbieten(w);
     w.lage.Aktion = ende == 2 ? Aktion::PfeilEnde2 : Aktion::PfeilEnde1;
     w.fenster.Vorschau();

@@ -43,6 +43,7 @@ std::optional<Maß> Gewählte(const Werkbank &w) {
 
 void GrößeÄndern(Werkbank &w, double delta) {
     Satzliste &personen = w.dokument.cboPersonen;
+    const Satzliste vorher = personen;
     for (const auto &eintrag : w.auswahl.lstMovedPers) {
         const int i = PersonMitNr(w.dokument, Getrimmt(eintrag));
         if (i < 0 || !PersonSatz(personen.Satz(i)).Vollständig()) continue;
@@ -54,7 +55,7 @@ void GrößeÄndern(Werkbank &w, double delta) {
     AuswahlrahmenParken(w.auflagen);
     w.fenster.Vorschau();
     w.lage.Aktion = Aktion::Nichts;
-    w.fenster.Sichern();
+    if (personen != vorher) w.fenster.Sichern();
 }
 
 void mnuSymbolVergrößern(Werkbank &w) {

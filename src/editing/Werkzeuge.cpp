@@ -43,7 +43,17 @@ constexpr Werkzeug Werkzeuge[] = {
     {20, Aktion::PersonSetzen, TypDivers, GrößeNormal},
 };
 
-bool HatPerson(const Dokument &d, const Leinwandlage &lage) { return Gültig(d.cboPersonen, lage.PersAuswahl - 1); }
+/// Whether a link has a person to start from: the one that is marked, or that it has started from already.
+bool HatPerson(const Dokument &d, const Auswahl &auswahl, const Leinwandlage &lage) {
+    if (!Gültig(d.cboPersonen, lage.PersAuswahl - 1)) return false;
+    const auto nr = Nummer(d.cboPersonen.Satz(lage.PersAuswahl - 1));
+    const Satzliste &markiert = auswahl.lstMovedPers;
+    return IstLink(lage.Aktion) || (markiert.Anzahl() == 1 && Nummer(markiert.Satz(0)) == nr);
+}
+
+bool LinktPersonen(int nummer) {
+    return nummer == WerkzeugBeziehung || nummer == WerkzeugPartnerschaft || nummer == WerkzeugKind;
+}
 
 const Werkzeug *WerkzeugFinden(int nummer) {
     const auto *werkzeug =
@@ -52,9 +62,9 @@ const Werkzeug *WerkzeugFinden(int nummer) {
 }
 
 /// The links start from the selected person; without one nothing is armed.
-bool LinkBeginnen(Werkbank &w, int nummer) {
-    if (nummer != WerkzeugBeziehung && nummer != WerkzeugPartnerschaft && nummer != WerkzeugKind) return false;
-    if (!WerkzeugBrauchbar(nummer, w.dokument, w.lage)) w.lage.Aktion = Aktion::Nichts;
+bool LinkBeginnen(Werkbank &w, int nummer, bool brauchbar) {
+    if (!LinktPersonen(nummer)) return false;
+    if (!brauchbar) w.lage.Aktion = Aktion::Nichts;
     else if (nummer == WerkzeugBeziehung) mnuBeziehungErstellen2(w);
     else if (nummer == WerkzeugPartnerschaft) mnuPartnerschaftsLinie(w);
     else mnuKindVon(w);
@@ -65,9 +75,9 @@ bool LinkBeginnen(Werkbank &w, int nummer) {
 
 std::string WerkzeugName(int nummer) { return "cmdSymb(" + std::to_string(nummer) + ")"; }
 
-bool WerkzeugBrauchbar(int nummer, const Dokument &d, const Leinwandlage &lage) {
-    if (nummer == WerkzeugKind) return KannKindWerden(d, lage);
-    return (nummer != WerkzeugBeziehung && nummer != WerkzeugPartnerschaft) || HatPerson(d, lage);
+bool WerkzeugBrauchbar(int nummer, const Dokument &d, const Auswahl &auswahl, const Leinwandlage &lage) {
+    if (!LinktPersonen(nummer)) return true;
+    return HatPerson(d, auswahl, lage) && (nummer != WerkzeugKind || KannKindWerden(d, lage));
 }
 
 bool WerkzeugGedrückt(int nummer, const Leinwandlage &lage) {
@@ -83,10 +93,11 @@ void WerkzeugDrücken(Werkbank &w, int nummer) {
         return;
     }
     Leinwandlage &lage = w.lage;
+    const bool brauchbar = WerkzeugBrauchbar(nummer, w.dokument, w.auswahl, lage);
     lage.Aktion = Aktion::PersonSetzen;
     AuswahlAufgeben(w);
     lage.Zeiger = nummer < WerkzeugZwillinge ? Mauszeiger::Person : Mauszeiger::Pfeil;
-    if (LinkBeginnen(w, nummer)) return;
+    if (LinkBeginnen(w, nummer, brauchbar)) return;
     const Werkzeug *werkzeug = WerkzeugFinden(nummer);
     if (!werkzeug) return;
     lage.Aktion = werkzeug->Aktion;

@@ -29,7 +29,7 @@ std::string WerkzeugName(int nummer);
 void WerkzeugDrücken(Werkbank &w, int nummer);
 
 /// Whether the tool would do something: links start from a selected person.
-bool WerkzeugBrauchbar(int nummer, const Dokument &dokument, const Leinwandlage &lage);
+bool WerkzeugBrauchbar(int nummer, const Dokument &dokument, const Auswahl &auswahl, const Leinwandlage &lage);
 /// Whether it is in hand.
 bool WerkzeugGedrückt(int nummer, const Leinwandlage &lage);
 

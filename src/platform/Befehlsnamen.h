@@ -210,6 +210,7 @@ inline constexpr Befehlsname cmdredo{"cmdredo"};
 
 // What else stands in the window.
 inline constexpr Befehlsname lblTool{"lblTool"};
+inline constexpr Befehlsname lblHinweis{"lblHinweis"};
 inline constexpr Befehlsname picToolTipp{"picToolTipp"};
 inline constexpr Befehlsname imgVariable{"imgVariable"};
 

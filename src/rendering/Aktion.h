@@ -34,4 +34,9 @@ enum class Aktion {
     LegendeGefasst = 30,
 };
 
+/// Whether a rubber line runs from a person to the end of a new link.
+constexpr bool IstLink(Aktion aktion) {
+    return aktion == Aktion::BeziehungZiehen || aktion == Aktion::PartnerschaftZiehen || aktion == Aktion::KindZiehen;
+}
+
 } // namespace kw

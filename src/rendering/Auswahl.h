@@ -23,6 +23,7 @@ struct Auswahl {
 /// What the canvas is doing, as far as drawing looks at it.
 struct Gestenlage {
     kw::Aktion Aktion = kw::Aktion::Nichts;
+    int PersAuswahl = 0;          ///< one-based position of the selected person, 0 none; where a link gesture starts
     int ZielPerson = 0;           ///< one-based position of a link gesture's target, 0 none
     int PLinieAuswahl = -1;       ///< position of the partnership line selected or under the pointer
     bool PLinieUnterMaus = false; ///< in a child link gesture: a partnership line lies under the pointer

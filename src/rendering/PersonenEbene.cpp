@@ -5,6 +5,7 @@
 #include "rendering/Seite.h"
 #include "rendering/Symbole.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <unordered_set>
 
@@ -19,7 +20,6 @@ class Personenzeichner {
         : f(fläche), z_(z), faktor_(faktor), nummern_(z.dokument.cboPersonen), alter_(z.uhr),
           pixelJeCm_(z.PixelJeCm(faktor)) {
         if (z.Druck) return;
-        // Compared as numbers: in a link gesture the list holds positions, and these show like numbers.
         for (const auto &eintrag : z.auswahl.lstMovedPers) ++gewählt_[Ganzzahl16(ZahlLesen(eintrag))];
     }
 
@@ -62,10 +62,14 @@ class Personenzeichner {
 
     Symbol::Hervorhebung Hervorgehoben(const PersonSatz &person, int position) const {
         if (z_.Druck) return {.Druck = true};
-        const Aktion aktion = z_.geste.Aktion;
-        const bool zieht = aktion == Aktion::BeziehungZiehen || aktion == Aktion::PartnerschaftZiehen;
-        const auto gewählt = gewählt_.find(Ganzzahl16(ZahlLesen(person.Nr())));
-        return {zieht && position + 1 == z_.geste.ZielPerson, gewählt == gewählt_.end() ? 0 : gewählt->second};
+        // In a link gesture the list holds positions. Where the link starts shows in any case.
+        const Gestenlage &geste = z_.geste;
+        const bool link = IstLink(geste.Aktion);
+        const bool zieht = link && geste.Aktion != Aktion::KindZiehen;
+        const auto gewählt = gewählt_.find(zieht ? position + 1 : Ganzzahl16(ZahlLesen(person.Nr())));
+        const int mal = gewählt == gewählt_.end() ? 0 : gewählt->second;
+        return {zieht && position + 1 == geste.ZielPerson,
+                link && position + 1 == geste.PersAuswahl ? std::max(mal, 1) : mal};
     }
 
     Zeichenfläche &f;

@@ -44,7 +44,8 @@ Statuszeile::Statuszeile(std::function<void(std::string_view)> ausführen) {
 }
 
 void Statuszeile::Auffrischen(const Anblick &anblick) {
-    lblTool_->setText(Text(anblick.bedienung[Name::lblTool].Caption));
+    const std::string &werkzeug = anblick.bedienung[Name::lblTool].Caption;
+    lblTool_->setText(Text(werkzeug.empty() ? anblick.bedienung[Name::lblHinweis].Caption : werkzeug));
     const Bedienelement &knopf = *anblick.bedienung.Finden(Rändername);
     cmdRänder_->setText(Text(knopf.Caption));
     cmdRänder_->setEnabled(knopf.Enabled);
