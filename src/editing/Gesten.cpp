@@ -8,6 +8,14 @@ double Raster(const Ansicht &ansicht, double wert) { return Gerastert(wert, ansi
 
 double RasterZehntel(const Ansicht &ansicht, double wert) { return Gerundet(Raster(ansicht, wert), 1); }
 
+double RasterX(const Ansicht &ansicht, double wert, double halb) {
+    return RasterZwischen(wert, ansicht.Rasterweite, -halb, ansicht.SeitenBreite - halb);
+}
+
+double RasterY(const Ansicht &ansicht, double wert, double halb) {
+    return RasterZwischen(wert, ansicht.Rasterweite, -halb, ansicht.SeitenHöhe - halb);
+}
+
 bool HatSichBewegt(const Leinwandlage &lage, const Ereignis &e) {
     return Gerundet(e.X, 2) != lage.DownX || Gerundet(e.Y, 2) != lage.DownY;
 }

@@ -36,6 +36,11 @@ std::vector<Kreispunkt> Lückenpunkte(Kreispunkt letzter, Kreispunkt erster) {
     return punkte;
 }
 
+/// The place on the page nearest to the pointer.
+Kreispunkt AufSeite(const Ansicht &ansicht, const Ereignis &e) {
+    return {std::clamp(e.X, 0.0, ansicht.SeitenBreite), std::clamp(e.Y, 0.0, ansicht.SeitenHöhe)};
+}
+
 void Umgeben(std::string_view satz, Umgebung &umgebung) {
     KreisSatz kreis(satz);
     while (const auto punkt = kreis.Nächster()) umgebung.Aufnehmen(punkt->X, punkt->Y);
@@ -94,7 +99,7 @@ void KreisAuswählen(Werkbank &w, int position) {
 bool KreisBeginnen(Werkbank &w, const Ereignis &e) {
     if (w.lage.Aktion != Aktion::KreisZeichnen) return false;
     w.lage.PunktListe.clear();
-    KreisPunktAnhängen(w.lage.PunktListe, {e.X, e.Y});
+    KreisPunktAnhängen(w.lage.PunktListe, AufSeite(w.ansicht, e));
     return true;
 }
 
@@ -131,9 +136,15 @@ void KreisZiehen(Werkbank &w, const Ereignis &e) {
     if (!Kleiner(schritt, std::fabs(e.X - w.lage.DownX)) && !Kleiner(schritt, std::fabs(e.Y - w.lage.DownY))) return;
     if (!Gültig(w.dokument.cboFreehandlines, w.lage.KreisAuswahl - 1)) return;
     auto punkte = w.lage.KreisPunkte;
+    Umgebung u;
+    for (const Kreispunkt &punkt : punkte) u.Aufnehmen(punkt.X, punkt.Y);
+    const double mitteX = (u.Links + u.Rechts) / 2;
+    const double mitteY = (u.Oben + u.Unten) / 2;
+    const Kreispunkt neu =
+        AufSeite(w.ansicht, {0, mitteX + e.X - w.lage.LetztX, mitteY + e.Y - w.lage.LetztY}); // its centre
     for (Kreispunkt &punkt : punkte) {
-        punkt.X += e.X - w.lage.LetztX;
-        punkt.Y += e.Y - w.lage.LetztY;
+        punkt.X += neu.X - mitteX;
+        punkt.Y += neu.Y - mitteY;
     }
     w.dokument.cboFreehandlines.Ersetzen(w.lage.KreisAuswahl - 1, KreisText(punkte));
     w.lage.DownX = Gerundet(e.X, 2);
@@ -142,19 +153,20 @@ void KreisZiehen(Werkbank &w, const Ereignis &e) {
 }
 
 void KreisZeichnen(Werkbank &w, const Ereignis &e) {
-    const double dx = e.X - w.lage.LetztX;
-    const double dy = e.Y - w.lage.LetztY;
+    const Kreispunkt ort = AufSeite(w.ansicht, e);
+    const double dx = ort.X - w.lage.LetztX;
+    const double dy = ort.Y - w.lage.LetztY;
     if (w.lage.PunktListe.empty() || !Kleiner(StrichSchritt, std::hypot(dx, dy))) return;
-    KreisPunktAnhängen(w.lage.PunktListe, {e.X, e.Y});
+    KreisPunktAnhängen(w.lage.PunktListe, ort);
     // On the kept picture itself: the next redraw takes the finished line in its place.
     Zeichenfläche &f = w.picVorschau;
     const int breite = std::exchange(f.DrawWidth, 1);
     const int stil = std::exchange(f.DrawStyle, StilDurchgezogen);
-    f.Line(LinieFarbig, w.lage.LetztX, w.lage.LetztY, e.X, e.Y, w.ansicht.Pfeilfarbe);
+    f.Line(LinieFarbig, w.lage.LetztX, w.lage.LetztY, ort.X, ort.Y, w.ansicht.Pfeilfarbe);
     f.DrawWidth = breite;
     f.DrawStyle = stil;
-    w.lage.LetztX = Gerundet(e.X, 2);
-    w.lage.LetztY = Gerundet(e.Y, 2);
+    w.lage.LetztX = Gerundet(ort.X, 2);
+    w.lage.LetztY = Gerundet(ort.Y, 2);
 }
 
 /// The record has followed the pointer already. One that is as it was stays selected: that was a click.

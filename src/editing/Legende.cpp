@@ -49,8 +49,9 @@ bool LegendeFassen(Werkbank &w, const Ereignis &e) {
 }
 
 void LegendeZiehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.shpMask.Left = Raster(w.ansicht, e.X - w.lage.VersatzX);
-    w.auflagen.shpMask.Top = Raster(w.ansicht, e.Y - w.lage.VersatzY);
+    Auflagenform &maske = w.auflagen.shpMask;
+    maske.Left = RasterX(w.ansicht, e.X - w.lage.VersatzX, maske.Width / 2);
+    maske.Top = RasterY(w.ansicht, e.Y - w.lage.VersatzY, maske.Height / 2);
 }
 
 /// A click leaves the legend where it is, off the raster too: the redraw knows by the gesture that it is still held.

@@ -145,7 +145,7 @@ bool PLinieTreffer(Werkbank &w, double x, double y) {
 
 void BalkenZiehen(Werkbank &w, const Ereignis &e) {
     const PartnerschaftSatz linie(w.dokument.cboPartnerschaftsLinien.Satz(w.lage.PLinieAuswahl));
-    const double y = Raster(w.ansicht, e.Y);
+    const double y = RasterY(w.ansicht, e.Y);
     w.auflagen.Line1.Legen(linie.BalkenX1(), y, linie.BalkenX2(), y);
     w.auflagen.Line1.Visible = true;
     w.lage.LinieVerschoben = true;

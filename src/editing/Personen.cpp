@@ -106,8 +106,8 @@ void PersonAuswählen(Werkbank &w, int position) {
 
 void PersonAnlegen(Werkbank &w, const Importperson *import) {
     if (w.lage.Aktion != Aktion::PersonSetzen) return;
-    const double x = RasterZehntel(w.ansicht, w.lage.MausX);
-    const double y = RasterZehntel(w.ansicht, w.lage.MausY);
+    const double x = Gerundet(RasterX(w.ansicht, w.lage.MausX), 1);
+    const double y = Gerundet(RasterY(w.ansicht, w.lage.MausY), 1);
     if (import) w.dokument.cboPersonen.Anhängen(ImportSatz(*import, w.dokument.NeuePersNr(), x, y, GrößeNormal));
     else Anhängen(w.dokument, w.lage.SymbolTyp, x, y, w.lage.SymbolGröße);
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
@@ -116,8 +116,8 @@ void PersonAnlegen(Werkbank &w, const Importperson *import) {
 
 void ElternAnlegen(Werkbank &w) {
     const double rechtsaußen = w.ansicht.SeitenBreite - ElternPlatz;
-    const double y = RasterZehntel(w.ansicht, w.lage.MausY);
-    const double x = RasterZehntel(w.ansicht, std::min(w.lage.MausX, rechtsaußen));
+    const double y = Gerundet(RasterY(w.ansicht, w.lage.MausY), 1);
+    const double x = Gerundet(RasterX(w.ansicht, std::min(w.lage.MausX, rechtsaußen)), 1);
     Anhängen(w.dokument, TypMännlich, x, y, w.lage.SymbolGröße);
     Anhängen(w.dokument, TypWeiblich, RasterZehntel(w.ansicht, x + ElternAbstand), y, w.lage.SymbolGröße);
     const int mutter = w.dokument.cboPersonen.Anzahl() - 1;
@@ -155,8 +155,8 @@ void PersonZiehen(Werkbank &w, const Ereignis &e) {
     const double schritt = w.ansicht.Rasterweite;
     Auflagenform &maske = w.auflagen.shpMask;
     if (!Kleiner(schritt, w.lage.VersatzX) && !Kleiner(schritt, w.lage.VersatzY)) maske.Visible = false;
-    maske.Left = Raster(w.ansicht, e.X - w.lage.VersatzX) - w.lage.SymbolGröße / 2;
-    maske.Top = Raster(w.ansicht, e.Y - w.lage.VersatzY) - w.lage.SymbolGröße / 2;
+    maske.Left = RasterX(w.ansicht, e.X - w.lage.VersatzX) - w.lage.SymbolGröße / 2;
+    maske.Top = RasterY(w.ansicht, e.Y - w.lage.VersatzY) - w.lage.SymbolGröße / 2;
     if (Kleiner(schritt, std::fabs(e.X - w.lage.DownX)) || Kleiner(schritt, std::fabs(e.Y - w.lage.DownY)))
         maske.Visible = true;
 }
@@ -204,7 +204,7 @@ void PersonenMitbewegen(Dokument &d, const Gruppenzug &zug) {
     for (int i = 0; i < d.cboPersonen.Anzahl(); ++i) {
         if (!zug.Nimmt(Nummer(d.cboPersonen.Satz(i))) || !PersonSatz(d.cboPersonen.Satz(i)).Vollständig()) continue;
         PersonBau person(d.cboPersonen.Satz(i));
-        person.Ort(person.Stand().PosX() + zug.DeltaX, person.Stand().PosY() + zug.DeltaY);
+        person.Ort(OhneRauschen(person.Stand().PosX() + zug.DeltaX), OhneRauschen(person.Stand().PosY() + zug.DeltaY));
         d.cboPersonen.Ersetzen(i, person.Text());
     }
     LinienMitbewegen(d, zug);

@@ -29,8 +29,8 @@ void PersonAuswählen(Werkbank &w, int position);
 /// A person of the armed tool's kind at the pointer's last place, snapped. Only while the tool is armed. One that was
 /// dragged out of the import list is as that list has it.
 void PersonAnlegen(Werkbank &w, const Importperson *import = nullptr);
-/// A couple with its partnership line; the pointer's last place is the left one, the father. Kept within 5 cm of
-/// the page's right edge, and nowhere else.
+/// A couple with its partnership line; the pointer's last place is the left one, the father. Kept on the page,
+/// and 5 cm from its right edge.
 void ElternAnlegen(Werkbank &w);
 
 // A press: with a tool in hand that places somebody; on a person. Each says whether the event ends with it.

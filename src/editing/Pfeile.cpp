@@ -25,6 +25,17 @@ void PfeilFassen(Werkbank &w) {
     w.auflagen.Line5.Legen(pfeil.X1(), pfeil.Y1(), w.lage.PfeilEndeX, w.lage.PfeilEndeY);
 }
 
+struct Mitte {
+    double X, Y;
+};
+
+/// What of an arrow in hand stays on the page: the end that was taken, or its middle.
+Mitte FassOrt(Aktion aktion, const PfeilSatz &pfeil) {
+    if (aktion == Aktion::PfeilEnde1) return {pfeil.X1(), pfeil.Y1()};
+    if (aktion == Aktion::PfeilEnde2) return {pfeil.X2(), pfeil.Y2()};
+    return {(pfeil.X1() + pfeil.X2()) / 2, (pfeil.Y1() + pfeil.Y2()) / 2};
+}
+
 void LöschenUndAusschneidenAnbieten(Werkbank &w) { w.lage.Angebot.Ausschneiden = w.lage.Angebot.Löschen = true; }
 
 /// Whether a sample of the arrow lies in the box. Samples begin at the first end, of an upright arrow at the upper
@@ -81,8 +92,8 @@ int PfeilEndeBei(const Dokument &d, int position, double x, double y) {
 
 bool PfeilBeginnen(Werkbank &w, const Ereignis &e) {
     if (w.lage.Aktion != Aktion::PfeilZeichnen) return false;
-    w.lage.AnkerX = Raster(w.ansicht, e.X);
-    w.lage.AnkerY = Raster(w.ansicht, e.Y);
+    w.lage.AnkerX = RasterX(w.ansicht, e.X);
+    w.lage.AnkerY = RasterY(w.ansicht, e.Y);
     w.auflagen.Line5.Legen(w.lage.AnkerX, w.lage.AnkerY, w.lage.AnkerX, w.lage.AnkerY); // not where the last arrow was
     w.auflagen.Line5.Visible = true;
     return true;
@@ -114,15 +125,17 @@ bool PfeilEndeTreffer(Werkbank &w, double x, double y) {
 }
 
 void PfeilAufziehen(Werkbank &w, const Ereignis &e) {
-    w.auflagen.Line5.Legen(w.lage.AnkerX, w.lage.AnkerY, Raster(w.ansicht, e.X), Raster(w.ansicht, e.Y));
+    w.auflagen.Line5.Legen(w.lage.AnkerX, w.lage.AnkerY, RasterX(w.ansicht, e.X), RasterY(w.ansicht, e.Y));
 }
 
 void PfeilZiehen(Werkbank &w, const Ereignis &e) {
     // The second end has a handle; without one on show it doesn't follow. The first end does. Meant.
     if (w.lage.Aktion == Aktion::PfeilEnde2 && !w.ansicht.PfeilMarkiert) return;
     const PfeilSatz pfeil(w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl));
-    const double dx = Raster(w.ansicht, e.X - w.lage.DownX);
-    const double dy = Raster(w.ansicht, e.Y - w.lage.DownY);
+    const Ansicht &a = w.ansicht;
+    const Mitte ort = FassOrt(w.lage.Aktion, pfeil);
+    const double dx = RasterZwischen(e.X - w.lage.DownX, a.Rasterweite, -ort.X, a.SeitenBreite - ort.X);
+    const double dy = RasterZwischen(e.Y - w.lage.DownY, a.Rasterweite, -ort.Y, a.SeitenHöhe - ort.Y);
     const bool ende1 = w.lage.Aktion != Aktion::PfeilEnde2;
     const bool ende2 = w.lage.Aktion != Aktion::PfeilEnde1;
     w.auflagen.Line5.Legen(pfeil.X1() + (ende1 ? dx : 0), pfeil.Y1() + (ende1 ? dy : 0),
@@ -135,8 +148,8 @@ void PfeilGezogen(Werkbank &w, const Ereignis &e) {
     if (Kleiner(std::fabs(e.X - w.lage.AnkerX), KürzesterPfeil) &&
         Kleiner(std::fabs(e.Y - w.lage.AnkerY), KürzesterPfeil))
         return;
-    w.lage.PfeilEndeX = RasterZehntel(w.ansicht, e.X);
-    w.lage.PfeilEndeY = RasterZehntel(w.ansicht, e.Y);
+    w.lage.PfeilEndeX = Gerundet(RasterX(w.ansicht, e.X), 1);
+    w.lage.PfeilEndeY = Gerundet(RasterY(w.ansicht, e.Y), 1);
     PfeilBau pfeil;
     pfeil.Pfeilart(w.lage.PfeilArt).Ende1(Gerundet(w.lage.AnkerX, 1), Gerundet(w.lage.AnkerY, 1));
     w.dokument.cboPfeile.Anhängen(pfeil.Ende2(w.lage.PfeilEndeX, w.lage.PfeilEndeY).Text());
@@ -154,8 +167,8 @@ void PfeilEndeLoslassen(Werkbank &w, const Ereignis &e) {
     const bool zweites = w.lage.Aktion == Aktion::PfeilEnde2;
     PfeilBau pfeil(w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl));
     const PfeilSatz alt = pfeil.Stand();
-    const double x = RasterZehntel(w.ansicht, zweites ? w.auflagen.Line5.X2 : w.auflagen.Line5.X1);
-    const double y = RasterZehntel(w.ansicht, zweites ? w.auflagen.Line5.Y2 : w.auflagen.Line5.Y1);
+    const double x = Gerundet(RasterX(w.ansicht, zweites ? w.auflagen.Line5.X2 : w.auflagen.Line5.X1), 1);
+    const double y = Gerundet(RasterY(w.ansicht, zweites ? w.auflagen.Line5.Y2 : w.auflagen.Line5.Y1), 1);
     const bool dort = zweites ? alt.X2() == x && alt.Y2() == y : alt.X1() == x && alt.Y1() == y;
     if (!HatSichBewegt(w.lage, e) || dort) return;
     if (zweites) {

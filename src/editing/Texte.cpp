@@ -72,8 +72,8 @@ void TextboxAuswählen(Werkbank &w, int position) {
 
 bool TextSetzen(Werkbank &w, const Ereignis &e) {
     if (w.lage.Aktion != Aktion::TextGesetzt) return false;
-    w.lage.AuswahlX = RasterZehntel(w.ansicht, e.X);
-    w.lage.AuswahlY = RasterZehntel(w.ansicht, e.Y);
+    w.lage.AuswahlX = Gerundet(RasterX(w.ansicht, e.X), 1);
+    w.lage.AuswahlY = Gerundet(RasterY(w.ansicht, e.Y), 1);
     w.fenster.FormÖffnen(Name::frmKommentar);
     w.lage.Zeiger = Mauszeiger::Pfeil;
     return true;
@@ -101,8 +101,10 @@ bool TextTreffen(Werkbank &w, const Ereignis &e) {
 void TextZiehen(Werkbank &w, const Ereignis &e) {
     const TextSatz box(w.lage.TextRecord, Lücken::Leer);
     Auflagenform &maske = w.auflagen.shpMask;
-    maske.Legen(Raster(w.ansicht, e.X - w.lage.VersatzX), Raster(w.ansicht, e.Y - w.lage.VersatzY), box.TextBreite(),
-                box.TextHoehe());
+    const double breite = box.TextBreite();
+    const double höhe = box.TextHoehe();
+    maske.Legen(RasterX(w.ansicht, e.X - w.lage.VersatzX, breite / 2),
+                RasterY(w.ansicht, e.Y - w.lage.VersatzY, höhe / 2), breite, höhe);
     maske.Visible = true;
 }
 

@@ -51,14 +51,18 @@ std::string Zwillingsband(const std::array<std::string, 2> &nummern, double x1, 
 }
 
 /// New twins below the partnership at `linie`; both their lines meet the bar at one point.
-void Anlegen(Dokument &d, const Zwillingsart &art, int linie, double raster, double größe) {
+void Anlegen(Dokument &d, const Zwillingsart &art, int linie, const Ansicht &a, double größe) {
     const std::string plinie(Nummer(d.cboPartnerschaftsLinien.Satz(linie)));
     const PartnerschaftBau bau(d.cboPartnerschaftsLinien.Satz(linie));
     const PartnerschaftSatz balken = bau.Stand();
     const double mitte = (balken.BalkenX1() + balken.BalkenX2()) / 2;
-    const double gerastert = Gerastert(mitte, raster);
-    const double y = Gerundet(Gerastert(balken.BalkenY2(), raster) + AbstandUnterBalken, 1);
-    const std::array x{Gerundet(gerastert + GrößeNormal, 1), Gerundet(gerastert - GrößeNormal, 1)};
+    const double gerastert = Gerastert(mitte, a.Rasterweite);
+    const auto aufSeite = [&](double ort, double seite) {
+        return Gerundet(ort < 0 || ort > seite ? RasterZwischen(ort, a.Rasterweite, 0, seite) : ort, 1);
+    };
+    const double y = aufSeite(Gerastert(balken.BalkenY2(), a.Rasterweite) + AbstandUnterBalken, a.SeitenHöhe);
+    const std::array x{aufSeite(gerastert + GrößeNormal, a.SeitenBreite),
+                       aufSeite(gerastert - GrößeNormal, a.SeitenBreite)};
     Nummernvergabe neue = d.PersNummern();
     const std::array nummern{neue.Nächste(), neue.Nächste()};
     for (size_t i = 0; i < 2; ++i) {
@@ -78,7 +82,7 @@ void ZwillingeAnlegen(Werkbank &w, const Zwillingsart &art, std::string_view elt
     if (linie < 0) return;
     w.lage.PLinieAuswahl = linie;
     w.auflagen.shpMask.Parken();
-    Anlegen(w.dokument, art, linie, w.ansicht.Rasterweite, w.lage.SymbolGröße);
+    Anlegen(w.dokument, art, linie, w.ansicht, w.lage.SymbolGröße);
     AuswahlrahmenParken(w.auflagen);
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();

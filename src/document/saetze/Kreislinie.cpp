@@ -34,7 +34,7 @@ std::string KreisText(const std::vector<Kreispunkt> &punkte) {
 
 std::string KreisVerschoben(std::string_view satz, double dx, double dy) {
     auto punkte = KreisPunkte(satz);
-    for (Kreispunkt &punkt : punkte) punkt = {punkt.X + dx, punkt.Y + dy};
+    for (Kreispunkt &punkt : punkte) punkt = {OhneRauschen(punkt.X + dx), OhneRauschen(punkt.Y + dy)};
     return KreisText(punkte);
 }
 

@@ -34,7 +34,8 @@ void Satzbau::Setzen(int feld, std::string_view text) {
 void Satzbau::Erhöhen(int feld, double um) {
     if (feld >= felder_) return;
     const Stelle stelle = StelleVon(text_, feld);
-    Setzen(feld, ZahlLesen(std::string_view(text_).substr(stelle.Anfang, stelle.Ende - stelle.Anfang)) + um);
+    const double alt = ZahlLesen(std::string_view(text_).substr(stelle.Anfang, stelle.Ende - stelle.Anfang));
+    Setzen(feld, OhneRauschen(alt + um));
 }
 
 std::string Satzbau::TextOhneBlanks() const {
