@@ -28,6 +28,7 @@ constexpr Formularzeile Zeilen[] = {
     {"Frame1", Art::Rahmen, {"Rahmen", ""}},
     {"cmdOK", Art::Knopf, {"cmdOK", ""}},
     {"cmdNein", Art::Knopf, {"cmdNein", ""}},
+    {"cmdWeg", Art::Knopf, {"cmdWeg", ""}},
 };
 constexpr Formulartafel Tafel{"Probe", {"Probe", ""}, Zeilen, "cmdOK", "cmdNein"};
 
@@ -120,6 +121,28 @@ TEST(Formularfenster, FokusZeitgeberUndTasten) {
         });
         EXPECT_EQ(form.Spur,
                   std::string("+block T1 T3 -block +txt -txt +block -block +cbo -cbo +lst ") + knopf + "weg");
+    }
+}
+
+/// Tab goes by the table, to every control; what neither takes nor cancels comes last and never takes an Enter that
+/// wasn't meant for it.
+TEST(Formularfenster, TabfolgeUndEnter) {
+    for (const char *fokus : {"cmdWeg", "lst"}) {
+        Probe form;
+        std::string folge;
+        Zeigen(form, [&] {
+            Teil("txt")->setFocus();
+            for (int i = 0; i < 12; ++i) {
+                Taste(QApplication::focusWidget(), Qt::Key_Tab);
+                folge += QApplication::focusWidget()->objectName().toStdString() + " ";
+                EXPECT_FALSE(Teil("cmdWeg")->property("default").toBool());
+            }
+            Teil(fokus)->setFocus();
+            form.Spur.clear();
+            Taste(Teil(fokus), Qt::Key_Return);
+        });
+        EXPECT_EQ(folge, "block cbo lst btn chk opt1 farbe cmdOK cmdNein cmdWeg txt block ");
+        EXPECT_EQ(form.Spur, std::string(fokus) == "lst" ? "cmdOK weg" : "cmdWeg weg");
     }
 }
 

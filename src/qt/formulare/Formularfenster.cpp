@@ -111,8 +111,10 @@ void Formularfenster::KnöpfeOrdnen() {
     for (const auto &[name, teil] : teile_) {
         const Steuerelement &element = form_[name];
         if (auto *knopf = dynamic_cast<QPushButton *>(teil)) {
-            knopf->setAutoDefault(!form_.Vorgabeknopf.empty());
+            const bool beendet = name == form_.Vorgabeknopf || name == form_.Abbruchknopf;
+            knopf->setAutoDefault(beendet && !form_.Vorgabeknopf.empty());
             knopf->setDefault(name == form_.Vorgabeknopf);
+            if (!beendet) EnterDrückt(*knopf); // never the default: Enter means it only while it has the focus
         }
         if (element.Kind != Art::Option) continue;
         QButtonGroup *&gruppe = gruppen[element.Gruppe];
