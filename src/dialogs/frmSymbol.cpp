@@ -171,6 +171,7 @@ void frmSymbol::PersonLaden() {
     TextSetzen("txtSterbealter", Ohne(person.Sterbealter(), '$'));
     WertSetzen("chkSucht", person.Sucht());
     WertSetzen("chkErkrankung", person.Erkrankung());
+    SterbealterÖffnen();
 }
 
 void frmSymbol::Entladen() {
@@ -236,16 +237,12 @@ void frmSymbol::FokusVerloren(std::string_view name) {
     if (name == "txtAlter" && Text(name).empty()) AlterUnbekannt();
 }
 
-/// Small kinds keep the values of their boxes, and OK writes them. Any other kind opens all boxes, that of the age
-/// at death of a living person too. Meant.
+/// Small kinds keep the values of their boxes, and OK writes them.
 void frmSymbol::TypGewählt() {
     BildOrdnen();
-    const bool offen = Das("cboSymbol").ListIndex < ErsterKleiner;
-    for (const auto name : Eigenschaften) {
-        Das(name).Enabled = offen;
-        Das(name).Weiß = offen;
-    }
-    Das("Label5").Visible = offen; // no box without its label
+    const bool offen = !IstKlein();
+    for (const auto name : Eigenschaften) Das(name).Enabled = Das(name).Weiß = offen;
+    SterbealterÖffnen();
     Das("lblVorname").Visible = Das("lblNachname").Visible = offen;
     if (!offen)
         for (const char *name : {"lblAlter", "lblGebDat", "lblGestorben"}) Das(name).Visible = false;
@@ -255,11 +252,15 @@ void frmSymbol::TypGewählt() {
 }
 
 void frmSymbol::VerstorbenGewählt() {
-    const bool verstorben = Das("chkVerstorben").Value;
-    Steuerelement &sterbealter = Das("txtSterbealter"); // its text stays when the tick goes
-    sterbealter.Enabled = sterbealter.Weiß = verstorben;
-    Das("Label5").Visible = verstorben;
+    SterbealterÖffnen();
     BildOrdnen();
+}
+
+/// The box is open exactly while the tick is set, for those who have been born; its text stays when the tick goes.
+void frmSymbol::SterbealterÖffnen() {
+    const bool offen = Das("chkVerstorben").Value && !IstKlein();
+    Das("txtSterbealter").Enabled = Das("txtSterbealter").Weiß = offen;
+    Das("Label5").Visible = offen;
 }
 
 void frmSymbol::SterbealterGeändert() {
@@ -284,7 +285,6 @@ void frmSymbol::BildOrdnen() {
         Das(name).Visible = oben != Bildzeilen::Nirgends;
         Das(name).Top = oben;
     }
-    if (verstorben) Das("txtSterbealter").Enabled = true;
 }
 
 std::pair<double, double> frmSymbol::BildGröße(std::string_view name) const {
@@ -296,6 +296,12 @@ void frmSymbol::BildZeichnen(std::string_view name, Zeichenfläche &fläche) {
     const Marken marken{Ja("chkIndexPerson"), Das("chkVerstorben").Value, Das("chkSucht").Value,
                         Das("chkErkrankung").Value};
     PersonenbildZeichnen(fläche, Symbolkennzahl(), marken, umgebung_.werkbank.ansicht.Farbschema);
+}
+
+/// By the list, and as opened until the list shows it.
+bool frmSymbol::IstKlein() {
+    const int index = Das("cboSymbol").ListIndex;
+    return (index < 0 ? ListenplatzVon(typ_) : index) >= ErsterKleiner;
 }
 
 int frmSymbol::Symbolkennzahl() {

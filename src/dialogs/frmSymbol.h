@@ -38,6 +38,7 @@ class frmSymbol : public Formular {
     void GeburtsdatumGeändert();
     void AlterGeändert();
     void SterbealterGeändert();
+    void SterbealterÖffnen();
     void AlterAnzeigen();
     void DatumsgenauigkeitAnzeigen();
     void AlterBeschriften(std::string_view text);
@@ -49,6 +50,7 @@ class frmSymbol : public Formular {
     Steuerelement &Das(std::string_view name) { return (*this)[name]; }
     const std::string &Text(std::string_view name) { return Das(name).Text; }
     int Symbolkennzahl();
+    bool IstKlein();
     std::string_view Ja(std::string_view ankreuzfeld) { return Das(ankreuzfeld).Value ? "1" : "0"; }
 
     Dialogumgebung &umgebung_;
