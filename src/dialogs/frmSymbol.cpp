@@ -151,6 +151,7 @@ void frmSymbol::Laden() {
     PersonLaden();
     ZeitgeberStellen("Timer1", 60);
     AlterAnzeigen();
+    if (!alter_.bDatumUngueltig) alterImSatz_ = alter_.strAlterText;
 }
 
 void frmSymbol::GesichtZeigen() {

@@ -54,10 +54,11 @@ class frmSymbol : public Formular {
     std::string_view Ja(std::string_view ankreuzfeld) { return Das(ankreuzfeld).Value ? "1" : "0"; }
 
     Dialogumgebung &umgebung_;
-    Altersberechnung alter_; ///< its own: what another person's date has raised must not block this form
-    std::string satz_;       ///< the record as opened
-    int position_ = -1;      ///< in `cboPersonen`
-    int typ_ = 0;            ///< as opened
+    Altersberechnung alter_;  ///< its own: what another person's date has raised must not block this form
+    std::string satz_;        ///< the record as opened
+    std::string alterImSatz_; ///< of the record's date; empty without one that counts
+    int position_ = -1;       ///< in `cboPersonen`
+    int typ_ = 0;             ///< as opened
     bool institution_ = false;
     bool PersonEingabeGesperrt = true;
     Feld AktivesDatumsfeld = Feld::Keins; ///< which of the two last had the focus: it leads, the other follows
