@@ -96,6 +96,8 @@ constexpr Bildtext Bildtexte[] = {
     {"lblGebDat", 8, false}, {"lblGestorben", 8, false}, {"lblInstitution", 8, true},
 };
 
+constexpr std::string_view Namensfelder[] = {"txtVorname", "txtNachname", "txtInstitution"};
+
 struct Tastenfilter {
     std::string_view Feld;
     std::string_view Erlaubt;
@@ -200,10 +202,10 @@ void frmSymbol::Zeitgeber(std::string_view name) {
 // What the user does.
 
 bool frmSymbol::TasteErlaubt(std::string_view name, std::string_view zeichen) const {
-    if (name == "txtVorname" || name == "txtNachname") return zeichen != "_";
+    if (Enthält(Namensfelder, name)) return zeichen != "_"; // it parts the fields of the record
     for (const Tastenfilter &filter : Ziffernfelder)
         if (filter.Feld == name) return filter.Erlaubt.find(zeichen) != std::string_view::npos;
-    return true; // an institution's "_" too, though it parts the fields of the record. Meant.
+    return true;
 }
 
 void frmSymbol::Geändert(std::string_view name) {
@@ -330,7 +332,7 @@ void frmSymbol::Übernehmen() {
 std::string frmSymbol::NeuerSatz() {
     PersonBau person(satz_);
     person.Groesse(person.Stand().Groesse());
-    if (institution_) return person.Institution(Text("txtInstitution")).Text();
+    if (institution_) return person.Institution(Ohne(Text("txtInstitution"), '_')).Text();
     const int kennzahl = Symbolkennzahl(); // none while the list is empty: kind and size stay
     if (kennzahl != 0) person.Symboltyp(kennzahl);
     if (kennzahl != 0 && kennzahl != typ_)
