@@ -37,6 +37,16 @@ constexpr std::array<Symboltyp, 10> Symboltypen{{
     {7, {"Abtreibung", "Abortion"}},
 }};
 
+// What the frames say. Each of the dates is read whatever order of day and month the locale has.
+constexpr Zweisprachig LesbareDaten{"Lesbar sind zum Beispiel 31.12.1975, 31-12-1975, 31/12/1975\n"
+                                    "oder nur das Jahr, 1975: von 1800 bis zum nächsten Jahr.\n"
+                                    "Ist nichts bekannt, bleibt das Feld leer.",
+                                    "Dates that can be read are, for example, 31.12.1975,\n"
+                                    "31-12-1975, 31/12/1975 or the year alone, 1975:\n"
+                                    "from 1800 to next year. When nothing is known, the field stays empty."};
+constexpr Zweisprachig MöglicheAlter{"Höchstens 120 Jahre, und geboren spätestens im nächsten Jahr",
+                                     "120 years at most, and born next year at the latest"};
+
 constexpr Formularzeile Zeilen[] = {
     {"Label1", Art::Beschriftung, {"Vorname", "First Name"}},
     {"txtVorname", Art::Textfeld},
@@ -46,11 +56,11 @@ constexpr Formularzeile Zeilen[] = {
     {"cboSymbol", Art::Liste},
     {"Label4", Art::Beschriftung, {"Geboren", "Born"}},
     {"txtGeburtsdatum", Art::Textfeld},
-    {"shpFalsch", Art::Warnrahmen, {}, {}, "txtGeburtsdatum"},
+    {"shpFalsch", Art::Warnrahmen, {}, LesbareDaten, "txtGeburtsdatum"},
     {"Label6", Art::Beschriftung, {"Aktuelles Alter", "Current Age"}},
     {"imgVergleich", Art::Beschriftung},
     {"txtAlter", Art::Textfeld},
-    {"shpFalsch2", Art::Warnrahmen, {}, {}, "txtAlter"},
+    {"shpFalsch2", Art::Warnrahmen, {}, MöglicheAlter, "txtAlter"},
     {"chkVerstorben", Art::Ankreuzfeld, {"verstorben", "Deceased"}},
     {"Label5", Art::Beschriftung, {"Gestorben", "Died"}},
     {"txtSterbealter", Art::Textfeld},
@@ -194,7 +204,7 @@ void frmSymbol::Zeitgeber(std::string_view name) {
     if (name == "Timer3") {
         TextSetzen("txtGeburtsdatum", "");
         TextSetzen("txtAlter", "");
-        Das("shpFalsch").Visible = false; // there is no date any more that it could stand for
+        Das("shpFalsch").Visible = Das("shpFalsch2").Visible = false; // nothing is left that they could stand for
     }
     if (name == "Timer4") FokusGeben("txtInstitution");
 }
@@ -316,9 +326,7 @@ int frmSymbol::Symbolkennzahl() {
 
 void frmSymbol::Übernehmen() {
     if (Text("txtAlter").empty()) TextSetzen("txtGeburtsdatum", ""); // an age removed by hand removes the date
-    if (alter_.bDatumUngueltig && !Das("shpFalsch2").Visible)
-        Das("shpFalsch").Visible = true; // tells why nothing happens
-    if (Das("shpFalsch").Visible || Das("shpFalsch2").Visible) return;
+    if (DatumAblehnen()) return;
     Werkbank &w = umgebung_.werkbank;
     Satzliste &personen = w.dokument.cboPersonen;
     if (Gültig(personen, position_)) {

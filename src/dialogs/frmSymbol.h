@@ -43,6 +43,7 @@ class frmSymbol : public Formular {
     void DatumsgenauigkeitAnzeigen();
     void AlterBeschriften(std::string_view text);
     void AlterUnbekannt();
+    bool DatumAblehnen();
     void Übernehmen();
     void Löschen();
     std::string NeuerSatz();

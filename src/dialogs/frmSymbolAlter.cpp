@@ -84,6 +84,21 @@ void frmSymbol::DatumsgenauigkeitAnzeigen() {
     if (möglich) vergleich.Caption = "=";
 }
 
+/// Whether OK has to wait. A refused date is refused once: its box is emptied, and empty it can be stored. Too high an
+/// age waits until it is mended.
+bool frmSymbol::DatumAblehnen() {
+    Steuerelement &falsch = Das("shpFalsch");
+    Steuerelement &unmöglich = Das("shpFalsch2");
+    const bool datum = !Text("txtGeburtsdatum").empty();
+    if (unmöglich.Visible && !datum) return true;
+    const bool gerahmt = datum && (falsch.Visible || unmöglich.Visible);
+    if (!alter_.bDatumUngueltig && !gerahmt) return false;
+    TextSetzen("txtGeburtsdatum", "");
+    TextSetzen("txtAlter", "");
+    alter_.bDatumUngueltig = unmöglich.Visible = false;
+    return falsch.Visible = true; // tells why nothing happens
+}
+
 void frmSymbol::AlterBeschriften(std::string_view text) {
     Das("lblAlter").Caption = text;
     Das("imgVergleich").Visible = text != "?";

@@ -15,7 +15,7 @@ namespace {
 constexpr Formularzeile Zeilen[] = {
     {"Label1", Art::Beschriftung, {"&Name:", ""}},
     {"txt", Art::Textfeld},
-    {"shp", Art::Warnrahmen, {}, {}, "txt"},
+    {"shp", Art::Warnrahmen, {}, {"warum", ""}, "txt"},
     {"block", Art::Textblock},
     {"cbo", Art::Kombination},
     {"lst", Art::Liste},
@@ -87,10 +87,11 @@ TEST(Formularfenster, JedeArtMeldetUndZeigt) {
         QApplication::sendEvent(zeile, &komponiert);
         zeile->setCursorPosition(1);
         Tippen(zeile, "b"); // in the middle, and the caret stays there
-        EXPECT_FALSE(Teil("shp")->isVisible());
+        EXPECT_TRUE(!Teil("shp")->isVisible() && zeile->toolTip().isEmpty());
         zeile->insert("#"); // as pasting does, which isn't filtered
         EXPECT_EQ(form["txt"].Text, "ab#cé");
         EXPECT_TRUE(Teil("shp")->isVisible() && Teil("shp")->geometry().contains(zeile->geometry()));
+        EXPECT_EQ(zeile->toolTip() + zeile->accessibleDescription(), "warumwarum"); // in the frame's place
         Tippen(Teil("block"), "x\ny#");
         Tippen(Teil("cbo"), "zwei");
         Taste(Teil("lst"), Qt::Key_Down);
