@@ -7,6 +7,7 @@
 #include "document/Texte.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Textbox.h"
+#include "editing/Abwahl.h"
 #include "editing/Marker.h"
 #include "editing/Werkbank.h"
 #include "platform/Benutzer.h"
@@ -106,7 +107,15 @@ void frmKommentar::Laden() {
     TextboxAufnehmen(w.dokument.cboTextboxen.Satz(position_));
 }
 
-void frmKommentar::Entladen() { Aktion_Nichts(umgebung_.werkbank.lage); }
+/// Nothing is selected afterwards, by whatever road the form was opened; the mark of what was goes.
+void frmKommentar::Entladen() {
+    Werkbank &w = umgebung_.werkbank;
+    Aktion_Nichts(w.lage);
+    w.lage.Angebot.Löschen = false;
+    if (w.auswahl.lstMovedText.Anzahl() == 0) return;
+    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
+    w.fenster.Vorschau();
+}
 
 /// The box keeps its own place: the marker's is beside it.
 void frmKommentar::TextboxAufnehmen(std::string_view satz) {

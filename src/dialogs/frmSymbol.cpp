@@ -37,6 +37,16 @@ constexpr std::array<Symboltyp, 10> Symboltypen{{
     {7, {"Abtreibung", "Abortion"}},
 }};
 
+// What the frames say. Each of the dates is read whatever order of day and month the locale has.
+constexpr Zweisprachig LesbareDaten{"Lesbar sind zum Beispiel 31.12.1975, 31-12-1975, 31/12/1975\n"
+                                    "oder nur das Jahr, 1975: von 1800 bis zum nächsten Jahr.\n"
+                                    "Ist nichts bekannt, bleibt das Feld leer.",
+                                    "Dates that can be read are, for example, 31.12.1975,\n"
+                                    "31-12-1975, 31/12/1975 or the year alone, 1975:\n"
+                                    "from 1800 to next year. When nothing is known, the field stays empty."};
+constexpr Zweisprachig MöglicheAlter{"Höchstens 120 Jahre, und geboren spätestens im nächsten Jahr",
+                                     "120 years at most, and born next year at the latest"};
+
 constexpr Formularzeile Zeilen[] = {
     {"Label1", Art::Beschriftung, {"Vorname", "First Name"}},
     {"txtVorname", Art::Textfeld},
@@ -46,11 +56,11 @@ constexpr Formularzeile Zeilen[] = {
     {"cboSymbol", Art::Liste},
     {"Label4", Art::Beschriftung, {"Geboren", "Born"}},
     {"txtGeburtsdatum", Art::Textfeld},
-    {"shpFalsch", Art::Warnrahmen, {}, {}, "txtGeburtsdatum"},
+    {"shpFalsch", Art::Warnrahmen, {}, LesbareDaten, "txtGeburtsdatum"},
     {"Label6", Art::Beschriftung, {"Aktuelles Alter", "Current Age"}},
     {"imgVergleich", Art::Beschriftung},
     {"txtAlter", Art::Textfeld},
-    {"shpFalsch2", Art::Warnrahmen, {}, {}, "txtAlter"},
+    {"shpFalsch2", Art::Warnrahmen, {}, MöglicheAlter, "txtAlter"},
     {"chkVerstorben", Art::Ankreuzfeld, {"verstorben", "Deceased"}},
     {"Label5", Art::Beschriftung, {"Gestorben", "Died"}},
     {"txtSterbealter", Art::Textfeld},
@@ -95,6 +105,8 @@ constexpr Bildtext Bildtexte[] = {
     {"lblVorname", 8, true}, {"lblNachname", 8, true},   {"lblAlter", 11, false},
     {"lblGebDat", 8, false}, {"lblGestorben", 8, false}, {"lblInstitution", 8, true},
 };
+
+constexpr std::string_view Namensfelder[] = {"txtVorname", "txtNachname", "txtInstitution"};
 
 struct Tastenfilter {
     std::string_view Feld;
@@ -151,6 +163,7 @@ void frmSymbol::Laden() {
     PersonLaden();
     ZeitgeberStellen("Timer1", 60);
     AlterAnzeigen();
+    if (!alter_.bDatumUngueltig) alterImSatz_ = alter_.strAlterText;
 }
 
 void frmSymbol::GesichtZeigen() {
@@ -171,6 +184,7 @@ void frmSymbol::PersonLaden() {
     TextSetzen("txtSterbealter", Ohne(person.Sterbealter(), '$'));
     WertSetzen("chkSucht", person.Sucht());
     WertSetzen("chkErkrankung", person.Erkrankung());
+    SterbealterÖffnen();
 }
 
 void frmSymbol::Entladen() {
@@ -190,7 +204,7 @@ void frmSymbol::Zeitgeber(std::string_view name) {
     if (name == "Timer3") {
         TextSetzen("txtGeburtsdatum", "");
         TextSetzen("txtAlter", "");
-        Das("shpFalsch").Visible = false; // there is no date any more that it could stand for
+        Das("shpFalsch").Visible = Das("shpFalsch2").Visible = false; // nothing is left that they could stand for
     }
     if (name == "Timer4") FokusGeben("txtInstitution");
 }
@@ -198,10 +212,10 @@ void frmSymbol::Zeitgeber(std::string_view name) {
 // What the user does.
 
 bool frmSymbol::TasteErlaubt(std::string_view name, std::string_view zeichen) const {
-    if (name == "txtVorname" || name == "txtNachname") return zeichen != "_";
+    if (Enthält(Namensfelder, name)) return zeichen != "_"; // it parts the fields of the record
     for (const Tastenfilter &filter : Ziffernfelder)
         if (filter.Feld == name) return filter.Erlaubt.find(zeichen) != std::string_view::npos;
-    return true; // an institution's "_" too, though it parts the fields of the record. Meant.
+    return true;
 }
 
 void frmSymbol::Geändert(std::string_view name) {
@@ -236,16 +250,12 @@ void frmSymbol::FokusVerloren(std::string_view name) {
     if (name == "txtAlter" && Text(name).empty()) AlterUnbekannt();
 }
 
-/// Small kinds keep the values of their boxes, and OK writes them. Any other kind opens all boxes, that of the age
-/// at death of a living person too. Meant.
+/// Small kinds keep the values of their boxes, and OK writes them.
 void frmSymbol::TypGewählt() {
     BildOrdnen();
-    const bool offen = Das("cboSymbol").ListIndex < ErsterKleiner;
-    for (const auto name : Eigenschaften) {
-        Das(name).Enabled = offen;
-        Das(name).Weiß = offen;
-    }
-    Das("Label5").Visible = offen; // no box without its label
+    const bool offen = !IstKlein();
+    for (const auto name : Eigenschaften) Das(name).Enabled = Das(name).Weiß = offen;
+    SterbealterÖffnen();
     Das("lblVorname").Visible = Das("lblNachname").Visible = offen;
     if (!offen)
         for (const char *name : {"lblAlter", "lblGebDat", "lblGestorben"}) Das(name).Visible = false;
@@ -255,11 +265,15 @@ void frmSymbol::TypGewählt() {
 }
 
 void frmSymbol::VerstorbenGewählt() {
-    const bool verstorben = Das("chkVerstorben").Value;
-    Steuerelement &sterbealter = Das("txtSterbealter"); // its text stays when the tick goes
-    sterbealter.Enabled = sterbealter.Weiß = verstorben;
-    Das("Label5").Visible = verstorben;
+    SterbealterÖffnen();
     BildOrdnen();
+}
+
+/// The box is open exactly while the tick is set, for those who have been born; its text stays when the tick goes.
+void frmSymbol::SterbealterÖffnen() {
+    const bool offen = Das("chkVerstorben").Value && !IstKlein();
+    Das("txtSterbealter").Enabled = Das("txtSterbealter").Weiß = offen;
+    Das("Label5").Visible = offen;
 }
 
 void frmSymbol::SterbealterGeändert() {
@@ -284,7 +298,6 @@ void frmSymbol::BildOrdnen() {
         Das(name).Visible = oben != Bildzeilen::Nirgends;
         Das(name).Top = oben;
     }
-    if (verstorben) Das("txtSterbealter").Enabled = true;
 }
 
 std::pair<double, double> frmSymbol::BildGröße(std::string_view name) const {
@@ -298,6 +311,12 @@ void frmSymbol::BildZeichnen(std::string_view name, Zeichenfläche &fläche) {
     PersonenbildZeichnen(fläche, Symbolkennzahl(), marken, umgebung_.werkbank.ansicht.Farbschema);
 }
 
+/// By the list, and as opened until the list shows it.
+bool frmSymbol::IstKlein() {
+    const int index = Das("cboSymbol").ListIndex;
+    return (index < 0 ? ListenplatzVon(typ_) : index) >= ErsterKleiner;
+}
+
 int frmSymbol::Symbolkennzahl() {
     const int index = Das("cboSymbol").ListIndex;
     return index < 0 ? 0 : Symboltypen[static_cast<size_t>(index)].Kennzahl;
@@ -307,9 +326,7 @@ int frmSymbol::Symbolkennzahl() {
 
 void frmSymbol::Übernehmen() {
     if (Text("txtAlter").empty()) TextSetzen("txtGeburtsdatum", ""); // an age removed by hand removes the date
-    if (alter_.bDatumUngueltig && !Das("shpFalsch2").Visible)
-        Das("shpFalsch").Visible = true; // tells why nothing happens
-    if (Das("shpFalsch").Visible || Das("shpFalsch2").Visible) return;
+    if (DatumAblehnen()) return;
     Werkbank &w = umgebung_.werkbank;
     Satzliste &personen = w.dokument.cboPersonen;
     if (Gültig(personen, position_)) {
@@ -323,7 +340,7 @@ void frmSymbol::Übernehmen() {
 std::string frmSymbol::NeuerSatz() {
     PersonBau person(satz_);
     person.Groesse(person.Stand().Groesse());
-    if (institution_) return person.Institution(Text("txtInstitution")).Text();
+    if (institution_) return person.Institution(Ohne(Text("txtInstitution"), '_')).Text();
     const int kennzahl = Symbolkennzahl(); // none while the list is empty: kind and size stay
     if (kennzahl != 0) person.Symboltyp(kennzahl);
     if (kennzahl != 0 && kennzahl != typ_)

@@ -38,10 +38,12 @@ class frmSymbol : public Formular {
     void GeburtsdatumGeändert();
     void AlterGeändert();
     void SterbealterGeändert();
+    void SterbealterÖffnen();
     void AlterAnzeigen();
     void DatumsgenauigkeitAnzeigen();
     void AlterBeschriften(std::string_view text);
     void AlterUnbekannt();
+    bool DatumAblehnen();
     void Übernehmen();
     void Löschen();
     std::string NeuerSatz();
@@ -49,13 +51,15 @@ class frmSymbol : public Formular {
     Steuerelement &Das(std::string_view name) { return (*this)[name]; }
     const std::string &Text(std::string_view name) { return Das(name).Text; }
     int Symbolkennzahl();
+    bool IstKlein();
     std::string_view Ja(std::string_view ankreuzfeld) { return Das(ankreuzfeld).Value ? "1" : "0"; }
 
     Dialogumgebung &umgebung_;
-    Altersberechnung alter_; ///< its own: what another person's date has raised must not block this form
-    std::string satz_;       ///< the record as opened
-    int position_ = -1;      ///< in `cboPersonen`
-    int typ_ = 0;            ///< as opened
+    Altersberechnung alter_;  ///< its own: what another person's date has raised must not block this form
+    std::string satz_;        ///< the record as opened
+    std::string alterImSatz_; ///< of the record's date; empty without one that counts
+    int position_ = -1;       ///< in `cboPersonen`
+    int typ_ = 0;             ///< as opened
     bool institution_ = false;
     bool PersonEingabeGesperrt = true;
     Feld AktivesDatumsfeld = Feld::Keins; ///< which of the two last had the focus: it leads, the other follows

@@ -3,6 +3,7 @@
 #include "document/Felder.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
+#include "document/saetze/Person.h"
 #include "platform/Uhr.h"
 
 // The date of birth and the age: the one that has the focus sets the other.
@@ -44,16 +45,18 @@ void frmSymbol::GeburtsdatumGeändert() {
 void frmSymbol::AlterGeändert() {
     if (PersonEingabeGesperrt || AktivesDatumsfeld == Feld::Geburtsdatum) return;
     const double alter = ZahlLesen(Text("txtAlter"));
-    Das("shpFalsch2").Visible = alter > HöchstesAlter;
-    if (alter > HöchstesAlter) {
-        AlterUnbekannt();
+    const bool bekannt = !Text("txtAlter").empty();
+    // The record's own date is exacter than the year that an age tells.
+    const bool wieImSatz = bekannt && !alterImSatz_.empty() && alter == ZahlLesen(alterImSatz_);
+    const bool zuAlt = !wieImSatz && alter > HöchstesAlter;
+    Das("shpFalsch2").Visible = zuAlt;
+    if (zuAlt || !bekannt) {
         TextSetzen("txtGeburtsdatum", "");
-        return;
+        return AlterUnbekannt();
     }
-    const bool leer = Text("txtAlter").empty();
-    TextSetzen("txtGeburtsdatum", leer ? "" : std::to_string(umgebung_.uhr.Heute().Jahr - Ganzzahl16(alter)));
-    if (leer) AlterUnbekannt();
-    else AlterAnzeigen();
+    const std::string jahr = std::to_string(umgebung_.uhr.Heute().Jahr - Ganzzahl16(alter));
+    TextSetzen("txtGeburtsdatum", wieImSatz ? PersonSatz(satz_, Lücken::Leer).Geburtsdatum() : jahr);
+    AlterAnzeigen();
 }
 
 void frmSymbol::AlterAnzeigen() {
@@ -79,6 +82,21 @@ void frmSymbol::DatumsgenauigkeitAnzeigen() {
     const bool möglich = IstMöglich(teile);
     Das("shpFalsch").Visible = !möglich;
     if (möglich) vergleich.Caption = "=";
+}
+
+/// Whether OK has to wait. A refused date is refused once: its box is emptied, and empty it can be stored. Too high an
+/// age waits until it is mended.
+bool frmSymbol::DatumAblehnen() {
+    Steuerelement &falsch = Das("shpFalsch");
+    Steuerelement &unmöglich = Das("shpFalsch2");
+    const bool datum = !Text("txtGeburtsdatum").empty();
+    if (unmöglich.Visible && !datum) return true;
+    const bool gerahmt = datum && (falsch.Visible || unmöglich.Visible);
+    if (!alter_.bDatumUngueltig && !gerahmt) return false;
+    TextSetzen("txtGeburtsdatum", "");
+    TextSetzen("txtAlter", "");
+    alter_.bDatumUngueltig = unmöglich.Visible = false;
+    return falsch.Visible = true; // tells why nothing happens
 }
 
 void frmSymbol::AlterBeschriften(std::string_view text) {

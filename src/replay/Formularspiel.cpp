@@ -55,6 +55,7 @@ std::string Formularwert(const Formular &form, const std::string &frage) {
     if (was == "enabled") return std::to_string(element->Enabled);
     if (was == "index") return std::to_string(element->ListIndex);
     if (was == "caption") return element->Caption;
+    if (was == "tip") return EineZeile(element->Tip);
     throw Skriptfehler("unknown word: " + was);
 }
 

@@ -124,8 +124,7 @@ std::string Zufallsnutzer::Eintrag(std::string_view menü) {
     return std::string(namen[zufall_() % namen.size()]);
 }
 
-/// Lines for that form, whatever controls it has; without a last button it is left by its close box. An institution's
-/// "_" would be one field too many, by the form's own rules.
+/// Lines for that form, whatever controls it has; without a last button it is left by its close box.
 std::string Zufallsnutzer::Formularzeilen(std::string_view name) {
     Dialogumgebung umgebung = innen_->FürFormulare();
     const auto form = FormularErzeugen(name, umgebung);
@@ -139,8 +138,8 @@ std::string Zufallsnutzer::Formularzeilen(std::string_view name) {
         if (art == Art::Beschriftung) continue;
         if (art == Art::Liste || (kombiniert && Würfel(2))) zeilen += "pick " + wer + " " + std::to_string(Würfel(10));
         else if ((text || kombiniert) && Würfel(6))
-            zeilen += (Würfel(2) ? "type " : "set ") + wer + " " +
-                      std::string(wer == "txtInstitution" ? "Amt" : Texte[zufall_() % std::size(Texte)]) + ende;
+            zeilen +=
+                (Würfel(2) ? "type " : "set ") + wer + " " + std::string(Texte[zufall_() % std::size(Texte)]) + ende;
         else zeilen += "press " + wer;
         offen = wer != form->Vorgabeknopf && wer != form->Abbruchknopf && (*form)[wer].Caption != "Delete";
         zeilen += "\n";

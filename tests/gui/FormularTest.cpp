@@ -15,7 +15,7 @@ namespace {
 constexpr Formularzeile Zeilen[] = {
     {"Label1", Art::Beschriftung, {"&Name:", ""}},
     {"txt", Art::Textfeld},
-    {"shp", Art::Warnrahmen, {}, {}, "txt"},
+    {"shp", Art::Warnrahmen, {}, {"warum", ""}, "txt"},
     {"block", Art::Textblock},
     {"cbo", Art::Kombination},
     {"lst", Art::Liste},
@@ -28,6 +28,7 @@ constexpr Formularzeile Zeilen[] = {
     {"Frame1", Art::Rahmen, {"Rahmen", ""}},
     {"cmdOK", Art::Knopf, {"cmdOK", ""}},
     {"cmdNein", Art::Knopf, {"cmdNein", ""}},
+    {"cmdWeg", Art::Knopf, {"cmdWeg", ""}},
 };
 constexpr Formulartafel Tafel{"Probe", {"Probe", ""}, Zeilen, "cmdOK", "cmdNein"};
 
@@ -86,10 +87,11 @@ TEST(Formularfenster, JedeArtMeldetUndZeigt) {
         QApplication::sendEvent(zeile, &komponiert);
         zeile->setCursorPosition(1);
         Tippen(zeile, "b"); // in the middle, and the caret stays there
-        EXPECT_FALSE(Teil("shp")->isVisible());
+        EXPECT_TRUE(!Teil("shp")->isVisible() && zeile->toolTip().isEmpty());
         zeile->insert("#"); // as pasting does, which isn't filtered
         EXPECT_EQ(form["txt"].Text, "ab#cé");
         EXPECT_TRUE(Teil("shp")->isVisible() && Teil("shp")->geometry().contains(zeile->geometry()));
+        EXPECT_EQ(zeile->toolTip() + zeile->accessibleDescription(), "warumwarum"); // in the frame's place
         Tippen(Teil("block"), "x\ny#");
         Tippen(Teil("cbo"), "zwei");
         Taste(Teil("lst"), Qt::Key_Down);
@@ -120,6 +122,28 @@ TEST(Formularfenster, FokusZeitgeberUndTasten) {
         });
         EXPECT_EQ(form.Spur,
                   std::string("+block T1 T3 -block +txt -txt +block -block +cbo -cbo +lst ") + knopf + "weg");
+    }
+}
+
+/// Tab goes by the table, to every control; what neither takes nor cancels comes last and never takes an Enter that
+/// wasn't meant for it.
+TEST(Formularfenster, TabfolgeUndEnter) {
+    for (const char *fokus : {"cmdWeg", "lst"}) {
+        Probe form;
+        std::string folge;
+        Zeigen(form, [&] {
+            Teil("txt")->setFocus();
+            for (int i = 0; i < 12; ++i) {
+                Taste(QApplication::focusWidget(), Qt::Key_Tab);
+                folge += QApplication::focusWidget()->objectName().toStdString() + " ";
+                EXPECT_FALSE(Teil("cmdWeg")->property("default").toBool());
+            }
+            Teil(fokus)->setFocus();
+            form.Spur.clear();
+            Taste(Teil(fokus), Qt::Key_Return);
+        });
+        EXPECT_EQ(folge, "block cbo lst btn chk opt1 farbe cmdOK cmdNein cmdWeg txt block ");
+        EXPECT_EQ(form.Spur, std::string(fokus) == "lst" ? "cmdOK weg" : "cmdWeg weg");
     }
 }
 

@@ -4,7 +4,8 @@ namespace kw {
 
 PersonBau &PersonBau::Institution(std::string_view text) {
     Symboltyp(TypInstitution);
-    for (int feld = PersonSatz::FeldIndexPerson; feld < PersonSatz::Anzahl; ++feld) Setzen(feld, std::string_view());
+    for (int feld = PersonSatz::FeldIndexPerson; feld < PersonSatz::FeldElternLinie; ++feld)
+        Setzen(feld, std::string_view());
     return Vorname(text);
 }
 

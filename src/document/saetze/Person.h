@@ -85,7 +85,8 @@ class PersonBau : public Satzbau {
     PersonBau &Geburtsdatum(std::string_view text) { return Mit(PersonSatz::FeldGeburtsdatum, text); }
     PersonBau &ElternLinie(std::string_view nr) { return Mit(PersonSatz::FeldElternLinie, nr); }
     PersonBau &Zwilling(std::string_view markeUndNr) { return Mit(PersonSatz::FeldZwilling, markeUndNr); }
-    /// An institution has a text and nothing else behind its size.
+    /// An institution has a text and nothing else behind its size, but for what other records count on: its parents'
+    /// line and its twin.
     PersonBau &Institution(std::string_view text);
 
   private:

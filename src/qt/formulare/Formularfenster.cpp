@@ -111,8 +111,10 @@ void Formularfenster::KnöpfeOrdnen() {
     for (const auto &[name, teil] : teile_) {
         const Steuerelement &element = form_[name];
         if (auto *knopf = dynamic_cast<QPushButton *>(teil)) {
-            knopf->setAutoDefault(!form_.Vorgabeknopf.empty());
+            const bool beendet = name == form_.Vorgabeknopf || name == form_.Abbruchknopf;
+            knopf->setAutoDefault(beendet && !form_.Vorgabeknopf.empty());
             knopf->setDefault(name == form_.Vorgabeknopf);
+            if (!beendet) EnterDrückt(*knopf); // never the default: Enter means it only while it has the focus
         }
         if (element.Kind != Art::Option) continue;
         QButtonGroup *&gruppe = gruppen[element.Gruppe];
@@ -148,6 +150,7 @@ void Formularfenster::Auffrischen() {
         if (const auto teil = teile_.find(name); teil != teile_.end()) TeilZeigen(*teil->second, form_[name]);
     for (QButtonGroup *gruppe : gruppen) gruppe->setExclusive(true);
     Benennen();
+    RahmenErklären();
 }
 
 /// A box is called what its label says, without one what its frame does; what has no caption as its tool tip says.
@@ -161,6 +164,18 @@ void Formularfenster::Benennen() {
     }
     for (const auto *schild : findChildren<QLabel *>())
         if (schild->buddy()) schild->buddy()->setAccessibleName(Vorlesbar(schild->text()));
+}
+
+/// A frame lets the pointer through: the box within it says in its place what it has to say.
+void Formularfenster::RahmenErklären() {
+    for (const auto &[name, teil] : teile_) {
+        const Steuerelement &rahmen = form_[name];
+        if (rahmen.Kind != Art::Warnrahmen) continue;
+        QWidget &box = *teile_.find(rahmen.Bei)->second;
+        const QString warum = rahmen.Visible ? Text(rahmen.Tip) : QString();
+        if (rahmen.Visible) box.setToolTip(warum);
+        if (box.accessibleDescription() != warum) box.setAccessibleDescription(warum);
+    }
 }
 
 void Formularfenster::ZeitgeberStellen(std::string_view name, int ms) {

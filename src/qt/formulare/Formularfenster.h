@@ -44,6 +44,7 @@ class Formularfenster : public QDialog, public Formularwirt {
     void RahmenBauen();
     void TabfolgeSetzen();
     void Benennen();
+    void RahmenErklären();
     void Ereignis(const std::function<void()> &was);
     void Auffrischen();
     void FokusGewandert(QWidget *neu);

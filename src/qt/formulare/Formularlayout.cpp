@@ -198,6 +198,7 @@ void KnopfreiheStellen(const Formular &form, const Formularteile &teile, QBoxLay
                                                        : QDialogButtonBox::ResetRole;
         reihe->addButton(knopf, rolle);
     }
+    reihe->setFocusProxy(nullptr); // else Tab passes over whatever stands behind its first button
     spalte.addWidget(reihe);
 }
 
