@@ -20,7 +20,7 @@ namespace {
 
 class EingebauterDrucker : public testing::Test {
   protected:
-    EingebauterDrucker() { bild.dokument.cboPersonen.Anhängen("001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__"); }
+    EingebauterDrucker() { bild.dokument.cboPersonen = {"001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__"}; }
 
     void Drucken(int papier, int lage, bool farbig) {
         bild.dokument.Papiercode = papier;
