@@ -54,7 +54,7 @@ void Projekt::ProjektLaden() {
 }
 
 /// One error target for the whole reading: what fails leaves what was read so far. The lists of free
-/// numbers are rebuilt at the end only, so a failed load leaves them as they were.
+/// numbers are rebuilt at the end only, so a failed load leaves them empty.
 void Projekt::InhaltLesen() {
     Dokument &dokument = inhalt_.dokument;
     std::string inhalt;
@@ -83,6 +83,7 @@ void Projekt::RingUndAuswahlLeeren() {
 
 void Projekt::Öffnen(const std::string &datei) {
     RingUndAuswahlLeeren();
+    FreieNummernLeeren(); // those of the project before may be in use in this one, which need not say its own
     Projektdatei = datei;
     ProjektLaden();
 }
@@ -190,7 +191,6 @@ void Projekt::mnuRecent(int platz) {
         umfeld_.benutzer.Fragen({Text(FehltTitel), Text(FehltText), Knöpfe::Ok, Zeichen::Warnung});
         return;
     }
-    FreieNummernLeeren();
     Öffnen(datei);
     inhalt_.zuletzt.Vorziehen(platz);
     umfeld_.anzeige.ChronikZeigen();

@@ -51,7 +51,7 @@ class Projekt {
     /// Loads `Projektdatei`. Any failure leaves what was read so far and says nothing; the file's name is
     /// in the title and the document counts as unchanged.
     void ProjektLaden();
-    /// The same for another file, the undo ring and the selection emptied first.
+    /// The same for another file, the undo ring, the selection and the free numbers emptied first.
     void Öffnen(const std::string &datei);
     /// Writes `Projektdatei`. The result of the write isn't looked at: a file that can't be written gives
     /// no message, and the document counts as saved. Meant.
