@@ -3,6 +3,7 @@
 #include "app/Projekt.h"
 #include "app/Startangaben.h"
 #include "document/Dateien.h"
+#include "document/Doppelnummern.h"
 #include "document/Profil.h"
 #include "document/Texte.h"
 #include "editing/Personen.h"
@@ -82,6 +83,7 @@ void Datenimport::FallEinlesen(const std::string &datei) {
     }
     for (const std::string &person : ImportPersonen(daten, ziel_.ansicht.SeitenBreite))
         ziel_.dokument.cboPersonen.Anhängen(person);
+    DoppelnummernAuflösen(ziel_.dokument); // "1" and "01" are two keys
 }
 
 void Datenimport::DatenEinlesen(const std::string &basis) {
