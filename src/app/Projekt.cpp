@@ -185,14 +185,16 @@ void Projekt::mnuNeu() {
 
 void Projekt::mnuRecent(int platz) {
     if (platz < 1 || platz > Chronik::Plätze) return;
-    const std::string datei = inhalt_.zuletzt[platz];
-    if (Titel == datei) return; // so only just after a save under that name
+    const std::string datei = inhalt_.zuletzt[platz]; // saving can move the list
+    if (Titel == datei) return;                       // so only just after a save under that name
     if (!DateiVorhanden(datei)) {
         umfeld_.benutzer.Fragen({Text(FehltTitel), Text(FehltText), Knöpfe::Ok, Zeichen::Warnung});
         return;
     }
+    SpeichernAbgebrochen = false;
+    if (!NachÄnderungenFragen()) return;
     Öffnen(datei);
-    inhalt_.zuletzt.Vorziehen(platz);
+    inhalt_.zuletzt.Vorziehen(datei);
     umfeld_.anzeige.ChronikZeigen();
 }
 

@@ -64,8 +64,8 @@ class Projekt {
     /// A new project, empty and counted as unchanged. Nothing happens when the question about changes is cancelled.
     /// Texts and circle lines on the program's clipboard can be pasted into it, the rest of the clipboard goes. Meant.
     void mnuNeu();
-    /// Opens entry `platz`, 1 to 4, of the recent files, which comes to the first place. Unsaved changes are dropped
-    /// without a question. Meant.
+    /// Opens entry `platz`, 1 to 4, of the recent files, which comes to the first place. Asks about changes, once it
+    /// is sure that the file is there.
     void mnuRecent(int platz);
     /// Empties stores and free numbers.
     void DokumentLeeren();
