@@ -48,7 +48,8 @@ Einstellungen EinstellungenLesen(const Profil &profil) {
     e.Farbschema = zahl("clscheme");
     e.Altersanzeige = zahl("agedisplay");
     e.Raster = text("gridsize") == "1" ? 1 : 0;
-    e.Werkzeugleiste = text("toolbar") == "1";
+    const std::string leiste = text("toolbar");
+    e.Werkzeugleiste = leiste.empty() || leiste == "1";
     e.OhneSprache = text("language").empty();
     e.Sprache = SpracheAus(text("language"));
     for (int platz = 1; platz <= Chronik::Plätze; ++platz) e.Zuletzt.Setzen(platz, text(LetzterPfadSchlüssel(platz)));
@@ -75,11 +76,7 @@ void EinstellungenEintragen(const Einstellungen &e, Profil &profil) {
 
 Einstellungen EinstellungenAus(const std::string &datei) {
     std::string inhalt;
-    if (!DateiVorhanden(datei)) {
-        Einstellungen e;
-        e.Werkzeugleiste = true; // the very first start shows the palette
-        return e;
-    }
+    if (!DateiVorhanden(datei)) return {};
     DateiLesen(datei, inhalt);
     return EinstellungenLesen(Profil(std::move(inhalt)));
 }

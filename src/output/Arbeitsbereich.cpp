@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 namespace kw {
@@ -21,11 +20,6 @@ constexpr int LuftHöhe = 600;
 constexpr int PaletteUndRand = 2620; ///< what of the inner width isn't the frame's
 constexpr int PalettenBreite = 960;
 constexpr int LetzterEinfacherZoom = 7; ///< 150 %; above it lines are twice as wide
-
-int Höchstwert(int canvas, int rahmen) {
-    return std::clamp<int>(canvas + Überlauf - rahmen, std::numeric_limits<std::int16_t>::min(),
-                           std::numeric_limits<std::int16_t>::max());
-}
 
 } // namespace
 
@@ -108,6 +102,7 @@ void Arbeitsbereich::GrößeÄndern(int breite, int höhe) {
 void Arbeitsbereich::WerkzeugleisteZeigen() {
     picBack.Left = PalettenBreite;
     picBack.Width = breite_ - PalettenBreite;
+    BildlaufleistenSetzen(); // what was zoomed beneath a wider frame would end short of the far edge
     ArbeitsbereichAnordnen();
 }
 
@@ -119,8 +114,8 @@ void Arbeitsbereich::WerkzeugleisteVerbergen() {
 }
 
 void Arbeitsbereich::BildlaufleistenSetzen() {
-    VScroll1.Max = Höchstwert(canvas_.Height(), picBack.Height);
-    HScroll1.Max = Höchstwert(canvas_.Width(), picBack.Width);
+    VScroll1.Max = canvas_.Height() + Überlauf - picBack.Height;
+    HScroll1.Max = canvas_.Width() + Überlauf - picBack.Width;
 }
 
 /// A canvas that fits is centred and has no scroll bar; one that doesn't goes back to its resting place.
