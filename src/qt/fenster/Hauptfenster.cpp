@@ -33,8 +33,13 @@ namespace {
 
 Startangaben Angaben(const std::string &kommandozeile) {
     const QSize bildschirm = QGuiApplication::primaryScreen()->size();
-    return {kommandozeile, EinstellungsDateiDesBenutzers(),   QCoreApplication::applicationDirPath().toStdString(),
-            Hilfeordner(), bildschirm.width() * TwipsJePixel, bildschirm.height() * TwipsJePixel};
+    return {kommandozeile,
+            EinstellungsDateiDesBenutzers(),
+            QCoreApplication::applicationDirPath().toStdString(),
+            Hilfeordner(),
+            bildschirm.width() * TwipsJePixel,
+            bildschirm.height() * TwipsJePixel,
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString()};
 }
 
 struct Knopfreihe {
