@@ -112,13 +112,26 @@ void frmMain::DruckerErmitteln() {
 }
 
 bool frmMain::Schließen() {
-    projekt.SpeichernAbgebrochen = false;
     const bool gefragt = projekt.Geändert;
-    if (!projekt.NachÄnderungenFragen()) return false;
+    if (!SitzungBeenden()) return false;
     if (gefragt) anzeige.UndoKnöpfeSperren();
+    return true;
+}
+
+bool frmMain::SitzungBeenden() {
+    projekt.SpeichernAbgebrochen = false;
+    if (!projekt.NachÄnderungenFragen()) return false;
     EinstellungenSichern();
     return true;
 }
+
+void frmMain::Beenden() {
+    ArbeitBehalten();
+    EinstellungenSichern();
+}
+
+/// The one place on the road of an end without a question. As yet nothing keeps unsaved work.
+void frmMain::ArbeitBehalten() {}
 
 void frmMain::EinstellungenSichern() {
     projekt.IniDatei = start.IniDatei;

@@ -80,6 +80,11 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
     return MitKennung(datei, Kennung(wahl.Filter), wahl.Erlaubt == Dateiwahl::Kennungen::Alle);
 }
 
+void PopupsSchließen() {
+    while (QWidget *popup = QApplication::activePopupWidget())
+        if (!popup->close()) break;
+}
+
 } // namespace
 
 Hauptfenster::Hauptfenster(const std::string &kommandozeile)
@@ -144,9 +149,13 @@ void Hauptfenster::Anzeigen() {
 
 void Hauptfenster::closeEvent(QCloseEvent *ereignis) {
     ereignis->setAccepted(haupt_.Schließen());
-    if (!ereignis->isAccepted()) return;
-    while (QWidget *popup = QApplication::activePopupWidget()) // its loop would keep the program alive
-        if (!popup->close()) break;
+    if (ereignis->isAccepted()) PopupsSchließen(); // their loops would keep the program alive
+}
+
+bool Hauptfenster::SitzungBeenden() {
+    PopupsSchließen(); // they would keep the pointer from the question
+    NachVorn();
+    return haupt_.SitzungBeenden();
 }
 
 void Hauptfenster::NachVorn() {
