@@ -123,6 +123,8 @@ constexpr Schrittregel OhneSicherung[] = {
 /// What takes a snapshot though nothing has changed since the last one.
 constexpr Schrittregel SichertImmer[] = {
     {"a size command", [](const Schritt &, const Verlangt &v) { return v.In("mnuSymbolGröße"); }},
+    {"a project that is opened, though it is the same",
+     [](const Schritt &s, const Verlangt &v) { return v.Öffnet() && s.Neu.ring.UndoFüllung() == 1; }},
     {"a form that is confirmed",
      [](const Schritt &, const Verlangt &v) { return v.Zeile.find("form ") != std::string::npos; }},
 };
