@@ -57,13 +57,14 @@ std::string Papierschlüssel(const Papier &papier) {
 void Anzeige::Beschriften() {
     MenuesBeschriften(bedienung_, z_.ansicht.Sprache, z_.druck.DefaultPrinter);
     LegendeZeigen();
+    WerkzeugleisteZeigen();
 }
 
 void Anzeige::DruckerZeigen() { RänderknopfBeschriften(bedienung_, z_.ansicht.Sprache, z_.druck.DefaultPrinter); }
 
 void Anzeige::LegendeZeigen() {
     Bedienelement &knopf = bedienung_[Name::btnLegende];
-    knopf.Checked = z_.dokument.LegendeSichtbar;
+    knopf.Checked = bedienung_[Name::mnuLegendeAnzeigen].Checked = z_.dokument.LegendeSichtbar;
     knopf.Caption = Text(Legendentext, knopf.Checked, z_.ansicht);
 }
 
@@ -114,7 +115,9 @@ void Anzeige::RasterweiteZeigen() {
 }
 
 void Anzeige::WerkzeugleisteZeigen() {
-    bedienung_[Name::mnuWerkzeugleiste].Caption = Text(Palettentext, z_.bereich.WerkzeugleisteSichtbar(), z_.ansicht);
+    const bool sichtbar = z_.bereich.WerkzeugleisteSichtbar();
+    bedienung_[Name::btnWerkzeugleiste].Checked = sichtbar;
+    bedienung_[Name::mnuWerkzeugleiste].Caption = Text(Palettentext, sichtbar, z_.ansicht);
 }
 
 void Anzeige::UndoKnöpfeZeigen() {

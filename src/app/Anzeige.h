@@ -39,7 +39,7 @@ class Anzeige {
     void Beschriften();
     /// The tool tip that names the printer.
     void DruckerZeigen();
-    /// The legend's button, pressed and named as the legend is shown or not.
+    /// The legend's button and menu entry, pressed, ticked and named as the legend is shown or not.
     void LegendeZeigen();
     /// Captions of the recent files.
     void ChronikZeigen();

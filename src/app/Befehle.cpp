@@ -81,10 +81,12 @@ void LegendeAktualisieren(Befehlsumgebung &u, int) {
     u.werkbank.fenster.Vorschau();
 }
 
-/// One step back or forward in the ring; afterwards nothing is selected and no gesture runs.
+/// One step back or forward in the ring; afterwards nothing is selected and no gesture runs. Also the way back to what
+/// the file holds is a change.
 template <bool (UndoRing::*Gehen)(Dokument &)> void Schritt(Befehlsumgebung &u, int) {
     if (!(u.ring.*Gehen)(u.werkbank.dokument)) return;
     u.anzeige.UndoKnöpfeZeigen();
+    u.werkbank.fenster.AlsGeändertMerken();
     NichtsAuswählen(u.werkbank);
     u.werkbank.fenster.Vorschau();
 }

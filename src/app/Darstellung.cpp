@@ -5,6 +5,7 @@
 #include "document/Zahlen.h"
 #include "editing/Fensterdienste.h"
 #include "output/Arbeitsbereich.h"
+#include "platform/Drucker.h"
 #include "rendering/Ansicht.h"
 
 namespace kw {
@@ -42,8 +43,14 @@ void Darstellung::WerkzeugleisteUmschalten() {
     anzeige_.WerkzeugleisteZeigen();
 }
 
-void Darstellung::SeiteGeändert() {
+/// Else the page form, which shows how the printer stands, would turn the page.
+void Darstellung::SeiteÜbernehmen() {
     anzeige_.SeiteZeigen();
+    drucker_.OrientationSetzen(dokument_.Seitenlage == 1 ? 1 : 2);
+}
+
+void Darstellung::SeiteGeändert() {
+    SeiteÜbernehmen();
     bereich_.Bildgrößenveränderung();
 }
 

@@ -4,6 +4,7 @@ namespace kw {
 
 class Anzeige;
 class Arbeitsbereich;
+class Drucker;
 class Fensterdienste;
 struct Ansicht;
 struct Auswahlliste;
@@ -14,9 +15,9 @@ class Darstellung {
   public:
     /// `cboRaster` lists the snap steps in millimetres.
     Darstellung(Ansicht &ansicht, Dokument &dokument, Auswahlliste &cboRaster, Arbeitsbereich &bereich,
-                Anzeige &anzeige, Fensterdienste &fenster)
+                Anzeige &anzeige, Drucker &drucker, Fensterdienste &fenster)
         : ansicht_(ansicht), dokument_(dokument), cboRaster_(cboRaster), bereich_(bereich), anzeige_(anzeige),
-          fenster_(fenster) {}
+          drucker_(drucker), fenster_(fenster) {}
 
     /// Shows or hides the grid; snapping doesn't care.
     void RasterUmschalten();
@@ -29,7 +30,9 @@ class Darstellung {
     void LinienfarbenSetzen();
     /// Shows or hides the tool palette.
     void WerkzeugleisteUmschalten();
-    /// The document's page is another one: toolbar and canvas follow.
+    /// Toolbar and printer show and take the document's page.
+    void SeiteÜbernehmen();
+    /// The document's page is another one: toolbar, printer and canvas follow.
     void SeiteGeändert();
     /// Other paper, or another orientation (1 portrait, 2 landscape): the project holds both, no snapshot does.
     void PapierWählen(int papiercode);
@@ -43,6 +46,7 @@ class Darstellung {
     Auswahlliste &cboRaster_;
     Arbeitsbereich &bereich_;
     Anzeige &anzeige_;
+    Drucker &drucker_;
     Fensterdienste &fenster_;
 };
 

@@ -3,6 +3,7 @@
 #include "app/Projekt.h"
 #include "app/Startangaben.h"
 #include "document/Dateien.h"
+#include "document/Doppelnummern.h"
 #include "document/Profil.h"
 #include "document/Texte.h"
 #include "editing/Personen.h"
@@ -10,15 +11,14 @@
 #include "platform/Benutzer.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace kw {
 
 namespace {
 
 constexpr std::string_view Schalter[] = {"/dataimport", "\\dataimport"};
-constexpr int Schalterlänge = 11;
-constexpr int NameAb = 12; ///< from 0: behind the switch and a blank
-constexpr int Namenslänge = 8;
+constexpr size_t Schalterlänge = 11;
 
 bool IstSchalter(std::string_view text) {
     return std::find(std::begin(Schalter), std::end(Schalter), text) != std::end(Schalter);
@@ -31,15 +31,9 @@ std::string OhneAnführung(const std::string &kommandozeile) {
     return zeile;
 }
 
-/// `anzahl` characters from position `ab` on; less where the text is shorter.
-std::string Zeichenfolge(std::string_view text, int ab, int anzahl) {
-    std::string teil;
-    int stelle = -1;
-    for (const char c : text) {
-        if (!IstFortsetzung(c)) ++stelle;
-        if (stelle >= ab && stelle < ab + anzahl) teil += c;
-    }
-    return teil;
+/// What stands behind the switch: the name of a case.
+std::string Fallname(std::string_view zeile) {
+    return std::string(Getrimmt(zeile.substr(std::min(zeile.size(), Schalterlänge))));
 }
 
 } // namespace
@@ -48,19 +42,29 @@ bool Datenimport::IstVerlangt(const std::string &kommandozeile) {
     return IstSchalter(OhneAnführung(kommandozeile).substr(0, Schalterlänge));
 }
 
+/// Beside the program, or among the user's documents. A folder that is there already tells for itself: it may be
+/// open to all where the program's own isn't.
+std::string Datenimport::Projektordner() const {
+    const std::string daneben = start_.Programmordner + "/Genogramme";
+    std::error_code fehler;
+    const bool da = std::filesystem::exists(daneben, fehler);
+    const bool geht = da ? IstBeschreibbar(daneben) : IstFürDateien(start_.Programmordner);
+    return geht ? daneben : start_.Dokumentordner + "/Genogramme";
+}
+
 /// Of the forms that have no switch, "-i " and "\t " can't be met, since eleven characters are compared with three
 /// and a trimmed line ends in no blank; they would do nothing. Meant.
 void Datenimport::Startaufruf() {
     if (Getrimmt(start_.Kommandozeile).empty()) return;
     const std::string zeile = OhneAnführung(start_.Kommandozeile);
-    const std::string ordner = start_.Programmordner + "/";
-    projekt_.Projektdatei = ordner + "Genogramme/" + Zeichenfolge(zeile, NameAb, Namenslänge) + ".kwp";
+    const std::string fall = Fallname(zeile);
+    projekt_.Projektdatei = Projektordner() + "/" + AlsDateiname(fall) + ".kwp";
     if (DateiVorhanden(projekt_.Projektdatei)) {
         projekt_.ImportModus = true;
         projekt_.Öffnen(projekt_.Projektdatei);
     } else if (IstSchalter(zeile.substr(0, Schalterlänge))) {
         projekt_.ImportModus = true;
-        DatenEinlesen(ordner + std::string(Getrimmt(std::string_view(zeile).substr(Schalterlänge))));
+        DatenEinlesen(start_.Programmordner + "/" + fall);
         ListeFüllen();
     } else if (zeile.ends_with(".kwp")) {
         std::string datei = start_.Kommandozeile;
@@ -82,6 +86,7 @@ void Datenimport::FallEinlesen(const std::string &datei) {
     }
     for (const std::string &person : ImportPersonen(daten, ziel_.ansicht.SeitenBreite))
         ziel_.dokument.cboPersonen.Anhängen(person);
+    DoppelnummernAuflösen(ziel_.dokument); // "1" and "01" are two keys
 }
 
 void Datenimport::DatenEinlesen(const std::string &basis) {

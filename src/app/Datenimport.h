@@ -18,7 +18,8 @@ struct Startangaben;
 struct Werkbank;
 
 /// Persons that another application hands over: the command line's forms, the data of a case laid out as a first
-/// picture, and a list of persons to drag onto the page. Owned by the main window. Files stand in the program's folder.
+/// picture, and a list of persons to drag onto the page. Owned by the main window. These files stand in the program's
+/// folder; a case's project is saved under the case's name beside them, or where the user may write.
 class Datenimport {
   public:
     /// What a case's data fill.
@@ -49,6 +50,7 @@ class Datenimport {
     void Ablegen(Werkbank &w, int zeile, double x, double y) const;
 
   private:
+    std::string Projektordner() const;
     void FallEinlesen(const std::string &datei);
 
     const Startangaben &start_;

@@ -54,7 +54,7 @@ void Projekt::ProjektLaden() {
 }
 
 /// One error target for the whole reading: what fails leaves what was read so far. The lists of free
-/// numbers are rebuilt at the end only, so a failed load leaves them as they were.
+/// numbers are rebuilt at the end only, so a failed load leaves them empty.
 void Projekt::InhaltLesen() {
     Dokument &dokument = inhalt_.dokument;
     std::string inhalt;
@@ -83,6 +83,7 @@ void Projekt::RingUndAuswahlLeeren() {
 
 void Projekt::Öffnen(const std::string &datei) {
     RingUndAuswahlLeeren();
+    FreieNummernLeeren(); // those of the project before may be in use in this one, which need not say its own
     Projektdatei = datei;
     ProjektLaden();
 }
@@ -184,15 +185,16 @@ void Projekt::mnuNeu() {
 
 void Projekt::mnuRecent(int platz) {
     if (platz < 1 || platz > Chronik::Plätze) return;
-    const std::string datei = inhalt_.zuletzt[platz];
-    if (Titel == datei) return; // so only just after a save under that name
+    const std::string datei = inhalt_.zuletzt[platz]; // saving can move the list
+    if (Titel == datei) return;                       // so only just after a save under that name
     if (!DateiVorhanden(datei)) {
         umfeld_.benutzer.Fragen({Text(FehltTitel), Text(FehltText), Knöpfe::Ok, Zeichen::Warnung});
         return;
     }
-    FreieNummernLeeren();
+    SpeichernAbgebrochen = false;
+    if (!NachÄnderungenFragen()) return;
     Öffnen(datei);
-    inhalt_.zuletzt.Vorziehen(platz);
+    inhalt_.zuletzt.Vorziehen(datei);
     umfeld_.anzeige.ChronikZeigen();
 }
 

@@ -51,7 +51,7 @@ class Projekt {
     /// Loads `Projektdatei`. Any failure leaves what was read so far and says nothing; the file's name is
     /// in the title and the document counts as unchanged.
     void ProjektLaden();
-    /// The same for another file, the undo ring and the selection emptied first.
+    /// The same for another file, the undo ring, the selection and the free numbers emptied first.
     void Öffnen(const std::string &datei);
     /// Writes `Projektdatei`. The result of the write isn't looked at: a file that can't be written gives
     /// no message, and the document counts as saved. Meant.
@@ -64,8 +64,8 @@ class Projekt {
     /// A new project, empty and counted as unchanged. Nothing happens when the question about changes is cancelled.
     /// Texts and circle lines on the program's clipboard can be pasted into it, the rest of the clipboard goes. Meant.
     void mnuNeu();
-    /// Opens entry `platz`, 1 to 4, of the recent files, which comes to the first place. Unsaved changes are dropped
-    /// without a question. Meant.
+    /// Opens entry `platz`, 1 to 4, of the recent files, which comes to the first place. Asks about changes, once it
+    /// is sure that the file is there.
     void mnuRecent(int platz);
     /// Empties stores and free numbers.
     void DokumentLeeren();

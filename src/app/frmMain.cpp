@@ -39,7 +39,8 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       druck(plattform.drucker, plattform.benutzer, ansicht, dokument),
       anzeige(bedienung, {dokument, ansicht, auswahl, lage, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster,
                           druck, import}),
-      darstellung(ansicht, dokument, cboRaster, bereich, anzeige, *this), hinweis(bedienung, plattform.benutzer),
+      darstellung(ansicht, dokument, cboRaster, bereich, anzeige, plattform.drucker, *this),
+      hinweis(bedienung, plattform.benutzer),
       bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
       projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt},
               {ansicht, anzeige, plattform.benutzer, *this, *this, [this] { NichtsAuswählen(werkbank); }},
@@ -64,7 +65,7 @@ void frmMain::Laden() {
     // follow the scheme of the last run: that mismatch is meant.
     dokument.Seitenlage = 2;
     ansicht.Farbschema = SchemaFarbig;
-    anzeige.SeiteZeigen();
+    darstellung.SeiteÜbernehmen();
     bereich.GrößeÄndern(start.BildschirmBreite, start.BildschirmHöhe);
     if (!einstellungen.Werkzeugleiste) darstellung.WerkzeugleisteUmschalten();
     Sichern();
@@ -111,13 +112,26 @@ void frmMain::DruckerErmitteln() {
 }
 
 bool frmMain::Schließen() {
-    projekt.SpeichernAbgebrochen = false;
     const bool gefragt = projekt.Geändert;
-    if (!projekt.NachÄnderungenFragen()) return false;
+    if (!SitzungBeenden()) return false;
     if (gefragt) anzeige.UndoKnöpfeSperren();
+    return true;
+}
+
+bool frmMain::SitzungBeenden() {
+    projekt.SpeichernAbgebrochen = false;
+    if (!projekt.NachÄnderungenFragen()) return false;
     EinstellungenSichern();
     return true;
 }
+
+void frmMain::Beenden() {
+    ArbeitBehalten();
+    EinstellungenSichern();
+}
+
+/// The one place on the road of an end without a question. As yet nothing keeps unsaved work.
+void frmMain::ArbeitBehalten() {}
 
 void frmMain::EinstellungenSichern() {
     projekt.IniDatei = start.IniDatei;

@@ -54,6 +54,13 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     /// The close request. False when the user or a cancelled save keeps the program open; true when the
     /// settings are written and the window may go.
     bool Schließen();
+    /// The desktop asks before its session ends: the closing question. False when the user or a cancelled save keeps
+    /// the session. True when the settings are written and `Beenden` may come; another program can still keep the
+    /// session.
+    bool SitzungBeenden();
+    /// The system ends the program: nobody is asked, nothing is saved over the user's project, the settings are
+    /// written.
+    void Beenden();
 
     /// A timer that was started under this name has run out. Unknown names do nothing.
     void ZeitgeberAbgelaufen(std::string_view name);
@@ -108,6 +115,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void ZeitgeberStellen();
     void SpracheErfragen();
     void DatenÜbernehmen();
+    void ArbeitBehalten();
     void EinstellungenSichern();
     Zeichnung DasBild() const;
     void Übernehmen(const Zeichenbefund &befund);

@@ -66,8 +66,10 @@ void frmSeiteEinrichten::Bestätigen() {
         w.dokument.Papiercode = Papierfolge.at(static_cast<size_t>(i));
     const int lage = (*this)["Option1"].Value ? Hochformat : Querformat;
     if (umgebung_.drucker.DeviceName()) umgebung_.drucker.OrientationSetzen(lage);
-    w.dokument.Seitenlage = lage;
-    if (vorher != std::pair(w.dokument.Papiercode, lage)) w.fenster.AlsGeändertMerken(); // the project holds the page
+    // What a file says beyond the two stays as long as it means the same.
+    if ((lage == Hochformat) != (w.dokument.Seitenlage == Hochformat)) w.dokument.Seitenlage = lage;
+    if (vorher != std::pair(w.dokument.Papiercode, w.dokument.Seitenlage))
+        w.fenster.AlsGeändertMerken(); // the project holds the page
     umgebung_.dienste.SeiteAnwenden();
     w.fenster.Vorschau();
     Schließen();

@@ -6,7 +6,8 @@ namespace kw {
 
 struct Dialogumgebung;
 
-/// Paper, orientation, and whether the printable area is shown. The orientation shown is the printer's.
+/// Paper, orientation, and whether the printable area is shown. The orientation shown is the printer's, which follows
+/// the document's. OK with nothing changed changes nothing.
 class frmSeiteEinrichten : public Formular {
   public:
     explicit frmSeiteEinrichten(Dialogumgebung &umgebung);

@@ -17,12 +17,12 @@ void Chronik::Aktualisieren(std::string_view projektdatei) {
 void Chronik::Eintragen(std::string_view projektdatei) {
     if (Enthält(projektdatei)) return;
     pfade_.back() = projektdatei;
-    Vorziehen(Plätze);
+    Vorziehen(projektdatei);
 }
 
-void Chronik::Vorziehen(int platz) {
-    if (platz < 1 || platz > Plätze) return;
-    std::rotate(pfade_.begin(), pfade_.begin() + platz - 1, pfade_.begin() + platz);
+void Chronik::Vorziehen(std::string_view pfad) {
+    const auto platz = std::find(pfade_.begin(), pfade_.end(), pfad);
+    if (platz != pfade_.end()) std::rotate(pfade_.begin(), platz, platz + 1);
 }
 
 } // namespace kw

@@ -23,8 +23,8 @@ class Chronik {
     void Aktualisieren(std::string_view projektdatei);
     /// After a save or an opening by the menu: the same, whatever the path is.
     void Eintragen(std::string_view projektdatei);
-    /// Brings the path at `platz` to position 1; those above it move one down.
-    void Vorziehen(int platz);
+    /// Brings a path that is in the list to position 1; those above it move one down.
+    void Vorziehen(std::string_view pfad);
 
   private:
     std::array<std::string, Plätze> pfade_;

@@ -253,6 +253,31 @@ bool DateiVorhanden(const std::string &pfad) {
     return ::stat(pfad.c_str(), &angaben) == 0 && !S_ISDIR(angaben.st_mode);
 }
 
+bool IstBeschreibbar(const std::string &ordner) {
+    struct stat angaben {};
+    return ::stat(ordner.c_str(), &angaben) == 0 && S_ISDIR(angaben.st_mode) &&
+           ::access(ordner.c_str(), W_OK | X_OK) == 0;
+}
+
+bool IstFürDateien(const std::string &ordner) {
+    constexpr std::string_view System[] = {"/usr", "/bin", "/sbin", "/lib", "/opt", "/snap", "/app", "/nix"};
+    for (const auto system : System)
+        if (ordner == system || ordner.starts_with(std::string(system) + "/")) return false;
+    return IstBeschreibbar(ordner);
+}
+
+std::string AlsDateiname(std::string_view text) {
+    constexpr std::string_view Unmöglich = "%/\\:*?\"<>|";
+    constexpr std::string_view Ziffern = "0123456789ABCDEF";
+    std::string name;
+    for (const char zeichen : text) {
+        const auto c = static_cast<unsigned char>(zeichen);
+        if (c >= ' ' && Unmöglich.find(zeichen) == std::string_view::npos) name += zeichen;
+        else name.append({'%', Ziffern[c / Ziffern.size()], Ziffern[c % Ziffern.size()]});
+    }
+    return name;
+}
+
 Dateibefund DateiLesen(const std::string &pfad, std::string &inhalt) {
     try {
         inhalt = Lesen(pfad);

@@ -20,6 +20,13 @@ std::string Kennung(std::string_view name);
 /// or a number behind the last point ("Berg 3.11.2026") is none.
 std::string MitKennung(const std::string &datei, std::string_view kennung, bool alle);
 bool DateiVorhanden(const std::string &pfad);
+/// Whether `ordner` is a folder that can be written.
+bool IstBeschreibbar(const std::string &ordner);
+/// The same, but for the system's own folders, where no program keeps its files whoever runs it.
+bool IstFürDateien(const std::string &ordner);
+/// Any text as the name of a file, without folders: what a name can't hold here or elsewhere stands as "%2F", so that
+/// different texts give different names.
+std::string AlsDateiname(std::string_view text);
 
 /// The outcome of reading or writing a file. `Meldung` is empty on success, else one plain line without
 /// the file's name ("No space left on device").

@@ -4,10 +4,7 @@
 #include "document/Papier.h"
 #include "document/Zahlen.h"
 
-#include <array>
 #include <filesystem>
-
-#include <unistd.h>
 
 namespace kw {
 
@@ -18,13 +15,6 @@ constexpr std::string_view Abschnitt = "DEFAULT";
 std::string OderSonst(const std::string &wert, const std::string &sonst) { return wert.empty() ? sonst : wert; }
 
 std::string LetzterPfadSchlüssel(int platz) { return "lastpath_" + std::to_string(platz); }
-
-bool IstSystemordner(const std::string &ordner) {
-    constexpr std::array<std::string_view, 8> System{"/usr", "/bin", "/sbin", "/lib", "/opt", "/snap", "/app", "/nix"};
-    for (const auto system : System)
-        if (ordner == system || ordner.starts_with(std::string(system) + "/")) return true;
-    return false;
-}
 
 /// A folder that can't be made loses the settings, as one without permission does.
 void OrdnerAnlegen(const std::string &datei) {
@@ -48,7 +38,8 @@ Einstellungen EinstellungenLesen(const Profil &profil) {
     e.Farbschema = zahl("clscheme");
     e.Altersanzeige = zahl("agedisplay");
     e.Raster = text("gridsize") == "1" ? 1 : 0;
-    e.Werkzeugleiste = text("toolbar") == "1";
+    const std::string leiste = text("toolbar");
+    e.Werkzeugleiste = leiste.empty() || leiste == "1";
     e.OhneSprache = text("language").empty();
     e.Sprache = SpracheAus(text("language"));
     for (int platz = 1; platz <= Chronik::Plätze; ++platz) e.Zuletzt.Setzen(platz, text(LetzterPfadSchlüssel(platz)));
@@ -75,11 +66,7 @@ void EinstellungenEintragen(const Einstellungen &e, Profil &profil) {
 
 Einstellungen EinstellungenAus(const std::string &datei) {
     std::string inhalt;
-    if (!DateiVorhanden(datei)) {
-        Einstellungen e;
-        e.Werkzeugleiste = true; // the very first start shows the palette
-        return e;
-    }
+    if (!DateiVorhanden(datei)) return {};
     DateiLesen(datei, inhalt);
     return EinstellungenLesen(Profil(std::move(inhalt)));
 }
@@ -101,7 +88,7 @@ void EinstellungFesthalten(const std::string &datei, std::string_view schlüssel
 std::string EinstellungsDatei(const std::string &programmordner, const std::string &konfigordner) {
     const std::string daneben = programmordner + "/prog.ini";
     if (DateiVorhanden(daneben)) return daneben;
-    if (!IstSystemordner(programmordner) && ::access(programmordner.c_str(), W_OK) == 0) return daneben;
+    if (IstFürDateien(programmordner)) return daneben;
     return konfigordner + "/prog.ini";
 }
 

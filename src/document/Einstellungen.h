@@ -21,7 +21,7 @@ struct Einstellungen {
     int Farbschema = 0;
     int Altersanzeige = 0;
     int Raster = 0; ///< list position of `cboRaster`; a third entry comes back as the first. Meant.
-    bool Werkzeugleiste = false;
+    bool Werkzeugleiste = true;
     int Zoom = 2; ///< list position, written only
     kw::Sprache Sprache = kw::Sprache::Englisch;
     bool OhneSprache = true; ///< none has been chosen yet

@@ -1,5 +1,6 @@
 #include "document/ProjektDatei.h"
 
+#include "document/Doppelnummern.h"
 #include "document/Felder.h"
 #include "document/Papier.h"
 #include "document/Zahlen.h"
@@ -40,9 +41,7 @@ std::string PersonMitCode(std::string_view satz, std::string_view code) {
 }
 
 std::string PersonAusDatei(std::string_view wert) {
-    const PersonSatz person(wert);
-    if (!person.Vollständig()) throw FeldFehlt();
-    return PersonMitCode(wert, CodeImSpeicher(person.Symboltyp()));
+    return PersonMitCode(wert, CodeImSpeicher(PersonSatz(wert).Symboltyp()));
 }
 
 /// Missing fields are written empty.
@@ -60,6 +59,18 @@ std::string OhneBlanks(std::string satz) {
 int SatzAnzahl(const Profil &profil, std::string_view abschnitt) {
     const auto liste = profil.SchlüsselListe(abschnitt);
     return static_cast<int>(std::count(liste.begin(), liste.end(), '\0'));
+}
+
+/// False when a person is too short: what was read before it stays.
+bool AbschnittLesen(const Profil &profil, const SpeicherZeile &zeile, Dokument &dokument) {
+    const bool personen = zeile.Liste == &Dokument::cboPersonen;
+    const int anzahl = SatzAnzahl(profil, zeile.Abschnitt);
+    for (int i = 0; i < anzahl; ++i) {
+        auto wert = profil.Lesen(zeile.Abschnitt, std::to_string(i));
+        if (personen && !PersonSatz(wert).Vollständig()) return false;
+        (dokument.*zeile.Liste).Anhängen(personen ? PersonAusDatei(wert) : std::move(wert));
+    }
+    return true;
 }
 
 const char *Flagge(bool wert) { return wert ? "1" : "0"; }
@@ -162,15 +173,10 @@ void SeiteLesen(const Profil &profil, Dokument &dokument) {
 
 void SpeicherLesen(const Profil &profil, Dokument &dokument) {
     dokument.SpeicherLeeren();
-    for (const auto &zeile : SpeicherTabelle) {
-        auto &speicher = dokument.*zeile.Liste;
-        const bool personen = zeile.Liste == &Dokument::cboPersonen;
-        const int anzahl = SatzAnzahl(profil, zeile.Abschnitt);
-        for (int i = 0; i < anzahl; ++i) {
-            auto wert = profil.Lesen(zeile.Abschnitt, std::to_string(i));
-            speicher.Anhängen(personen ? PersonAusDatei(wert) : std::move(wert));
-        }
-    }
+    const bool ganz = std::all_of(SpeicherTabelle.begin(), SpeicherTabelle.end(),
+                                  [&](const SpeicherZeile &zeile) { return AbschnittLesen(profil, zeile, dokument); });
+    DoppelnummernAuflösen(dokument); // also of what was read before a damage
+    if (!ganz) throw FeldFehlt();
 }
 
 void LegendeLesen(const Profil &profil, Dokument &dokument) {

@@ -16,7 +16,8 @@ void SeiteLesen(const Profil &profil, Dokument &dokument);
 
 /// Empties the stores and reads them, persons first. Records are fetched by position, as many as the key
 /// list has names, so a gap in the keys is an empty record. A person with fewer than 14 fields throws
-/// `FeldFehlt` and ends the load: what was read up to it is left, and there are no lines and texts.
+/// `FeldFehlt` and ends the load: what was read up to it is left, and there are no lines and texts. Numbers that stand
+/// twice in the file stand once afterwards.
 void SpeicherLesen(const Profil &profil, Dokument &dokument);
 
 /// The legend's place and form. Throws `FeldFehlt` when there are fewer fields than these need, as in old

@@ -5,7 +5,6 @@
 #include "rendering/Zeichenflaeche.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 namespace kw {
@@ -20,11 +19,6 @@ constexpr int LuftHöhe = 600;
 constexpr int PaletteUndRand = 2620; ///< what of the inner width isn't the frame's
 constexpr int PalettenBreite = 960;
 constexpr int LetzterEinfacherZoom = 7; ///< 150 %; above it lines are twice as wide
-
-int Höchstwert(int canvas, int rahmen) {
-    return std::clamp<int>(canvas + Überlauf - rahmen, std::numeric_limits<std::int16_t>::min(),
-                           std::numeric_limits<std::int16_t>::max());
-}
 
 } // namespace
 
@@ -107,6 +101,7 @@ void Arbeitsbereich::GrößeÄndern(int breite, int höhe) {
 void Arbeitsbereich::WerkzeugleisteZeigen() {
     picBack.Left = PalettenBreite;
     picBack.Width = breite_ - PalettenBreite;
+    BildlaufleistenSetzen(); // what was zoomed beneath a wider frame would end short of the far edge
     ArbeitsbereichAnordnen();
 }
 
@@ -118,8 +113,8 @@ void Arbeitsbereich::WerkzeugleisteVerbergen() {
 }
 
 void Arbeitsbereich::BildlaufleistenSetzen() {
-    VScroll1.Max = Höchstwert(canvas_.Height(), picBack.Height);
-    HScroll1.Max = Höchstwert(canvas_.Width(), picBack.Width);
+    VScroll1.Max = canvas_.Height() + Überlauf - picBack.Height;
+    HScroll1.Max = canvas_.Width() + Überlauf - picBack.Width;
 }
 
 /// A canvas that fits is centred and has no scroll bar; one that doesn't goes back to its resting place.

@@ -20,9 +20,7 @@ struct Steuerfläche {
 };
 
 struct Bildlaufleiste : Steuerfläche {
-    /// 16 bits, so held at 32767: at great zooms in a small window the far edge can't be scrolled to. Negative
-    /// while the canvas is smaller than the frame.
-    int Max = 0;
+    int Max = 0; ///< some way beyond the page, however large that is; negative while the frame is larger
     int Value = 0;
 };
 

@@ -52,12 +52,12 @@ class Drucker {
     virtual std::optional<std::string> DeviceName() const = 0;
     /// The default printer, never the one that writes PDF.
     virtual Druckervorgabe Vorgabe() const = 0;
-    /// 1 portrait, 2 landscape, as the current printer stands.
+    /// 1 portrait, 2 landscape, as the current printer stands: as the program last turned one, at first portrait.
     virtual int Orientation() const = 0;
     /// All installed printers, in the platform's order, and the one that writes PDF as the last.
     virtual std::vector<std::string> DeviceNames() const = 0;
-    /// Makes that printer the current one, as its own settings have it. False, and nothing changed, when there is none
-    /// of that name (any more).
+    /// Makes that printer the current one, turned as the one before. False, and nothing changed, when there is none of
+    /// that name (any more).
     virtual bool Wählen(std::string_view deviceName) = 0;
     /// Turns the current printer: 1 portrait, 2 landscape.
     virtual void OrientationSetzen(int lage) = 0;

@@ -138,6 +138,11 @@ constexpr Skriptbefehl Tabelle[] = {
      [](auto &lauf, auto &w, auto &) { lauf.Läuft().innen.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
     {"close",
      [](auto &lauf, auto &, auto &) { lauf.aus << (lauf.Läuft().haupt->Schließen() ? "closed\n" : "open\n"); }},
+    {"logout",
+     [](auto &lauf, auto &, auto &) {
+         lauf.aus << (lauf.Läuft().haupt->SitzungBeenden() ? "session ends\n" : "session stays\n");
+     }},
+    {"terminate", [](auto &lauf, auto &, auto &) { lauf.Läuft().haupt->Beenden(); }},
     {"wait", [](auto &lauf, auto &w, auto &) { Warten(lauf.Läuft(), Zahl(Wort(w, 1))); }},
     {"raise", [](auto &lauf, auto &w, auto &) { ZeitgeberAuslösen(lauf.Läuft(), Wort(w, 1)); }},
 };

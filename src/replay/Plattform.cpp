@@ -114,7 +114,6 @@ bool DrehbuchDrucker::Wählen(std::string_view deviceName) {
     const auto i = std::find(Namen.begin(), Namen.end(), deviceName);
     if (i == Namen.end()) return false;
     gewählt_ = static_cast<size_t>(i - Namen.begin());
-    lage_ = 1;
     return true;
 }
 

@@ -44,7 +44,8 @@ using Angaben = std::map<std::string, std::string>;
 
 /// What the line says beyond the defaults.
 Angaben AngabenAus(const Wörter &w) {
-    constexpr std::string_view Bekannt[] = {"ini", "cmd", "today", "screen", "printers", "margins", "locale"};
+    constexpr std::string_view Bekannt[] = {"ini",      "cmd",     "today",  "screen",
+                                            "printers", "margins", "locale", "documents"};
     Angaben angaben{{"today", "2026-03-12"}, {"screen", "1920x1080"}, {"locale", "de"}};
     for (size_t i = 1; i < w.size(); ++i) {
         std::string_view rest = w[i];
@@ -124,6 +125,7 @@ void Wiedergabe::Starten(const Wörter &w) {
     // The program stands beside settings that a script names, else where the script runs.
     start.Programmordner = std::filesystem::path(angaben["ini"]).parent_path().string();
     if (start.Programmordner.empty()) start.Programmordner = ".";
+    start.Dokumentordner = angaben.contains("documents") ? angaben["documents"] : ordner_;
     start.Hilfeordner = "/usr/share/kinwright/help";
     start.BildschirmBreite = Zahl(Wort(bild, 0)) * TwipsJePixel;
     start.BildschirmHöhe = Zahl(Wort(bild, 1)) * TwipsJePixel;

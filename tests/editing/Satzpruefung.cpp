@@ -3,6 +3,7 @@
 #include "app/Projekt.h"
 #include "app/Startangaben.h"
 #include "commands/Menuetafel.h"
+#include "document/Doppelnummern.h"
 #include "document/saetze/Satz.h"
 #include "editing/Leinwand.h"
 #include "output/Arbeitsbereich.h"
@@ -71,7 +72,6 @@ struct Verlangt {
     bool Startet() const { return Beginnt("start", "profil"); }
     bool Neu() const { return Ist("mnuNeu", "btnNeuesProjekt"); }
     bool WähltDatei() const { return Ist("mnuÖffnen", "btnÖffnen"); }
-    bool FragtNachÄnderungen() const { return Neu() || WähltDatei(); }
     bool Öffnet() const { return Neu() || WähltDatei() || Befehl.starts_with("mnuRecent"); }
     bool Zoomt() const { return Beginnt("wheel") || In("btnZoom") || Ist("btnBildGrößer", "btnBildKleiner"); }
     /// Chosen where all shows, saves or prints, and none of those that do something all the same.
@@ -99,7 +99,7 @@ struct Schrittregel {
 // clang-format off
 constexpr Schrittregel Schrittregeln[] = {
     {"cancelled, but goes on", [](const Schritt &s, const Verlangt &v) {
-         const bool gefragt = s.Alt.geändert && v.FragtNachÄnderungen();
+         const bool gefragt = s.Alt.geändert && v.Öffnet();
          const bool abgebrochen =
              gefragt ? v.Beginnt("answer cancel\n") : v.WähltDatei() && v.Beginnt("answer file cancel\n");
          return !abgebrochen || (s.Alt.geändert == s.Neu.geändert && Unterschied(s.Alt, s.Neu).empty()); }},
@@ -124,6 +124,8 @@ constexpr Schrittregel OhneSicherung[] = {
 /// What takes a snapshot though nothing has changed since the last one.
 constexpr Schrittregel SichertImmer[] = {
     {"a size command", [](const Schritt &, const Verlangt &v) { return v.In("mnuSymbolGröße"); }},
+    {"a project that is opened, though it is the same",
+     [](const Schritt &s, const Verlangt &v) { return v.Öffnet() && s.Neu.ring.UndoFüllung() == 1; }},
     {"a form that is confirmed",
      [](const Schritt &, const Verlangt &v) { return v.Zeile.find("form ") != std::string::npos; }},
 };
@@ -248,10 +250,12 @@ std::string Prüfung::Rückschrittfehler(bool zurück) {
 std::string Prüfung::Projektfehler(bool neu) {
     Wiedergabe frisch(aus_);
     if (!neu) frisch.Zeile("load " + jetzt_.projektdatei);
-    const Dokument soll = StandVon(frisch.Läuft().innen).dokument, &d = jetzt_.dokument;
+    const Dokument soll = StandVon(frisch.Läuft().innen).dokument;
+    Dokument d = jetzt_.dokument;
+    DoppelnummernAuflösen(d); // as every load does
     const auto seite = [](const Dokument &x) { return std::tie(x.Papiercode, x.Seitenlage, x.LegendeSichtbar); };
     const bool gleich = Unterschied(soll, d).empty() && (neu || seite(soll) == seite(d));
-    const bool frei = Frei(soll) == Frei(d) || (!neu && soll.GleicheSätze({})); // no project: they stay
+    const bool frei = Frei(soll) == Frei(d);
     const bool ruht = jetzt_.auswahl.Leer() && jetzt_.lage.Aktion == Aktion::Nichts;
     return gleich && (zeile_.starts_with("save") || (frei && ruht)) ? "" : "another project than it should be";
 }

@@ -45,7 +45,7 @@ constexpr std::string_view Handlungen[] = {
     "move %x|key Del|move %x|up %=", "save zufall.kwp|load zufall.kwp", "pick cboRaster 2", "tool 10|%Tclick %e",
     "click %x|%fdblclick %=\nwait 100", "click %x|%fdblclick %=\nwait 100", "click %x|%fpopup %o\nrclick %=", "%c|%A%c",
     "%fdblclick %=\nwait 100|%fwait 100", "%A%A%A%c|%c", "drop 0 %e", "%A%A%Apress mnuNeu", "%A%Apress mnuBeenden|%s",
-    "%A%A%Apress mnuÖffnen", "press mnuRecent(1)", "press mnuRecent(2)", "%A%Apress mnuSichernUnter", "drop 1 %e",
+    "%A%A%Apress mnuÖffnen", "%Apress mnuRecent(1)", "%Apress mnuRecent(2)", "%A%Apress mnuSichernUnter", "drop 1 %e",
     "press btnAuswahlZuBild|%A%Adrag %e %e", "press btnClipboard|%Adrag %x %e", "%A%Apress mnuExportieren", "hover %t",
     "press btnClipboard|down left %x|move %x|%c|move %x|up %=", "press btnClipboard|%A%c|%Adrag %x %e",
 };

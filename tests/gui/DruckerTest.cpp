@@ -18,11 +18,9 @@ using namespace kw;
 
 namespace {
 
-const std::string Satz = "001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__"; // as a constant GCC 12 finds it overread
-
 class EingebauterDrucker : public testing::Test {
   protected:
-    EingebauterDrucker() { bild.dokument.cboPersonen.Anhängen(Satz); }
+    EingebauterDrucker() { bild.dokument.cboPersonen = {"001_1_5_5_1.2_0__0_0_Jörg_Größmann_1950__"}; }
 
     void Drucken(int papier, int lage, bool farbig) {
         bild.dokument.Papiercode = papier;

@@ -70,7 +70,6 @@ bool QtDrucker::Wählen(std::string_view deviceName) {
         if (!stand.Beantwortet || !stand.Namen.contains(name)) return false;
     }
     gewählt_ = name;
-    lage_ = Hochformat;
     return true;
 }
 

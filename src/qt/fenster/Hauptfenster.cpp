@@ -33,8 +33,13 @@ namespace {
 
 Startangaben Angaben(const std::string &kommandozeile) {
     const QSize bildschirm = QGuiApplication::primaryScreen()->size();
-    return {kommandozeile, EinstellungsDateiDesBenutzers(),   QCoreApplication::applicationDirPath().toStdString(),
-            Hilfeordner(), bildschirm.width() * TwipsJePixel, bildschirm.height() * TwipsJePixel};
+    return {kommandozeile,
+            EinstellungsDateiDesBenutzers(),
+            QCoreApplication::applicationDirPath().toStdString(),
+            Hilfeordner(),
+            bildschirm.width() * TwipsJePixel,
+            bildschirm.height() * TwipsJePixel,
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString()};
 }
 
 struct Knopfreihe {
@@ -73,6 +78,11 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
     if (art == QFileDialog::AcceptOpen) return datei;
     // As the platform's dialogs do; the question about replacing then names it whole.
     return MitKennung(datei, Kennung(wahl.Filter), wahl.Erlaubt == Dateiwahl::Kennungen::Alle);
+}
+
+void PopupsSchließen() {
+    while (QWidget *popup = QApplication::activePopupWidget())
+        if (!popup->close()) break;
 }
 
 } // namespace
@@ -139,9 +149,13 @@ void Hauptfenster::Anzeigen() {
 
 void Hauptfenster::closeEvent(QCloseEvent *ereignis) {
     ereignis->setAccepted(haupt_.Schließen());
-    if (!ereignis->isAccepted()) return;
-    while (QWidget *popup = QApplication::activePopupWidget()) // its loop would keep the program alive
-        if (!popup->close()) break;
+    if (ereignis->isAccepted()) PopupsSchließen(); // their loops would keep the program alive
+}
+
+bool Hauptfenster::SitzungBeenden() {
+    PopupsSchließen(); // they would keep the pointer from the question
+    NachVorn();
+    return haupt_.SitzungBeenden();
 }
 
 void Hauptfenster::NachVorn() {

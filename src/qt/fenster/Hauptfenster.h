@@ -48,6 +48,9 @@ class Hauptfenster : public QMainWindow, public Benutzer {
 
     /// Another start wants this window seen.
     void NachVorn();
+    /// The session's end, as the model has it; the question stands before all else.
+    bool SitzungBeenden();
+    void Beenden() { haupt_.Beenden(); }
 
   protected:
     void closeEvent(QCloseEvent *ereignis) override;

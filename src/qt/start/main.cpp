@@ -6,6 +6,7 @@
 #include "qt/grund/QtPlattform.h"
 #include "qt/start/Aufruf.h"
 #include "qt/start/Einzelinstanz.h"
+#include "qt/start/Sitzungsende.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -85,6 +86,7 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     PlattformtexteLaden(plattformtexte);
     Hauptfenster fenster(Kommandozeile(aufruf));
     instanz.BeiWeiteremStart([&fenster] { fenster.NachVorn(); });
+    const Sitzungsende ende({[&fenster] { return fenster.SitzungBeenden(); }, [&fenster] { fenster.Beenden(); }});
     fenster.show();
     return QApplication::exec();
 }
