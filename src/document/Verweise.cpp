@@ -8,8 +8,9 @@
 #include "document/saetze/Person.h"
 
 #include <algorithm>
-#include <set>
+#include <functional>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace kw {
@@ -41,14 +42,18 @@ class Nummernmenge {
     }
 
   private:
-    std::set<std::string, std::less<>> nummern_;
-    std::set<double> werte_;
+    struct Streuung : std::hash<std::string_view> {
+        using is_transparent = void;
+    };
+    std::unordered_set<std::string, Streuung, std::equal_to<>> nummern_;
+    std::unordered_set<double> werte_;
 };
 
 void PositionenEntfernen(Satzliste &speicher, const std::vector<int> &positionen) {
-    const std::set<int> weg(positionen.begin(), positionen.end());
-    int i = 0;
-    speicher.EntfernenWenn([&](const std::string &) { return weg.contains(i++); });
+    std::vector<bool> weg(static_cast<size_t>(speicher.Anzahl()));
+    for (const int i : positionen) weg[static_cast<size_t>(i)] = true;
+    size_t i = 0;
+    speicher.EntfernenWenn([&](const std::string &) { return weg[i++]; });
 }
 
 /// The persons whose parents were those lines have none any more; nor the relationship records that join a pair of
@@ -111,9 +116,11 @@ bool PersonenEntfernen(Dokument &d, const std::vector<std::string> &nummern) {
     Nummernmenge menge;
     std::vector<int> positionen;
     std::vector<std::string> zwillinge;
+    std::vector<bool> schon(static_cast<size_t>(d.cboPersonen.Anzahl()));
     for (const auto &nr : nummern) {
         const int i = verzeichnis.Position(Nummer(nr));
-        if (i < 0 || std::find(positionen.begin(), positionen.end(), i) != positionen.end()) continue;
+        if (i < 0 || schon[static_cast<size_t>(i)]) continue;
+        schon[static_cast<size_t>(i)] = true;
         positionen.push_back(i);
         menge.Aufnehmen(nr);
         zwillinge.emplace_back(PersonSatz(d.cboPersonen.Satz(i), Lücken::Leer).ZwillingNr());
