@@ -166,8 +166,8 @@ bool Projekt::ProjektNeu() {
     Titel = "Kinwright";
     RingUndAuswahlLeeren(); // with it go the steps of undo and redo
     Zwischenablage &ablage = inhalt_.ablage;
-    for (Satzliste *liste : {&ablage.ZA_PLines, &ablage.ZA_Personen, &ablage.ZA_KindLinien, &ablage.ZA_Pfeile,
-                             &inhalt_.legende.lstLegende})
+    for (Satzliste *liste : {&ablage.ZA_PLines, &ablage.ZA_Personen, &ablage.ZA_KindLinien, &ablage.ZA_BeziehungsLinien,
+                             &ablage.ZA_Pfeile, &inhalt_.legende.lstLegende})
         liste->Leeren();
     inhalt_.dokument.LegendeX = LegendeStartX;
     inhalt_.dokument.LegendeY = LegendeStartY;

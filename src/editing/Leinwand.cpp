@@ -251,6 +251,7 @@ void Leinwand::MouseUp(int taste, double x, double y) {
 }
 
 void Leinwand::DblClick(double x, double y) {
+    if (w.lage.BildAuswahl) return; // a region is being dragged
     w.lage.MausX = x;
     w.lage.MausY = y;
     const int text = TextboxBei(w.dokument, x, y);

@@ -239,6 +239,7 @@ std::string Prüfung::Sicherungsfehler() {
 
 /// Undo and redo give back what the ring's slot was filled with.
 std::string Prüfung::Rückschrittfehler(bool zurück) {
+    if (jetzt_.lage.Gedrückt) return ""; // it was disabled, and the gesture goes on
     const int platz = jetzt_.ring.UndoPos();
     const int ziel = (alt_.ring.UndoPos() + (zurück ? UndoRing::UndoTiefe - 2 : 0)) % UndoRing::UndoTiefe + 1;
     if (platz != ziel) plätze_ = {{platz, jetzt_.dokument}}; // no step left, or it ended a gesture first
