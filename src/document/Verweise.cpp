@@ -56,6 +56,11 @@ void PositionenEntfernen(Satzliste &speicher, const std::vector<int> &positionen
     speicher.EntfernenWenn([&](const std::string &) { return weg[i++]; });
 }
 
+void ZwillingsmarkeLöschen(Dokument &d, std::string_view nr) {
+    const int person = nr.empty() ? -1 : PersonMitNr(d, nr);
+    if (person >= 0) d.cboPersonen.Ersetzen(person, PersonBau(d.cboPersonen.Satz(person)).Zwilling("").Text());
+}
+
 /// The persons whose parents were those lines have none any more; nor the relationship records that join a pair of
 /// identical twins.
 void KinderFreigeben(Dokument &d, const Nummernmenge &linien) {
@@ -66,7 +71,9 @@ void KinderFreigeben(Dokument &d, const Nummernmenge &linien) {
             Entfernen<BeziehungSatz>(d.cboBeziehungsLinien, [&](const BeziehungSatz &linie) {
                 return linie.Verbindet(kind.Nr(), kind.ZwillingNr());
             });
+        const std::string zwilling(kind.ZwillingNr());
         d.cboPersonen.Ersetzen(i, PersonBau(d.cboPersonen.Satz(i)).ElternLinie("").Zwilling("").Text());
+        ZwillingsmarkeLöschen(d, zwilling); // one with other parents too: a mark is of both or of none
     }
 }
 
@@ -82,11 +89,6 @@ void LinienEntfernen(Dokument &d, const std::vector<int> &positionen) {
     Entfernen<KindSatz>(d.cboKindlinien, [&](const KindSatz &linie) { return linien.Enthält(linie.PLinie()); });
     KinderFreigeben(d, linien);
     PositionenEntfernen(d.cboPartnerschaftsLinien, positionen);
-}
-
-void ZwillingsmarkeLöschen(Dokument &d, std::string_view nr) {
-    const int person = nr.empty() ? -1 : PersonMitNr(d, nr);
-    if (person >= 0) d.cboPersonen.Ersetzen(person, PersonBau(d.cboPersonen.Satz(person)).Zwilling("").Text());
 }
 
 /// Positions of the lines of those who go: person by person, from the last line on.
