@@ -151,7 +151,7 @@ void Anzeige::PaletteZeigen() {
         knopf.Checked = WerkzeugGedrückt(nummer, z_.lage);
         knopf.Enabled = WerkzeugBrauchbar(nummer, z_.dokument, z_.auswahl, z_.lage);
     }
-    bedienung_[Name::cmdDelete].Enabled = z_.lage.Aktion == Aktion::GruppeGewählt;
+    bedienung_[Name::cmdDelete].Enabled = z_.lage.Angebot.Löschen;
     bedienung_[Name::btnAuswahlZuBild].Checked = z_.lage.BildAuswahl && z_.lage.bAuswahlInDatei;
 }
 

@@ -147,7 +147,7 @@ constexpr Zeile Tabelle[] = {
     {Name::mnuEinfügen8, EinfügenImKontext},
     {Name::mnuLöschen1, Auf<mnuLöschen1>},
     {Name::mnuLöschen4, AuswahlLöschenImKontext},
-    {Name::cmdDelete, Auf<cmdDelete>},
+    {Name::cmdDelete, Auf<mnuLöschen1>},
 
     {Name::mnuEinfügenMännlich, Werkzeug, 1},
     {Name::mnuEinfügenWeiblich, Werkzeug, 2},

@@ -9,6 +9,7 @@
 #include "document/saetze/Textbox.h"
 #include "editing/Abwahl.h"
 #include "editing/Marker.h"
+#include "editing/Texte.h"
 #include "editing/Werkbank.h"
 #include "platform/Benutzer.h"
 
@@ -222,7 +223,8 @@ void frmKommentar::Command2_Click() {
     Werkbank &w = umgebung_.werkbank;
     if (neu_) w.dokument.cboTextboxen.Anhängen(Satz());
     else w.dokument.cboTextboxen.Ersetzen(position_, Satz());
-    MarkerEntfernen(w);
+    MarkerEntfernen(w); // its redraw measures the box
+    if (neu_) NeuenTextAufSeite(w.dokument, w.ansicht);
     w.fenster.Sichern();
     Schließen();
     Entladen(); // before the last redraw, which looks at the gesture

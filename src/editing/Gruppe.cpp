@@ -227,8 +227,4 @@ void mnuSymbolLöschen(Werkbank &w) {
     w.lage.Angebot.Löschen = false;
 }
 
-void cmdDelete(Werkbank &w) {
-    if (w.lage.Aktion == Aktion::GruppeGewählt) mnuLöschen1(w);
-}
-
 } // namespace kw

@@ -31,11 +31,9 @@ void GruppeLoslassen(Werkbank &w, const Ereignis &e);
 
 /// Everything in the selection lists, with all that names it; one snapshot.
 void AuswahlLöschen(Werkbank &w);
-/// The delete command: what is selected, as `Aktion` tells.
+/// The delete command, by key, menu and button: what is selected, as `Aktion` tells.
 void mnuLöschen1(Werkbank &w);
 /// Context menu of a person: the selected person with every line that names it, or the text box that was selected last.
 void mnuSymbolLöschen(Werkbank &w);
-/// The delete button of the palette: the same for a group.
-void cmdDelete(Werkbank &w);
 
 } // namespace kw

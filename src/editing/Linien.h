@@ -11,6 +11,7 @@
 // Partnership and relationship lines. Lines hold their own ends, so they are rewritten whenever a person moves.
 namespace kw {
 
+struct Ansicht;
 struct Auswahlkasten;
 struct Dokument;
 struct Ereignis;
@@ -55,8 +56,8 @@ using Paar = std::pair<int, int>;
 /// A partnership line between the two. False, and none made, when the same pair has one, in the same order, or is none.
 /// No snapshot.
 bool PartnerschaftAnlegen(Werkbank &w, Paar paar);
-/// A couple's line, whose bar hangs as far below the lower partner as every new one. Takes a number.
-void PaarVerbinden(Dokument &dokument, Paar paar);
+/// A couple's line, whose bar hangs as far below the lower partner as every new one, and on the page. Takes a number.
+void PaarVerbinden(Dokument &dokument, const Ansicht &ansicht, Paar paar);
 /// Takes the relationship line away again whose form has been left without OK, while `BeziehungZiehen` tells that it is
 /// new. No snapshot: there was none of it. A line that was there before stays.
 void BezLAbbrechen(Werkbank &w);

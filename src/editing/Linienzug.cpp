@@ -158,14 +158,15 @@ bool LinkBeenden(Werkbank &w, const Ereignis &) {
     return true;
 }
 
-void PaarVerbinden(Dokument &d, Paar paar) {
+void PaarVerbinden(Dokument &d, const Ansicht &ansicht, Paar paar) {
     const PersonSatz erster(d.cboPersonen.Satz(paar.first));
     const PersonSatz zweiter(d.cboPersonen.Satz(paar.second));
     PartnerschaftBau linie;
     linie.Nr(d.NeuePLinienNr()).PersNr1(erster.Nr()).PersNr2(zweiter.Nr());
     linie.BalkenX1(erster.PosX()).BalkenX2(zweiter.PosX());
     linie.Anschluss1(erster.PosX(), erster.PosY()).Anschluss2(zweiter.PosX(), zweiter.PosY());
-    linie.BalkenY(std::max(erster.PosY(), zweiter.PosY()) + BalkenAbstand);
+    const double y = std::max(erster.PosY(), zweiter.PosY()) + BalkenAbstand;
+    linie.BalkenY(y > ansicht.SeitenHöhe ? RasterY(ansicht, y) : y);
     d.cboPartnerschaftsLinien.Anhängen(linie.Text());
 }
 
@@ -181,7 +182,7 @@ bool PartnerschaftAnlegen(Werkbank &w, Paar paar) {
     }
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     const bool neu = PLinieVonNach(d, erster.Nr(), zweiter.Nr()) < 0;
-    if (neu) PaarVerbinden(d, paar);
+    if (neu) PaarVerbinden(d, w.ansicht, paar);
     else d.NeuePLinienNr(); // a number is taken for a pair that has a line already, and stays taken. Meant.
     w.fenster.Vorschau();
     return neu;

@@ -121,7 +121,7 @@ void ElternAnlegen(Werkbank &w) {
     Anhängen(w.dokument, TypMännlich, x, y, w.lage.SymbolGröße);
     Anhängen(w.dokument, TypWeiblich, RasterZehntel(w.ansicht, x + ElternAbstand), y, w.lage.SymbolGröße);
     const int mutter = w.dokument.cboPersonen.Anzahl() - 1;
-    PaarVerbinden(w.dokument, {mutter - 1, mutter});
+    PaarVerbinden(w.dokument, w.ansicht, {mutter - 1, mutter});
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();
     w.fenster.Sichern();

@@ -113,7 +113,10 @@ bool PfeilTreffer(Werkbank &w, double x, double y) {
 }
 
 bool PfeilEndeTreffer(Werkbank &w, double x, double y) {
-    const int ende = PfeilEndeBei(w.dokument, w.lage.PfeilAuswahl, x, y);
+    const auto bei = [&](int position) { return PfeilEndeBei(w.dokument, position, x, y); };
+    int ende = bei(w.lage.PfeilAuswahl); // the one in hand first
+    for (int i = 0; ende == 0 && i < w.dokument.cboPfeile.Anzahl(); ++i)
+        if ((ende = bei(i)) != 0) w.lage.PfeilAuswahl = i;
     if (ende == 0) return false;
     PfeilFassen(w);
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);

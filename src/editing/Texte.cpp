@@ -70,6 +70,19 @@ void TextboxAuswählen(Werkbank &w, int position) {
     maske.Legen(box.TextX(), box.TextY(), breite, höhe);
 }
 
+void NeuenTextAufSeite(Dokument &d, const Ansicht &ansicht) {
+    const int i = d.cboTextboxen.Anzahl() - 1;
+    TextBau box(d.cboTextboxen.Satz(i));
+    const double x = box.Stand().TextX();
+    const double y = box.Stand().TextY();
+    const double halbeBreite = box.Stand().TextBreite() / 2;
+    const double halbeHöhe = box.Stand().TextHoehe() / 2;
+    const bool drauf = x + halbeBreite <= ansicht.SeitenBreite && y + halbeHöhe <= ansicht.SeitenHöhe;
+    if (drauf) return;
+    box.Ort(Gerundet(RasterX(ansicht, x, halbeBreite), 1), Gerundet(RasterY(ansicht, y, halbeHöhe), 1));
+    d.cboTextboxen.Ersetzen(i, box.Text());
+}
+
 bool TextSetzen(Werkbank &w, const Ereignis &e) {
     if (w.lage.Aktion != Aktion::TextGesetzt) return false;
     w.lage.AuswahlX = Gerundet(RasterX(w.ansicht, e.X), 1);

@@ -5,6 +5,8 @@
 // Text boxes.
 namespace kw {
 
+struct Ansicht;
+struct Dokument;
 struct Ereignis;
 struct Werkbank;
 
@@ -13,6 +15,9 @@ struct Werkbank;
 int TextboxBei(const Dokument &dokument, double x, double y);
 /// Selects the text box at `position`, with marker and drag mask. The lists are emptied; `Aktion` is the caller's.
 void TextboxAuswählen(Werkbank &w, int position);
+
+/// Brings the text box that was placed last, and has been measured, with its centre onto the page.
+void NeuenTextAufSeite(Dokument &dokument, const Ansicht &ansicht);
 
 // A press: with the tool in hand; with a box in hand whose release got lost; on a box. Each says whether the event ends
 // with it.

@@ -43,12 +43,12 @@ constexpr Werkzeug Werkzeuge[] = {
     {20, Aktion::PersonSetzen, TypDivers, GrößeNormal},
 };
 
-/// Whether a link has a person to start from: the one that is marked, or that it has started from already.
+/// Whether a link has a person to start from: the one that is marked.
 bool HatPerson(const Dokument &d, const Auswahl &auswahl, const Leinwandlage &lage) {
     if (!Gültig(d.cboPersonen, lage.PersAuswahl - 1)) return false;
     const auto nr = Nummer(d.cboPersonen.Satz(lage.PersAuswahl - 1));
     const Satzliste &markiert = auswahl.lstMovedPers;
-    return IstLink(lage.Aktion) || (markiert.Anzahl() == 1 && Nummer(markiert.Satz(0)) == nr);
+    return markiert.Anzahl() == 1 && Nummer(markiert.Satz(0)) == nr;
 }
 
 bool LinktPersonen(int nummer) {
@@ -77,6 +77,7 @@ std::string WerkzeugName(int nummer) { return "cmdSymb(" + std::to_string(nummer
 
 bool WerkzeugBrauchbar(int nummer, const Dokument &d, const Auswahl &auswahl, const Leinwandlage &lage) {
     if (!LinktPersonen(nummer)) return true;
+    if (IstLink(lage.Aktion)) return WerkzeugGedrückt(nummer, lage); // which ends it
     return HatPerson(d, auswahl, lage) && (nummer != WerkzeugKind || KannKindWerden(d, lage));
 }
 

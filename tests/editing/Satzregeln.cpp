@@ -278,14 +278,22 @@ std::string Anzeigefehler(const Stand &stand) {
 
 namespace {
 
+/// A paste leaves the copies selected.
+bool Eingefügt(const Schritt &s, const std::string &person) {
+    const Satzliste &kopien = s.Neu.auswahl.lstMovedPers;
+    return s.Neu.dokument.cboPersonen.Anzahl() > s.Alt.dokument.cboPersonen.Anzahl() &&
+           std::find(kopien.begin(), kopien.end(), person.substr(1)) != kopien.end();
+}
+
 /// A rule that the program breaks by its own rules: which one, any when none is named, and when it does.
 struct Macke {
     std::string_view Name, Regel;
     bool (*Gilt)(const Schritt &, const Verstoß &);
 };
 constexpr Macke Macken[] = {
-    {"copied twins have no parents, and get them one by one", "twins of different parents",
-     [](const Schritt &s, const Verstoß &) { return s.Alt.lage.Aktion == Aktion::KindZiehen; }},
+    {"copied twins have no parents, and get them one by one; so have their copies", "twins of different parents",
+     [](const Schritt &s, const Verstoß &v) {
+         return s.Alt.lage.Aktion == Aktion::KindZiehen || (!s.Entschuldigt.empty() && Eingefügt(s, v.Wer[0])); }},
     {"a person who was given a child line without parents can get another", "two child lines",
      [](const Schritt &s, const Verstoß &v) {
          const std::string ohne = "child line without parents: " + v.Wer[0];
