@@ -107,6 +107,7 @@ std::vector<int> LinienDerPersonen(const Dokument &d, const std::vector<std::str
     }
     std::sort(linien.begin(), linien.end());
     std::vector<int> positionen;
+    positionen.reserve(linien.size());
     for (const auto &[erster, position] : linien) positionen.push_back(-position);
     return positionen;
 }
