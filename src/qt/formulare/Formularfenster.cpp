@@ -60,7 +60,10 @@ Formularfenster::Formularfenster(Formular &form, QWidget *eltern) : QDialog(elte
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *neu) { FokusGewandert(neu); });
 }
 
-Formularfenster::~Formularfenster() { form_.Wirt = nullptr; }
+Formularfenster::~Formularfenster() {
+    disconnect(qApp, nullptr, this, nullptr); // one that goes while it shows loses the focus when it is none any more
+    form_.Wirt = nullptr;
+}
 
 void Formularfenster::Ausführen() {
     form_.Wirt = this;
