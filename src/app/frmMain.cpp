@@ -125,13 +125,7 @@ bool frmMain::SitzungBeenden() {
     return true;
 }
 
-void frmMain::Beenden() {
-    ArbeitBehalten();
-    EinstellungenSichern();
-}
-
-/// The one place on the road of an end without a question. As yet nothing keeps unsaved work.
-void frmMain::ArbeitBehalten() {}
+void frmMain::Beenden() { EinstellungenSichern(); }
 
 void frmMain::EinstellungenSichern() {
     projekt.IniDatei = start.IniDatei;

@@ -115,7 +115,6 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void ZeitgeberStellen();
     void SpracheErfragen();
     void DatenÜbernehmen();
-    void ArbeitBehalten();
     void EinstellungenSichern();
     Zeichnung DasBild() const;
     void Übernehmen(const Zeichenbefund &befund);
