@@ -224,6 +224,7 @@ constexpr Zeile Tabelle[] = {
     {Name::mnuEinstellungen, [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmEinstellungen); }},
     {Name::mnuHilfethemen, HilfeÖffnen},
     {Name::mnuUpdate, [](Befehlsumgebung &u, int) { u.werkbank.benutzer.ProgrammStarten("kw_update"); }},
+    {Name::mnuFassungen, [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmFassungen); }},
     {Name::btnImport, [](Befehlsumgebung &u, int) { u.import.ListeUmschalten(); }},
     {Name::mnuInfo, [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmInfo); }},
     {Name::mnuSymbolKleiner, [](Befehlsumgebung &u, int) { GrößeÄndern(u.werkbank, -GrößenSchritt); }},

@@ -4,6 +4,7 @@
 #include "dialogs/frmBezLinien.h"
 #include "dialogs/frmDrucken.h"
 #include "dialogs/frmEinstellungen.h"
+#include "dialogs/frmFassungen.h"
 #include "dialogs/frmInfo.h"
 #include "dialogs/frmKommentar.h"
 #include "dialogs/frmLegende.h"
@@ -42,6 +43,7 @@ constexpr Bauplan Baupläne[] = {
     {Name::frmDrucken, Bauen<frmDrucken>},
     {Name::frmSeiteEinrichten, Bauen<frmSeiteEinrichten>},
     {Name::frmEinstellungen, Bauen<frmEinstellungen>},
+    {Name::frmFassungen, Bauen<frmFassungen>},
     {Name::frmInfo,
      [](Dialogumgebung &u) -> std::unique_ptr<Formular> { return std::make_unique<frmInfo>(u, Programmversion); }},
 };

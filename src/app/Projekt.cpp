@@ -1,12 +1,14 @@
 #include "app/Projekt.h"
 
 #include "app/Anzeige.h"
+#include "app/Projektmeldungen.h"
 #include "dialogs/Dialogumgebung.h"
 #include "document/Chronik.h"
 #include "document/Dateien.h"
 #include "document/Dokument.h"
 #include "document/Felder.h"
 #include "document/ProjektDatei.h"
+#include "document/Sicherheitsnetz.h"
 #include "document/UndoRing.h"
 #include "editing/Ablage.h"
 #include "editing/Fensterdienste.h"
@@ -38,39 +40,51 @@ Projekt::Projekt(Inhalt inhalt, Umfeld umfeld, std::string einstellungsDatei)
 
 std::string Projekt::Text(const Zweisprachig &text) const { return std::string(text.In(umfeld_.ansicht.Sprache)); }
 
-void Projekt::ProjektLaden() {
-    inhalt_.dokument.LegendeSichtbar = false;
+/// Everything is read before anything changes. What could be read of a damaged file counts; where a whole load would
+/// end, it ends.
+bool Projekt::Laden(Quelle quelle) {
+    const Sprache sprache = umfeld_.ansicht.Sprache;
+    const Profil profil(std::move(quelle.Inhalt));
+    Dokument neu = inhalt_.dokument; // a page or legend that the file doesn't tell stays
+    neu.LegendeSichtbar = false;
+    const Ladebefund befund = ProjektLesen(profil, neu);
+    if (!befund.IstProjekt) {
+        umfeld_.benutzer.Fragen(KeinProjektGefunden(quelle.Projektdatei, sprache));
+        return false;
+    }
+    RingUndAuswahlLeeren();
+    FreieNummernLeeren(); // those of the project before may be in use in this one, which need not say its own
+    IniDatei = Projektdatei = quelle.Projektdatei;
+    Titel = Projektdatei.empty() ? "Kinwright" : "Kinwright  " + Projektdatei;
+    unganz_ = !befund.Ganz() || befund.Verwaist;
+    Anwenden(std::move(neu), befund.Vollständig);
+    Loslassen();
+    if (!befund.Ganz())
+        umfeld_.benutzer.Fragen(NurZumTeilGeladen(Projektdatei, befund.Text(sprache), sprache));
+    return true;
+}
+
+/// The lists of free numbers and the legend are made at the end only: a load that was cut short has none.
+void Projekt::Anwenden(Dokument &&neu, bool ganz) {
+    Dokument &dokument = inhalt_.dokument;
     inhalt_.legende.lstLegende.Leeren();
+    dokument.LegendeSichtbar = false;
     umfeld_.anzeige.LegendeZeigen();
-    inhalt_.zuletzt.Aktualisieren(Projektdatei);
-    umfeld_.anzeige.ChronikZeigen();
-    IniDatei = Projektdatei;
-    Titel = "Kinwright  " + Projektdatei;
-    InhaltLesen();
+    dokument.Papiercode = neu.Papiercode;
+    dokument.Seitenlage = neu.Seitenlage;
+    umfeld_.dienste.SeiteAnwenden();
+    neu.lstGelöschtePersNr.Leeren();
+    neu.lstGelöschtePLinien.Leeren();
+    dokument = std::move(neu);
+    if (ganz) {
+        umfeld_.anzeige.LegendeZeigen();
+        LegendeAufbauen(dokument, inhalt_.legende);
+        dokument.FreieNummernAufbauen();
+    }
     umfeld_.fenster.Vorschau();
     umfeld_.fenster.Sichern();
     Geändert = false;
     umfeld_.benutzer.AnzeigeAuffrischen();
-}
-
-/// One error target for the whole reading: what fails leaves what was read so far. The lists of free
-/// numbers are rebuilt at the end only, so a failed load leaves them empty.
-void Projekt::InhaltLesen() {
-    Dokument &dokument = inhalt_.dokument;
-    std::string inhalt;
-    DateiLesen(Projektdatei, inhalt); // a file that can't be read is an empty one
-    const Profil profil(std::move(inhalt));
-
-    SeiteLesen(profil, dokument);
-    umfeld_.dienste.SeiteAnwenden();
-    try {
-        SpeicherLesen(profil, dokument);
-        LegendeLesen(profil, dokument);
-        umfeld_.anzeige.LegendeZeigen();
-        LegendeAufbauen(dokument, inhalt_.legende);
-        dokument.FreieNummernAufbauen();
-    } catch (const FeldFehlt &) { // a damaged project, or an old one without a legend
-    }
 }
 
 /// Before another project comes.
@@ -81,53 +95,111 @@ void Projekt::RingUndAuswahlLeeren() {
     umfeld_.anzeige.MöglichesZeigen();
 }
 
-void Projekt::Öffnen(const std::string &datei) {
-    RingUndAuswahlLeeren();
-    FreieNummernLeeren(); // those of the project before may be in use in this one, which need not say its own
-    Projektdatei = datei;
-    ProjektLaden();
+bool Projekt::Öffnen(const std::string &datei) {
+    Quelle quelle{datei, {}};
+    const Dateibefund befund = DateiLesen(datei, quelle.Inhalt);
+    if (!befund.Gelungen()) {
+        umfeld_.benutzer.Fragen(LadenGescheitert(datei, befund, umfeld_.ansicht.Sprache));
+        return false;
+    }
+    const Fingerabdruck abdruck = FingerabdruckVon(quelle.Inhalt);
+    if (!Laden(std::move(quelle))) return false;
+    herkunft_ = abdruck;
+    inhalt_.zuletzt.Aktualisieren(Projektdatei);
+    umfeld_.anzeige.ChronikZeigen();
+    return true;
 }
 
-void Projekt::ProjektSchreiben() {
-    IniDatei = Projektdatei;
+bool Projekt::ÖffnenMitFrage(const std::string &datei) {
+    SpeichernAbgebrochen = false;
+    if (!NachÄnderungenFragen() || !Öffnen(datei)) return false;
+    inhalt_.zuletzt.Eintragen(datei);
+    umfeld_.anzeige.ChronikZeigen();
+    return true;
+}
+
+bool Projekt::FassungÖffnen(const Netzeintrag &fassung) {
+    SpeichernAbgebrochen = false;
+    if (!NachÄnderungenFragen() || !Laden({fassung.Kopf.Projektdatei, fassung.Inhalt})) return false;
+    herkunft_ = fassung.Kopf.Herkunft;
+    ImportModus = false;
+    Geändert = true;
+    inhalt_.netz.Ablösen(fassung.Kopf.Name);
+    return true;
+}
+
+bool Projekt::Nachführen() {
+    return !Geändert || inhalt_.netz.Festhalten(inhalt_.dokument, Projektdatei, herkunft_).Gelungen();
+}
+
+bool Projekt::ProjektSchreiben(const std::string &datei) {
     std::string inhalt;
-    const bool neu = !DateiVorhanden(Projektdatei);
+    Dateibefund befund;
     // A file that is there but can't be read would lose its foreign keys: it isn't written either.
-    if (neu || DateiLesen(Projektdatei, inhalt).Gelungen()) {
+    if (DateiVorhanden(datei)) befund = DateiLesen(datei, inhalt);
+    if (befund.Gelungen()) {
         Profil profil(std::move(inhalt));
         ProjektEintragen(inhalt_.dokument, profil);
-        DateiSchreiben(Projektdatei, profil.Inhalt());
+        inhalt = profil.Inhalt();
+        Schreibweise wie;
+        wie.Erwartet = herkunft_.value_or(Fingerabdruck{}); // a new document expects nothing of ours there
+        wie.ImmerBeiseite = unganz_;
+        wie.Wahrer = &inhalt_.netz;
+        befund = DateiSchreiben(datei, inhalt, wie);
     }
-    Geändert = false;
+    if (!befund.Gelungen()) {
+        Geändert = true;
+        Nachführen();
+        const bool imNetz = inhalt_.netz.Hält(inhalt_.dokument);
+        umfeld_.benutzer.Fragen(SpeichernGescheitert(datei, befund, imNetz, umfeld_.ansicht.Sprache));
+        return false;
+    }
+    IniDatei = Projektdatei = datei;
+    herkunft_ = FingerabdruckVon(inhalt);
+    Geändert = unganz_ = false;
+    Loslassen();
     inhalt_.zuletzt.Eintragen(Projektdatei);
     umfeld_.anzeige.ChronikZeigen();
     umfeld_.benutzer.AnzeigeAuffrischen();
+    return true;
 }
 
-void Projekt::Speichern() {
-    std::error_code fehler; // a folder that can't be made loses the file, as one that can't be written does
+/// Its content decides, whatever its time says. A file that has gone is nobody's change, one that can't be read fails
+/// when it is written.
+bool Projekt::IstFremdGeändert() const {
+    std::string inhalt;
+    return DateiVorhanden(Projektdatei) && DateiLesen(Projektdatei, inhalt).Gelungen() &&
+           FingerabdruckVon(inhalt) != herkunft_;
+}
+
+bool Projekt::Speichern() {
+    std::error_code fehler; // a folder that can't be made is told when the file is written
     if (ImportModus) std::filesystem::create_directories(Pfad(Projektdatei), fehler);
-    if (Projektdatei.empty() && !ImportModus) SpeichernUnter();
-    else ProjektSchreiben();
+    if (Projektdatei.empty() && !ImportModus) return SpeichernUnter();
+    if (!IstFremdGeändert()) return ProjektSchreiben(Projektdatei);
+    switch (umfeld_.benutzer.Fragen(FremdeÄnderungsfrage(Projektdatei, umfeld_.ansicht.Sprache))) {
+    case Antwort::Ja: return ProjektSchreiben(Projektdatei);
+    case Antwort::Nein: return SpeichernUnter();
+    default: SpeichernAbgebrochen = true; return false;
+    }
 }
 
-void Projekt::SpeichernUnter() {
+bool Projekt::SpeichernUnter() {
     const Dateiwahl wahl{Text(SpeichernTitel), Text(SpeichernName), Text(SpeichernFilter),
                          umfeld_.benutzer.Desktopordner()};
     const auto datei = ZieldateiWählen(umfeld_.benutzer, wahl, umfeld_.ansicht.Sprache,
                                        {Ersetzungsfrage.Deutsch, "Do you want to replace?"});
     SpeichernAbgebrochen = SpeichernAbgebrochen || !datei;
-    if (!datei) return;
-    Projektdatei = *datei;
-    ProjektSchreiben();
+    if (!datei || !ProjektSchreiben(*datei)) return false;
     Titel = Projektdatei;
     umfeld_.benutzer.AnzeigeAuffrischen();
+    return true;
 }
 
 bool Projekt::NachÄnderungenFragen() {
     if (!Geändert) return true;
     switch (umfeld_.benutzer.Fragen({"Kinwright", Text(Änderungsfrage), Knöpfe::JaNeinAbbrechen, Zeichen::Frage})) {
-    case Antwort::Ja: Speichern(); return !SpeichernAbgebrochen;
+    case Antwort::Ja: return Speichern();
     case Antwort::Nein: return true;
     default: return false;
     }
@@ -140,10 +212,7 @@ void Projekt::mnuÖffnen() {
     std::string ordner = ProfilLesen(IniDatei, "DEFAULT", "lastpath");
     if (ordner.empty()) ordner = umfeld_.benutzer.Desktopordner();
     const auto datei = umfeld_.benutzer.DateiÖffnen({Text(ÖffnenTitel), "", Text(ÖffnenFilter), ordner});
-    if (!datei) return;
-    Projektdatei = *datei;
-    if (!DateiVorhanden(Projektdatei)) return;
-    Öffnen(Projektdatei);
+    if (!datei || !Öffnen(*datei)) return;
     inhalt_.zuletzt.Eintragen(Projektdatei);
     umfeld_.anzeige.ChronikZeigen();
 }
@@ -171,7 +240,8 @@ bool Projekt::ProjektNeu() {
         liste->Leeren();
     inhalt_.dokument.LegendeX = LegendeStartX;
     inhalt_.dokument.LegendeY = LegendeStartY;
-    Geändert = ImportModus = false;
+    Geändert = ImportModus = unganz_ = false;
+    herkunft_.reset();
     umfeld_.fenster.Vorschau();
     return true;
 }
@@ -181,6 +251,7 @@ void Projekt::mnuNeu() {
     umfeld_.fenster.Sichern();
     umfeld_.dienste.LegendeZeigen(false);
     Geändert = false;
+    Loslassen();
 }
 
 void Projekt::mnuRecent(int platz) {
@@ -192,8 +263,7 @@ void Projekt::mnuRecent(int platz) {
         return;
     }
     SpeichernAbgebrochen = false;
-    if (!NachÄnderungenFragen()) return;
-    Öffnen(datei);
+    if (!NachÄnderungenFragen() || !Öffnen(datei)) return;
     inhalt_.zuletzt.Vorziehen(datei);
     umfeld_.anzeige.ChronikZeigen();
 }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "document/Dateien.h"
+
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace kw {
@@ -10,10 +13,12 @@ class Benutzer;
 class Chronik;
 class Dialogdienste;
 class Fensterdienste;
+class Sicherheitsnetz;
 class UndoRing;
 struct Ansicht;
 struct Dokument;
 struct Legendenblatt;
+struct Netzeintrag;
 struct Zweisprachig;
 struct Zwischenablage;
 
@@ -28,6 +33,7 @@ class Projekt {
         UndoRing &ring;
         Zwischenablage &ablage;
         Chronik &zuletzt;
+        Sicherheitsnetz &netz;
     };
     /// What it asks, and what has to follow. `abwählen` ends the selection and the gesture in progress.
     struct Umfeld {
@@ -48,19 +54,25 @@ class Projekt {
     bool ImportModus = false;          ///< made from handed-over data: saved under its name without asking
     std::string IniDatei;              ///< settings, project or import data, whichever was read or written last
 
-    /// Loads `Projektdatei`. Any failure leaves what was read so far and says nothing; the file's name is
-    /// in the title and the document counts as unchanged.
-    void ProjektLaden();
-    /// The same for another file, the undo ring, the selection and the free numbers emptied first.
-    void Öffnen(const std::string &datei);
-    /// Writes `Projektdatei`. The result of the write isn't looked at: a file that can't be written gives
-    /// no message, and the document counts as saved. Meant.
-    void ProjektSchreiben();
+    /// Replaces the document by that file's; undo ring, selection and free numbers are emptied, and it counts as
+    /// unchanged. A damaged file gives what could be read of it, and a box says so. False, with a box and nothing
+    /// changed, when it can't be read or is no project.
+    bool Öffnen(const std::string &datei);
+    /// The same behind the question about unsaved changes, and the file comes into the list of recent ones.
+    bool ÖffnenMitFrage(const std::string &datei);
+    /// Replaces the document by that version, which stays where it is until a successor is kept. It counts as changed,
+    /// under the name of its project.
+    bool FassungÖffnen(const Netzeintrag &fassung);
+    /// Writes the document there, which becomes its `Projektdatei`. What stood there and isn't what was loaded from it
+    /// or written by it goes into the safety net first. False, with a box and nothing changed, when that fails.
+    bool ProjektSchreiben(const std::string &datei);
 
     /// The menu commands.
     void mnuÖffnen();
-    void Speichern();
-    void SpeichernUnter();
+    /// False when the document isn't saved: given up, or it failed. A file that somebody else has changed is asked
+    /// about.
+    bool Speichern();
+    bool SpeichernUnter();
     /// A new project, empty and counted as unchanged. Nothing happens when the question about changes is cancelled.
     /// Texts and circle lines on the program's clipboard can be pasted into it, the rest of the clipboard goes. Meant.
     void mnuNeu();
@@ -70,20 +82,33 @@ class Projekt {
     /// Empties stores and free numbers.
     void DokumentLeeren();
 
-    /// Asks about unsaved changes, if there are any. True when the caller may go on: they were saved,
-    /// dropped, or there were none.
+    /// Asks about unsaved changes, if there are any. True when the caller may go on: they were saved, may be dropped, or
+    /// there were none. Until they are dropped, the safety net keeps them.
     bool NachÄnderungenFragen();
+    /// The document is given up as it stands, or nothing of it is unsaved yet.
+    void Loslassen() { inhalt_.netz.Loslassen(inhalt_.dokument); }
+    /// Behind every event: brings the safety net up to date. False when it can't be.
+    bool Nachführen();
 
   private:
+    /// What a project is read from.
+    struct Quelle {
+        std::string Projektdatei;
+        std::string Inhalt;
+    };
+    bool Laden(Quelle quelle);
+    void Anwenden(Dokument &&neu, bool ganz);
+    bool IstFremdGeändert() const;
     std::string Text(const Zweisprachig &text) const;
     bool ProjektNeu();
-    void InhaltLesen();
     void FreieNummernLeeren();
     void RingUndAuswahlLeeren();
 
     Inhalt inhalt_;
     Umfeld umfeld_;
     std::string einstellungsDatei_;
+    std::optional<Fingerabdruck> herkunft_; ///< of `Projektdatei`, as it was loaded or last saved
+    bool unganz_ = false;                   ///< the file holds more than was read of it
 };
 
 } // namespace kw

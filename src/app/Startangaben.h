@@ -12,6 +12,7 @@ struct Startangaben {
     std::string Hilfeordner;    ///< the same; of the manual
     int BildschirmBreite = 0;   ///< twips
     int BildschirmHöhe = 0;
+    std::string Netzordner = {};     ///< of the safety net, as the folders above; empty for none
     std::string Dokumentordner = {}; ///< the user's, as the folders above; takes imports where the program's can't
 };
 

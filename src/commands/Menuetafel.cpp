@@ -108,6 +108,7 @@ constexpr Menüzeile Tafel[] = {
     {Name::mnuInfo, Name::mnuHelp, {"Über dieses Programm ...", "About ..."}},
     {Name::mnuEinstellungen, Name::mnuHelp, {"Sprache / Language", "Language ..."}},
     {Name::mnuUpdate, Name::mnuHelp, {"Updates ...", "Updates ..."}},
+    {Name::mnuFassungen, Name::mnuHelp, {"Gesicherte Fassungen ...", "Kept Versions ..."}},
 
     {Name::mnuPerson, Kontextmenü, {}},
     {Name::mnuSymbolBearbeiten, Name::mnuPerson, {"Bearbeiten ", "Edit  "}},

@@ -9,6 +9,7 @@ namespace kw {
 struct Einstellungen;
 struct Werkbank;
 class Drucker;
+class Sicherheitsnetz;
 class Uhr;
 
 /// What forms ask of the main window beside `Fensterdienste`.
@@ -21,6 +22,8 @@ class Dialogdienste {
     virtual void SeiteAnwenden() = 0;
     /// One print run on the current printer. False when no further copy is wanted.
     virtual bool GenogrammDrucken() = 0;
+    /// Opens that version of the safety net, behind the question about unsaved changes. False when it didn't come.
+    virtual bool FassungÖffnen(const std::string &name) = 0;
 };
 
 /// All that the forms work on.
@@ -31,6 +34,7 @@ struct Dialogumgebung {
     const Uhr &uhr;
     Drucker &drucker;
     Dialogdienste &dienste;
+    Sicherheitsnetz &netz;
 
     kw::Sprache Sprache() const;
 };

@@ -19,6 +19,7 @@ enum class Art {
     Textfeld,     ///< `Text`, one line
     Textblock,    ///< `Text`, lines joined by "\n"
     Liste,        ///< `Einträge`, `ListIndex`; nothing can be typed
+    Listenfeld,   ///< the same, with its entries in sight
     Kombination,  ///< a list into which can be typed: `Text` counts
     Ankreuzfeld,  ///< `Caption`, `Value`
     Option,       ///< `Caption`, `Value`; one of its `Gruppe` at most
@@ -120,6 +121,8 @@ class Formular {
     virtual void BildZeichnen(std::string_view /*name*/, Zeichenfläche & /*fläche*/) {}
     /// Width and height of the preview `name`, in the units that it is drawn in.
     virtual std::pair<double, double> BildGröße(std::string_view /*name*/) const { return {1, 1}; }
+    /// How large it shows: centimetres of the screen by those units, 1 for the page's own size.
+    virtual double BildMaßstab(std::string_view /*name*/) const { return 1; }
 
     // What the user does. Controls that are disabled or hidden take nothing.
 

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <unordered_set>
 
 namespace kw {
@@ -45,6 +46,14 @@ void FreieAufbauen(const Satzliste &speicher, Satzliste &freie) {
 bool Dokument::GleicheSätze(const Dokument &anderes) const {
     return std::all_of(SpeicherTabelle.begin(), SpeicherTabelle.end(),
                        [&](const SpeicherZeile &z) { return this->*z.Liste == anderes.*z.Liste; });
+}
+
+bool Dokument::GleicherStand(const Dokument &anderes) const {
+    const auto rest = [](const Dokument &d) {
+        return std::tie(d.Papiercode, d.Seitenlage, d.LegendeSichtbar, d.LegendeX, d.LegendeY, d.LegendeQuer,
+                        d.OhneStandardsymbole);
+    };
+    return rest(*this) == rest(anderes) && GleicheSätze(anderes);
 }
 
 void Dokument::SpeicherLeeren() {

@@ -38,6 +38,8 @@ struct Dokument {
 
     /// Whether the seven stores hold the same records.
     bool GleicheSätze(const Dokument &anderes) const;
+    /// Whether a project file of both would hold the same: records, page and legend.
+    bool GleicherStand(const Dokument &anderes) const;
     /// Empties the seven stores, not the free lists.
     void SpeicherLeeren();
 

@@ -98,6 +98,7 @@ inline constexpr Befehlsname mnuHilfethemen{"mnuHilfethemen"};
 inline constexpr Befehlsname mnuInfo{"mnuInfo"};
 inline constexpr Befehlsname mnuEinstellungen{"mnuEinstellungen"};
 inline constexpr Befehlsname mnuUpdate{"mnuUpdate"};
+inline constexpr Befehlsname mnuFassungen{"mnuFassungen"};
 inline constexpr Befehlsname mnuPerson{"mnuPerson"};
 inline constexpr Befehlsname mnuSymbolBearbeiten{"mnuSymbolBearbeiten"};
 inline constexpr Befehlsname mnuStr2{"mnuStr2"};
@@ -226,6 +227,7 @@ inline constexpr Formularname frmDrucken{"frmDrucken"};
 inline constexpr Formularname frmSeiteEinrichten{"frmSeiteEinrichten"};
 inline constexpr Formularname frmEinstellungen{"frmEinstellungen"};
 inline constexpr Formularname frmInfo{"frmInfo"};
+inline constexpr Formularname frmFassungen{"frmFassungen"};
 
 } // namespace Name
 

@@ -26,6 +26,8 @@ Zeichenbefund VorschauZeichnen(Zeichenfläche &f, const Zeichnung &z) {
     return befund;
 }
 
+Zeichenbefund SeitenbildZeichnen(Zeichenfläche &f, const Zeichnung &z) { return EbenenZeichnen(f, z, f.Faktor()); }
+
 Zeichenbefund DruckZeichnen(Zeichenfläche &f, const Zeichnung &z) {
     Zeichnung druck = z;
     druck.Druck = true;

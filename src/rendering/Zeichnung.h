@@ -30,6 +30,9 @@ struct Zeichnung {
 /// Redraws the whole canvas: fits the page into it, then every layer over the ones before it.
 Zeichenbefund VorschauZeichnen(Zeichenfläche &fläche, const Zeichnung &z);
 
+/// The page as the screen has it, on a surface whose scale is set.
+Zeichenbefund SeitenbildZeichnen(Zeichenfläche &fläche, const Zeichnung &z);
+
 /// One print run on `fläche`, whose user units are centimetres already. No grid, no marks.
 /// It leaves the base line width at 1, whatever the zoom wanted, until that changes next. Meant.
 Zeichenbefund DruckZeichnen(Zeichenfläche &fläche, const Zeichnung &z);

@@ -19,6 +19,7 @@ std::string Inhalt(const Steuerelement &element) {
     case Art::Textfeld:
     case Art::Textblock:
     case Art::Liste:
+    case Art::Listenfeld:
     case Art::Kombination: return element.Text;
     default: return element.Caption;
     }

@@ -224,6 +224,11 @@ constexpr Baustein Info[] = {
     Feld("lblBeschreibung").AlsAbsatz(44),
 };
 
+constexpr Baustein Fassungen[] = {
+    Feld("lblErklärung").AlsAbsatz(60), Reihe(Abstand), Feld("lstFassungen").Mindestens(52, 10).Gedehnt(),
+    Feld("picSeite"), Ende, Feld("lblOrt").AlsAbsatz(60),
+};
+
 constexpr Formularplan Pläne[] = {
     {"frmSymbol", Person, false, "picBack"},
     {"frmSymbol", Institution, false, "picBack2"},
@@ -237,6 +242,7 @@ constexpr Formularplan Pläne[] = {
     {"frmSeiteEinrichten", Seite},
     {"frmEinstellungen", Spracheinstellung},
     {"frmInfo", Info},
+    {"frmFassungen", Fassungen, true},
 };
 
 } // namespace

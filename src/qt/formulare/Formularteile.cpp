@@ -17,6 +17,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QListWidget>
 #include <QSignalBlocker>
 #include <QTextDocument>
 #include <QTextEdit>
@@ -65,6 +66,12 @@ QWidget *BlockBauen(const std::string &name, const Formularmelder &melder, QWidg
     return block;
 }
 
+QWidget *ListenfeldBauen(const std::string &name, const Formularmelder &melder, QWidget *eltern) {
+    auto *liste = new QListWidget(eltern);
+    QObject::connect(liste, &QListWidget::currentRowChanged, liste, [=](int index) { melder.Gewählt(name, index); });
+    return liste;
+}
+
 QWidget *ListeBauen(Art art, const std::string &name, const Formularmelder &melder, QWidget *eltern) {
     auto *liste = new QComboBox(eltern);
     if (art == Art::Kombination) {
@@ -99,6 +106,18 @@ void BlockZeigen(QTextEdit &block, const Steuerelement &element) {
     if (satz.alignment() == bündig) return;
     satz.setAlignment(bündig);
     block.document()->setDefaultTextOption(satz);
+}
+
+void ListenfeldZeigen(QListWidget &liste, const Steuerelement &element) {
+    QStringList einträge;
+    for (const auto &eintrag : element.Einträge) einträge += Text(eintrag);
+    QStringList alte;
+    for (int i = 0; i < liste.count(); ++i) alte += liste.item(i)->text();
+    if (einträge != alte) {
+        liste.clear();
+        liste.addItems(einträge);
+    }
+    liste.setCurrentRow(element.ListIndex);
 }
 
 void ListeZeigen(QComboBox &liste, const Steuerelement &element) {
@@ -165,6 +184,7 @@ QWidget *TeilBauen(Formular &form, const std::string &name, const Formularmelder
     }
     case Art::Textfeld: return ZeileBauen(name, melder, eltern);
     case Art::Textblock: return BlockBauen(name, melder, eltern);
+    case Art::Listenfeld: return ListenfeldBauen(name, melder, eltern);
     case Art::Liste:
     case Art::Kombination: return ListeBauen(element.Kind, name, melder, eltern);
     case Art::Ankreuzfeld: return KnopfBauen(new QCheckBox(eltern), name, melder);
@@ -203,6 +223,7 @@ void TeilZeigen(QWidget &teil, const Steuerelement &element) {
     if (auto *zeile = dynamic_cast<QLineEdit *>(&teil)) TextZeigen(*zeile, Text(element.Text));
     if (auto *block = dynamic_cast<QTextEdit *>(&teil)) BlockZeigen(*block, element);
     if (auto *liste = dynamic_cast<QComboBox *>(&teil)) ListeZeigen(*liste, element);
+    if (auto *liste = dynamic_cast<QListWidget *>(&teil)) ListenfeldZeigen(*liste, element);
     if (auto *platte = dynamic_cast<Farbplatte *>(&teil)) platte->FarbeZeigen(AlsFarbe(element.Farbwert));
     if (auto *bild = dynamic_cast<Formularbild *>(&teil)) bild->Auffrischen();
 }

@@ -1,0 +1,55 @@
+#include "document/Nachfluss.h"
+
+#include "document/Dateinamen.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <utility>
+
+namespace kw {
+
+namespace {
+
+/// What fails here is lost at worst by a power cut, and the next event writes all of it anew.
+void AufDiePlatte(const std::string &pfad) {
+    const int fd = ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0) return;
+    ::fsync(fd);
+    ::close(fd);
+}
+
+} // namespace
+
+Nachfluss::~Nachfluss() {
+    {
+        const std::lock_guard wache(riegel_);
+        ende_ = true;
+    }
+    wecker_.notify_one();
+    if (faden_.joinable()) faden_.join();
+}
+
+void Nachfluss::Wünschen(std::string pfad) {
+    {
+        const std::lock_guard wache(riegel_);
+        wunsch_ = std::move(pfad);
+    }
+    if (!faden_.joinable()) faden_ = std::thread([this] { Arbeiten(); });
+    wecker_.notify_one();
+}
+
+void Nachfluss::Arbeiten() {
+    std::unique_lock wache(riegel_);
+    while (true) {
+        wecker_.wait(wache, [this] { return ende_ || !wunsch_.empty(); });
+        if (wunsch_.empty()) return;
+        const std::string pfad = std::exchange(wunsch_, {});
+        wache.unlock();
+        AufDiePlatte(pfad);
+        AufDiePlatte(Pfad(pfad));
+        wache.lock();
+    }
+}
+
+} // namespace kw

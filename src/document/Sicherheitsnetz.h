@@ -1,0 +1,78 @@
+#pragma once
+
+#include "document/Dokument.h"
+#include "document/Nachfluss.h"
+#include "document/Netzeintrag.h"
+
+#include <string>
+#include <vector>
+
+namespace kw {
+
+/// The safety net: a folder of the user's own in which every document lies that no project file holds, and every
+/// version of a project file that was replaced though it was nobody's here. Several programs share it: each holds a
+/// lock on a file beside its own document for as long as it lives, so that a document whose lock is free was left by a
+/// program that has ended. What fails in it never harms the document.
+///
+/// A document's file is named after its program, `<id>.stand`; the user's word makes that `<id>.behalten`. What was
+/// replaced is `<id>-<n>.alt`, what is about to be written in place `<id>-<n>-alt.vorort` and `<id>-<n>-neu.vorort`.
+class Sicherheitsnetz : public Versionswahrer {
+  public:
+    /// `ordner`, without a closing "/", is made when it is needed first. Empty for no net: then nothing is kept, and
+    /// no version can be set aside.
+    explicit Sicherheitsnetz(std::string ordner);
+    /// What is kept stays.
+    ~Sicherheitsnetz() override;
+    Sicherheitsnetz(const Sicherheitsnetz &) = delete;
+    Sicherheitsnetz &operator=(const Sicherheitsnetz &) = delete;
+
+    /// The document holds something that no file does. Written in the place of what was kept before, unless that is the
+    /// same; the disk has it a moment later.
+    Dateibefund Festhalten(const Dokument &dokument, const std::string &projektdatei,
+                           const std::optional<Fingerabdruck> &herkunft);
+    /// The document is in its project file, or the user gave it up: what was kept of it goes.
+    void Loslassen(const Dokument &dokument);
+    /// Whether the document as it stands is in the net.
+    bool Hält(const Dokument &dokument) const { return hält_ && stand_.GleicherStand(dokument); }
+
+    /// Every version but a living program's document, the newest first. Those replaced more than 30 days ago go.
+    std::vector<Netzkopf> Einträge() const;
+    /// Whether there is something that nobody has answered yet. Looks at names and locks only.
+    bool HatUnbeantwortete() const;
+    /// Nothing when it has gone, or can't be read.
+    std::optional<Netzeintrag> Lesen(const std::string &name) const;
+    void Behalten(const std::string &name) const;
+    void Löschen(const std::string &name) const;
+    /// Whoever shows a version for the first time says so before, and again when it is shown: in between it may bring the
+    /// program down, and then it has been tried.
+    bool IstVersucht(const std::string &name) const;
+    void VersuchBeginnen(const std::string &name) const;
+    void VersuchEnden(const std::string &name) const;
+    /// The document has been opened from that version, which goes as soon as `Festhalten` has written its successor.
+    /// One that was replaced stays for its time.
+    void Ablösen(const std::string &name) { abgelöst_ = name; }
+
+    bool Beiseitelegen(const std::string &pfad, std::string_view inhalt) override;
+    bool VorOrtBeginnt(const std::string &pfad, std::string_view alt, std::string_view neu) override;
+    void VorOrtEndet() override;
+
+  private:
+    bool Bereit();
+    std::string Ort(const std::string &name) const { return ordner_ + "/" + name; }
+    bool Lebt(const std::string &name) const;
+    std::vector<std::string> Namen() const;
+    bool Aufheben(const std::string &name, const std::string &pfad, std::string_view inhalt);
+    std::string NeuerName();
+
+    std::string ordner_;
+    std::string kennung_; ///< of this program; empty until it has its lock
+    int sperre_ = -1;
+    int gezählt_ = 0; ///< versions set aside
+    Dokument stand_;  ///< as it was kept, saved or loaded last
+    bool hält_ = false;
+    std::string abgelöst_; ///< goes when its successor is written
+    std::string vorOrt_;   ///< of the file that is being written in place
+    Nachfluss nachfluss_;
+};
+
+} // namespace kw
