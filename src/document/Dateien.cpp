@@ -24,7 +24,7 @@ struct Systemfehler {
 Dateibefund Befund(Systemfehler fehler) {
     // strerror speaks the user's language; the program's own messages are English.
     const char *const text = strerrordesc_np(fehler.Nummer);
-    return {text != nullptr ? text : "Unknown error"};
+    return {text != nullptr ? text : "Unknown error", Ursache::Sonstiges};
 }
 
 /// Runs a call again that a signal broke off.
@@ -88,11 +88,6 @@ void AllesSchreiben(int fd, std::string_view inhalt) {
 void AufDiePlatte(int fd) {
     const int ergebnis = Ununterbrochen([&] { return ::fsync(fd); });
     if (ergebnis != 0 && errno != EINVAL && errno != ENOSYS) Scheitern();
-}
-
-std::string Ordner(const std::string &pfad) {
-    const auto ordner = Pfad(pfad);
-    return ordner.empty() ? "./" : ordner;
 }
 
 /// The file that a chain of links ends at. By hand, since the end of a dangling one is to be made.
@@ -166,10 +161,10 @@ void DirektSchreiben(const std::string &pfad, std::string_view inhalt) {
 }
 
 /// Replaces `ziel`, which is no link, by way of a file beside it. `alt` tells of the file that is there.
-void Ersetzen(const std::string &ziel, std::string_view inhalt, const struct stat *alt) {
+void Ersetzen(const std::string &ziel, std::string_view inhalt, const struct stat *alt, unsigned modus) {
     const auto ordnername = Ordner(ziel);
     const Deskriptor ordner(Öffnen(ordnername, O_RDONLY | O_DIRECTORY));
-    const auto neu = TemporäreDatei(ordnername, alt != nullptr ? 0600 : 0666);
+    const auto neu = TemporäreDatei(ordnername, alt != nullptr ? 0600 : modus & 0770U);
     Aufräumer aufräumer(neu.Name);
     Deskriptor datei(neu.Fd);
     AllesSchreiben(datei.Nummer(), inhalt);
@@ -189,18 +184,18 @@ void Ersetzen(const std::string &ziel, std::string_view inhalt, const struct sta
     Ununterbrochen([&] { return ::fsync(ordner.Nummer()); });
 }
 
-void Schreiben(const std::string &pfad, std::string_view inhalt) {
+void Schreiben(const std::string &pfad, std::string_view inhalt, const Schreibweise &wie) {
     struct stat angaben {};
     const bool vorhanden = ::stat(pfad.c_str(), &angaben) == 0;
     if (!vorhanden && errno != ENOENT) Scheitern();
     if (pfad.empty()) Scheitern(ENOENT);
     if (DateiName(pfad).empty() || (vorhanden && S_ISDIR(angaben.st_mode))) Scheitern(EISDIR);
-    if (!vorhanden) return Ersetzen(ZielDerVerweise(pfad), inhalt, nullptr);
+    if (!vorhanden) return Ersetzen(ZielDerVerweise(pfad), inhalt, nullptr, wie.NeuerModus);
     if (!S_ISREG(angaben.st_mode)) return DirektSchreiben(pfad, inhalt);
     // A file without a write bit was protected on purpose; root too, who could, must not replace it.
     if ((angaben.st_mode & 0222U) == 0) Scheitern(EACCES);
     if (::faccessat(AT_FDCWD, pfad.c_str(), W_OK, AT_EACCESS) != 0) Scheitern();
-    Ersetzen(ZielDerVerweise(pfad), inhalt, &angaben);
+    Ersetzen(ZielDerVerweise(pfad), inhalt, &angaben, wie.NeuerModus);
 }
 
 std::string Lesen(const std::string &pfad) {
@@ -225,59 +220,6 @@ std::string Lesen(const std::string &pfad) {
 
 } // namespace
 
-std::string Pfad(std::string_view datei) { return std::string(datei.substr(0, datei.rfind('/') + 1)); }
-
-std::string DateiName(std::string_view pfad) { return std::string(pfad.substr(pfad.rfind('/') + 1)); }
-
-std::string NameOhneKennung(std::string_view name) { return std::string(name.substr(0, name.rfind('.'))); }
-
-std::string Kennung(std::string_view name) {
-    const auto punkt = name.rfind('.');
-    return punkt == std::string_view::npos ? std::string{} : std::string(name.substr(punkt + 1));
-}
-
-std::string MitKennung(const std::string &datei, std::string_view kennung, bool alle) {
-    constexpr size_t Längste = 4; // "jpeg"
-    const std::string eigene = Kennung(DateiName(datei));
-    const auto klein = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    const bool gleich = std::equal(eigene.begin(), eigene.end(), kennung.begin(), kennung.end(),
-                                   [&](char a, char b) { return klein(a) == klein(b); });
-    const auto istBuchstabe = [&](char c) { return klein(c) >= 'a' && klein(c) <= 'z'; };
-    const bool irgendeine = eigene.size() <= Längste && std::any_of(eigene.begin(), eigene.end(), istBuchstabe) &&
-                            std::none_of(eigene.begin(), eigene.end(), [](char c) { return c == ' '; });
-    return gleich || (alle && irgendeine) ? datei : datei + "." + std::string(kennung);
-}
-
-bool DateiVorhanden(const std::string &pfad) {
-    struct stat angaben {};
-    return ::stat(pfad.c_str(), &angaben) == 0 && !S_ISDIR(angaben.st_mode);
-}
-
-bool IstBeschreibbar(const std::string &ordner) {
-    struct stat angaben {};
-    return ::stat(ordner.c_str(), &angaben) == 0 && S_ISDIR(angaben.st_mode) &&
-           ::access(ordner.c_str(), W_OK | X_OK) == 0;
-}
-
-bool IstFürDateien(const std::string &ordner) {
-    constexpr std::string_view System[] = {"/usr", "/bin", "/sbin", "/lib", "/opt", "/snap", "/app", "/nix"};
-    for (const auto system : System)
-        if (ordner == system || ordner.starts_with(std::string(system) + "/")) return false;
-    return IstBeschreibbar(ordner);
-}
-
-std::string AlsDateiname(std::string_view text) {
-    constexpr std::string_view Unmöglich = "%/\\:*?\"<>|";
-    constexpr std::string_view Ziffern = "0123456789ABCDEF";
-    std::string name;
-    for (const char zeichen : text) {
-        const auto c = static_cast<unsigned char>(zeichen);
-        if (c >= ' ' && Unmöglich.find(zeichen) == std::string_view::npos) name += zeichen;
-        else name.append({'%', Ziffern[c / Ziffern.size()], Ziffern[c % Ziffern.size()]});
-    }
-    return name;
-}
-
 Dateibefund DateiLesen(const std::string &pfad, std::string &inhalt) {
     try {
         inhalt = Lesen(pfad);
@@ -287,9 +229,19 @@ Dateibefund DateiLesen(const std::string &pfad, std::string &inhalt) {
     }
 }
 
-Dateibefund DateiSchreiben(const std::string &pfad, std::string_view inhalt) {
+Dateibefund DateiSchreiben(const std::string &pfad, std::string_view inhalt, const Schreibweise &wie) {
     try {
-        Schreiben(pfad, inhalt);
+        Schreiben(pfad, inhalt, wie);
+        return {};
+    } catch (Systemfehler fehler) {
+        return Befund(fehler);
+    }
+}
+
+Dateibefund AufDiePlatte(const std::string &pfad) {
+    try {
+        AufDiePlatte(Deskriptor(Öffnen(pfad, O_RDONLY)).Nummer());
+        AufDiePlatte(Deskriptor(Öffnen(Ordner(pfad), O_RDONLY | O_DIRECTORY)).Nummer());
         return {};
     } catch (Systemfehler fehler) {
         return Befund(fehler);
