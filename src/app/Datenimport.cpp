@@ -58,19 +58,20 @@ void Datenimport::Startaufruf() {
     if (Getrimmt(start_.Kommandozeile).empty()) return;
     const std::string zeile = OhneAnführung(start_.Kommandozeile);
     const std::string fall = Fallname(zeile);
-    projekt_.Projektdatei = Projektordner() + "/" + AlsDateiname(fall) + ".kwp";
-    if (DateiVorhanden(projekt_.Projektdatei)) {
-        projekt_.ImportModus = true;
-        projekt_.Öffnen(projekt_.Projektdatei);
+    const std::string projekt = Projektordner() + "/" + AlsDateiname(fall) + ".kwp";
+    if (DateiVorhanden(projekt)) {
+        if (projekt_.NachÄnderungenFragen()) projekt_.ImportModus = projekt_.Öffnen(projekt);
     } else if (IstSchalter(zeile.substr(0, Schalterlänge))) {
+        if (projekt_.Geändert) projekt_.mnuNeu(); // a version from the safety net isn't mixed with the case
+        if (projekt_.Geändert) return;
         projekt_.ImportModus = true;
+        projekt_.Projektdatei = projekt;
         DatenEinlesen(start_.Programmordner + "/" + fall);
         ListeFüllen();
     } else if (zeile.ends_with(".kwp")) {
         std::string datei = start_.Kommandozeile;
         std::erase(datei, '"');
-        projekt_.DokumentLeeren();
-        projekt_.Öffnen(datei);
+        projekt_.ÖffnenMitFrage(datei);
     }
 }
 

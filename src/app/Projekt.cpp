@@ -56,11 +56,11 @@ bool Projekt::Laden(Quelle quelle) {
     FreieNummernLeeren(); // those of the project before may be in use in this one, which need not say its own
     IniDatei = Projektdatei = quelle.Projektdatei;
     Titel = Projektdatei.empty() ? "Kinwright" : "Kinwright  " + Projektdatei;
-    unganz_ = !befund.Ganz() || befund.Verwaist;
-    Anwenden(std::move(neu), befund.Vollständig);
+    unganz_ = befund.SpeichernVerliert();
+    Anwenden(std::move(neu), befund.BisZumEnde);
     Loslassen();
-    if (!befund.Ganz())
-        umfeld_.benutzer.Fragen(NurZumTeilGeladen(Projektdatei, befund.Text(sprache), sprache));
+    if (!befund.Unversehrt())
+        umfeld_.benutzer.Fragen(NurZumTeilGeladen(Projektdatei, Ladetext(befund, sprache), sprache));
     return true;
 }
 
@@ -128,6 +128,8 @@ bool Projekt::FassungÖffnen(const Netzeintrag &fassung) {
     return true;
 }
 
+void Projekt::Loslassen() { inhalt_.netz.Loslassen(inhalt_.dokument); }
+
 bool Projekt::Nachführen() {
     return !Geändert || inhalt_.netz.Festhalten(inhalt_.dokument, Projektdatei, herkunft_).Gelungen();
 }
@@ -148,10 +150,8 @@ bool Projekt::ProjektSchreiben(const std::string &datei) {
         befund = DateiSchreiben(datei, inhalt, wie);
     }
     if (!befund.Gelungen()) {
-        Geändert = true;
         Nachführen();
-        const bool imNetz = inhalt_.netz.Hält(inhalt_.dokument);
-        umfeld_.benutzer.Fragen(SpeichernGescheitert(datei, befund, imNetz, umfeld_.ansicht.Sprache));
+        umfeld_.benutzer.Fragen(SpeichernGescheitert(datei, befund, WasSicherIst(), umfeld_.ansicht.Sprache));
         return false;
     }
     IniDatei = Projektdatei = datei;
@@ -162,6 +162,11 @@ bool Projekt::ProjektSchreiben(const std::string &datei) {
     umfeld_.anzeige.ChronikZeigen();
     umfeld_.benutzer.AnzeigeAuffrischen();
     return true;
+}
+
+Verbleib Projekt::WasSicherIst() const {
+    if (!Geändert) return Verbleib::Unverändert;
+    return inhalt_.netz.Hält(inhalt_.dokument) ? Verbleib::ImNetz : Verbleib::NurAufDerSeite;
 }
 
 /// Its content decides, whatever its time says. A file that has gone is nobody's change, one that can't be read fails

@@ -15,6 +15,7 @@ class Dialogdienste;
 class Fensterdienste;
 class Sicherheitsnetz;
 class UndoRing;
+enum class Verbleib;
 struct Ansicht;
 struct Dokument;
 struct Legendenblatt;
@@ -82,11 +83,11 @@ class Projekt {
     /// Empties stores and free numbers.
     void DokumentLeeren();
 
-    /// Asks about unsaved changes, if there are any. True when the caller may go on: they were saved, may be dropped, or
-    /// there were none. Until they are dropped, the safety net keeps them.
+    /// Asks about unsaved changes, if there are any. True when the caller may go on: they were saved, may be dropped,
+    /// or there were none. Until they are dropped, the safety net keeps them.
     bool NachÄnderungenFragen();
     /// The document is given up as it stands, or nothing of it is unsaved yet.
-    void Loslassen() { inhalt_.netz.Loslassen(inhalt_.dokument); }
+    void Loslassen();
     /// Behind every event: brings the safety net up to date. False when it can't be.
     bool Nachführen();
 
@@ -98,6 +99,7 @@ class Projekt {
     };
     bool Laden(Quelle quelle);
     void Anwenden(Dokument &&neu, bool ganz);
+    Verbleib WasSicherIst() const;
     bool IstFremdGeändert() const;
     std::string Text(const Zweisprachig &text) const;
     bool ProjektNeu();

@@ -12,11 +12,13 @@ constexpr Zweisprachig SaveText{
     "Speichern Sie es unter einem anderen Namen oder in einem anderen Ordner (Datei, Speichern unter ...).",
     "The genogram could not be saved:\n%1\n\nReason: %2.\n\n%3\n"
     "Please save it under another name or in another folder (File, Save as ...)."};
-constexpr Zweisprachig ImNetz{
-    "Nichts ist verloren: Ihre Änderungen stehen weiter auf der Seite und zusätzlich unter \"Gesicherte Fassungen\".",
-    "Nothing is lost: your changes are still on the page, and also among the \"Kept Versions\"."};
-constexpr Zweisprachig NurHier{"Ihre Änderungen stehen weiter auf der Seite, aber in keiner Datei.",
-                               "Your changes are still on the page, but in no file."};
+/// By `Verbleib`.
+constexpr Zweisprachig Verbleibtexte[] = {
+    {"Das Genogramm steht unverändert auf der Seite.", "The genogram is unchanged on the page."},
+    {"Nichts ist verloren: Ihre Änderungen stehen weiter auf der Seite und zusätzlich unter \"Gesicherte Fassungen\".",
+     "Nothing is lost: your changes are still on the page, and also among the \"Kept Versions\"."},
+    {"Ihre Änderungen stehen weiter auf der Seite, aber in keiner Datei.",
+     "Your changes are still on the page, but in no file."}};
 constexpr Zweisprachig LadeText{"Die Datei konnte nicht geöffnet werden:\n%1\n\nGrund: %2.\n\nAn der Seite hat sich "
                                 "nichts geändert.",
                                 "The file could not be opened:\n%1\n\nReason: %2.\n\nThe page has not changed."};
@@ -48,8 +50,9 @@ Nachfrage Warnung(std::string text) { return {"Kinwright", std::move(text), Knö
 
 } // namespace
 
-Nachfrage SpeichernGescheitert(const std::string &datei, const Dateibefund &befund, bool imNetz, Sprache sprache) {
-    const std::string sicher((imNetz ? ImNetz : NurHier).In(sprache));
+Nachfrage SpeichernGescheitert(const std::string &datei, const Dateibefund &befund, Verbleib verbleib,
+                               Sprache sprache) {
+    const std::string sicher(Verbleibtexte[static_cast<int>(verbleib)].In(sprache));
     return Warnung(Eingesetzt(SaveText.In(sprache), datei, Fehlertext(befund, sprache), sicher));
 }
 

@@ -9,8 +9,11 @@
 // What the user is told when a project couldn't be saved, or not be loaded as it was.
 namespace kw {
 
-/// `imNetz`: the safety net has the document as it stands.
-Nachfrage SpeichernGescheitert(const std::string &datei, const Dateibefund &befund, bool imNetz, Sprache sprache);
+/// Where a document is that couldn't be saved: nothing of it was unsaved, the safety net has it too, or nobody else
+/// has.
+enum class Verbleib { Unverändert, ImNetz, NurAufDerSeite };
+
+Nachfrage SpeichernGescheitert(const std::string &datei, const Dateibefund &befund, Verbleib verbleib, Sprache sprache);
 
 /// The file couldn't be read, and nothing has changed.
 Nachfrage LadenGescheitert(const std::string &datei, const Dateibefund &befund, Sprache sprache);

@@ -16,9 +16,10 @@ namespace kw {
 
 namespace {
 
-constexpr int StartVerzögerung = 200;   ///< ms; lets the window finish painting first
-constexpr int SpracheVerzögerung = 300; ///< ms
-constexpr int ZoomBeimStart = 2;        ///< "100 %", whatever the settings say
+constexpr int FassungenVerzögerung = 100; ///< ms; before anything else is opened
+constexpr int StartVerzögerung = 200;     ///< ms; lets the window finish painting first
+constexpr int SpracheVerzögerung = 300;   ///< ms
+constexpr int ZoomBeimStart = 2;          ///< "100 %", whatever the settings say
 
 } // namespace
 
@@ -42,7 +43,8 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, plattform.drucker, *this),
       hinweis(bedienung, plattform.benutzer),
       bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
-      projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt},
+      netz(start.Netzordner),
+      projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt, netz},
               {ansicht, anzeige, plattform.benutzer, *this, *this, [this] { NichtsAuswählen(werkbank); }},
               start.IniDatei),
       import(start, {dokument, lage, ansicht}, projekt, plattform.benutzer, *this),
@@ -72,12 +74,14 @@ void frmMain::Laden() {
     bereich.Bildgrößenveränderung();
     ZeitgeberStellen();
     projekt.Geändert = false;
+    projekt.Loslassen(); // an empty page is nothing to keep
     NachEreignis();
 }
 
 /// What the start leaves for when the window has been painted.
 void frmMain::ZeitgeberStellen() {
     const auto stellen = [this](const char *name, int ms) { plattform.benutzer.ZeitgeberStarten(name, ms); };
+    if (netz.HatUnbeantwortete()) stellen("tmrFassungen", FassungenVerzögerung);
     if (Datenimport::IstVerlangt(start.Kommandozeile)) stellen("Timer5", StartVerzögerung);
     else if (!Getrimmt(Kommandozeile).empty()) stellen("Timer2", StartVerzögerung);
     if (einstellungen.OhneSprache) stellen("tmrLanguage", SpracheVerzögerung);
@@ -115,17 +119,24 @@ bool frmMain::Schließen() {
     const bool gefragt = projekt.Geändert;
     if (!SitzungBeenden()) return false;
     if (gefragt) anzeige.UndoKnöpfeSperren();
+    projekt.Loslassen();
     return true;
 }
 
 bool frmMain::SitzungBeenden() {
     projekt.SpeichernAbgebrochen = false;
+    aufgegeben_ = false;
     if (!projekt.NachÄnderungenFragen()) return false;
+    aufgegeben_ = projekt.Geändert;
     EinstellungenSichern();
     return true;
 }
 
-void frmMain::Beenden() { EinstellungenSichern(); }
+/// What was given up goes only now: until here somebody else could have kept the session.
+void frmMain::Beenden() {
+    if (aufgegeben_) projekt.Loslassen();
+    EinstellungenSichern();
+}
 
 void frmMain::EinstellungenSichern() {
     projekt.IniDatei = start.IniDatei;
@@ -140,7 +151,8 @@ void frmMain::EinstellungenSichern() {
 }
 
 void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
-    if (name == "Timer2" && !Getrimmt(Kommandozeile).empty()) projekt.Öffnen(Kommandozeile);
+    if (name == "tmrFassungen" && netz.HatUnbeantwortete()) FormÖffnen(Name::frmFassungen);
+    if (name == "Timer2" && !Getrimmt(Kommandozeile).empty()) KommandozeileÖffnen();
     if (name == "Timer3" && !Getrimmt(lage.PersRecord).empty()) FormÖffnen(Name::frmSymbol);
     if (name == "Timer4") Vorschau();
     if (name == "Timer5") DatenÜbernehmen();
@@ -150,8 +162,25 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     NachEreignis();
 }
 
-/// What every event ends with: what can be chosen follows, the face shows it.
+/// The command line's project. One that came from the safety net before it is asked about.
+void frmMain::KommandozeileÖffnen() {
+    if (projekt.NachÄnderungenFragen()) projekt.Öffnen(Kommandozeile);
+}
+
+/// Brings the safety net up to date with what the event has done. That it can't be is said once.
+void frmMain::Festhalten() {
+    static constexpr Zweisprachig NetzFehlt{
+        "Das Sicherheitsnetz kann nicht geschrieben werden. Bitte speichern Sie öfter.",
+        "The safety net can't be written. Please save more often."};
+    const bool gehalten = projekt.Nachführen();
+    if (!gehalten && !netzGemeldet_) lage.Hinweis = &NetzFehlt;
+    netzGemeldet_ = !gehalten;
+}
+
+/// What every event ends with: the safety net has its outcome, what can be chosen follows, the face shows it.
 void frmMain::NachEreignis() {
+    aufgegeben_ = false;
+    Festhalten();
     anzeige.MöglichesZeigen();
     plattform.benutzer.AnzeigeAuffrischen();
 }
@@ -224,7 +253,7 @@ void frmMain::FormÖffnen(Formularname name) {
 }
 
 Dialogumgebung frmMain::FürFormulare() {
-    return {werkbank, einstellungen, start.IniDatei, plattform.uhr, plattform.drucker, *this};
+    return {werkbank, einstellungen, start.IniDatei, plattform.uhr, plattform.drucker, *this, netz};
 }
 
 Befehlsumgebung frmMain::FürBefehle() {
@@ -264,6 +293,13 @@ bool frmMain::GenogrammDrucken() {
 void frmMain::AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) {
     if (inDatei) bildexport.AuswahlAlsBildSpeichern(cm, projekt.Projektdatei);
     else bildexport.AusschnittKopieren(cm);
+}
+
+bool frmMain::FassungÖffnen(const std::string &name) {
+    const auto fassung = netz.Lesen(name);
+    if (!fassung || !projekt.FassungÖffnen(*fassung)) return false;
+    Festhalten();
+    return true;
 }
 
 void frmMain::mnuBearbeiten_Öffnen() {

@@ -11,6 +11,7 @@
 #include "document/Auswahlliste.h"
 #include "document/Dokument.h"
 #include "document/Einstellungen.h"
+#include "document/Sicherheitsnetz.h"
 #include "document/UndoRing.h"
 #include "editing/Leinwand.h"
 #include "output/Arbeitsbereich.h"
@@ -105,10 +106,13 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void LegendeZeigen(bool sichtbar) override;
     void SeiteAnwenden() override;
     bool GenogrammDrucken() override;
+    bool FassungÖffnen(const std::string &name) override;
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
 
     bool IstFrei(std::string_view name) const;
     void NachEreignis();
+    void Festhalten();
+    void KommandozeileÖffnen();
     void ZweiteStufe();
     void ListenFüllen();
     void DruckerErmitteln();
@@ -144,11 +148,14 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Darstellung darstellung;
     Werkzeughinweis hinweis;
     Bildexport bildexport;
+    Sicherheitsnetz netz;
     Projekt projekt;
     Datenimport import;
     Werkbank werkbank;
     Leinwand leinwand;
-    std::string Kommandozeile; ///< trimmed and unquoted
+    bool aufgegeben_ = false;   ///< the closing question was answered with No
+    bool netzGemeldet_ = false; ///< that the safety net can't be written
+    std::string Kommandozeile;  ///< trimmed and unquoted
     const Anblick anblick{projekt.Titel, ansicht, bedienung,           bereich,
                           auflagen,      lage,    import.Listenzeilen, plattform.uhr};
 };

@@ -17,22 +17,21 @@ namespace kw {
 
 namespace {
 
-using Art = Netzkopf::Art;
+using Netzart = Netzkopf::Art;
 
 constexpr Formularzeile Zeilen[] = {
     {"lblErklärung",
-     kw::Art::Beschriftung,
+     Art::Beschriftung,
      {"Diese Genogramme stehen so in keiner Projektdatei. Öffnen überschreibt nichts; das Schließkreuz behält alle.",
       "No project file holds these genograms as they are. Opening one overwrites nothing; the close box keeps all."}},
-    {"lstFassungen", kw::Art::Listenfeld},
-    {"picSeite", kw::Art::Bild},
-    {"lblOrt", kw::Art::Beschriftung},
-    {"cmdÖffnen", kw::Art::Knopf, {"Öffnen", "Open"}},
-    {"cmdBehalten", kw::Art::Knopf, {"Behalten", "Keep"}},
-    {"cmdLöschen", kw::Art::Knopf, {"Löschen", "Delete"}},
+    {"lstFassungen", Art::Listenfeld},
+    {"picSeite", Art::Bild},
+    {"lblOrt", Art::Beschriftung},
+    {"cmdÖffnen", Art::Knopf, {"Öffnen", "Open"}},
+    {"cmdBehalten", Art::Knopf, {"Behalten", "Keep"}},
+    {"cmdLöschen", Art::Knopf, {"Löschen", "Delete"}},
 };
-constexpr Formulartafel Tafel{
-    Name::frmFassungen.Text, {"Gesicherte Fassungen", "Kept Versions"}, Zeilen, "cmdÖffnen"};
+constexpr Formulartafel Tafel{Name::frmFassungen.Text, {"Gesicherte Fassungen", "Kept Versions"}, Zeilen, "cmdÖffnen"};
 
 constexpr Zweisprachig OhneNamen{"Ohne Namen", "Unnamed"};
 constexpr Zweisprachig NieGespeichert{"Noch nie gespeichert", "Never saved"};
@@ -41,14 +40,14 @@ constexpr Zweisprachig EinePerson{"1 Person", "1 person"};
 constexpr Zweisprachig Personen{" Personen", " persons"};
 
 struct Artname {
-    Art Was;
+    Netzart Was;
     Zweisprachig Text;
 };
 constexpr Artname Artnamen[] = {
-    {Art::Stand, {"nicht gespeichert", "not saved"}},
-    {Art::Behalten, {"behalten", "kept"}},
-    {Art::Verdrängt, {"ersetzte Datei", "replaced file"}},
-    {Art::VorOrt, {"Speichern abgebrochen", "saving broke off"}},
+    {Netzart::Stand, {"nicht gespeichert", "not saved"}},
+    {Netzart::Behalten, {"behalten", "kept"}},
+    {Netzart::Verdrängt, {"ersetzte Datei", "replaced file"}},
+    {Netzart::VorOrt, {"Speichern abgebrochen", "saving broke off"}},
 };
 
 /// In the order in which the user's locale writes dates, to the minute.
@@ -104,7 +103,7 @@ void frmFassungen::Zeigen() {
     const Netzkopf *fassung = Gewählte();
     for (const char *knopf : {"cmdÖffnen", "cmdBehalten", "cmdLöschen"}) (*this)[knopf].Enabled = fassung != nullptr;
     const Sprache sprache = umgebung_.Sprache();
-    (*this)["lblOrt"].Caption = !fassung                          ? Leer.In(sprache)
+    (*this)["lblOrt"].Caption = !fassung                        ? Leer.In(sprache)
                                 : fassung->Projektdatei.empty() ? NieGespeichert.In(sprache)
                                                                 : std::string_view(fassung->Projektdatei);
     seite_.reset();
@@ -138,7 +137,7 @@ void frmFassungen::Behalten() {
     umgebung_.netz.Behalten(Gewählte()->Name);
     Auffüllen((*this)["lstFassungen"].ListIndex);
     for (size_t i = 0; i < fassungen_.size(); ++i)
-        if (fassungen_[i].Was == Art::Stand || fassungen_[i].Was == Art::VorOrt)
+        if (fassungen_[i].Was == Netzart::Stand || fassungen_[i].Was == Netzart::VorOrt)
             return Wählen("lstFassungen", static_cast<int>(i));
     Schließen();
 }

@@ -12,6 +12,7 @@ constexpr Grundtext Texte[] = {
     {Ursache::KeinPlatz, {"Auf dem Datenträger ist kein Platz mehr", "There is no space left on the disk"}},
     {Ursache::Schreibgeschützt,
      {"Die Datei oder ihr Ordner ist schreibgeschützt", "The file or its folder is write-protected"}},
+    {Ursache::Lesegeschützt, {"Sie dürfen die Datei nicht lesen", "You may not read the file"}},
     {Ursache::FehltDatei, {"Die Datei gibt es nicht", "The file does not exist"}},
     {Ursache::OrdnerFehlt, {"Den Ordner gibt es nicht mehr", "The folder does not exist any more"}},
     {Ursache::ZuGroß, {"Die Datei ist zu groß", "The file is too large"}},

@@ -1,25 +1,10 @@
 #include "document/Nachfluss.h"
 
-#include "document/Dateinamen.h"
-
-#include <fcntl.h>
-#include <unistd.h>
+#include "document/Dateien.h"
 
 #include <utility>
 
 namespace kw {
-
-namespace {
-
-/// What fails here is lost at worst by a power cut, and the next event writes all of it anew.
-void AufDiePlatte(const std::string &pfad) {
-    const int fd = ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (fd < 0) return;
-    ::fsync(fd);
-    ::close(fd);
-}
-
-} // namespace
 
 Nachfluss::~Nachfluss() {
     {
@@ -46,8 +31,7 @@ void Nachfluss::Arbeiten() {
         if (wunsch_.empty()) return;
         const std::string pfad = std::exchange(wunsch_, {});
         wache.unlock();
-        AufDiePlatte(pfad);
-        AufDiePlatte(Pfad(pfad));
+        AufDiePlatte(pfad); // what fails here is lost at worst by a power cut, and the next event writes it anew
         wache.lock();
     }
 }

@@ -19,8 +19,8 @@ struct Netzkopf {
     };
     std::string Name; ///< of its file in the net's folder
     Art Was = Art::Stand;
-    std::string Projektdatei;             ///< as the program had it; empty for a project never saved
-    std::int64_t Zeit = 0;                ///< nanoseconds since 1970
+    std::string Projektdatei; ///< as the program had it; empty for a project never saved
+    std::int64_t Zeit = 0;    ///< nanoseconds since 1970
     int Personen = 0;
     std::optional<Fingerabdruck> Herkunft; ///< of the project file as it was loaded or last saved
 };

@@ -214,4 +214,19 @@ std::string Ladeprüfung(const Profil &profil, const Dokument &dokument) {
     return schaden + "; " + std::to_string(gelesen) + " of " + std::to_string(vorhanden) + " records read";
 }
 
+Ladebefund ProjektLesen(const Profil &profil, Dokument &dokument) {
+    Ladebefund b;
+    SeiteLesen(profil, dokument);
+    try {
+        SpeicherLesen(profil, dokument);
+        LegendeLesen(profil, dokument);
+        b.BisZumEnde = true;
+    } catch (const FeldFehlt &) {
+    }
+    const auto text = Ladeprüfung(profil, dokument);
+    b.IstProjekt = text != KeinProjekt;
+    if (!text.empty()) b.Schaden = Ladeschaden{};
+    return b;
+}
+
 } // namespace kw

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/Dokument.h"
+#include "document/Ladebefund.h"
 #include "document/Profil.h"
 
 #include <string>
@@ -35,5 +36,7 @@ constexpr std::string_view KeinProjekt = "not a Kinwright project";
 /// read, and where, as a plain part of an English sentence: the first such place, and how many records
 /// were read if not all. A missing `legende` is no damage, since old files have none.
 std::string Ladeprüfung(const Profil &profil, const Dokument &dokument);
+
+Ladebefund ProjektLesen(const Profil &profil, Dokument &dokument);
 
 } // namespace kw

@@ -220,8 +220,13 @@ bool Sicherheitsnetz::Aufheben(const std::string &name, const std::string &pfad,
     return DateiSchreiben(Ort(name), Netzdatei(kopf, inhalt), wie).Gelungen();
 }
 
+/// The same version of a file is asked for twice when somebody writes it again while it is being replaced.
 bool Sicherheitsnetz::Beiseitelegen(const std::string &pfad, std::string_view inhalt) {
-    return Bereit() && Aufheben(NeuerName(), pfad, inhalt);
+    const std::pair fassung(pfad, FingerabdruckVon(inhalt));
+    if (fassung == beiseite_) return true;
+    if (!Bereit() || !Aufheben(NeuerName(), pfad, inhalt)) return false;
+    beiseite_ = fassung;
+    return true;
 }
 
 bool Sicherheitsnetz::VorOrtBeginnt(const std::string &pfad, std::string_view alt, std::string_view neu) {

@@ -5,6 +5,7 @@
 #include "document/Netzeintrag.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kw {
@@ -43,8 +44,8 @@ class Sicherheitsnetz : public Versionswahrer {
     std::optional<Netzeintrag> Lesen(const std::string &name) const;
     void Behalten(const std::string &name) const;
     void Löschen(const std::string &name) const;
-    /// Whoever shows a version for the first time says so before, and again when it is shown: in between it may bring the
-    /// program down, and then it has been tried.
+    /// Whoever shows a version for the first time says so before, and again when it is shown: in between it may bring
+    /// the program down, and then it has been tried.
     bool IstVersucht(const std::string &name) const;
     void VersuchBeginnen(const std::string &name) const;
     void VersuchEnden(const std::string &name) const;
@@ -70,8 +71,9 @@ class Sicherheitsnetz : public Versionswahrer {
     int gezählt_ = 0; ///< versions set aside
     Dokument stand_;  ///< as it was kept, saved or loaded last
     bool hält_ = false;
-    std::string abgelöst_; ///< goes when its successor is written
-    std::string vorOrt_;   ///< of the file that is being written in place
+    std::string abgelöst_;                           ///< goes when its successor is written
+    std::pair<std::string, Fingerabdruck> beiseite_; ///< path and content of what was set aside last
+    std::string vorOrt_;                             ///< of the file that is being written in place
     Nachfluss nachfluss_;
 };
 

@@ -10,6 +10,7 @@ namespace kw {
 
 class Datenimport;
 class Drucker;
+class Sicherheitsnetz;
 class Uhr;
 class frmMain;
 struct Auswahlliste;
@@ -28,6 +29,7 @@ struct Einblick : Werkbank, Befehlsumgebung {
     Einstellungen &einstellungen;
     std::string &Kommandozeile;
     Auswahlliste &cboRaster;
+    Sicherheitsnetz &netz;
     Drucker &drucker;
     const Uhr &uhr;
 

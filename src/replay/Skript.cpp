@@ -1,6 +1,7 @@
 #include "replay/Skript.h"
 
 #include "app/Startangaben.h"
+#include "app/frmMain.h"
 #include "document/Felder.h"
 #include "document/Zahlen.h"
 #include "replay/Programm.h"
@@ -44,8 +45,8 @@ using Angaben = std::map<std::string, std::string>;
 
 /// What the line says beyond the defaults.
 Angaben AngabenAus(const Wörter &w) {
-    constexpr std::string_view Bekannt[] = {"ini",      "cmd",     "today",  "screen",
-                                            "printers", "margins", "locale", "documents"};
+    constexpr std::string_view Bekannt[] = {"ini",     "cmd",    "today",     "screen", "printers",
+                                            "margins", "locale", "documents", "state"};
     Angaben angaben{{"today", "2026-03-12"}, {"screen", "1920x1080"}, {"locale", "de"}};
     for (size_t i = 1; i < w.size(); ++i) {
         std::string_view rest = w[i];
@@ -91,7 +92,7 @@ int Wiedergabe::Ausführen(std::istream &skript) {
         return 2;
     }
     skript_ = nullptr;
-    AntwortenPrüfen();
+    Beenden();
     return gescheitert_ ? 1 : 0;
 }
 
@@ -114,18 +115,28 @@ void Wiedergabe::Zeile(const std::string &zeile) {
     if (programm_ && std::exchange(programm_->benutzer.SchließenVerlangt, false)) Zeile("close");
 }
 
-void Wiedergabe::Starten(const Wörter &w) {
+void Wiedergabe::Abstürzen() { programm_.reset(); }
+
+void Wiedergabe::Beenden() {
     AntwortenPrüfen();
+    if (programm_) programm_->haupt->Beenden();
+    programm_.reset();
+}
+
+void Wiedergabe::Starten(const Wörter &w) {
+    Beenden();
     if (ordner_.empty()) throw Skriptfehler("no folder for the run's own settings; see TMPDIR");
     Angaben angaben = AngabenAus(w);
+    ++starts_;
     const auto bild = Geteilt(angaben["screen"], 'x');
     Startangaben start;
     start.Kommandozeile = angaben["cmd"];
-    start.IniDatei = angaben.contains("ini") ? angaben["ini"] : ordner_ + "/prog" + std::to_string(++starts_) + ".ini";
+    start.IniDatei = angaben.contains("ini") ? angaben["ini"] : ordner_ + "/prog" + std::to_string(starts_) + ".ini";
     // The program stands beside settings that a script names, else where the script runs.
     start.Programmordner = std::filesystem::path(angaben["ini"]).parent_path().string();
     if (start.Programmordner.empty()) start.Programmordner = ".";
     start.Dokumentordner = angaben.contains("documents") ? angaben["documents"] : ordner_;
+    start.Netzordner = angaben.contains("state") ? angaben["state"] : ordner_ + "/netz" + std::to_string(starts_);
     start.Hilfeordner = "/usr/share/kinwright/help";
     start.BildschirmBreite = Zahl(Wort(bild, 0)) * TwipsJePixel;
     start.BildschirmHöhe = Zahl(Wort(bild, 1)) * TwipsJePixel;

@@ -27,6 +27,8 @@ class Wiedergabe {
 
     /// A fresh program, as the words after the first tell: `today=2026-03-12` and so on.
     void Starten(const Wörter &w);
+    /// Ends the program as a kill would: nothing is written, nobody is asked.
+    void Abstürzen();
     /// The program; started with the defaults if the script didn't.
     Programm &Läuft();
     /// The next line of the script, for a command of several lines; false at its end.
@@ -37,6 +39,8 @@ class Wiedergabe {
     std::ostream &aus;
 
   private:
+    /// Ends a program that is running as the system's signal does.
+    void Beenden();
     /// An answer that nobody asked for fails the run.
     void AntwortenPrüfen();
 

@@ -1,5 +1,6 @@
 #include "app/frmMain.h"
 #include "commands/Menuetafel.h"
+#include "document/Sicherheitsnetz.h"
 #include "document/Texte.h"
 #include "replay/Namen.h"
 #include "replay/Programm.h"
@@ -12,10 +13,7 @@ namespace kw {
 
 namespace {
 
-void Speichern(Projekt &projekt, const std::string &datei) {
-    projekt.Projektdatei = datei;
-    projekt.ProjektSchreiben();
-}
+void Speichern(Projekt &projekt, const std::string &datei) { projekt.ProjektSchreiben(datei); }
 
 void Ablegen(Programm &p, const Wörter &w) {
     const auto liste = p.namen->Listen.find(Wort(w, 1));
@@ -69,6 +67,16 @@ std::string FormText(const Programm &p, const std::string &name) {
     return name + " " + form->second() + (p.namen->Sichtbar.at(name)() ? " visible" : " hidden");
 }
 
+/// What the safety net holds, but of programs that are running.
+std::string NetzText(const Sicherheitsnetz &netz) {
+    const auto einträge = netz.Einträge();
+    std::string text = "net " + std::to_string(einträge.size()) + "\n";
+    for (const Netzkopf &kopf : einträge)
+        text +=
+            "  " + (kopf.Projektdatei.empty() ? "-" : kopf.Projektdatei) + " " + std::to_string(kopf.Personen) + "\n";
+    return text;
+}
+
 void Drucken(Wiedergabe &lauf, const Wörter &w) {
     Programm &p = lauf.Läuft();
     const std::string &name = Wort(w, 1);
@@ -78,6 +86,10 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
     }
     if (name == "effects") {
         lauf.aus << std::exchange(p.wirkungen, {});
+        return;
+    }
+    if (name == "net") {
+        lauf.aus << NetzText(p.innen.netz);
         return;
     }
     if (name == "shape") {
@@ -140,6 +152,7 @@ constexpr Skriptbefehl Tabelle[] = {
     {"print", [](auto &lauf, auto &w, auto &) { Drucken(lauf, w); }},
     {"expect", [](auto &lauf, auto &, auto &zeile) { Erwarten(lauf, zeile); }},
     {"draw", [](auto &lauf, auto &w, auto &) { Zeichnen(lauf, w); }},
+    {"crash", [](auto &lauf, auto &, auto &) { lauf.Abstürzen(); }},
     {"say", [](auto &lauf, auto &w, auto &) { lauf.aus << Ab(w, 1) << "\n"; }},
     {"captions", [](auto &lauf, auto &w, auto &) { Beschriftungen(lauf.aus, Wort(w, 1)); }},
 };

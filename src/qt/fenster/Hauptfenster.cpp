@@ -39,6 +39,7 @@ Startangaben Angaben(const std::string &kommandozeile) {
             Hilfeordner(),
             bildschirm.width() * TwipsJePixel,
             bildschirm.height() * TwipsJePixel,
+            NetzordnerDesBenutzers(),
             QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation).toStdString()};
 }
 

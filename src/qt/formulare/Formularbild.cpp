@@ -49,7 +49,8 @@ Formularbild::Formularbild(Formular &form, std::string name, QWidget *eltern)
 
 QSize Formularbild::sizeHint() const {
     const auto [breite, höhe] = form_.BildGröße(name_);
-    const double jeEinheit = BildschirmPixelJeCm * form_.BildMaßstab(name_) * std::max(1.0, QFontMetricsF(font()).height() / GewohnteZeile);
+    const double jeEinheit =
+        BildschirmPixelJeCm * form_.BildMaßstab(name_) * std::max(1.0, QFontMetricsF(font()).height() / GewohnteZeile);
     return {static_cast<int>(std::ceil(breite * jeEinheit)) + 2 * Rand,
             static_cast<int>(std::ceil(höhe * jeEinheit)) + 2 * Rand};
 }

@@ -162,8 +162,7 @@ void Formularfenster::Benennen() {
         const Steuerelement &element = form_[name];
         const auto *rahmen = dynamic_cast<QGroupBox *>(teil->parentWidget());
         if (!element.Tip.empty()) teil->setAccessibleName(Text(element.Tip));
-        else if (IstBox(element.Kind) || element.Kind == Art::Liste ||
-                 element.Kind == Art::Listenfeld)
+        else if (IstBox(element.Kind) || element.Kind == Art::Liste || element.Kind == Art::Listenfeld)
             teil->setAccessibleName(Vorlesbar(rahmen ? rahmen->title() : windowTitle()));
     }
     for (const auto *schild : findChildren<QLabel *>())

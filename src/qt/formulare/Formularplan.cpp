@@ -225,8 +225,12 @@ constexpr Baustein Info[] = {
 };
 
 constexpr Baustein Fassungen[] = {
-    Feld("lblErklärung").AlsAbsatz(60), Reihe(Abstand), Feld("lstFassungen").Mindestens(52, 10).Gedehnt(),
-    Feld("picSeite"), Ende, Feld("lblOrt").AlsAbsatz(60),
+    Feld("lblErklärung").AlsAbsatz(60),
+    Reihe(Abstand),
+    Feld("lstFassungen").Mindestens(52, 10).Gedehnt(),
+    Feld("picSeite"),
+    Ende,
+    Feld("lblOrt").AlsAbsatz(60),
 };
 
 constexpr Formularplan Pläne[] = {

@@ -14,10 +14,10 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QListWidget>
 #include <QSignalBlocker>
 #include <QTextDocument>
 #include <QTextEdit>

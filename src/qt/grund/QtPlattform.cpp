@@ -34,6 +34,12 @@ std::string EinstellungsDateiDesBenutzers() {
     return EinstellungsDatei(QCoreApplication::applicationDirPath().toStdString(), konfig.toStdString() + "/kinwright");
 }
 
+std::string NetzordnerDesBenutzers() {
+    const QString zustand = qEnvironmentVariable("XDG_STATE_HOME"); // the toolkit knows no such place yet
+    const bool gilt = QDir::isAbsolutePath(zustand);                // as its rules say
+    return (gilt ? zustand : QDir::homePath() + QStringLiteral("/.local/state")).toStdString() + "/kinwright";
+}
+
 std::string Hilfeordner() {
     const QDir programm(QCoreApplication::applicationDirPath());
     const QString daneben = programm.filePath(QStringLiteral("help"));

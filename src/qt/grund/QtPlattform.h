@@ -27,6 +27,9 @@ Datumsfolge FolgeAus(const std::string &datumsformat);
 /// The settings file of this user on this machine.
 std::string EinstellungsDateiDesBenutzers();
 
+/// The folder of this user's safety net. Without a closing "/".
+std::string NetzordnerDesBenutzers();
+
 /// Where the manual stands: beside the program, or where an installation puts it. Without a closing "/".
 std::string Hilfeordner();
 
