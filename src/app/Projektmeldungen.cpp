@@ -11,7 +11,7 @@ constexpr Zweisprachig SaveText{
     "Das Genogramm konnte nicht gespeichert werden:\n%1\n\nGrund: %2.\n\n%3\n"
     "Speichern Sie es unter einem anderen Namen oder in einem anderen Ordner (Datei, Speichern unter ...).",
     "The genogram could not be saved:\n%1\n\nReason: %2.\n\n%3\n"
-    "Please save it under another name or in another folder (File, Save as ...)."};
+    "Please save it under another name or in another folder (File, Save As ...)."};
 /// By `Verbleib`.
 constexpr Zweisprachig Verbleibtexte[] = {
     {"Das Genogramm steht unverändert auf der Seite.", "The genogram is unchanged on the page."},

@@ -77,6 +77,7 @@ Wiedergabe::Wiedergabe(std::ostream &aus_) : aus(aus_) {
 }
 
 Wiedergabe::~Wiedergabe() {
+    Beenden();
     std::error_code fehler;
     if (!ordner_.empty()) std::filesystem::remove_all(ordner_, fehler);
 }
@@ -92,7 +93,7 @@ int Wiedergabe::Ausführen(std::istream &skript) {
         return 2;
     }
     skript_ = nullptr;
-    Beenden();
+    AntwortenPrüfen();
     return gescheitert_ ? 1 : 0;
 }
 
@@ -118,12 +119,12 @@ void Wiedergabe::Zeile(const std::string &zeile) {
 void Wiedergabe::Abstürzen() { programm_.reset(); }
 
 void Wiedergabe::Beenden() {
-    AntwortenPrüfen();
     if (programm_) programm_->haupt->Beenden();
     programm_.reset();
 }
 
 void Wiedergabe::Starten(const Wörter &w) {
+    AntwortenPrüfen();
     Beenden();
     if (ordner_.empty()) throw Skriptfehler("no folder for the run's own settings; see TMPDIR");
     Angaben angaben = AngabenAus(w);

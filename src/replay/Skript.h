@@ -39,7 +39,7 @@ class Wiedergabe {
     std::ostream &aus;
 
   private:
-    /// Ends a program that is running as the system's signal does.
+    /// Ends a program that is running as the system's signal does: so does another start, and the script's end.
     void Beenden();
     /// An answer that nobody asked for fails the run.
     void AntwortenPrüfen();

@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QTimerEvent>
 
@@ -116,6 +117,7 @@ menu mnuAltersangabe
 menu mnuSeiteEinrichten
 menu mnuEinstellungen
 menu mnuInfo
+menu mnuFassungen
 tool 10
 click 9 12)";
 
@@ -160,7 +162,10 @@ TEST_F(Augenschein, FormulareZeigenAllesGanz) {
     Überall([](const std::string &sprache, const std::string &wo) {
         std::ostringstream aus;
         Wiedergabe lauf(aus);
-        lauf.Zeile("start printers=Laser");
+        const QTemporaryDir netz; // with a version to show
+        const std::string start = "start printers=Laser state=" + netz.path().toStdString();
+        for (const std::string &zeile : {start, std::string("tool 1"), std::string("click 6 6"), start})
+            lauf.Zeile(zeile);
         lauf.Zeile("set Sprache " + sprache);
         std::set<std::string> gezeigt;
         lauf.Läuft().benutzer.FormularSpielen = [&](Formular &form, const std::vector<std::string> &) {
