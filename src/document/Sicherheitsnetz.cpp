@@ -124,7 +124,8 @@ Dateibefund Sicherheitsnetz::Festhalten(const Dokument &dokument, const std::str
     nachfluss_.Wünschen(pfad);
     stand_ = dokument;
     hält_ = true;
-    if (!abgelöst_.empty()) Löschen(std::exchange(abgelöst_, {}));
+    if (ArtVon(abgelöst_) != Art::Verdrängt) Löschen(abgelöst_);
+    abgelöst_.clear();
     return {};
 }
 
