@@ -2,7 +2,6 @@
 
 #include "document/Dateien.h"
 #include "document/Einstellungen.h"
-#include "document/Felder.h"
 #include "document/ProjektDatei.h"
 #include "rendering/Seite.h"
 
@@ -21,17 +20,11 @@ std::string Einzelbild::Laden(const std::string &datei) {
     const Dateibefund befund = DateiLesen(datei, inhalt);
     if (!befund.Gelungen()) return befund.Meldung;
     const Profil profil(std::move(inhalt));
-    SeiteLesen(profil, dokument);
-    try {
-        SpeicherLesen(profil, dokument);
-        LegendeLesen(profil, dokument);
-    } catch (const FeldFehlt &) { // a damaged project, or an old one without a legend
-    }
+    const Ladebefund gefunden = ProjektLesen(profil, dokument);
     LegendeAufbauen(dokument, legende_);
     SeiteBestimmen(dokument, ansicht);
-    const std::string schaden = Ladeprüfung(profil, dokument);
-    gelesen_ = schaden != KeinProjekt;
-    return schaden;
+    gelesen_ = gefunden.IstProjekt;
+    return Ladetext(gefunden, Sprache::Englisch);
 }
 
 } // namespace kw

@@ -23,10 +23,10 @@ enum class Schadensart {
 /// A place of a project file that couldn't be read.
 struct Ladeschaden {
     Schadensart Art{};
-    std::string_view Abschnitt; ///< empty for what stands before the first
-    std::size_t Position = 0;   ///< the record's key, or the first one without room
-    int Gebraucht = 0;          ///< fields that a whole record has at least
-    int Vorhanden = 0;          ///< fields that it has
+    std::string_view Abschnitt{}; ///< empty for what stands before the first
+    std::size_t Position = 0;     ///< the record's key, or the first one without room
+    int Gebraucht = 0;            ///< fields that a whole record has at least
+    int Vorhanden = 0;            ///< fields that it has
 };
 
 /// What a load found. The document holds what came, whatever this says.

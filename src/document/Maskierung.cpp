@@ -6,8 +6,6 @@ namespace {
 
 constexpr std::string_view Ziffern = "0123456789ABCDEF";
 
-bool Bleibt(char c) { return c > ' ' && c < '\x7F' && c != '%' && c != '"' && c != '\''; }
-
 } // namespace
 
 std::string Maskiert(std::string_view bytes) {
@@ -15,7 +13,7 @@ std::string Maskiert(std::string_view bytes) {
     text.reserve(bytes.size());
     for (const char c : bytes) {
         const auto byte = static_cast<unsigned char>(c);
-        if (Bleibt(c)) text += c;
+        if (BleibtUnmaskiert(c)) text += c;
         else text.append({'%', Ziffern[byte / Ziffern.size()], Ziffern[byte % Ziffern.size()]});
     }
     return text;
@@ -26,7 +24,7 @@ std::optional<std::string> Demaskiert(std::string_view text) {
     bytes.reserve(text.size());
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] != '%') {
-            if (!Bleibt(text[i])) return {};
+            if (!BleibtUnmaskiert(text[i])) return {};
             bytes += text[i];
             continue;
         }

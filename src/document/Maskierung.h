@@ -6,6 +6,9 @@
 
 namespace kw {
 
+/// Whether this byte stands for itself there.
+constexpr bool BleibtUnmaskiert(char c) { return c > ' ' && c < '\x7F' && c != '%' && c != '"' && c != '\''; }
+
 /// Any bytes as printable ASCII without blanks, quotation marks and "%": all others stand as "%C5".
 std::string Maskiert(std::string_view bytes);
 

@@ -44,6 +44,11 @@ std::string_view OhneAnführung(std::string_view wert) {
     return umschlossen ? wert.substr(1, wert.size() - 2) : wert;
 }
 
+/// The value in a line that is a key's.
+std::string_view WertIn(std::string_view zeile) {
+    return OhneAnführung(OhneLeerzeichen(zeile.substr(zeile.find('=') + 1)));
+}
+
 /// A byte of the code page in lower case.
 char Klein(char c) {
     const auto byte = static_cast<unsigned char>(c);
@@ -181,13 +186,35 @@ std::optional<Profil::Stelle> Profil::Fundstelle(Abschnitt &abschnitt, std::stri
 std::optional<std::string_view> Profil::Wert(std::string_view abschnitt, std::string_view schlüssel) const {
     const auto stelle = Fundstelle(Gesucht(abschnitt), Name(schlüssel));
     if (!stelle) return {};
-    const auto zeile = Zeile(*stelle);
-    return OhneAnführung(OhneLeerzeichen(zeile.substr(zeile.find('=') + 1)));
+    return WertIn(Zeile(*stelle));
 }
 
 std::string Profil::Lesen(std::string_view abschnitt, std::string_view schlüssel) const {
     const auto wert = Wert(abschnitt, schlüssel);
     return wert ? NachUtf8(wert->substr(0, Lesepuffer - 1)) : std::string{};
+}
+
+std::optional<std::string> Profil::LesenUngekürzt(std::string_view abschnitt, std::string_view schlüssel) const {
+    const auto wert = Wert(abschnitt, schlüssel);
+    if (!wert) return {};
+    return NachUtf8(*wert);
+}
+
+std::string Profil::Abbild(std::string_view wert) {
+    const auto bytes = Einzeilig(wert);
+    return NachUtf8(OhneAnführung(OhneLeerzeichen(bytes)));
+}
+
+std::string Profil::Gekürzt(std::string_view gelesen) {
+    return NachUtf8(std::string_view(NachCodepage(gelesen)).substr(0, Lesepuffer - 1));
+}
+
+void Profil::FürAlleEinträge(std::string_view abschnitt, const Eintragsleser &lesen) const {
+    const auto &gesucht = Gesucht(abschnitt);
+    for (auto i = gesucht.Kopf + std::size_t{1}; i < gesucht.Ende; ++i) {
+        const auto zeile = Zeile(i);
+        if (const auto name = Schlüsselname(zeile)) lesen(NachUtf8(*name), NachUtf8(WertIn(zeile)));
+    }
 }
 
 /// A run of other lines is foreign when one of its parts is more than a comment.
@@ -215,14 +242,12 @@ bool Profil::HatVorspann() const {
 }
 
 std::string Profil::SchlüsselListe(std::string_view abschnitt) const {
-    // The list ends in a NUL of its own behind that of its last name, so it holds a byte less than a value.
-    constexpr std::size_t Platz = Lesepuffer - 2;
     const auto &gesucht = Gesucht(abschnitt);
     std::string liste;
-    for (auto i = gesucht.Kopf + std::size_t{1}; i < gesucht.Ende && liste.size() < Platz; ++i) {
+    for (auto i = gesucht.Kopf + std::size_t{1}; i < gesucht.Ende && liste.size() < Listenplatz; ++i) {
         if (const auto name = Schlüsselname(Zeile(i))) liste.append(*name).push_back('\0');
     }
-    return NachUtf8(std::string_view(liste).substr(0, Platz));
+    return NachUtf8(std::string_view(liste).substr(0, Listenplatz));
 }
 
 bool Profil::HatAbschnitt(std::string_view abschnitt) const { return AbschnittAnzahl(abschnitt) > 0; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,11 +17,25 @@ class Profil {
     /// The read buffer of the program's profile routine, in bytes, its closing NUL included.
     static constexpr std::size_t Lesepuffer = 4096;
 
+    /// What of it a section's names can fill: the list ends in a NUL of its own behind that of its last name.
+    static constexpr std::size_t Listenplatz = Lesepuffer - 2;
+
     explicit Profil(std::string inhalt = {});
 
     /// The value without the blanks around it and without one pair of enclosing quotation marks, cut to
     /// 4095 bytes; empty when section or key is missing.
     std::string Lesen(std::string_view abschnitt, std::string_view schlüssel) const;
+    /// The same without the buffer: as long as the line is. Nothing when section or key is missing.
+    std::optional<std::string> LesenUngekürzt(std::string_view abschnitt, std::string_view schlüssel) const;
+    /// What `LesenUngekürzt` gives of a value that `Schreiben` wrote.
+    static std::string Abbild(std::string_view wert);
+    /// What `Lesen` gives of a value that `LesenUngekürzt` read.
+    static std::string Gekürzt(std::string_view gelesen);
+
+    using Eintragsleser = std::function<void(std::string_view schlüssel, std::string_view wert)>;
+    /// Calls `lesen` for every key of the section in file order, one that stands twice included, with what
+    /// `LesenUngekürzt` would give of its line.
+    void FürAlleEinträge(std::string_view abschnitt, const Eintragsleser &lesen) const;
 
     /// The names of all keys of the section in file order, each ended by NUL. What passes the buffer is
     /// cut off: then the last name in it may be a part of one, and has no NUL.

@@ -2,12 +2,15 @@
 
 #include "document/Doppelnummern.h"
 #include "document/Felder.h"
+#include "document/Ganztexte.h"
 #include "document/Papier.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Person.h"
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <vector>
 
 namespace kw {
 
@@ -56,22 +59,105 @@ std::string OhneBlanks(std::string satz) {
 
 /// How many records a load fetches: the whole names in the section's key list. A name that the buffer cut
 /// has no NUL and does not count.
-int SatzAnzahl(const Profil &profil, std::string_view abschnitt) {
+size_t SatzAnzahl(const Profil &profil, std::string_view abschnitt) {
     const auto liste = profil.SchlüsselListe(abschnitt);
-    return static_cast<int>(std::count(liste.begin(), liste.end(), '\0'));
+    return static_cast<size_t>(std::count(liste.begin(), liste.end(), '\0'));
 }
 
-/// False when a person is too short: what was read before it stays.
-bool AbschnittLesen(const Profil &profil, const SpeicherZeile &zeile, Dokument &dokument) {
-    const bool personen = zeile.Liste == &Dokument::cboPersonen;
-    const int anzahl = SatzAnzahl(profil, zeile.Abschnitt);
-    for (int i = 0; i < anzahl; ++i) {
-        auto wert = profil.Lesen(zeile.Abschnitt, std::to_string(i));
-        if (personen && !PersonSatz(wert).Vollständig()) return false;
-        (dokument.*zeile.Liste).Anhängen(personen ? PersonAusDatei(wert) : std::move(wert));
+/// What is wrong with one record.
+std::optional<Ladeschaden> Satzschaden(const SpeicherZeile &zeile, size_t position, std::string_view wert) {
+    if (zeile.Liste == &Dokument::cboFreehandlines) {
+        if (wert.find('^') != std::string_view::npos) return {};
+        return Ladeschaden{Schadensart::OhnePunkt, zeile.Abschnitt, position};
     }
-    return true;
+    const int anzahl = wert.empty() ? 0 : Felder(wert).Anzahl();
+    if (anzahl >= zeile.Pflichtfelder) return {};
+    return Ladeschaden{Schadensart::FelderFehlen, zeile.Abschnitt, position, zeile.Pflichtfelder, anzahl};
 }
+
+/// The reading of the stores: what came, what is missing, and the first place that is damaged.
+class Ladevorgang {
+  public:
+    Ladevorgang(const Profil &profil, Dokument &dokument) : profil_(profil), dokument_(dokument), ganztexte_(profil) {}
+
+    /// Ends at a person who is too short: what was read before stays.
+    Ladebefund Lesen() {
+        befund_.IstProjekt = profil_.HatAbschnitt(Vorgaben);
+        if (profil_.HatVorspann()) Beanstanden(Ladeschaden{Schadensart::Vorspann});
+        dokument_.SpeicherLeeren();
+        befund_.BisZumEnde = std::all_of(SpeicherTabelle.begin(), SpeicherTabelle.end(),
+                                         [this](const SpeicherZeile &zeile) { return AbschnittLesen(zeile); });
+        for (const auto &zeile : SpeicherTabelle) {
+            befund_.IstProjekt = befund_.IstProjekt || profil_.HatAbschnitt(zeile.Abschnitt);
+            befund_.Vorhanden += profil_.SchlüsselAnzahl(zeile.Abschnitt);
+            befund_.Gelesen += static_cast<size_t>((dokument_.*zeile.Liste).Anzahl());
+        }
+        befund_.Verwaist = ganztexte_.Verwaist();
+        DoppelnummernAuflösen(dokument_); // also of what was read before a damage
+        return befund_;
+    }
+
+  private:
+    void Beanstanden(const std::optional<Ladeschaden> &schaden) {
+        if (!befund_.Schaden) befund_.Schaden = schaden;
+    }
+
+    bool AbschnittLesen(const SpeicherZeile &zeile) {
+        const bool personen = zeile.Liste == &Dokument::cboPersonen;
+        const size_t anzahl = SatzAnzahl(profil_, zeile.Abschnitt);
+        auto ganze = personen ? ganztexte_.PersonenZuordnen(zeile.Abschnitt, anzahl)
+                              : ganztexte_.Zuordnen(zeile.Abschnitt, anzahl);
+        for (size_t i = 0; i < anzahl; ++i) {
+            const auto ganz = ganze.find(i);
+            if (!Aufnehmen(zeile, i, ganz == ganze.end() ? Zeilenwert(zeile, i) : std::move(ganz->second)))
+                return false;
+        }
+        size_t unbekannt = anzahl;
+        for (auto hinten = ganze.lower_bound(anzahl); hinten != ganze.end(); ++hinten) {
+            unbekannt += hinten->first == unbekannt ? 1 : 0;
+            Aufnehmen(zeile, hinten->first, std::move(hinten->second));
+        }
+        AbschnittPrüfen(zeile, unbekannt);
+        return true;
+    }
+
+    std::string Zeilenwert(const SpeicherZeile &zeile, size_t position) {
+        const auto schlüssel = std::to_string(position);
+        auto wert = profil_.Lesen(zeile.Abschnitt, schlüssel);
+        if (wert.size() + 1 >= Profil::Lesepuffer && profil_.WirdGekürzt(zeile.Abschnitt, schlüssel))
+            Beanstanden(Ladeschaden{Schadensart::Gekürzt, zeile.Abschnitt, position});
+        return wert;
+    }
+
+    /// Only a person can be too short to be taken.
+    bool Aufnehmen(const SpeicherZeile &zeile, size_t position, std::string wert) {
+        if (!befund_.Schaden) befund_.Schaden = Satzschaden(zeile, position, wert);
+        if (zeile.Liste != &Dokument::cboPersonen) {
+            (dokument_.*zeile.Liste).Anhängen(std::move(wert));
+            return true;
+        }
+        if (!PersonSatz(wert).Vollständig()) return false;
+        dokument_.cboPersonen.Anhängen(PersonAusDatei(wert));
+        return true;
+    }
+
+    /// `unbekannt`: the first key that nobody has read.
+    void AbschnittPrüfen(const SpeicherZeile &zeile, size_t unbekannt) {
+        if (befund_.Schaden) return;
+        const auto gelesen = static_cast<size_t>((dokument_.*zeile.Liste).Anzahl());
+        if (profil_.SchlüsselAnzahl(zeile.Abschnitt) > gelesen)
+            Beanstanden(Ladeschaden{Schadensart::ZuViele, zeile.Abschnitt, unbekannt});
+        if (profil_.HatFremdeZeilen(zeile.Abschnitt))
+            Beanstanden(Ladeschaden{Schadensart::FremdeZeile, zeile.Abschnitt});
+        if (profil_.AbschnittAnzahl(zeile.Abschnitt) > 1)
+            Beanstanden(Ladeschaden{Schadensart::ZweiterGleiche, zeile.Abschnitt});
+    }
+
+    const Profil &profil_;
+    Dokument &dokument_;
+    Ganztexte ganztexte_;
+    Ladebefund befund_;
+};
 
 const char *Flagge(bool wert) { return wert ? "1" : "0"; }
 
@@ -85,14 +171,15 @@ std::string LegendeSatz(const Dokument &d) {
            "_" + Flagge(d.LegendeQuer) + "_" + Flagge(!d.OhneStandardsymbole);
 }
 
-void AbschnittSchreiben(const Dokument &dokument, const SpeicherZeile &zeile, Profil &profil) {
+void AbschnittSchreiben(const Dokument &dokument, const SpeicherZeile &zeile, Profil &profil, Ganzschrift &ganze) {
     const bool personen = zeile.Liste == &Dokument::cboPersonen;
     const bool kreislinien = zeile.Liste == &Dokument::cboFreehandlines;
-    int position = 0;
+    std::vector<std::string> werte;
     for (const auto &satz : dokument.*zeile.Liste) {
-        const auto wert = personen ? PersonInDatei(satz) : kreislinien ? OhneBlanks(satz) : satz;
-        profil.Schreiben(zeile.Abschnitt, std::to_string(position++), wert);
+        werte.push_back(personen ? PersonInDatei(satz) : kreislinien ? OhneBlanks(satz) : satz);
+        profil.Schreiben(zeile.Abschnitt, std::to_string(werte.size() - 1), werte.back());
     }
+    ganze.Aufnehmen(zeile.Abschnitt, werte);
 }
 
 const SpeicherZeile &ZeileVon(std::string_view abschnitt) {
@@ -100,66 +187,12 @@ const SpeicherZeile &ZeileVon(std::string_view abschnitt) {
                          [abschnitt](const SpeicherZeile &zeile) { return zeile.Abschnitt == abschnitt; });
 }
 
-std::string_view Satzart(std::string_view abschnitt) {
-    static constexpr std::array<std::array<std::string_view, 2>, 7> Arten{{{"OBJECTS", "a person"},
-                                                                           {"TEXT", "a text box"},
-                                                                           {"LINEA", "a relationship line"},
-                                                                           {"LINEB", "a partnership line"},
-                                                                           {"LINEC", "a child line"},
-                                                                           {"LINED", "a circle line"},
-                                                                           {"LINEE", "an arrow"}}};
-    for (const auto &[name, art] : Arten) {
-        if (name == abschnitt) return art;
-    }
-    return "a record";
-}
-
-/// What is wrong with one record as the file has it; empty when nothing is.
-std::string Satzschaden(const Profil &profil, const SpeicherZeile &zeile, int position) {
-    const auto schlüssel = std::to_string(position);
-    const auto wert = profil.Lesen(zeile.Abschnitt, schlüssel);
-    const auto ort = std::string(zeile.Abschnitt) + " " + schlüssel + ": ";
-    const auto art = std::string(Satzart(zeile.Abschnitt));
-    if (profil.WirdGekürzt(zeile.Abschnitt, schlüssel)) {
-        return ort + art + " has at most " + std::to_string(Profil::Lesepuffer - 1) + " characters, the rest is lost";
-    }
-    if (zeile.Liste == &Dokument::cboFreehandlines) {
-        return wert.find('^') == std::string::npos ? ort + art + " needs a point, has none" : "";
-    }
-    const int anzahl = wert.empty() ? 0 : Felder(wert).Anzahl();
-    if (anzahl >= zeile.Pflichtfelder) return {};
-    return ort + art + " needs " + std::to_string(zeile.Pflichtfelder) + " fields, has " +
-           (anzahl == 0 ? "none" : std::to_string(anzahl));
-}
-
-std::string Abschnittschaden(const Profil &profil, const SpeicherZeile &zeile) {
-    const int anzahl = SatzAnzahl(profil, zeile.Abschnitt);
-    for (int i = 0; i < anzahl; ++i) {
-        if (auto schaden = Satzschaden(profil, zeile, i); !schaden.empty()) return schaden;
-    }
-    const auto abschnitt = std::string(zeile.Abschnitt);
-    if (profil.SchlüsselAnzahl(abschnitt) > static_cast<size_t>(anzahl)) {
-        return abschnitt + ": more records than can be read, the first is " + abschnitt + " " + std::to_string(anzahl);
-    }
-    if (profil.HatFremdeZeilen(abschnitt)) return abschnitt + ": a line that is no record isn't read";
-    if (profil.AbschnittAnzahl(abschnitt) > 1) return abschnitt + ": only the first section of this name is read";
-    return {};
-}
-
-std::string Legendenschaden(const Profil &profil) {
+std::optional<Ladeschaden> Legendenschaden(const Profil &profil) {
     constexpr int Gelesen = LegendeFeld::MitStandardsymbolen;
     const auto wert = profil.Lesen(Vorgaben, "legende");
     const int anzahl = Felder(wert).Anzahl();
     if (wert.empty() || anzahl >= Gelesen) return {};
-    return "DEFAULT legende: the legend needs " + std::to_string(Gelesen) + " fields, has " + std::to_string(anzahl);
-}
-
-std::string ErsterSchaden(const Profil &profil) {
-    if (profil.HatVorspann()) return "text before the first section isn't read";
-    for (const auto &zeile : SpeicherTabelle) {
-        if (auto schaden = Abschnittschaden(profil, zeile); !schaden.empty()) return schaden;
-    }
-    return Legendenschaden(profil);
+    return Ladeschaden{Schadensart::FelderFehlen, Vorgaben, 0, Gelesen, anzahl};
 }
 
 } // namespace
@@ -172,11 +205,7 @@ void SeiteLesen(const Profil &profil, Dokument &dokument) {
 }
 
 void SpeicherLesen(const Profil &profil, Dokument &dokument) {
-    dokument.SpeicherLeeren();
-    const bool ganz = std::all_of(SpeicherTabelle.begin(), SpeicherTabelle.end(),
-                                  [&](const SpeicherZeile &zeile) { return AbschnittLesen(profil, zeile, dokument); });
-    DoppelnummernAuflösen(dokument); // also of what was read before a damage
-    if (!ganz) throw FeldFehlt();
+    if (!Ladevorgang(profil, dokument).Lesen().BisZumEnde) throw FeldFehlt();
 }
 
 void LegendeLesen(const Profil &profil, Dokument &dokument) {
@@ -188,6 +217,19 @@ void LegendeLesen(const Profil &profil, Dokument &dokument) {
     dokument.LegendeSichtbar = felder[LegendeFeld::Sichtbar] == "1";
 }
 
+Ladebefund ProjektLesen(const Profil &profil, Dokument &dokument) {
+    SeiteLesen(profil, dokument);
+    auto befund = Ladevorgang(profil, dokument).Lesen();
+    if (!befund.Schaden) befund.Schaden = Legendenschaden(profil);
+    if (!befund.BisZumEnde) return befund;
+    try {
+        LegendeLesen(profil, dokument);
+    } catch (const FeldFehlt &) { // a damaged one, or an old file without
+        befund.BisZumEnde = false;
+    }
+    return befund;
+}
+
 void ProjektEintragen(const Dokument &dokument, Profil &profil) {
     // The order in which a new file has its sections, which is not that of the loading.
     static constexpr std::array<std::string_view, 7> Reihenfolge{"OBJECTS", "LINEA", "LINEB", "LINEC",
@@ -195,38 +237,10 @@ void ProjektEintragen(const Dokument &dokument, Profil &profil) {
     for (const auto abschnitt : Reihenfolge) profil.AbschnittLöschen(abschnitt);
     profil.Schreiben(Vorgaben, "orientation", std::to_string(dokument.Seitenlage));
     profil.Schreiben(Vorgaben, "papersize", std::to_string(dokument.Papiercode));
-    for (const auto abschnitt : Reihenfolge) AbschnittSchreiben(dokument, ZeileVon(abschnitt), profil);
+    Ganzschrift ganze;
+    for (const auto abschnitt : Reihenfolge) AbschnittSchreiben(dokument, ZeileVon(abschnitt), profil, ganze);
     profil.Schreiben(Vorgaben, "legende", LegendeSatz(dokument));
-}
-
-std::string Ladeprüfung(const Profil &profil, const Dokument &dokument) {
-    bool bekannt = profil.HatAbschnitt(Vorgaben);
-    size_t vorhanden = 0;
-    size_t gelesen = 0;
-    for (const auto &zeile : SpeicherTabelle) {
-        bekannt = bekannt || profil.HatAbschnitt(zeile.Abschnitt);
-        vorhanden += profil.SchlüsselAnzahl(zeile.Abschnitt);
-        gelesen += static_cast<size_t>((dokument.*zeile.Liste).Anzahl());
-    }
-    if (!bekannt) return std::string(KeinProjekt);
-    const auto schaden = ErsterSchaden(profil);
-    if (schaden.empty() || gelesen >= vorhanden) return schaden;
-    return schaden + "; " + std::to_string(gelesen) + " of " + std::to_string(vorhanden) + " records read";
-}
-
-Ladebefund ProjektLesen(const Profil &profil, Dokument &dokument) {
-    Ladebefund b;
-    SeiteLesen(profil, dokument);
-    try {
-        SpeicherLesen(profil, dokument);
-        LegendeLesen(profil, dokument);
-        b.BisZumEnde = true;
-    } catch (const FeldFehlt &) {
-    }
-    const auto text = Ladeprüfung(profil, dokument);
-    b.IstProjekt = text != KeinProjekt;
-    if (!text.empty()) b.Schaden = Ladeschaden{};
-    return b;
+    ganze.Eintragen(profil);
 }
 
 } // namespace kw

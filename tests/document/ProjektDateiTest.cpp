@@ -39,13 +39,7 @@ const std::string BeispielDatei =
 /// Loads as the main window does and gives what the check says.
 std::string Geladen(const std::string &datei, Dokument &d) {
     const Profil profil(NachCodepage(datei));
-    SeiteLesen(profil, d);
-    try {
-        SpeicherLesen(profil, d);
-        LegendeLesen(profil, d);
-    } catch (const FeldFehlt &) {
-    }
-    return Ladeprüfung(profil, d);
+    return Ladetext(ProjektLesen(profil, d), Sprache::Englisch);
 }
 
 } // namespace
