@@ -33,8 +33,10 @@ template <typename Ruf> bool Gewährt(Ruf ruf) {
 
 /// What a call writes to a buffer; empty with `errno` set when it fails.
 template <typename Ruf> std::string Gefüllt(Ruf ruf) {
-    std::string puffer(GrößtesMerkmal, '\0');
     errno = 0;
+    // Mostly there is none, and asking for the length costs least.
+    if (Ununterbrochen([&] { return ruf(nullptr, 0); }) <= 0) return {};
+    std::string puffer(GrößtesMerkmal, '\0');
     const auto länge = Ununterbrochen([&] { return ruf(puffer.data(), puffer.size()); });
     puffer.resize(länge < 0 ? 0 : static_cast<std::size_t>(länge));
     return puffer;
