@@ -71,8 +71,10 @@ bool Dateirechte::ListeÜbertragen(int fd, bool mitGruppe) const {
 }
 
 bool Dateirechte::Übertragen(int fd) const {
-    for (const auto &[name, wert] : merkmale_)
-        Gewährt([&, n = name.c_str()] { return ::fsetxattr(fd, n, wert.data(), wert.size(), 0); });
+    for (const auto &merkmal : merkmale_) {
+        const auto &wert = merkmal.second;
+        Gewährt([&] { return ::fsetxattr(fd, merkmal.first.c_str(), wert.data(), wert.size(), 0); });
+    }
     struct stat neu {};
     if (::fstat(fd, &neu) != 0) Scheitern();
     // One by one: asked for both, the system refuses both where only the group could be had.

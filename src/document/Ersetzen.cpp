@@ -238,7 +238,7 @@ void VorOrtSchreiben(const Schreibauftrag &auftrag) {
         IstNochDa(auftrag.Ziel, fd);
     });
     if (!fehler || !Fehler([&] { Überschreiben(fd, alt); })) wahrer.VorOrtEndet();
-    if (fehler) throw Systemfehler{*fehler};
+    if (fehler) Scheitern(fehler->Nummer);
 }
 
 } // namespace kw
