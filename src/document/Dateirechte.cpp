@@ -33,8 +33,10 @@ template <typename Ruf> bool Gewährt(Ruf ruf) {
 
 /// What a call writes to a buffer; empty with `errno` set when it fails.
 template <typename Ruf> std::string Gefüllt(Ruf ruf) {
-    std::string puffer(GrößtesMerkmal, '\0');
     errno = 0;
+    // Mostly there is none, and asking for the length costs least.
+    if (Ununterbrochen([&] { return ruf(nullptr, 0); }) <= 0) return {};
+    std::string puffer(GrößtesMerkmal, '\0');
     const auto länge = Ununterbrochen([&] { return ruf(puffer.data(), puffer.size()); });
     puffer.resize(länge < 0 ? 0 : static_cast<std::size_t>(länge));
     return puffer;
@@ -69,8 +71,10 @@ bool Dateirechte::ListeÜbertragen(int fd, bool mitGruppe) const {
 }
 
 bool Dateirechte::Übertragen(int fd) const {
-    for (const auto &[name, wert] : merkmale_)
-        Gewährt([&, n = name.c_str()] { return ::fsetxattr(fd, n, wert.data(), wert.size(), 0); });
+    for (const auto &merkmal : merkmale_) {
+        const auto &wert = merkmal.second;
+        Gewährt([&] { return ::fsetxattr(fd, merkmal.first.c_str(), wert.data(), wert.size(), 0); });
+    }
     struct stat neu {};
     if (::fstat(fd, &neu) != 0) Scheitern();
     // One by one: asked for both, the system refuses both where only the group could be had.

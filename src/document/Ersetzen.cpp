@@ -143,6 +143,11 @@ bool Vorbereitet(const Schreibauftrag &auftrag, const Temporärdatei &neu, const
     return true;
 }
 
+/// In place of this file another was put while it was at work on it: another try would do.
+void IstNochDa(const std::string &name, int fd) {
+    if (!StehtFür(name, fd)) Scheitern(EAGAIN);
+}
+
 void Überschreiben(int fd, std::string_view inhalt) {
     ZumAnfang(fd);
     AllesSchreiben(fd, inhalt);
@@ -152,9 +157,10 @@ void Überschreiben(int fd, std::string_view inhalt) {
     if (!Enthält(fd, inhalt)) Scheitern(EIO);
 }
 
-std::optional<Systemfehler> ÜberschreibenMitBefund(int fd, std::string_view inhalt) {
+/// Runs what changes the file, and tells what it threw.
+template <typename Ruf> std::optional<Systemfehler> Fehler(Ruf ruf) {
     try {
-        Überschreiben(fd, inhalt);
+        ruf();
         return {};
     } catch (const Systemfehler &fehler) {
         return fehler;
@@ -226,9 +232,13 @@ void VorOrtSchreiben(const Schreibauftrag &auftrag) {
         wahrer.VorOrtEndet();
         throw;
     }
-    const auto fehler = ÜberschreibenMitBefund(fd, auftrag.Inhalt);
-    if (!fehler || !ÜberschreibenMitBefund(fd, alt)) wahrer.VorOrtEndet();
-    if (fehler) throw Systemfehler{*fehler};
+    const auto fehler = Fehler([&] {
+        IstNochDa(auftrag.Ziel, fd);
+        Überschreiben(fd, auftrag.Inhalt);
+        IstNochDa(auftrag.Ziel, fd);
+    });
+    if (!fehler || !Fehler([&] { Überschreiben(fd, alt); })) wahrer.VorOrtEndet();
+    if (fehler) Scheitern(fehler->Nummer);
 }
 
 } // namespace kw
