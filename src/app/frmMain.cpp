@@ -119,6 +119,7 @@ bool frmMain::Schließen() {
 }
 
 bool frmMain::SitzungBeenden() {
+    leinwand.GesteAbbrechen(); // what stands on the page already counts as a change
     projekt.SpeichernAbgebrochen = false;
     if (!projekt.NachÄnderungenFragen()) return false;
     EinstellungenSichern();
