@@ -53,6 +53,9 @@ class Projekt {
     void ProjektLaden();
     /// The same for another file, the undo ring, the selection and the free numbers emptied first.
     void Öffnen(const std::string &datei);
+    /// A file that comes from outside the window: the question about changes, then the same, and the file is entered
+    /// among the recent ones. One that isn't there is told, and nothing else happens.
+    void ÖffnenMitFrage(const std::string &datei);
     /// Writes `Projektdatei`. The result of the write isn't looked at: a file that can't be written gives
     /// no message, and the document counts as saved. Meant.
     void ProjektSchreiben();
@@ -77,6 +80,7 @@ class Projekt {
   private:
     std::string Text(const Zweisprachig &text) const;
     bool ProjektNeu();
+    bool IstDa(const std::string &datei);
     void InhaltLesen();
     void FreieNummernLeeren();
     void RingUndAuswahlLeeren();

@@ -191,6 +191,13 @@ void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
     NachEreignis();
 }
 
+void frmMain::DateiÜbernehmen(const std::string &pfad) {
+    if (pfad.empty()) return;
+    leinwand.GesteAbbrechen();
+    projekt.ÖffnenMitFrage(pfad);
+    NachEreignis();
+}
+
 /// Whether a user finds `name`, or else the menu entry that it stands for, and the menus around it, and can choose it.
 bool frmMain::IstFrei(std::string_view name) const {
     const Menüzeile *zeile = MenüzeileFinden(name);

@@ -134,6 +134,7 @@ constexpr Skriptbefehl Tabelle[] = {
     {"pick", [](auto &lauf, auto &w, auto &) { Wählen(lauf, Wort(w, 1), Wort(w, 2)); }},
     {"hover", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt->PaletteBerührt(Zahl(Wort(w, 1))); }},
     {"drop", [](auto &lauf, auto &w, auto &) { Ablegen(lauf, w); }},
+    {"hand", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt->DateiÜbernehmen(w.size() > 1 ? Ab(w, 1) : ""); }},
     {"resize",
      [](auto &lauf, auto &w, auto &) { lauf.Läuft().innen.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
     {"close",
