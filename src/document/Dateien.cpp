@@ -21,10 +21,24 @@ struct Systemfehler {
 
 [[noreturn]] void Scheitern(int nummer = errno) { throw Systemfehler{nummer}; }
 
+Ursache Grund(int nummer) {
+    switch (nummer) {
+    case ENOSPC:
+    case EDQUOT: return Ursache::KeinPlatz;
+    case EACCES:
+    case EPERM:
+    case EROFS: return Ursache::Schreibgeschützt;
+    case ENOENT:
+    case ENOTDIR: return Ursache::OrdnerFehlt;
+    case EFBIG: return Ursache::ZuGroß;
+    default: return Ursache::Sonstiges;
+    }
+}
+
 Dateibefund Befund(Systemfehler fehler) {
     // strerror speaks the user's language; the program's own messages are English.
     const char *const text = strerrordesc_np(fehler.Nummer);
-    return {text != nullptr ? text : "Unknown error"};
+    return {text != nullptr ? text : "Unknown error", Grund(fehler.Nummer)};
 }
 
 /// Runs a call again that a signal broke off.

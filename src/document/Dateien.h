@@ -28,10 +28,14 @@ bool IstFürDateien(const std::string &ordner);
 /// different texts give different names.
 std::string AlsDateiname(std::string_view text);
 
+/// Why a file couldn't be read or written, as far as a user can do something about it.
+enum class Ursache { Keine, KeinPlatz, Schreibgeschützt, FehltDatei, OrdnerFehlt, ZuGroß, NichtGesichert, Sonstiges };
+
 /// The outcome of reading or writing a file. `Meldung` is empty on success, else one plain line without
-/// the file's name ("No space left on device").
+/// the file's name ("No space left on device"); `Grund` says the same to a program.
 struct Dateibefund {
     std::string Meldung;
+    Ursache Grund = Ursache::Keine;
     bool Gelungen() const { return Meldung.empty(); }
 };
 
