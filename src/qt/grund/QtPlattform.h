@@ -27,6 +27,10 @@ Datumsfolge FolgeAus(const std::string &datumsformat);
 /// The settings file of this user on this machine.
 std::string EinstellungsDateiDesBenutzers();
 
+/// Whether only root can change what stands under that full path: it and all folders on its way are root's, none is a
+/// link, and nobody else may write them.
+bool GehörtDemSystem(const std::string &pfad);
+
 /// Where the manual stands: beside the program, or where an installation puts it. Without a closing "/".
 std::string Hilfeordner();
 
