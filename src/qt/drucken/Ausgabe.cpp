@@ -59,7 +59,7 @@ std::string AlsSvg(Auftrag &a) {
     puffer.open(QIODevice::WriteOnly);
     QSvgGenerator svg;
     svg.setOutputDevice(&puffer);
-    svg.setTitle(a.Titel());
+    svg.setTitle(FürXml(a.seite.Titel)); // written as it stands
     svg.setDescription(QStringLiteral("Kinwright"));
     // The size goes into the file as whole units of this resolution: tenths of a millimetre lose nothing.
     constexpr int ZehntelmillimeterDpi = 254;
