@@ -92,6 +92,8 @@ TEST_F(EingebauterDrucker, DISABLED_AufEinerWarteschlange) {
     const int lage = qEnvironmentVariableIntValue("KW_LIE");
     drucker.OrientationSetzen(lage);
     Drucken(9, lage, qEnvironmentVariableIntValue("KW_COLOUR") != 0);
+    using enum Druckbefund::Art;
+    EXPECT_EQ(befund.Ende, qEnvironmentVariableIsSet("KW_REFUSED") ? NichtAngenommen : Erledigt);
 }
 
 TEST(Druckerauskunft, EinStummerServerHältDasFensterNicht) {

@@ -5,6 +5,7 @@
 #include "platform/Drucker.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/QtFlaeche.h"
+#include "qt/malen/Spielraum.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Seite.h"
 #include "rendering/Zeichnung.h"
@@ -76,7 +77,7 @@ std::string AlsBild(Auftrag &a, const char *format) {
         return std::to_string(a.dpi) + " dots per inch make a picture of " + std::to_string(pixel.width()) + " x " +
                std::to_string(pixel.height()) + " pixels; at most 200 million are possible";
     QImage bild(pixel, QImage::Format_RGB32);
-    if (bild.isNull()) throw std::bad_alloc();
+    SpielraumVerlangen(bild);
     bild.fill(Qt::white);
     if (auto fehler = Drucken(a, bild, a.dpi / CmJeZoll); !fehler.empty()) return fehler;
     bild.setDotsPerMeterX(static_cast<int>(std::lround(a.dpi / 0.0254)));
@@ -111,6 +112,7 @@ const Format *FormatFür(std::string_view ziel) {
 }
 
 Dateibefund Schreiben(const Format &format, Auftrag auftrag, const std::string &ziel) {
+    SpielraumVerlangen();
     if (auto fehler = format.Erzeugen(auftrag); !fehler.empty()) return {fehler, Ursache::Sonstiges};
     const QByteArray &inhalt = auftrag.inhalt;
     if (inhalt.isEmpty()) return {"the page came out empty", Ursache::Sonstiges};

@@ -2,6 +2,7 @@
 
 #include "document/Dateien.h"
 #include "qt/malen/LeinwandFlaeche.h"
+#include "qt/malen/Spielraum.h"
 
 #include <QBuffer>
 #include <QClipboard>
@@ -28,9 +29,9 @@ struct Auflösungsfeld {
 constexpr Auflösungsfeld Auflösungsfelder[] = {{"bmp", 38, {"\0\0\0\0\0\0\0\0", 8}}, {"jpeg", 13, {"\0\0\1\0\1", 5}}};
 
 /// The picture without a resolution, which would say nothing true about the page. The toolkit writes the screen's.
-/// Empty when the encoder refuses it; one that has no pixels found no memory for them.
+/// Empty when the encoder refuses it; throws where there is no memory for it.
 QByteArray Kodiert(QImage bild, const char *format, int qualität = -1) {
-    if (bild.isNull()) throw std::bad_alloc();
+    SpielraumVerlangen(bild);
     QByteArray inhalt;
     QBuffer puffer(&inhalt);
     puffer.open(QIODevice::WriteOnly);

@@ -19,6 +19,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <new>
 
 #include <sys/resource.h>
 
@@ -117,7 +118,7 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
 
 } // namespace
 
-int main(int argc, char **argv) {
+int main(int argc, char **argv) try {
     std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow so large is told as any that can't be written
     qInstallMessageHandler(Meldung);
     const Aufruf aufruf = AufrufLesen({argv + std::min(argc, 1), argv + argc});
@@ -129,4 +130,6 @@ int main(int argc, char **argv) {
     case Aufruf::Art::Fenster: break;
     }
     return FensterZeigen(aufruf, argc, argv);
+} catch (const std::bad_alloc &) {
+    return Melden("not enough memory", 1);
 }
