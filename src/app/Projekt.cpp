@@ -112,7 +112,7 @@ bool Projekt::Öffnen(const std::string &datei) {
 
 bool Projekt::ÖffnenMitFrage(const std::string &datei) {
     SpeichernAbgebrochen = false;
-    if (!NachÄnderungenFragen() || !Öffnen(datei)) return false;
+    if (!IstDa(datei) || !NachÄnderungenFragen() || !Öffnen(datei)) return false;
     inhalt_.zuletzt.Eintragen(datei);
     umfeld_.anzeige.ChronikZeigen();
     return true;
@@ -259,14 +259,17 @@ void Projekt::mnuNeu() {
     Loslassen();
 }
 
+/// A file that has gone is told.
+bool Projekt::IstDa(const std::string &datei) {
+    const bool da = DateiVorhanden(datei);
+    if (!da) umfeld_.benutzer.Fragen({Text(FehltTitel), Text(FehltText), Knöpfe::Ok, Zeichen::Warnung});
+    return da;
+}
+
 void Projekt::mnuRecent(int platz) {
     if (platz < 1 || platz > Chronik::Plätze) return;
     const std::string datei = inhalt_.zuletzt[platz]; // saving can move the list
-    if (Titel == datei) return;                       // so only just after a save under that name
-    if (!DateiVorhanden(datei)) {
-        umfeld_.benutzer.Fragen({Text(FehltTitel), Text(FehltText), Knöpfe::Ok, Zeichen::Warnung});
-        return;
-    }
+    if (Titel == datei || !IstDa(datei)) return;      // the title only just after a save under that name
     SpeichernAbgebrochen = false;
     if (!NachÄnderungenFragen() || !Öffnen(datei)) return;
     inhalt_.zuletzt.Vorziehen(datei);

@@ -59,7 +59,8 @@ class Projekt {
     /// unchanged. A damaged file gives what could be read of it, and a box says so. False, with a box and nothing
     /// changed, when it can't be read or is no project.
     bool Öffnen(const std::string &datei);
-    /// The same behind the question about unsaved changes, and the file comes into the list of recent ones.
+    /// A file that comes from outside the window: the same behind the question about unsaved changes, and it comes into
+    /// the list of recent ones. One that isn't there is told first.
     bool ÖffnenMitFrage(const std::string &datei);
     /// Replaces the document by that version, which stays where it is until a successor is kept. It counts as changed,
     /// under the name of its project.
@@ -101,6 +102,7 @@ class Projekt {
     void Anwenden(Dokument &&neu, bool ganz);
     Verbleib WasSicherIst() const;
     bool IstFremdGeändert() const;
+    bool IstDa(const std::string &datei);
     std::string Text(const Zweisprachig &text) const;
     bool ProjektNeu();
     void FreieNummernLeeren();

@@ -1,7 +1,6 @@
 #include "app/Projektmeldungen.h"
 
-#include "document/Fehlertexte.h"
-#include "document/Texte.h"
+#include "output/Fehlertexte.h"
 
 namespace kw {
 
@@ -22,7 +21,7 @@ constexpr Zweisprachig Verbleibtexte[] = {
 constexpr Zweisprachig LadeText{"Die Datei konnte nicht geöffnet werden:\n%1\n\nGrund: %2.\n\nAn der Seite hat sich "
                                 "nichts geändert.",
                                 "The file could not be opened:\n%1\n\nReason: %2.\n\nThe page has not changed."};
-constexpr Zweisprachig Fremd{"Sie enthält kein Kinwright-Projekt", "It does not hold a Kinwright project"};
+constexpr Zweisprachig Fremd{"Sie enthält kein Kinwright-Projekt", "it does not hold a Kinwright project"};
 constexpr Zweisprachig TeilText{
     "Die Datei ist beschädigt und konnte nur zum Teil gelesen werden:\n%1\n\n%2\n\n"
     "Sie bleibt unverändert, bis Sie speichern. Dann wird sie, wie sie ist, unter \"Gesicherte Fassungen\" aufgehoben.",
@@ -46,6 +45,13 @@ std::string Eingesetzt(std::string_view muster, const std::string &a, const std:
     return text;
 }
 
+/// What the system says where nobody knows better.
+std::string Grund(const Dateibefund &befund, Sprache sprache) {
+    constexpr Zweisprachig System{"Das System meldet \"%1\"", "the system says \"%1\""};
+    const std::string grund(Grundtext(befund.Grund).In(sprache));
+    return grund.empty() ? Eingesetzt(System.In(sprache), befund.Meldung) : grund;
+}
+
 Nachfrage Warnung(std::string text) { return {"Kinwright", std::move(text), Knöpfe::Ok, Zeichen::Warnung}; }
 
 } // namespace
@@ -53,11 +59,11 @@ Nachfrage Warnung(std::string text) { return {"Kinwright", std::move(text), Knö
 Nachfrage SpeichernGescheitert(const std::string &datei, const Dateibefund &befund, Verbleib verbleib,
                                Sprache sprache) {
     const std::string sicher(Verbleibtexte[static_cast<int>(verbleib)].In(sprache));
-    return Warnung(Eingesetzt(SaveText.In(sprache), datei, Fehlertext(befund, sprache), sicher));
+    return Warnung(Eingesetzt(SaveText.In(sprache), datei, Grund(befund, sprache), sicher));
 }
 
 Nachfrage LadenGescheitert(const std::string &datei, const Dateibefund &befund, Sprache sprache) {
-    return Warnung(Eingesetzt(LadeText.In(sprache), datei, Fehlertext(befund, sprache)));
+    return Warnung(Eingesetzt(LadeText.In(sprache), datei, Grund(befund, sprache)));
 }
 
 Nachfrage KeinProjektGefunden(const std::string &datei, Sprache sprache) {

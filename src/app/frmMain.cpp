@@ -124,6 +124,7 @@ bool frmMain::Schließen() {
 }
 
 bool frmMain::SitzungBeenden() {
+    leinwand.GesteAbbrechen(); // what stands on the page already counts as a change
     projekt.SpeichernAbgebrochen = false;
     aufgegeben_ = false;
     if (!projekt.NachÄnderungenFragen()) return false;
@@ -216,6 +217,13 @@ void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
     leinwand.GesteAbbrechen();
     NichtsAuswählen(werkbank);
     import.Ablegen(werkbank, zeile, x, y);
+    NachEreignis();
+}
+
+void frmMain::DateiÜbernehmen(const std::string &pfad) {
+    if (pfad.empty()) return;
+    leinwand.GesteAbbrechen();
+    projekt.ÖffnenMitFrage(pfad);
     NachEreignis();
 }
 

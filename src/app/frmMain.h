@@ -84,6 +84,9 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void MausradZählen(bool hoch) { bereich.MausradZählen(hoch); }
     void MausradFolgen() { bereich.MausradFolgen(); }
 
+    /// A project that another start or the desktop hands to this window, by its full path: opened as by the menu, with
+    /// the question about changes. A gesture in progress ends as for a command. Nothing happens for an empty path.
+    void DateiÜbernehmen(const std::string &pfad);
     /// A line of the import list, from 0, has been dragged onto the page.
     void ImportzeileAblegen(int zeile, double x, double y);
     /// The pointer has come over the palette's button `werkzeug`, or is over none (0).

@@ -25,7 +25,7 @@ enum class Ursache {
 };
 
 /// The outcome of reading or writing a file. `Meldung` is empty on success, else one plain line without
-/// the file's name ("No space left on device").
+/// the file's name ("No space left on device"); `Grund` says the same to a program.
 struct Dateibefund {
     std::string Meldung;
     Ursache Grund = Ursache::Keine;

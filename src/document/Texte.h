@@ -21,6 +21,10 @@ std::string Ersetzt(std::string text, std::string_view alt, std::string_view neu
 /// `text` without that character.
 std::string Ohne(std::string_view text, char zeichen);
 
+/// `text`, whatever its bytes are, as one line for a terminal: what would steer it (control characters of either kind,
+/// marks that turn the direction of writing, bytes that are no UTF-8) shows as "?".
+std::string FürTerminal(std::string_view text);
+
 /// Stands for "_" in the stored text of a box, since "_" separates fields.
 constexpr std::string_view Absatzzeichen = "¶";
 std::string MitAbsatzzeichen(std::string_view text);  ///< for the record

@@ -25,9 +25,14 @@ namespace kw {
 
 namespace {
 
-bool Zurücksetzen(Werkbank &w, const Ereignis &e) {
-    // The last release got lost; a dragged circle line has moved already.
-    if (std::exchange(w.lage.Gedrückt, true) && w.lage.Aktion == Aktion::KreisGewählt) KreisLoslassen(w, e);
+/// What a gesture has changed before its release stays, as a step of its own: a placed person, a dragged circle line.
+void Festhalten(Werkbank &w) {
+    if (w.lage.Aktion == Aktion::KreisGewählt) KreisLoslassen(w, {});
+    if (w.lage.Aktion == Aktion::PersonSetzen) PersonGesetzt(w, {});
+}
+
+bool Zurücksetzen(Werkbank &w, const Ereignis &) {
+    if (std::exchange(w.lage.Gedrückt, true)) Festhalten(w); // the last release got lost
     w.lage.EbenAbgewählt = Aktion::Nichts;
     w.lage.Hinweis = nullptr;
     w.auflagen.Line5.Visible = false;
@@ -198,8 +203,8 @@ void ZugAbbrechen(Werkbank &w) {
     w.lage.LinieVerschoben = false;
     w.lage.Zeiger = Mauszeiger::Pfeil;
     switch (w.lage.Aktion) {
-    case Aktion::KreisGewählt: KreisLoslassen(w, {}); break;
-    case Aktion::PersonSetzen: PersonGesetzt(w, {}); break; // it stands already
+    case Aktion::KreisGewählt:
+    case Aktion::PersonSetzen: Festhalten(w); break;
     case Aktion::TextGefasst: w.lage.Aktion = Aktion::TextGewählt; break;
     case Aktion::GruppeGewählt: GruppeZurücksetzen(w); break;
     case Aktion::RahmenZiehen:
@@ -251,7 +256,8 @@ void Leinwand::MouseUp(int taste, double x, double y) {
 }
 
 void Leinwand::DblClick(double x, double y) {
-    if (w.lage.BildAuswahl) return; // a region is being dragged
+    if (w.lage.BildAuswahl) return;                           // a region is being dragged
+    if (std::exchange(w.lage.Gedrückt, false)) Festhalten(w); // the last release got lost
     w.lage.MausX = x;
     w.lage.MausY = y;
     const int text = TextboxBei(w.dokument, x, y);

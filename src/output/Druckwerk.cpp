@@ -3,6 +3,7 @@
 #include "document/Dateien.h"
 #include "document/Dokument.h"
 #include "document/Zahlen.h"
+#include "output/Fehlertexte.h"
 #include "output/Zieldatei.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
@@ -19,7 +20,10 @@ namespace {
 
 constexpr Zweisprachig Programmname{"Kinwright", "Kinwright"};
 constexpr Zweisprachig Zieltitel{"Druckausgabe speichern unter", "Save Print Output As"};
-constexpr Zweisprachig Nichtgeschrieben{" konnte nicht geschrieben werden.", " could not be written."};
+constexpr Zweisprachig DerDrucker{"Der Drucker ", "The printer "};
+constexpr Zweisprachig NichtErreicht{" ist nicht erreichbar", " cannot be reached"};
+constexpr Zweisprachig NichtAngenommen{" hat den Druckauftrag nicht angenommen", " did not accept the print job"};
+constexpr Zweisprachig NichtGedruckt{"Das Genogramm konnte nicht gedruckt werden", "The genogram could not be printed"};
 constexpr Zweisprachig KeineRänder{
     "Der bedruckbare Bereich kann nicht angezeigt werden,\n"
     "da keine Druckerinformationen vorliegen.\n"
@@ -102,16 +106,30 @@ bool Druckwerk::GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen,
         const Dateiwahl wahl{std::string(Zieltitel.In(ansicht_.Sprache)), titel, "PDF  (*.pdf)|*.pdf",
                              Ausgabeordner(benutzer_, projektdatei)};
         const auto datei = ZieldateiWählen(benutzer_, wahl, ansicht_.Sprache);
-        ziel = DateiName(datei.value_or(""));
+        ziel = datei.value_or("");
         return datei;
     };
-    drucker_.OrientationSetzen(dokument_.Seitenlage == 1 ? 1 : 2);
-    const Druckende ende = drucker_.Drucken({titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite,
-                                             ansicht_.SeitenHöhe, std::move(zeichnen), zielWählen});
-    if (ende == Druckende::NichtGeschrieben)
-        benutzer_.Fragen(
-            {"Kinwright", Dateisatz(ansicht_.Sprache, ziel, Nichtgeschrieben), Knöpfe::Ok, Zeichen::Warnung});
-    return ende == Druckende::Erledigt;
+    Druckbefund befund{Druckbefund::Art::NichtAngenommen};
+    const auto grund = Fehlgrund([&] {
+        drucker_.OrientationSetzen(dokument_.Seitenlage == 1 ? 1 : 2);
+        befund = drucker_.Drucken({titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite,
+                                   ansicht_.SeitenHöhe, std::move(zeichnen), zielWählen});
+        return befund.Grund;
+    });
+    if (befund.Ende != Druckbefund::Art::Erledigt) FehlerMelden(befund, ziel, grund.value_or(Zweisprachig{}));
+    return befund.Ende == Druckbefund::Art::Erledigt;
+}
+
+void Druckwerk::FehlerMelden(const Druckbefund &befund, const std::string &ziel, const Zweisprachig &grund) {
+    const Sprache sprache = ansicht_.Sprache;
+    if (befund.Ende == Druckbefund::Art::Aufgegeben) return;
+    if (!ziel.empty()) return NichtGeschriebenMelden(benutzer_, sprache, ziel, grund);
+    std::string satz(NichtGedruckt.In(sprache));
+    if (!befund.Drucker.empty()) {
+        satz = std::string(DerDrucker.In(sprache)) + befund.Drucker;
+        satz += (befund.Ende == Druckbefund::Art::NichtErreicht ? NichtErreicht : NichtAngenommen).In(sprache);
+    }
+    FehlschlagMelden(benutzer_, sprache, std::move(satz), grund);
 }
 
 bool Druckwerk::PdfDruckerWählen() {

@@ -10,6 +10,7 @@ class Drucker;
 class Zeichenfläche;
 struct Ansicht;
 struct Dokument;
+struct Druckbefund;
 struct Druckränder;
 struct Zweisprachig;
 
@@ -32,14 +33,14 @@ class Druckwerk {
     void DruckrandBericht();
 
     /// One print run of the document on the current printer: one job, named as the project; `zeichnen` draws it. A
-    /// printer that fails ends the run silently. False when no further copy is wanted: the user has given up, or there
-    /// is no writing.
+    /// failure is told in a box. False when no further copy is wanted: the user has given up, or nothing came out.
     bool GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen, const std::string &projektdatei);
     /// Makes the printer that writes PDF the current one, which it stays; says so when there is none. False then.
     bool PdfDruckerWählen();
 
   private:
     void Druck_Raender(const Druckränder &ränder);
+    void FehlerMelden(const Druckbefund &befund, const std::string &ziel, const Zweisprachig &grund);
     void Warnen(const Zweisprachig &titel, const Zweisprachig &text);
 
     Drucker &drucker_;

@@ -2,6 +2,7 @@
 
 #include "document/Dateien.h"
 #include "output/Arbeitsbereich.h"
+#include "output/Fehlertexte.h"
 #include "output/Zieldatei.h"
 #include "platform/Benutzer.h"
 #include "platform/Bilder.h"
@@ -20,12 +21,10 @@ constexpr Zweisprachig Auswahltitel{"Auswahl als Bilddatei speichern", "Export s
 constexpr Zweisprachig Kopiert{"Der gewählte Bildausschnitt wurde in die Zwischnablage kopiert!",
                                "The selected image section has been copied to the clipboard!"};
 
-} // namespace
+constexpr Zweisprachig NichtKopiert{"Der Bildausschnitt konnte nicht in die Zwischenablage kopiert werden",
+                                    "The image section could not be copied to the clipboard"};
 
-void JpegSpeichern(Bilder &bilder, const std::string &datei, unsigned char quality) {
-    if (const int status = bilder.AlsJpeg(datei, quality); status != 0)
-        throw Bildfehler("Speicherung des Bildes fehlgeschlagen. GDI+ Error:" + std::to_string(status));
-}
+} // namespace
 
 std::optional<std::string> Bildexport::DateiWählen(const Zweisprachig &titel, const std::string &projektdatei) {
     const Dateiwahl wahl{std::string(titel.In(ansicht_.Sprache)), NameOhneKennung(DateiName(projektdatei)),
@@ -38,14 +37,17 @@ void Bildexport::SeiteExportieren(const std::string &projektdatei) {
     if (!datei) return;
     abwählen_();
     const int zoom = bereich_.cboBildGröße.ListIndex;
-    bereich_.ZoomWählen(bereich_.cboBildGröße.Anzahl() - 1);
-    try {
-        if (Kennung(DateiName(*datei)) != "bmp") JpegSpeichern(bilder_, *datei, BesteQualität);
-        else if (!bilder_.SavePicture(*datei, std::nullopt)) return;
-    } catch (const Bildfehler &) {
-        return;
-    }
+    const auto grund = Fehlgrund([&] {
+        bereich_.ZoomWählen(bereich_.cboBildGröße.Anzahl() - 1);
+        return SeiteSchreiben(*datei);
+    });
     bereich_.ZoomWählen(zoom);
+    if (grund) NichtGeschriebenMelden(benutzer_, ansicht_.Sprache, *datei, *grund);
+}
+
+Ursache Bildexport::SeiteSchreiben(const std::string &datei) {
+    if (Kennung(DateiName(datei)) == "bmp") return bilder_.SavePicture(datei, std::nullopt);
+    return bilder_.AlsJpeg(datei, BesteQualität);
 }
 
 Bildausschnitt Bildexport::InTwips(const Bildausschnitt &cm) const {
@@ -55,12 +57,16 @@ Bildausschnitt Bildexport::InTwips(const Bildausschnitt &cm) const {
 
 void Bildexport::AuswahlAlsBildSpeichern(const Bildausschnitt &cm, const std::string &projektdatei) {
     const auto datei = DateiWählen(Auswahltitel, projektdatei);
-    if (datei) bilder_.SavePicture(*datei, InTwips(cm));
+    if (!datei) return;
+    const auto grund = Fehlgrund([&] { return bilder_.SavePicture(*datei, InTwips(cm)); });
+    if (grund) NichtGeschriebenMelden(benutzer_, ansicht_.Sprache, *datei, *grund);
 }
 
 void Bildexport::AusschnittKopieren(const Bildausschnitt &cm) {
-    bilder_.InZwischenablage(InTwips(cm));
-    benutzer_.Fragen({"Info", std::string(Kopiert.In(ansicht_.Sprache)), Knöpfe::Ok, Zeichen::Information});
+    const Sprache sprache = ansicht_.Sprache;
+    const auto grund = Fehlgrund([&] { return bilder_.InZwischenablage(InTwips(cm)), Ursache::Keine; });
+    if (grund) FehlschlagMelden(benutzer_, sprache, std::string(NichtKopiert.In(sprache)), *grund);
+    else benutzer_.Fragen({"Info", std::string(Kopiert.In(sprache)), Knöpfe::Ok, Zeichen::Information});
 }
 
 } // namespace kw

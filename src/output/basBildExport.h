@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -14,18 +13,10 @@ class Bilder;
 struct Ansicht;
 struct Bildausschnitt;
 struct Zweisprachig;
+enum class Ursache;
 
-/// The encoder couldn't write a picture.
-class Bildfehler : public std::runtime_error {
-  public:
-    using std::runtime_error::runtime_error;
-};
-
-/// Writes the canvas's picture as JPEG, `quality` 0 to 100. Throws `Bildfehler`, whose text is German in both
-/// languages.
-void JpegSpeichern(Bilder &bilder, const std::string &datei, unsigned char quality);
-
-/// The page, or a part of it, as a picture: the very pixels of the canvas. Owned by the main window.
+/// The page, or a part of it, as a picture: the very pixels of the canvas. A picture that doesn't come out is told in a
+/// box. Owned by the main window.
 class Bildexport {
   public:
     /// `abwählen` ends the selection, whose marks stand in the canvas's picture and belong in no other.
@@ -34,8 +25,8 @@ class Bildexport {
         : benutzer_(benutzer), bilder_(bilder), bereich_(bereich), ansicht_(ansicht), abwählen_(std::move(abwählen)) {}
 
     /// Asks for a file and writes the page as it looks at the greatest zoom. A name that ends in ".bmp", in small
-    /// letters, gives a bitmap, any other a JPEG whatever it says. Meant. Says nothing when the picture can't be
-    /// written; the zoom then stays where it is. Meant.
+    /// letters, gives a bitmap, any other a JPEG whatever it says. Meant. The zoom is as it was afterwards, whatever
+    /// fails.
     void SeiteExportieren(const std::string &projektdatei);
     /// Asks for a file and writes a region of the page, in the canvas's centimetres, as it looks now: always a
     /// bitmap, whatever the name says. Meant.
@@ -44,6 +35,7 @@ class Bildexport {
     void AusschnittKopieren(const Bildausschnitt &cm);
 
   private:
+    Ursache SeiteSchreiben(const std::string &datei);
     Bildausschnitt InTwips(const Bildausschnitt &cm) const;
     std::optional<std::string> DateiWählen(const Zweisprachig &titel, const std::string &projektdatei);
 

@@ -5,6 +5,8 @@
 
 namespace kw {
 
+enum class Ursache;
+
 /// A part of the canvas's picture, in twips from its corner.
 struct Bildausschnitt {
     double Left = 0;
@@ -13,15 +15,16 @@ struct Bildausschnitt {
     double Height = 0;
 };
 
-/// What the program does with the picture that the canvas keeps, in the resolution in which it is kept. No file is
-/// touched unless the whole picture could be written.
+/// What the program does with the picture that the canvas keeps, in the resolution in which it is kept. No file and no
+/// clipboard is touched unless the whole picture could be made. Files are answered by why they couldn't be written,
+/// `Keine` on success; where the memory doesn't suffice std::bad_alloc is thrown.
 class Bilder {
   public:
     virtual ~Bilder() = default;
-    /// Writes the picture, or a part of it, as an uncompressed bitmap. False when it can't be written.
-    virtual bool SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) = 0;
-    /// Writes the picture as JPEG. `quality` is 0 to 100. 0 on success, else a status of the encoder's.
-    virtual int AlsJpeg(const std::string &datei, unsigned char quality) = 0;
+    /// Writes the picture, or a part of it, as an uncompressed bitmap.
+    virtual Ursache SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) = 0;
+    /// Writes the picture as JPEG. `quality` is 0 to 100.
+    virtual Ursache AlsJpeg(const std::string &datei, unsigned char quality) = 0;
     /// Replaces what is on the clipboard by that part of the picture.
     virtual void InZwischenablage(const Bildausschnitt &ausschnitt) = 0;
 };

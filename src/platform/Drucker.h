@@ -8,6 +8,8 @@
 
 namespace kw {
 
+enum class Ursache;
+
 /// The printer that writes its page into a PDF file.
 constexpr std::string_view PdfDruckerName = "Microsoft Print to PDF";
 
@@ -40,8 +42,19 @@ struct Druckauftrag {
     std::function<std::optional<std::string>()> Zieldatei;
 };
 
-/// How a job ended, as far as it is told: a printer that fails says nothing, one that can't be reached gives up.
-enum class Druckende { Erledigt, Aufgegeben, NichtGeschrieben };
+/// How a job ended, as far as it is told: a printer that fails later, on its paper, says nothing.
+struct Druckbefund {
+    enum class Art {
+        Erledigt,
+        Aufgegeben,       ///< by the user
+        NichtGeschrieben, ///< the file, by `Grund`
+        NichtErreicht,    ///< the printer has gone, or its print system doesn't answer
+        NichtAngenommen   ///< the printer, or its print system, refused the job
+    };
+    Art Ende = Art::Erledigt;
+    Ursache Grund{};          ///< of a file that isn't written
+    std::string Drucker = {}; ///< its name; empty when there is none
+};
 
 /// The printers of the platform.
 class Drucker {
@@ -61,8 +74,9 @@ class Drucker {
     virtual bool Wählen(std::string_view deviceName) = 0;
     /// Turns the current printer: 1 portrait, 2 landscape.
     virtual void OrientationSetzen(int lage) = 0;
-    /// Prints one job on the current printer. A failure shows nothing and leaves no half job behind.
-    virtual Druckende Drucken(const Druckauftrag &auftrag) = 0;
+    /// Prints one job on the current printer. A failure shows nothing and leaves no half job behind. Throws
+    /// std::bad_alloc where the memory doesn't suffice.
+    virtual Druckbefund Drucken(const Druckauftrag &auftrag) = 0;
 };
 
 } // namespace kw

@@ -122,6 +122,15 @@ void Ablegen(Wiedergabe &lauf, const Wörter &w) {
     p.haupt->ImportzeileAblegen(zeile, Dezimalzahl(Wort(w, 2)), Dezimalzahl(Wort(w, 3)));
 }
 
+/// What the next output that goes there meets with: `memory` of pictures and print jobs, the rest of print jobs.
+void Stören(Programm &p, const std::string &wort) {
+    constexpr std::string_view Bekannt[] = {"memory", "printer", "job", "pdf"};
+    if (std::find(std::begin(Bekannt), std::end(Bekannt), wort) == std::end(Bekannt))
+        throw Skriptfehler("unknown failure: " + wort);
+    p.drucker.Störung = wort;
+    p.bilder.OhneSpeicher = wort == "memory";
+}
+
 constexpr Skriptbefehl Tabelle[] = {
     {"tool", [](auto &lauf, auto &w, auto &) { WerkzeugWählen(lauf, Wort(w, 1)); }},
     {"press", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
@@ -134,6 +143,8 @@ constexpr Skriptbefehl Tabelle[] = {
     {"pick", [](auto &lauf, auto &w, auto &) { Wählen(lauf, Wort(w, 1), Wort(w, 2)); }},
     {"hover", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt->PaletteBerührt(Zahl(Wort(w, 1))); }},
     {"drop", [](auto &lauf, auto &w, auto &) { Ablegen(lauf, w); }},
+    {"hand", [](auto &lauf, auto &w, auto &) { lauf.Läuft().haupt->DateiÜbernehmen(w.size() > 1 ? Ab(w, 1) : ""); }},
+    {"fail", [](auto &lauf, auto &w, auto &) { Stören(lauf.Läuft(), Wort(w, 1)); }},
     {"resize",
      [](auto &lauf, auto &w, auto &) { lauf.Läuft().innen.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
     {"close",

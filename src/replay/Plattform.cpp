@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
+#include <utility>
 
 namespace kw {
 
@@ -117,33 +119,45 @@ bool DrehbuchDrucker::Wählen(std::string_view deviceName) {
     return true;
 }
 
-Druckende DrehbuchDrucker::Drucken(const Druckauftrag &auftrag) {
+Druckbefund DrehbuchDrucker::Drucken(const Druckauftrag &auftrag) {
+    using enum Druckbefund::Art;
     const auto name = DeviceName();
-    if (!name) return Druckende::Erledigt;
+    if (!name) return {};
+    const std::string störung = std::exchange(Störung, {});
+    if (störung == "memory") throw std::bad_alloc();
+    if (störung == "printer") return {NichtErreicht, {}, *name};
+    if (störung == "job") return {NichtAngenommen, {}, *name};
     Aufzeichnung papier;
     auftrag.Zeichnen(papier);
+    if (störung == "pdf") {
+        const auto ziel = auftrag.Zieldatei();
+        if (!ziel) return {Aufgegeben};
+        if (const Ursache grund = DateiSchreiben(*ziel, "pdf").Grund; grund != Ursache::Keine)
+            return {NichtGeschrieben, grund};
+    }
     wirkungen_ += "job " + *name + (lage_ == 1 ? " | portrait | " : " | landscape | ") +
                   (auftrag.Farbig ? "colour" : "mono") + "\n";
-    return Druckende::Erledigt;
+    return {};
 }
 
-bool DrehbuchBilder::Schreiben(const std::string &datei, const std::string &art,
-                               const std::optional<Bildausschnitt> &ausschnitt) {
+Ursache DrehbuchBilder::Schreiben(const std::string &datei, const std::string &art,
+                                  const std::optional<Bildausschnitt> &ausschnitt) {
+    if (std::exchange(OhneSpeicher, false)) throw std::bad_alloc();
     const auto pixel = [](double twips) { return std::to_string(std::lround(twips / TwipsJePixel)); };
     const std::string größe = pixel(ausschnitt ? ausschnitt->Width : canvas_.Width()) + "x" +
                               pixel(ausschnitt ? ausschnitt->Height : canvas_.Height());
-    if (datei != "clipboard" && !DateiSchreiben(datei, art + " " + größe).Gelungen()) return false;
+    if (datei != "clipboard")
+        if (const Ursache grund = DateiSchreiben(datei, art + " " + größe).Grund; grund != Ursache::Keine) return grund;
     wirkungen_ += "image " + datei + " | " + art + " | " + größe + "\n";
-    return true;
+    return Ursache::Keine;
 }
 
-bool DrehbuchBilder::SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) {
+Ursache DrehbuchBilder::SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) {
     return Schreiben(datei, "bmp", ausschnitt);
 }
 
-int DrehbuchBilder::AlsJpeg(const std::string &datei, unsigned char quality) {
-    constexpr int AllgemeinerFehler = 1;
-    return Schreiben(datei, "jpeg " + std::to_string(quality), std::nullopt) ? 0 : AllgemeinerFehler;
+Ursache DrehbuchBilder::AlsJpeg(const std::string &datei, unsigned char quality) {
+    return Schreiben(datei, "jpeg " + std::to_string(quality), std::nullopt);
 }
 
 void DrehbuchBilder::InZwischenablage(const Bildausschnitt &ausschnitt) { Schreiben("clipboard", "bmp", ausschnitt); }

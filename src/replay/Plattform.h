@@ -89,6 +89,8 @@ class DrehbuchDrucker : public Drucker {
 
     std::vector<std::string> Namen;
     Druckränder Rand{0.4, 0.4, 0.4, 0.4};
+    std::string
+        Störung; ///< of the next job: "printer" has gone, "job" is refused, "pdf" goes to a file, "memory" is full
 
     std::optional<std::string> DeviceName() const override {
         return Namen.empty() ? std::nullopt : std::optional(Namen.at(gewählt_));
@@ -98,7 +100,7 @@ class DrehbuchDrucker : public Drucker {
     std::vector<std::string> DeviceNames() const override { return Namen; }
     bool Wählen(std::string_view deviceName) override;
     void OrientationSetzen(int lage) override { lage_ = lage; }
-    Druckende Drucken(const Druckauftrag &auftrag) override;
+    Druckbefund Drucken(const Druckauftrag &auftrag) override;
 
   private:
     std::string &wirkungen_;
@@ -111,12 +113,15 @@ class DrehbuchBilder : public Bilder {
   public:
     DrehbuchBilder(const Zeichenfläche &canvas, std::string &wirkungen) : canvas_(canvas), wirkungen_(wirkungen) {}
 
-    bool SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) override;
-    int AlsJpeg(const std::string &datei, unsigned char quality) override;
+    bool OhneSpeicher = false; ///< for the next picture there is no memory
+
+    Ursache SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) override;
+    Ursache AlsJpeg(const std::string &datei, unsigned char quality) override;
     void InZwischenablage(const Bildausschnitt &ausschnitt) override;
 
   private:
-    bool Schreiben(const std::string &datei, const std::string &art, const std::optional<Bildausschnitt> &ausschnitt);
+    Ursache Schreiben(const std::string &datei, const std::string &art,
+                      const std::optional<Bildausschnitt> &ausschnitt);
 
     const Zeichenfläche &canvas_;
     std::string &wirkungen_;

@@ -1,9 +1,11 @@
 #include "replay/Skript.h"
 
+#include <csignal>
 #include <fstream>
 #include <iostream>
 
 int main(int argc, char **argv) {
+    std::signal(SIGXFSZ, SIG_IGN); // as the program itself
     if (argc < 2) {
         kw::Wiedergabe wiedergabe(std::cout);
         return wiedergabe.Ausführen(std::cin);

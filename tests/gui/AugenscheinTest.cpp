@@ -11,9 +11,12 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QDropEvent>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -180,6 +183,28 @@ TEST_F(Augenschein, FormulareZeigenAllesGanz) {
     });
 }
 
+/// The first project of what is dropped on the window opens, when the box that is read has gone.
+void Fallenlassen(Hauptfenster &fenster) {
+    const QByteArray ordner = QByteArray("file://" KW_TESTDATEN "/../samples/");
+    const QString vorher = fenster.windowTitle();
+    QMimeData inhalt;
+    for (const QByteArray &liste : {QByteArray("http://x/a.kwp\r\n"), "file://anderswo" + ordner.mid(7) + "zeichen.kwp",
+                                    ordner + "bild.png\r\n" + ordner + "%7Aeichen.kwp\r\n" + ordner + "familie.kwp"}) {
+        inhalt.setData(QStringLiteral("text/uri-list"), liste);
+        QDragEnterEvent herein({50, 50}, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&fenster, &herein);
+        EXPECT_EQ(herein.isAccepted(), liste.contains(".png")) << liste.toStdString();
+        QDropEvent fallen({50, 50}, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
+        QMessageBox kasten(&fenster);
+        kasten.open();
+        QApplication::sendEvent(&fenster, &fallen);
+        QApplication::processEvents();
+        EXPECT_EQ(fenster.windowTitle(), vorher);
+    }
+    while (fenster.windowTitle() == vorher) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_TRUE(fenster.windowTitle().endsWith(QStringLiteral("zeichen.kwp")));
+}
+
 /// The only test that starts the window: its settings are those beside the program that runs the tests.
 TEST_F(Augenschein, FensterZeigtAllesGanz) {
     const std::string einstellungen = QCoreApplication::applicationDirPath().toStdString() + "/prog.ini";
@@ -199,6 +224,7 @@ TEST_F(Augenschein, FensterZeigtAllesGanz) {
         EXPECT_TRUE(fenster.windowTitle().contains(QStringLiteral("familie"))) << fenster.windowTitle().toStdString();
         for (QWidget *teil : {static_cast<QWidget *>(fenster.menuBar()), fenster.centralWidget()})
             EXPECT_TRUE(ZeigtEtwas(*teil)) << wo;
+        Fallenlassen(fenster);
         fenster.showMinimized();
         fenster.NachVorn();
         EXPECT_FALSE(fenster.isMinimized());

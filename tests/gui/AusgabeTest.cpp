@@ -26,9 +26,10 @@ class Ausgabe : public testing::Test {
     }
     QString Ort(const char *name) const { return ordner.filePath(QString::fromUtf8(name)); }
     std::string Fehler(const char *name, int dpi = 150) {
-        return Exportieren(bild, Ort(name).toStdString(), dpi, "Mein Täst");
+        return Exportieren(bild, Ort(name).toStdString(), dpi, titel);
     }
 
+    std::string titel = "Mein Täst";
     QTemporaryDir ordner;
     QtUhr uhr;
     Einzelbild bild{uhr, ""};
@@ -68,15 +69,25 @@ TEST_F(Ausgabe, PdfHatPapierSchriftenUndText) {
 }
 
 TEST_F(Ausgabe, SvgIstGanzWasAuchInTextenSteht) {
+    const std::string böse = "Arial\x01\" onmouseover=\"alert(1)\"><script>&";
+    bild.dokument.cboTextboxen.Anhängen("9_8_" + böse + "_12_255_1_0_0_0_Wort_4_1");
+    titel = "Müller & Schmidt </title><script>\x02";
     std::string inhalt;
     EXPECT_EQ(Fehler("a.svg"), "");
     EXPECT_TRUE(DateiLesen(Ort("a.svg").toStdString(), inhalt).Gelungen());
     EXPECT_NE(inhalt.find("width=\"297mm\" height=\"210mm\""), std::string::npos);
     QXmlStreamReader xml(QByteArray::fromStdString(inhalt));
     QString texte;
-    while (xml.readNext() != QXmlStreamReader::Invalid && !xml.atEnd()) texte += xml.text();
+    QStringList schriften;
+    while (xml.readNext() != QXmlStreamReader::Invalid && !xml.atEnd()) {
+        texte += xml.text();
+        EXPECT_NE(xml.name(), QStringLiteral("script"));
+        EXPECT_FALSE(xml.attributes().hasAttribute(QStringLiteral("onmouseover")));
+        schriften += xml.attributes().value(QStringLiteral("font-family")).toString();
+    }
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
-    EnthältAlle(texte, {"Größmann", "Öl & <Käse>", "]]>"});
+    EnthältAlle(texte, {"Größmann", "Öl & <Käse>", "]]>", "Müller & Schmidt </title><script>"});
+    EXPECT_TRUE(schriften.contains(QString::fromStdString(böse).replace(u'\x01', u' ')));
 }
 
 TEST_F(Ausgabe, WasSichNichtSchreibenLässtWirdGesagtUndLässtNichtsZurück) {

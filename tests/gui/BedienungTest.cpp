@@ -1,6 +1,7 @@
 // What the hand does: pointer on the canvas, palette, menus. Events go to the real widgets, what came of them is
 // read in the records and in the pixels that show.
 #include "app/frmMain.h"
+#include "document/Dateien.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Person.h"
 #include "qt/drucken/QtBilder.h"
@@ -333,9 +334,9 @@ TEST_F(Bedienung, BildIstDieLeinwandOhneAuflösung) {
         EXPECT_TRUE(f.open(QIODevice::ReadOnly));
         return f.readAll().mid(stelle, anzahl).toHex();
     };
-    ASSERT_TRUE(kamera.SavePicture(datei.toStdString(), std::nullopt));
+    ASSERT_EQ(kamera.SavePicture(datei.toStdString(), std::nullopt), Ursache::Keine);
     EXPECT_EQ(bytes(38, 8), QByteArray(16, '0'));
-    ASSERT_EQ(kamera.AlsJpeg(datei.toStdString(), 100), 0);
+    ASSERT_EQ(kamera.AlsJpeg(datei.toStdString(), 100), Ursache::Keine);
     EXPECT_EQ(bytes(6, 12), "4a4649460001010000010001"); // JFIF 1.1, no unit
     EXPECT_EQ(QImage(datei).size(), leinwand.Bild().size());
 }

@@ -1,5 +1,6 @@
 // Printers: the built-in one from the question to the finished file, and a print system that is silent.
 #include "app/Einzelbild.h"
+#include "document/Dateien.h"
 #include "gui/Programmaufruf.h"
 #include "qt/drucken/QtDrucker.h"
 #include "qt/grund/QtPlattform.h"
@@ -26,16 +27,16 @@ class EingebauterDrucker : public testing::Test {
         bild.dokument.Papiercode = papier;
         bild.dokument.Seitenlage = lage;
         SeiteBestimmen(bild.dokument, bild.ansicht);
-        ende = drucker.Drucken({"Mein Täst", farbig, bild.ansicht.SeitenBreite, bild.ansicht.SeitenHöhe,
-                                [this](Zeichenfläche &f) { bild.AufPapier(f); },
-                                [this] { return ++gefragt, ziel.empty() ? std::nullopt : std::optional(ziel); }});
+        befund = drucker.Drucken({"Mein Täst", farbig, bild.ansicht.SeitenBreite, bild.ansicht.SeitenHöhe,
+                                  [this](Zeichenfläche &f) { bild.AufPapier(f); },
+                                  [this] { return ++gefragt, ziel.empty() ? std::nullopt : std::optional(ziel); }});
     }
     QString Ort(const char *name) const { return ordner.filePath(QString::fromUtf8(name)); }
 
     QTemporaryDir ordner;
     std::string ziel; ///< what the user answers
     int gefragt = 0;
-    Druckende ende = Druckende::Erledigt;
+    Druckbefund befund;
     QtDrucker drucker;
     QtUhr uhr;
     Einzelbild bild{uhr, ""};
@@ -49,14 +50,16 @@ TEST_F(EingebauterDrucker, IstNieDieVorgabeUndSchreibtNurGanzeDateien) {
     EXPECT_FALSE(drucker.DeviceName());
     Drucken(9, 1, true);
     EXPECT_EQ(gefragt, 0) << "nobody chose it";
+    EXPECT_EQ(befund.Ende, Druckbefund::Art::NichtErreicht);
     EXPECT_FALSE(drucker.Wählen("Laser"));
     EXPECT_TRUE(drucker.Wählen(PdfDruckerName));
     EXPECT_EQ(drucker.DeviceName(), PdfDruckerName);
     Drucken(9, 1, true);
-    EXPECT_EQ(ende, Druckende::Aufgegeben);
+    EXPECT_EQ(befund.Ende, Druckbefund::Art::Aufgegeben);
     ziel = Ort("gibt/es/nicht.pdf").toStdString();
     Drucken(9, 1, true);
-    EXPECT_EQ(ende, Druckende::NichtGeschrieben);
+    EXPECT_EQ(befund.Ende, Druckbefund::Art::NichtGeschrieben);
+    EXPECT_EQ(befund.Grund, Ursache::OrdnerFehlt);
     EXPECT_EQ(gefragt, 2);
     EXPECT_TRUE(QDir(ordner.path()).isEmpty());
     qunsetenv("CUPS_SERVER");
@@ -89,6 +92,8 @@ TEST_F(EingebauterDrucker, DISABLED_AufEinerWarteschlange) {
     const int lage = qEnvironmentVariableIntValue("KW_LIE");
     drucker.OrientationSetzen(lage);
     Drucken(9, lage, qEnvironmentVariableIntValue("KW_COLOUR") != 0);
+    using enum Druckbefund::Art;
+    EXPECT_EQ(befund.Ende, qEnvironmentVariableIsSet("KW_REFUSED") ? NichtAngenommen : Erledigt);
 }
 
 TEST(Druckerauskunft, EinStummerServerHältDasFensterNicht) {

@@ -5,6 +5,7 @@
 #include "platform/Drucker.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/QtFlaeche.h"
+#include "qt/malen/Spielraum.h"
 #include "rendering/Ebenen.h"
 #include "rendering/Seite.h"
 #include "rendering/Zeichnung.h"
@@ -18,6 +19,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 
 namespace kw {
 
@@ -58,7 +60,7 @@ std::string AlsSvg(Auftrag &a) {
     puffer.open(QIODevice::WriteOnly);
     QSvgGenerator svg;
     svg.setOutputDevice(&puffer);
-    svg.setTitle(a.Titel());
+    svg.setTitle(FürXml(a.seite.Titel)); // written as it stands
     svg.setDescription(QStringLiteral("Kinwright"));
     // The size goes into the file as whole units of this resolution: tenths of a millimetre lose nothing.
     constexpr int ZehntelmillimeterDpi = 254;
@@ -75,7 +77,7 @@ std::string AlsBild(Auftrag &a, const char *format) {
         return std::to_string(a.dpi) + " dots per inch make a picture of " + std::to_string(pixel.width()) + " x " +
                std::to_string(pixel.height()) + " pixels; at most 200 million are possible";
     QImage bild(pixel, QImage::Format_RGB32);
-    if (bild.isNull()) return "not enough memory for the picture";
+    SpielraumVerlangen(bild);
     bild.fill(Qt::white);
     if (auto fehler = Drucken(a, bild, a.dpi / CmJeZoll); !fehler.empty()) return fehler;
     bild.setDotsPerMeterX(static_cast<int>(std::lround(a.dpi / 0.0254)));
@@ -109,11 +111,12 @@ const Format *FormatFür(std::string_view ziel) {
     return i == ende ? nullptr : i;
 }
 
-std::string Schreiben(const Format &format, Auftrag auftrag, const std::string &ziel) {
-    if (auto fehler = format.Erzeugen(auftrag); !fehler.empty()) return fehler;
+Dateibefund Schreiben(const Format &format, Auftrag auftrag, const std::string &ziel) {
+    SpielraumVerlangen();
+    if (auto fehler = format.Erzeugen(auftrag); !fehler.empty()) return {fehler, Ursache::Sonstiges};
     const QByteArray &inhalt = auftrag.inhalt;
-    if (inhalt.isEmpty()) return "the page came out empty";
-    return DateiSchreiben(ziel, {inhalt.constData(), static_cast<std::size_t>(inhalt.size())}).Meldung;
+    if (inhalt.isEmpty()) return {"the page came out empty", Ursache::Sonstiges};
+    return DateiSchreiben(ziel, {inhalt.constData(), static_cast<std::size_t>(inhalt.size())});
 }
 
 } // namespace
@@ -131,11 +134,15 @@ std::string Exportieren(Einzelbild &bild, const std::string &ziel, int dpi, cons
                              bild.ansicht.SeitenHöhe,
                              [&](Zeichenfläche &papier) { bild.AufPapier(papier); },
                              {}};
-    if (HatUngemesseneTextboxen(bild.dokument)) {
-        QImage probe(1, 1, QImage::Format_RGB32);
-        SeiteDrucken(seite, probe, 1);
+    try {
+        if (HatUngemesseneTextboxen(bild.dokument)) {
+            QImage probe(1, 1, QImage::Format_RGB32);
+            SeiteDrucken(seite, probe, 1);
+        }
+        return Schreiben(*format, {seite, dpi, {}}, ziel).Meldung;
+    } catch (const std::bad_alloc &) {
+        return "not enough memory for the page";
     }
-    return Schreiben(*format, {seite, dpi, {}}, ziel);
 }
 
 bool SeiteDrucken(const Druckauftrag &seite, QPaintDevice &gerät, double geräteJeCm, const QTransform &aufGerät) {
@@ -151,8 +158,8 @@ bool SeiteDrucken(const Druckauftrag &seite, QPaintDevice &gerät, double gerät
     return papier.Beenden();
 }
 
-std::string PdfSchreiben(const Druckauftrag &seite, const std::string &ziel) {
-    return Schreiben({"pdf", AlsPdf}, {seite, VektorDpi, {}}, ziel);
+Ursache PdfSchreiben(const Druckauftrag &seite, const std::string &ziel) {
+    return Schreiben({"pdf", AlsPdf}, {seite, VektorDpi, {}}, ziel).Grund;
 }
 
 } // namespace kw

@@ -12,6 +12,7 @@ namespace kw {
 
 class Einzelbild;
 struct Druckauftrag;
+enum class Ursache;
 
 constexpr double CmJeZoll = 2.54;
 constexpr int KleinsteDpi = 10;
@@ -29,7 +30,7 @@ std::string Exportieren(Einzelbild &bild, const std::string &ziel, int dpi, cons
 /// device can't be painted or reports a failure.
 bool SeiteDrucken(const Druckauftrag &seite, QPaintDevice &gerät, double geräteJeCm, const QTransform &aufGerät = {});
 
-/// Writes a job as a PDF of the page's size. Empty on success, else one plain line; then nothing was written.
-std::string PdfSchreiben(const Druckauftrag &seite, const std::string &ziel);
+/// Writes a job as a PDF of the page's size. `Keine` on success, else why nothing was written. Throws std::bad_alloc.
+Ursache PdfSchreiben(const Druckauftrag &seite, const std::string &ziel);
 
 } // namespace kw

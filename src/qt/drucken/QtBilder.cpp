@@ -2,6 +2,7 @@
 
 #include "document/Dateien.h"
 #include "qt/malen/LeinwandFlaeche.h"
+#include "qt/malen/Spielraum.h"
 
 #include <QBuffer>
 #include <QClipboard>
@@ -11,14 +12,13 @@
 #include <QPainter>
 
 #include <cmath>
+#include <memory>
+#include <new>
 #include <string_view>
 
 namespace kw {
 
 namespace {
-
-/// The status of an encoder, or of a disk, that had an error of no special kind.
-constexpr int AllgemeinerFehler = 1;
 
 /// Where a format keeps the resolution, and what says there that none is known.
 struct Auflösungsfeld {
@@ -29,7 +29,9 @@ struct Auflösungsfeld {
 constexpr Auflösungsfeld Auflösungsfelder[] = {{"bmp", 38, {"\0\0\0\0\0\0\0\0", 8}}, {"jpeg", 13, {"\0\0\1\0\1", 5}}};
 
 /// The picture without a resolution, which would say nothing true about the page. The toolkit writes the screen's.
+/// Empty when the encoder refuses it; throws where there is no memory for it.
 QByteArray Kodiert(QImage bild, const char *format, int qualität = -1) {
+    SpielraumVerlangen(bild);
     QByteArray inhalt;
     QBuffer puffer(&inhalt);
     puffer.open(QIODevice::WriteOnly);
@@ -45,9 +47,9 @@ QByteArray Kodiert(QImage bild, const char *format, int qualität = -1) {
 }
 
 /// Nothing is written but a whole picture.
-bool Geschrieben(const std::string &datei, const QByteArray &inhalt) {
-    if (inhalt.isEmpty()) return false;
-    return DateiSchreiben(datei, {inhalt.constData(), static_cast<size_t>(inhalt.size())}).Gelungen();
+Ursache Schreiben(const std::string &datei, const QByteArray &inhalt) {
+    if (inhalt.isEmpty()) return Ursache::Sonstiges;
+    return DateiSchreiben(datei, {inhalt.constData(), static_cast<size_t>(inhalt.size())}).Grund;
 }
 
 } // namespace
@@ -57,28 +59,29 @@ QImage QtBilder::Ausschnitt(const Bildausschnitt &ausschnitt) const {
     const auto pixel = [&](double twips) { return static_cast<int>(std::lround(twips * verhältnis)); };
     // What of the region lies beside the page is white, as the page is.
     QImage bild(pixel(ausschnitt.Width), pixel(ausschnitt.Height), QImage::Format_RGB32);
-    bild.fill(Qt::white);
     QImage ganz = leinwand_.Bild();
+    if (bild.isNull() || ganz.isNull()) throw std::bad_alloc();
+    bild.fill(Qt::white);
     ganz.setDevicePixelRatio(1); // pixel upon pixel
     QPainter(&bild).drawImage(-pixel(ausschnitt.Left), -pixel(ausschnitt.Top), ganz);
     return bild;
 }
 
-bool QtBilder::SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) {
-    return Geschrieben(datei, Kodiert(ausschnitt ? Ausschnitt(*ausschnitt) : leinwand_.Bild(), "bmp"));
+Ursache QtBilder::SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) {
+    return Schreiben(datei, Kodiert(ausschnitt ? Ausschnitt(*ausschnitt) : leinwand_.Bild(), "bmp"));
 }
 
-int QtBilder::AlsJpeg(const std::string &datei, unsigned char quality) {
-    return Geschrieben(datei, Kodiert(leinwand_.Bild(), "jpeg", quality)) ? 0 : AllgemeinerFehler;
+Ursache QtBilder::AlsJpeg(const std::string &datei, unsigned char quality) {
+    return Schreiben(datei, Kodiert(leinwand_.Bild(), "jpeg", quality));
 }
 
 void QtBilder::InZwischenablage(const Bildausschnitt &ausschnitt) {
     const QImage bild = Ausschnitt(ausschnitt);
-    auto *inhalt = new QMimeData;
+    auto inhalt = std::make_unique<QMimeData>();
     inhalt->setImageData(bild);
     inhalt->setData(QStringLiteral("image/png"), Kodiert(bild, "png"));
     inhalt->setData(QStringLiteral("image/bmp"), Kodiert(bild, "bmp"));
-    QGuiApplication::clipboard()->setMimeData(inhalt);
+    QGuiApplication::clipboard()->setMimeData(inhalt.release());
 }
 
 } // namespace kw

@@ -13,8 +13,8 @@ class QtBilder : public Bilder {
   public:
     explicit QtBilder(const LeinwandFläche &leinwand) : leinwand_(leinwand) {}
 
-    bool SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) override;
-    int AlsJpeg(const std::string &datei, unsigned char quality) override;
+    Ursache SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) override;
+    Ursache AlsJpeg(const std::string &datei, unsigned char quality) override;
     /// Offered as PNG and as bitmap.
     void InZwischenablage(const Bildausschnitt &ausschnitt) override;
 

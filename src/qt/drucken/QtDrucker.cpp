@@ -1,9 +1,11 @@
 #include "qt/drucken/QtDrucker.h"
 
+#include "document/Dateien.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/drucken/Blattdrucker.h"
 #include "qt/grund/Text.h"
 
+#include <QLibrary>
 #include <QPrintEngine>
 #include <QTransform>
 
@@ -37,6 +39,17 @@ QTransform AufBlatt(const Blattdrucker &drucker, int lage) {
     const QMarginsF rand = drucker.Ränder() * JePunkt;
     if (lage == Hochformat) return QTransform::fromTranslate(rand.left(), rand.top());
     return {0, -1, 1, 0, rand.left(), drucker.Höhe() * JePunkt - rand.bottom()};
+}
+
+/// Whether the print system has taken the last job of this thread. The toolkit hands it over and doesn't look; the
+/// library that it uses for that remembers.
+bool IstAngenommen() {
+    constexpr int ErsterFehler = 0x100; // of the protocol's status codes; success has several, below
+    using Letzter = int (*)();
+    const auto letzter = reinterpret_cast<Letzter>(QLibrary(QStringLiteral("cups"), 2).resolve("cupsLastError"));
+    if (!letzter) return true; // a print system of another kind
+    const int status = letzter();
+    return status >= 0 && status < ErsterFehler;
 }
 
 } // namespace
@@ -74,26 +87,30 @@ bool QtDrucker::Wählen(std::string_view deviceName) {
 }
 
 /// Into a file. Its sheet is the document's page, without margins; nothing is written but a whole one.
-Druckende QtDrucker::AlsPdfDrucken(const Druckauftrag &auftrag) {
+Druckbefund QtDrucker::AlsPdfDrucken(const Druckauftrag &auftrag) {
     const auto ziel = auftrag.Zieldatei();
-    if (!ziel) return Druckende::Aufgegeben;
-    return PdfSchreiben(auftrag, *ziel).empty() ? Druckende::Erledigt : Druckende::NichtGeschrieben;
+    if (!ziel) return {Druckbefund::Art::Aufgegeben};
+    const Ursache grund = PdfSchreiben(auftrag, *ziel);
+    return {grund == Ursache::Keine ? Druckbefund::Art::Erledigt : Druckbefund::Art::NichtGeschrieben, grund};
 }
 
 /// Of a chosen printer that has gone nothing comes out elsewhere; what a mute print system is asked would never end.
-Druckende QtDrucker::Drucken(const Druckauftrag &auftrag) {
+Druckbefund QtDrucker::Drucken(const Druckauftrag &auftrag) {
     if (gewählt_ == Eingebauter()) return AlsPdfDrucken(auftrag);
     const Druckerstand stand = auskunft_.Erfragen(Druckerauskunft::Geduld::Lang);
-    const QString name = Aktueller(stand);
-    if (!stand.Beantwortet || (!gewählt_.isEmpty() && name != gewählt_)) return Druckende::Aufgegeben;
+    const QString name = gewählt_.isEmpty() ? stand.Vorgabe : gewählt_;
+    const Druckbefund unerreicht{Druckbefund::Art::NichtErreicht, {}, name.toStdString()};
+    if (!stand.Beantwortet || !stand.Namen.contains(name)) return unerreicht;
     const QPrinterInfo info = QPrinterInfo::printerInfo(name);
-    if (info.isNull()) return Druckende::Aufgegeben;
+    if (info.isNull()) return unerreicht;
     Blattdrucker drucker(info);
     drucker.setColorMode(auftrag.Farbig ? QPrinter::Color : QPrinter::GrayScale);
     drucker.setDocName(Text(auftrag.Titel));
     drucker.printEngine()->setProperty(PrintSystemOptions, Auftragsoptionen(auftrag.Farbig));
-    if (!SeiteDrucken(auftrag, drucker, Dpi / CmJeZoll, AufBlatt(drucker, lage_))) drucker.abort();
-    return Druckende::Erledigt;
+    const bool gezeichnet = SeiteDrucken(auftrag, drucker, Dpi / CmJeZoll, AufBlatt(drucker, lage_));
+    if (!gezeichnet) drucker.abort();
+    if (gezeichnet && IstAngenommen()) return {};
+    return {Druckbefund::Art::NichtAngenommen, {}, name.toStdString()};
 }
 
 } // namespace kw

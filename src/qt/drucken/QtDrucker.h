@@ -16,11 +16,11 @@ class QtDrucker : public Drucker {
     std::vector<std::string> DeviceNames() const override;
     bool Wählen(std::string_view deviceName) override;
     void OrientationSetzen(int lage) override { lage_ = lage; }
-    Druckende Drucken(const Druckauftrag &auftrag) override;
+    Druckbefund Drucken(const Druckauftrag &auftrag) override;
 
   private:
     QString Aktueller(const Druckerstand &stand) const;
-    static Druckende AlsPdfDrucken(const Druckauftrag &auftrag);
+    static Druckbefund AlsPdfDrucken(const Druckauftrag &auftrag);
 
     Druckerauskunft auskunft_;
     QString gewählt_; ///< empty until one is chosen

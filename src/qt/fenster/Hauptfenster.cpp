@@ -19,12 +19,15 @@
 #include <QLayout>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
 
+#include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace kw {
@@ -81,6 +84,26 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
     return MitKennung(datei, Kennung(wahl.Filter), wahl.Erlaubt == Dateiwahl::Kennungen::Alle);
 }
 
+/// The path that the address of a local file means, in the bytes of its name; empty for any other.
+std::string LokalerPfad(const QByteArray &adresse) {
+    for (const char *anfang : {"file://localhost/", "file:///", "file:/"})
+        if (adresse.startsWith(anfang)) {
+            const QByteArray rest = adresse.mid(static_cast<qsizetype>(std::strlen(anfang)));
+            return rest.startsWith('/') ? "" : '/' + QByteArray::fromPercentEncoding(rest).toStdString();
+        }
+    return {};
+}
+
+/// The first project of a list of dragged files; empty without one.
+std::string GezogenesProjekt(const QMimeData &inhalt) {
+    for (const QByteArray &zeile : inhalt.data(QStringLiteral("text/uri-list")).split('\n')) {
+        std::string datei = LokalerPfad(zeile.trimmed());
+        const bool istName = !datei.empty() && datei.find('\0') == std::string::npos;
+        if (istName && MitKennung(datei, "kwp", false) == datei) return datei;
+    }
+    return {};
+}
+
 void PopupsSchließen() {
     while (QWidget *popup = QApplication::activePopupWidget())
         if (!popup->close()) break;
@@ -93,6 +116,7 @@ Hauptfenster::Hauptfenster(const std::string &kommandozeile)
       fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     setCentralWidget(fläche_);
     setAnimated(false);
+    setAcceptDrops(true);
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide toolbar and panels
     // Until these come, so that the page doesn't jump.
     setContentsMargins(0, Menüs::Höhe() + Symbolleiste::Höhe(), 0, Statuszeile::Höhe());
@@ -166,6 +190,45 @@ void Hauptfenster::NachVorn() {
     activateWindow();
 }
 
+void Hauptfenster::Übernehmen(const std::string &datei) {
+    NachVorn();
+    if (datei.empty()) return;
+    übergeben_.push_back(datei);
+    if (übergeben_.size() == 1) QTimer::singleShot(0, this, [this] { ÜbernahmeFolgen(); });
+}
+
+/// One after the other; each can ask.
+void Hauptfenster::ÜbernahmeFolgen() {
+    constexpr int Später = 200; // ms
+    if (IstBeschäftigt()) return QTimer::singleShot(Später, this, [this] { ÜbernahmeFolgen(); });
+    haupt_.DateiÜbernehmen(übergeben_.front());
+    übergeben_.pop_front();
+    if (!übergeben_.empty()) QTimer::singleShot(0, this, [this] { ÜbernahmeFolgen(); });
+}
+
+bool Hauptfenster::IstBeschäftigt() const {
+    // Before these have run out the window doesn't show what it was started with.
+    constexpr std::string_view Startzeitgeber[] = {"tmrFassungen", "Timer2", "Timer5"};
+    const auto läuft = [this](std::string_view name) {
+        const auto zeitgeber = zeitgeber_.find(name);
+        return zeitgeber != zeitgeber_.end() && zeitgeber->second->isActive();
+    };
+    return QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
+           std::any_of(std::begin(Startzeitgeber), std::end(Startzeitgeber), läuft);
+}
+
+void Hauptfenster::dragEnterEvent(QDragEnterEvent *ereignis) {
+    if (!GezogenesProjekt(*ereignis->mimeData()).empty()) ereignis->acceptProposedAction();
+}
+
+/// Whoever dragged it waits for the end of this event, and mustn't wait for a question.
+void Hauptfenster::dropEvent(QDropEvent *ereignis) {
+    const std::string datei = GezogenesProjekt(*ereignis->mimeData());
+    if (datei.empty()) return;
+    ereignis->acceptProposedAction();
+    Übernehmen(datei);
+}
+
 QWidget *Hauptfenster::Vordergrund() {
     QWidget *offen = QApplication::activeModalWidget();
     return offen ? offen : this;
@@ -230,9 +293,12 @@ void Hauptfenster::AdresseÖffnen(const std::string &adresse) {
     QDesktopServices::openUrl(ziel.startsWith(datei) ? QUrl::fromLocalFile(ziel.mid(datei.size())) : QUrl(ziel));
 }
 
+/// Run as the system's keeper, it must be one that nobody else can have put there.
 void Hauptfenster::ProgrammStarten(const std::string &name) {
     const QString programm = QCoreApplication::applicationDirPath() + u'/' + Text(name);
-    if (QFileInfo(programm).isExecutable()) QProcess::startDetached(QStringLiteral("pkexec"), {programm});
+    const QString eigentlich = QFileInfo(programm).canonicalFilePath();
+    if (QFileInfo(eigentlich).isExecutable() && GehörtDemSystem(eigentlich.toStdString()))
+        QProcess::startDetached(QStringLiteral("pkexec"), {eigentlich});
 }
 
 void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }

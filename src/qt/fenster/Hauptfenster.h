@@ -11,6 +11,7 @@
 
 #include <QMainWindow>
 
+#include <deque>
 #include <map>
 #include <vector>
 
@@ -48,17 +49,25 @@ class Hauptfenster : public QMainWindow, public Benutzer {
 
     /// Another start wants this window seen.
     void NachVorn();
+    /// Another start, or a drop, hands over a project by its full path, or nothing: the window comes to the front, and
+    /// the project is opened as soon as nothing else is open.
+    void Übernehmen(const std::string &datei);
     /// The session's end, as the model has it; the question stands before all else.
     bool SitzungBeenden();
     void Beenden() { haupt_.Beenden(); }
 
   protected:
     void closeEvent(QCloseEvent *ereignis) override;
+    void dragEnterEvent(QDragEnterEvent *ereignis) override;
+    void dropEvent(QDropEvent *ereignis) override;
 
   private:
     /// A command that the user has chosen, wherever it stands.
     void Ausführen(std::string_view befehl);
     void Anzeigen();
+    void ÜbernahmeFolgen();
+    /// Whether a form, a box or a menu is open, or the start isn't done.
+    bool IstBeschäftigt() const;
     /// Menus and toolbar, where their place was kept free.
     void LeistenBauen();
     /// What the next dialog stands over: the form that is open, else this window.
@@ -76,8 +85,9 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     Werkzeugpalette *palette_ = nullptr;
     Importliste *importliste_ = nullptr; ///< not before it is to be seen
     std::vector<std::function<void()>> nachErstemBild_;
-    std::map<std::string, QTimer *> zeitgeber_;
-    bool auffrischungSteht_ = false; ///< a refresh waits for the end of the event
+    std::map<std::string, QTimer *, std::less<>> zeitgeber_;
+    std::deque<std::string> übergeben_; ///< projects that wait to be opened
+    bool auffrischungSteht_ = false;    ///< a refresh waits for the end of the event
 };
 
 } // namespace kw

@@ -8,6 +8,8 @@
 #include <QLocale>
 #include <QStandardPaths>
 
+#include <sys/stat.h>
+
 namespace kw {
 
 Datumsfolge FolgeAus(const std::string &format) {
@@ -38,6 +40,17 @@ std::string NetzordnerDesBenutzers() {
     const QString zustand = qEnvironmentVariable("XDG_STATE_HOME"); // the toolkit knows no such place yet
     const bool gilt = QDir::isAbsolutePath(zustand);                // as its rules say
     return (gilt ? zustand : QDir::homePath() + QStringLiteral("/.local/state")).toStdString() + "/kinwright";
+}
+
+bool GehörtDemSystem(const std::string &pfad) {
+    constexpr mode_t Andere = S_IWGRP | S_IWOTH; // the group's bit also covers what an access list allows
+    if (!pfad.starts_with('/')) return false;
+    for (std::string teil = pfad;; teil.resize(teil.rfind('/'))) {
+        struct stat angaben {};
+        if (::lstat(teil.empty() ? "/" : teil.c_str(), &angaben) != 0) return false;
+        if (angaben.st_uid != 0 || S_ISLNK(angaben.st_mode) || (angaben.st_mode & Andere) != 0) return false;
+        if (teil.empty()) return true;
+    }
 }
 
 std::string Hilfeordner() {

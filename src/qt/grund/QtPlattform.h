@@ -30,6 +30,10 @@ std::string EinstellungsDateiDesBenutzers();
 /// The folder of this user's safety net. Without a closing "/".
 std::string NetzordnerDesBenutzers();
 
+/// Whether only root can change what stands under that full path: it and all folders on its way are root's, none is a
+/// link, and nobody else may write them.
+bool GehörtDemSystem(const std::string &pfad);
+
 /// Where the manual stands: beside the program, or where an installation puts it. Without a closing "/".
 std::string Hilfeordner();
 

@@ -11,4 +11,10 @@ inline QString Text(std::string_view utf8) {
     return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
 }
 
+/// The same with a blank for what would break a line or an XML file.
+QString Lesbar(std::string_view utf8);
+
+/// The same as it may stand between the tags and in the attributes of an XML file.
+QString FürXml(std::string_view utf8);
+
 } // namespace kw

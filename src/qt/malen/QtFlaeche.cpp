@@ -1,5 +1,7 @@
 #include "qt/malen/QtFlaeche.h"
 
+#include "qt/grund/Text.h"
+
 #include <QPaintEngine>
 #include <QPainterPath>
 #include <QPolygonF>
@@ -63,6 +65,7 @@ bool QtFläche::Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJ
     maler_.scale(geräteJeEinheit_, geräteJeEinheit_);
     füllbar_ = maler_.paintEngine()->type() == QPaintEngine::Raster;
     gerastert_ = ausrichten_ || füllbar_;
+    xml_ = maler_.paintEngine()->type() == QPaintEngine::SVG;
     stift_ = füllung_ = ~std::uint64_t{0};
     schrift_ = 0;
     stifte_.clear();
@@ -251,7 +254,8 @@ void QtFläche::Polygon(std::span<const Bildpunkt> punkte) {
 Schriftsatz &QtFläche::Satz() {
     const double nominal = FontSize / Faktor();
     const double punkte = nominal > 1 ? std::min(nominal, GrößteSchrift) : 1; // also for what is no number
-    return vorrat_.Finden({FontName, static_cast<int>(std::lround(punkte * JePunkt)), FontBold, FontItalic});
+    const std::string name = xml_ ? FürXml(FontName).toStdString() : FontName;
+    return vorrat_.Finden({name, static_cast<int>(std::lround(punkte * JePunkt)), FontBold, FontItalic});
 }
 
 double QtFläche::TextWidth(std::string_view text) { return text.empty() ? 0 : Satz().Setzen(text).Breite / JeCm; }

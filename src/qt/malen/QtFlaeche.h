@@ -73,6 +73,7 @@ class QtFläche : public Zeichenfläche {
     bool ausrichten_ = false;
     bool grau_ = false;
     bool gerastert_ = false; ///< the device is made of pixels
+    bool xml_ = false;       ///< the device writes the names of fonts into its file as they stand
     bool füllbar_ = false;   ///< filling a rectangle is cheaper there than drawing a line
     std::unordered_map<std::uint64_t, QPen> stifte_;
     std::uint64_t stift_ = ~std::uint64_t{0};   ///< key of the painter's pen

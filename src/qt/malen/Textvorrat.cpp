@@ -1,5 +1,7 @@
 #include "qt/malen/Textvorrat.h"
 
+#include "qt/grund/Text.h"
+
 #include <QFontMetricsF>
 
 namespace kw {
@@ -11,28 +13,13 @@ constexpr std::size_t HöchstzahlZeichen = 200000; ///< of one font
 constexpr std::size_t HöchstzahlSchriften = 32;
 
 QFont SchriftFür(const Schriftwunsch &w) {
-    QFont schrift(QString::fromUtf8(w.Name.data(), static_cast<qsizetype>(w.Name.size())));
+    QFont schrift(Text(w.Name));
     schrift.setPixelSize(w.Größe);
     schrift.setBold(w.Fett);
     schrift.setItalic(w.Kursiv);
     schrift.setHintingPreference(QFont::PreferNoHinting);
     schrift.setKerning(true);
     return schrift;
-}
-
-/// What would break a line (controls, separators) or an XML file (the non-characters) shows as a blank.
-bool IstLesbar(QChar c) {
-    constexpr char16_t NichtZeichen = 0xFFFE;
-    const QChar::Category art = c.category();
-    return art != QChar::Other_Control && art != QChar::Separator_Line && art != QChar::Separator_Paragraph &&
-           c.unicode() < NichtZeichen;
-}
-
-QString Lesbar(std::string_view utf8) {
-    QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-    for (QChar &c : text)
-        if (!IstLesbar(c)) c = QLatin1Char(' ');
-    return text;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "app/Einzelbild.h"
 #include "app/Programmversion.h"
 #include "document/Dateien.h"
+#include "document/Texte.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/fenster/Hauptfenster.h"
 #include "qt/grund/QtPlattform.h"
@@ -14,19 +15,21 @@
 #include <QTranslator>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <new>
+
+#include <sys/resource.h>
 
 namespace {
 
 using namespace kw;
 
 /// One plain line, whatever a file's name holds.
-int Melden(std::string zeile, int ergebnis) {
-    std::replace_if(
-        zeile.begin(), zeile.end(), [](unsigned char c) { return c < ' '; }, '?');
-    std::fprintf(stderr, "kinwright: %s\n", zeile.c_str());
+int Melden(const std::string &zeile, int ergebnis) {
+    std::fprintf(stderr, "kinwright: %s\n", FürTerminal(zeile).c_str());
     return ergebnis;
 }
 
@@ -65,27 +68,49 @@ void PlattformtexteLaden(QTranslator &texte) {
         QCoreApplication::installTranslator(&texte);
 }
 
+/// The project's full path, empty for none.
+std::string Projektpfad(const Aufruf &aufruf) {
+    if (!aufruf.Import.empty() || aufruf.Datei.empty()) return {};
+    std::error_code fehler;
+    const std::filesystem::path voll = std::filesystem::absolute(aufruf.Datei, fehler);
+    return fehler ? aufruf.Datei : voll.string();
+}
+
 /// The command line as the model takes it.
 std::string Kommandozeile(const Aufruf &aufruf) {
-    if (!aufruf.Import.empty() || aufruf.Datei.empty()) return aufruf.Import;
-    std::error_code fehler;
-    return '"' + std::filesystem::absolute(aufruf.Datei, fehler).string() + '"';
+    const std::string pfad = Projektpfad(aufruf);
+    return pfad.empty() ? aufruf.Import : '"' + pfad + '"';
+}
+
+/// A released program leaves no dump of what it held: clients' data. A limit of one byte also keeps the system from
+/// handing the dump to a program that collects them, which none of zero does.
+void OhneSpeicherabbild() {
+#ifdef KW_OHNE_SPEICHERABBILD
+    rlimit grenze{};
+    if (::getrlimit(RLIMIT_CORE, &grenze) != 0) return;
+    grenze.rlim_cur = std::min<rlim_t>(grenze.rlim_max, 1);
+    ::setrlimit(RLIMIT_CORE, &grenze);
+#endif
 }
 
 int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
         qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         return Melden("no display to open a window on; see kinwright --help for exports without one", 1);
+    OhneSpeicherabbild();
+    Einzelinstanz instanz; // before the application object: a later start has no use for one
+    switch (instanz.Starten(Projektpfad(aufruf))) {
+    case Einzelinstanz::Stand::Übergeben: return 0;
+    case Einzelinstanz::Stand::Allein: Melden(instanz.Grund() + "; this window stands alone", 0); break;
+    case Einzelinstanz::Stand::Erste: break;
+    }
     const QApplication anwendung(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kinwright"));
     QApplication::setDesktopFileName(QStringLiteral("kinwright")); // gives the window its icon
-    Einzelinstanz instanz;
-    if (!instanz.IstErste())
-        return instanz.HatGeantwortet() ? 0 : Melden("another Kinwright is running, but doesn't answer", 1);
     QTranslator plattformtexte;
     PlattformtexteLaden(plattformtexte);
     Hauptfenster fenster(Kommandozeile(aufruf));
-    instanz.BeiWeiteremStart([&fenster] { fenster.NachVorn(); });
+    instanz.BeiWeiteremStart([&fenster](const std::string &datei) { fenster.Übernehmen(datei); });
     const Sitzungsende ende({[&fenster] { return fenster.SitzungBeenden(); }, [&fenster] { fenster.Beenden(); }});
     fenster.show();
     return QApplication::exec();
@@ -93,7 +118,8 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
 
 } // namespace
 
-int main(int argc, char **argv) {
+int main(int argc, char **argv) try {
+    std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow so large is told as any that can't be written
     qInstallMessageHandler(Meldung);
     const Aufruf aufruf = AufrufLesen({argv + std::min(argc, 1), argv + argc});
     switch (aufruf.Was) {
@@ -104,4 +130,6 @@ int main(int argc, char **argv) {
     case Aufruf::Art::Fenster: break;
     }
     return FensterZeigen(aufruf, argc, argv);
+} catch (const std::bad_alloc &) {
+    return Melden("not enough memory", 1);
 }
