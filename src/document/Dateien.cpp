@@ -56,14 +56,14 @@ void DirektSchreiben(const std::string &pfad, std::string_view inhalt) {
 
 void Schreiben(const std::string &pfad, std::string_view inhalt, const Schreibweise &wie) {
     struct stat angaben {};
-    const bool vorhanden = ::stat(pfad.c_str(), &angaben) == 0;
+    const bool vorhanden = Ununterbrochen([&] { return ::stat(pfad.c_str(), &angaben); }) == 0;
     if (!vorhanden && errno != ENOENT) Scheitern();
     if (pfad.empty()) Scheitern(ENOENT);
     if (DateiName(pfad).empty() || (vorhanden && S_ISDIR(angaben.st_mode))) Scheitern(EISDIR);
     if (vorhanden && !S_ISREG(angaben.st_mode)) return DirektSchreiben(pfad, inhalt);
     // A file without a write bit was protected on purpose; root too, who could, must not replace it.
     if (vorhanden && (angaben.st_mode & 0222U) == 0) Scheitern(EACCES);
-    if (vorhanden && ::faccessat(AT_FDCWD, pfad.c_str(), W_OK, AT_EACCESS) != 0) Scheitern();
+    if (vorhanden) Geprüft([&] { return ::faccessat(AT_FDCWD, pfad.c_str(), W_OK, AT_EACCESS); });
     const Schreibauftrag auftrag{pfad, ZielDerVerweise(pfad), inhalt, wie};
     const bool mehrereNamen = vorhanden && angaben.st_nlink > 1 && wie.Wahrer != nullptr;
     if (mehrereNamen || !Ersetzen(auftrag, vorhanden ? &angaben : nullptr)) VorOrtSchreiben(auftrag);

@@ -76,7 +76,7 @@ bool Dateirechte::Übertragen(int fd) const {
         Gewährt([&] { return ::fsetxattr(fd, merkmal.first.c_str(), wert.data(), wert.size(), 0); });
     }
     struct stat neu {};
-    if (::fstat(fd, &neu) != 0) Scheitern();
+    Geprüft([&] { return ::fstat(fd, &neu); });
     // One by one: asked for both, the system refuses both where only the group could be had.
     constexpr auto Bleibt = static_cast<uid_t>(-1);
     const bool gruppe = neu.st_gid == gruppe_ || Gewährt([&] { return ::fchown(fd, Bleibt, gruppe_); });

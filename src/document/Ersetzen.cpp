@@ -50,7 +50,8 @@ bool IstSicher(const Schreibauftrag &auftrag, const std::string &name, const std
     try {
         const Deskriptor datei(Öffnen(name, O_RDONLY | Vorsicht));
         struct stat angaben {};
-        if (::fstat(datei.Nummer(), &angaben) != 0 || !S_ISREG(angaben.st_mode)) return false;
+        Geprüft([&] { return ::fstat(datei.Nummer(), &angaben); });
+        if (!S_ISREG(angaben.st_mode)) return false;
         if (gelesen && Enthält(datei.Nummer(), *gelesen)) return true;
         ZumAnfang(datei.Nummer());
         auftrag.Sichern(AllesLesen(datei.Nummer()));

@@ -59,13 +59,14 @@ bool Sperren(int fd, int art) {
 bool StehtFür(const std::string &name, int fd) {
     struct stat offen {};
     struct stat genannt {};
-    return ::fstat(fd, &offen) == 0 && ::lstat(name.c_str(), &genannt) == 0 && offen.st_dev == genannt.st_dev &&
+    return Ununterbrochen([&] { return ::fstat(fd, &offen); }) == 0 &&
+           Ununterbrochen([&] { return ::lstat(name.c_str(), &genannt); }) == 0 && offen.st_dev == genannt.st_dev &&
            offen.st_ino == genannt.st_ino;
 }
 
 std::string AllesLesen(int fd) {
     struct stat angaben {};
-    if (::fstat(fd, &angaben) != 0) Scheitern();
+    Geprüft([&] { return ::fstat(fd, &angaben); });
     if (S_ISDIR(angaben.st_mode)) Scheitern(EISDIR);
     const auto größe = S_ISREG(angaben.st_mode) ? static_cast<std::size_t>(angaben.st_size) : 0;
     if (größe > GrößteDatei) Scheitern(EFBIG);
@@ -99,7 +100,7 @@ void AllesSchreiben(int fd, std::string_view inhalt) {
 }
 
 void ZumAnfang(int fd) {
-    if (::lseek(fd, 0, SEEK_SET) != 0) Scheitern();
+    Geprüft([&] { return ::lseek(fd, 0, SEEK_SET); });
 }
 
 void Flushen(int fd) {
@@ -111,14 +112,13 @@ std::string ZielDerVerweise(std::string pfad) {
     constexpr int MeisteVerweise = 40;
     for (int i = 0; i < MeisteVerweise; ++i) {
         struct stat angaben {};
-        if (::lstat(pfad.c_str(), &angaben) != 0) {
+        if (Ununterbrochen([&] { return ::lstat(pfad.c_str(), &angaben); }) != 0) {
             if (errno == ENOENT) return pfad;
             Scheitern();
         }
         if (!S_ISLNK(angaben.st_mode)) return pfad;
         std::array<char, PATH_MAX> puffer{};
-        const auto länge = ::readlink(pfad.c_str(), puffer.data(), puffer.size());
-        if (länge < 0) Scheitern();
+        const auto länge = Geprüft([&] { return ::readlink(pfad.c_str(), puffer.data(), puffer.size()); });
         const std::string ziel(puffer.data(), static_cast<std::size_t>(länge));
         pfad = ziel.starts_with('/') ? ziel : Pfad(pfad) + ziel;
     }

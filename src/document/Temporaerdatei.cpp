@@ -137,7 +137,9 @@ Temporärdatei::~Temporärdatei() {
     if (StehtFür(name_, Nummer())) ::unlink(name_.c_str());
 }
 
-void Temporärdatei::Abschließen() const { Deskriptor(::fcntl(Nummer(), F_DUPFD_CLOEXEC, 0)).Schließen(); }
+void Temporärdatei::Abschließen() const {
+    Deskriptor(Ununterbrochen([&] { return ::fcntl(Nummer(), F_DUPFD_CLOEXEC, 0); })).Schließen();
+}
 
 void Temporärdatei::AlsAlt() {
     auto alt = name_.substr(0, name_.size() - EndeNeu.size()).append(EndeAlt);

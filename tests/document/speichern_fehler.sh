@@ -142,9 +142,9 @@ gewahrt() {
 }
 
 # bewahrt CASE CALL INJECTION: one save over somebody else's version with one fault in it. What it says must be true;
-# after the next save no version is lost, and no stray file is left.
+# after the next save no version is lost, and no stray file is left. Sets `code`.
 bewahrt() {
-    local text="$1 $2 $3" code
+    local text="$1 $2 $3"
     rm -rf netz .kw-* datei zweiter c77 && mkdir netz && bytes a 300 >datei
     [ "$1" != dazwischen ] || bytes c 77 >c77
     [ "$1" != vorort ] || ln datei zweiter
@@ -164,22 +164,23 @@ bewahrt() {
     [ -z "$(find . -name '.kw-*')" ] || scheitert "$text: a stray file outlived the next save"
 }
 
-# Every seventh fault, as three kinds take turns; all of them when KW_LONG is set.
+# Every seventh fault, as four kinds take turns; all of them when KW_LONG is set.
 bewahren() {
-    local fall ruf art mal vorher anzahl nummer=0
+    local fall ruf art mal vorher anzahl code nummer=0
     for fall in fremd dazwischen vorort; do
         bewahrt "$fall" fsync error=EINTR:when=1
         cp spur "$fall.spur"
-        for ruf in $(sed '1,/"datei"/d' "$fall.spur" | grep -oE ' [a-z0-9_]+\(' | tr -d ' (' | sort -u); do
+        for ruf in $(sed '1,/"datei", {/d' "$fall.spur" | grep -oE ' [a-z0-9_]+\(' | tr -d ' (' | sort -u); do
             case $ruf in brk | m*map | mprotect | rt_* | futex | exit*) continue ;; esac
             # What the loader calls was tried above.
-            vorher=$(sed '/"datei"/q' "$fall.spur" | grep -cE " $ruf\(")
+            vorher=$(sed '/"datei", {/q' "$fall.spur" | grep -cE " $ruf\(")
             anzahl=$(grep -cE " $ruf\(" "$fall.spur")
             for mal in $(seq $((vorher + 1)) "$anzahl"); do
-                for art in error=EIO error=EACCES signal=KILL; do
+                for art in error=EIO error=EACCES error=EINTR signal=KILL; do
                     nummer=$((nummer + 1))
                     [ -n "${KW_LONG:-}" ] || [ $((nummer % 7)) = 0 ] || continue
                     bewahrt "$fall" "$ruf" "$art:when=$mal"
+                    [ "$art $code" != "error=EINTR 1" ] || scheitert "$fall $ruf $mal: a signal ended the save"
                 done
             done
         done
