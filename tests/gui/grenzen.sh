@@ -6,6 +6,11 @@ folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 cd "$folder" || exit 1
 export HOME=$folder
+# Its own cache of fonts: one written under these limits would be cut, and root's is the whole machine's.
+cat >fonts.conf <<END
+<?xml version="1.0"?><fontconfig><cachedir>$folder/fonts</cachedir><include>/etc/fonts/fonts.conf</include></fontconfig>
+END
+export FONTCONFIG_FILE=$folder/fonts.conf
 sample=$KW_SRC/samples/familie.kwp
 failed=0
 fault() { echo "FAILED: $*"; failed=1; }
@@ -19,7 +24,7 @@ refused() {
     code=$?
     [ "$code" = 1 ] && [ "$(cat told)" = "kinwright: $1: $text" ] || fault "$*: exit $code, '$(head -c 300 told)'"
     [ "$(cat "$1")" = old ] || fault "$*: the old file is gone"
-    [ "$(ls -A | grep -vxF -e told -e .config)" = "$1" ] || fault "$*: it left $(ls -A | tr '\n' ' ')"
+    [ "$(ls -A | grep -vxF -e told -e .config -e fonts -e fonts.conf)" = "$1" ] || fault "$*: it left $(ls -A | tr '\n' ' ')"
     rm -f "$1"
 }
 
