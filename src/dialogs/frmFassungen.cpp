@@ -163,13 +163,17 @@ void frmFassungen::BildZeichnen(std::string_view, Zeichenfläche &f) {
     SeiteBestimmen(*seite_, ansicht);
     Legendenblatt legende;
     LegendeAufbauen(*seite_, legende);
+    const auto [breite, höhe] = BildGröße("");
+    f.DrawStyle = StilDurchgezogen;
+    f.FillStyle = Gefüllt;
+    f.DrawWidth = 1;
+    f.FillColor = Hellgrau;
+    f.Line(KastenFarbig, 0, 0, breite, höhe, Hellgrau);
+    f.FillColor = Weiß;
+    f.Line(KastenFarbig, 0, 0, ansicht.SeitenBreite, ansicht.SeitenHöhe, Weiß);
     const Auswahl nichts;
     const Gestenlage ruhe;
     SeitenbildZeichnen(f, {*seite_, ansicht, nichts, ruhe, legende, umgebung_.uhr});
-    f.DrawStyle = StilDurchgezogen;
-    f.FillStyle = Durchsichtig;
-    f.DrawWidth = 1;
-    f.Line(KastenFarbig, 0, 0, ansicht.SeitenBreite, ansicht.SeitenHöhe, Hellgrau);
     if (!versuch_.empty()) umgebung_.netz.VersuchEnden(std::exchange(versuch_, {}));
 }
 
