@@ -1,5 +1,8 @@
 #include "qt/start/Aufruf.h"
+#include "document/Dateien.h"
 #include "qt/grund/QtPlattform.h"
+
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -27,6 +30,16 @@ TEST(Aufruf, SagtWasVerlangtIst) {
         EXPECT_EQ(a.Fehler.empty(), art != Art::Falsch);
     }
     EXPECT_EQ(AufrufLesen({"\\dataimport", "Fall", "Müller"}).Import, "\\dataimport Fall Müller");
+}
+
+/// The update runs with root's rights: what anybody else can put there, in a folder on the way too, isn't started.
+TEST(GehörtDemSystem, NurWasNiemandSonstÄndernKann) {
+    const QTemporaryDir ordner; // in a folder that all can write
+    const std::string datei = ordner.filePath(QStringLiteral("kw_update")).toStdString();
+    ASSERT_TRUE(DateiSchreiben(datei, "#!/bin/sh\n").Gelungen());
+    for (const std::string &pfad : {datei, std::string("/nirgends/env"), std::string("usr/bin/env"), std::string()})
+        EXPECT_FALSE(GehörtDemSystem(pfad)) << pfad;
+    EXPECT_TRUE(GehörtDemSystem("/usr/bin/env"));
 }
 
 TEST(Datumsfolge, FolgtDemKurzenFormatDesLandes) {

@@ -18,6 +18,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -29,9 +30,14 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <fstream>
 #include <memory>
+#include <new>
 #include <set>
 #include <sstream>
+
+#include <sys/resource.h>
+#include <unistd.h>
 
 using namespace kw;
 
@@ -340,6 +346,29 @@ TEST_F(Bedienung, BildIstDieLeinwandOhneAuflösung) {
     EXPECT_EQ(bytes(6, 12), "4a4649460001010000010001"); // JFIF 1.1, no unit
     EXPECT_EQ(QImage(datei).size(), leinwand.Bild().size());
 }
+
+#ifndef __SANITIZE_ADDRESS__ // it would end the program itself
+/// The page that is too large isn't drawn, and nothing is written; with the next one all is as before.
+TEST_F(Bedienung, OhneSpeicherGehtNurDasGroßeBildNicht) {
+    const QTemporaryDir ordner;
+    QtBilder kamera(leinwand);
+    rlimit vorher{};
+    ::getrlimit(RLIMIT_AS, &vorher);
+    std::ifstream belegt("/proc/self/statm");
+    rlim_t seiten = 0;
+    belegt >> seiten;
+    const rlimit knapp{seiten * static_cast<rlim_t>(::getpagesize()) + (rlim_t{24} << 20), vorher.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_AS, &knapp), 0);
+    innen.bereich.ZoomWählen(Zoom250);
+    EXPECT_TRUE(leinwand.Bild().isNull());
+    EXPECT_THROW(kamera.AlsJpeg(ordner.filePath(QStringLiteral("a.jpg")).toStdString(), 100), std::bad_alloc);
+    EXPECT_THROW(kamera.InZwischenablage({0, 0, 6000, 3000}), std::bad_alloc);
+    ::setrlimit(RLIMIT_AS, &vorher);
+    EXPECT_TRUE(QDir(ordner.path()).isEmpty());
+    innen.bereich.ZoomWählen(Zoom100);
+    EXPECT_FALSE(leinwand.Bild().isNull());
+}
+#endif
 
 TEST_F(Bedienung, MenüsZeigenNurWasGeht) {
     QMenuBar leiste;
