@@ -6,6 +6,7 @@
 #include "document/Chronik.h"
 #include "document/Dateien.h"
 #include "document/Dokument.h"
+#include "document/Einstellungen.h"
 #include "document/Felder.h"
 #include "document/ProjektDatei.h"
 #include "document/Sicherheitsnetz.h"
@@ -214,7 +215,7 @@ void Projekt::mnuÖffnen() {
     SpeichernAbgebrochen = false;
     if (!NachÄnderungenFragen()) return;
     IniDatei = einstellungsDatei_;
-    std::string ordner = ProfilLesen(IniDatei, "DEFAULT", "lastpath");
+    std::string ordner = LetzterOrdner(IniDatei);
     if (ordner.empty()) ordner = umfeld_.benutzer.Desktopordner();
     const auto datei = umfeld_.benutzer.DateiÖffnen({Text(ÖffnenTitel), "", Text(ÖffnenFilter), ordner});
     if (!datei || !Öffnen(*datei)) return;

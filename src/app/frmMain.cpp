@@ -37,7 +37,7 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
                    anzeige.ZoomZeigen();
                    anzeige.MöglichesZeigen();
                }}),
-      druck(plattform.drucker, plattform.benutzer, ansicht, dokument),
+      einstellungsablage(start.IniDatei), druck(plattform.drucker, plattform.benutzer, ansicht, dokument),
       anzeige(bedienung, {dokument, ansicht, auswahl, lage, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster,
                           druck, import}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, plattform.drucker, *this),
@@ -75,6 +75,7 @@ void frmMain::Laden() {
     ZeitgeberStellen();
     projekt.Geändert = false;
     projekt.Loslassen(); // an empty page is nothing to keep
+    einstellungsablage.Ausgangslage(AktuelleEinstellungen());
     NachEreignis();
 }
 
@@ -96,7 +97,7 @@ void frmMain::ListenFüllen() {
 /// The settings, with their defaults; a damaged file gives defaults and no message.
 void frmMain::ZweiteStufe() {
     projekt.IniDatei = start.IniDatei;
-    einstellungen = EinstellungenAus(start.IniDatei);
+    einstellungen = einstellungsablage.Lesen();
     ansicht.Farbschema = einstellungen.Farbschema;
     ansicht.Altersanzeige = einstellungen.Altersanzeige;
     ansicht.Sprache = einstellungen.Sprache;
@@ -139,16 +140,23 @@ void frmMain::Beenden() {
     EinstellungenSichern();
 }
 
+Einstellungen frmMain::AktuelleEinstellungen() const {
+    Einstellungen e = einstellungen;
+    e.Orientation = dokument.Seitenlage;
+    e.LetzterPfad = Pfad(projekt.Projektdatei);
+    e.Zoom = bereich.cboBildGröße.ListIndex;
+    e.Farbschema = ansicht.Farbschema;
+    e.Papiercode = dokument.Papiercode;
+    e.Raster = cboRaster.ListIndex;
+    e.Werkzeugleiste = bereich.WerkzeugleisteSichtbar();
+    return e;
+}
+
 void frmMain::EinstellungenSichern() {
     projekt.IniDatei = start.IniDatei;
-    einstellungen.Orientation = plattform.drucker.DeviceName() ? plattform.drucker.Orientation() : dokument.Seitenlage;
-    einstellungen.LetzterPfad = Pfad(projekt.Projektdatei);
-    einstellungen.Zoom = bereich.cboBildGröße.ListIndex;
-    einstellungen.Farbschema = ansicht.Farbschema;
-    einstellungen.Papiercode = dokument.Papiercode;
-    einstellungen.Raster = cboRaster.ListIndex;
-    einstellungen.Werkzeugleiste = bereich.WerkzeugleisteSichtbar();
-    EinstellungenSchreiben(einstellungen, start.IniDatei);
+    einstellungen = AktuelleEinstellungen();
+    if (plattform.drucker.DeviceName()) einstellungen.Orientation = plattform.drucker.Orientation();
+    einstellungsablage.Abschließen(einstellungen);
 }
 
 void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
@@ -178,12 +186,14 @@ void frmMain::Festhalten() {
     netzGemeldet_ = !gehalten;
 }
 
-/// What every event ends with: the safety net has its outcome, what can be chosen follows, the face shows it.
+/// What every event ends with: the safety net has its outcome, what can be chosen follows, the face shows it, the
+/// settings file has it.
 void frmMain::NachEreignis() {
     aufgegeben_ = false;
     Festhalten();
     anzeige.MöglichesZeigen();
     plattform.benutzer.AnzeigeAuffrischen();
+    einstellungsablage.Nachführen(AktuelleEinstellungen());
 }
 
 void frmMain::MouseDown(int taste, double x, double y) {
@@ -261,7 +271,7 @@ void frmMain::FormÖffnen(Formularname name) {
 }
 
 Dialogumgebung frmMain::FürFormulare() {
-    return {werkbank, einstellungen, start.IniDatei, plattform.uhr, plattform.drucker, *this, netz};
+    return {werkbank, einstellungen, einstellungsablage, plattform.uhr, plattform.drucker, *this, netz};
 }
 
 Befehlsumgebung frmMain::FürBefehle() {

@@ -10,7 +10,7 @@
 #include "dialogs/Dialogumgebung.h"
 #include "document/Auswahlliste.h"
 #include "document/Dokument.h"
-#include "document/Einstellungen.h"
+#include "document/Einstellungsablage.h"
 #include "document/Sicherheitsnetz.h"
 #include "document/UndoRing.h"
 #include "editing/Leinwand.h"
@@ -122,6 +122,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void ZeitgeberStellen();
     void SpracheErfragen();
     void DatenÜbernehmen();
+    Einstellungen AktuelleEinstellungen() const;
     void EinstellungenSichern();
     Zeichnung DasBild() const;
     void Übernehmen(const Zeichenbefund &befund);
@@ -145,6 +146,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Arbeitsbereich bereich;
     Bedienelemente bedienung;
     Einstellungen einstellungen;
+    Einstellungsablage einstellungsablage;
     Auswahlliste cboRaster; ///< millimetres
     Druckwerk druck;
     Anzeige anzeige;

@@ -2,10 +2,9 @@
 
 #include "platform/Sprache.h"
 
-#include <string>
-
 namespace kw {
 
+class Einstellungsablage;
 struct Einstellungen;
 struct Werkbank;
 class Drucker;
@@ -30,7 +29,7 @@ class Dialogdienste {
 struct Dialogumgebung {
     Werkbank &werkbank;
     Einstellungen &einstellungen;
-    std::string EinstellungsDatei; ///< path of the settings file
+    Einstellungsablage &ablage;
     const Uhr &uhr;
     Drucker &drucker;
     Dialogdienste &dienste;

@@ -1,7 +1,7 @@
 #include "dialogs/frmEinstellungen.h"
 
 #include "dialogs/Dialogumgebung.h"
-#include "document/Einstellungen.h"
+#include "document/Einstellungsablage.h"
 #include "editing/Werkbank.h"
 #include "platform/Benutzer.h"
 
@@ -51,7 +51,7 @@ void frmEinstellungen::Geklickt(std::string_view name) {
 void frmEinstellungen::Bestätigen() {
     if (const int i = (*this)["Combo1"].ListIndex; i >= 0) {
         gewählt_ = Sprachen[i].Gewählt;
-        EinstellungFesthalten(umgebung_.EinstellungsDatei, "language", std::string(Kürzel(*gewählt_)));
+        umgebung_.ablage.Festhalten("language", std::string(Kürzel(*gewählt_)));
     }
     Schließen();
 }

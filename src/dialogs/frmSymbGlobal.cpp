@@ -1,7 +1,7 @@
 #include "dialogs/frmSymbGlobal.h"
 
 #include "dialogs/Dialogumgebung.h"
-#include "document/Einstellungen.h"
+#include "document/Einstellungsablage.h"
 #include "editing/Werkbank.h"
 #include "platform/Uhr.h"
 #include "rendering/Beschriftung.h"
@@ -120,7 +120,7 @@ void frmSymbGlobal::BeschriftungStellen() {
 void frmSymbGlobal::cmdOK_Click() {
     if (const int anzeige = Gewählt(); anzeige >= 0) {
         umgebung_.werkbank.ansicht.Altersanzeige = umgebung_.einstellungen.Altersanzeige = anzeige;
-        EinstellungFesthalten(umgebung_.EinstellungsDatei, "agedisplay", std::to_string(anzeige));
+        umgebung_.ablage.Festhalten("agedisplay", std::to_string(anzeige));
     }
     umgebung_.werkbank.fenster.Vorschau();
     Schließen();

@@ -25,4 +25,22 @@ void Chronik::Vorziehen(std::string_view pfad) {
     if (platz != pfade_.end()) std::rotate(pfade_.begin(), platz, platz + 1);
 }
 
+void Chronik::Nachvollziehen(const Chronik &vorher, const Chronik &jetzt) {
+    // What came forward stands before all that kept its order.
+    const auto &neu = jetzt.pfade_;
+    std::size_t vorn = neu.size();
+    auto alt = vorher.pfade_.rbegin();
+    while (vorn > 0) {
+        alt = std::find(alt, vorher.pfade_.rend(), neu[vorn - 1]);
+        if (alt == vorher.pfade_.rend()) break;
+        ++alt;
+        --vorn;
+    }
+    while (vorn > 0) {
+        const std::string &pfad = neu[--vorn];
+        Eintragen(pfad);
+        Vorziehen(pfad);
+    }
+}
+
 } // namespace kw

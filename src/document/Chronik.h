@@ -25,6 +25,10 @@ class Chronik {
     void Eintragen(std::string_view projektdatei);
     /// Brings a path that is in the list to position 1; those above it move one down.
     void Vorziehen(std::string_view pfad);
+    /// Does here what has brought projects to the front of `jetzt` since it was `vorher`: so the list of another window
+    /// keeps what that one has added.
+    void Nachvollziehen(const Chronik &vorher, const Chronik &jetzt);
+    bool operator==(const Chronik &) const = default;
 
   private:
     std::array<std::string, Plätze> pfade_;

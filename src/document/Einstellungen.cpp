@@ -1,31 +1,43 @@
 #include "document/Einstellungen.h"
 
 #include "document/Dateien.h"
+#include "document/Ganztexte.h"
 #include "document/Papier.h"
 #include "document/Zahlen.h"
-
-#include <filesystem>
 
 namespace kw {
 
 namespace {
 
-constexpr std::string_view Abschnitt = "DEFAULT";
-
 std::string OderSonst(const std::string &wert, const std::string &sonst) { return wert.empty() ? sonst : wert; }
-
-std::string LetzterPfadSchlüssel(int platz) { return "lastpath_" + std::to_string(platz); }
-
-/// A folder that can't be made loses the settings, as one without permission does.
-void OrdnerAnlegen(const std::string &datei) {
-    std::error_code fehler;
-    std::filesystem::create_directories(std::filesystem::path(datei).parent_path(), fehler);
-}
 
 } // namespace
 
+const std::array<Einstellungsschlüssel, 11> Einstellungstafel{{
+    {"orientation", false, [](const Einstellungen &e) { return std::to_string(e.Orientation); }},
+    {"lastpath", true, [](const Einstellungen &e) { return e.LetzterPfad; }},
+    {"psize", false, [](const Einstellungen &e) { return std::to_string(e.Zoom); }},
+    {"stdfontname", true, [](const Einstellungen &e) { return e.stdfontname; }},
+    {"stdfont_s", true, [](const Einstellungen &e) { return e.stdfont_s; }},
+    {"stdfont_m", true, [](const Einstellungen &e) { return e.stdfont_m; }},
+    {"stdfont_l", true, [](const Einstellungen &e) { return e.stdfont_l; }},
+    {"clscheme", true, [](const Einstellungen &e) { return std::to_string(e.Farbschema); }},
+    {"papersize", false, [](const Einstellungen &e) { return std::to_string(e.Papiercode); }},
+    {"gridsize", true, [](const Einstellungen &e) { return std::to_string(e.Raster); }},
+    {"toolbar", true, [](const Einstellungen &e) { return std::string(e.Werkzeugleiste ? "1" : "0"); }},
+}};
+
+std::string LetzterPfadSchlüssel(int platz) { return "lastpath_" + std::to_string(platz); }
+
+Chronik ChronikLesen(const Profil &profil) {
+    Chronik chronik;
+    for (int platz = 1; platz <= Chronik::Plätze; ++platz)
+        chronik.Setzen(platz, GanzLesen(profil, Einstellungsabschnitt, LetzterPfadSchlüssel(platz)));
+    return chronik;
+}
+
 Einstellungen EinstellungenLesen(const Profil &profil) {
-    const auto text = [&](std::string_view schlüssel) { return profil.Lesen(Abschnitt, schlüssel); };
+    const auto text = [&](std::string_view schlüssel) { return GanzLesen(profil, Einstellungsabschnitt, schlüssel); };
     const auto zahl = [&](std::string_view schlüssel) { return Ganzzahl16(ZahlLesen(text(schlüssel))); };
     Einstellungen e;
     e.Orientation = zahl("orientation");
@@ -42,26 +54,8 @@ Einstellungen EinstellungenLesen(const Profil &profil) {
     e.Werkzeugleiste = leiste.empty() || leiste == "1";
     e.OhneSprache = text("language").empty();
     e.Sprache = SpracheAus(text("language"));
-    for (int platz = 1; platz <= Chronik::Plätze; ++platz) e.Zuletzt.Setzen(platz, text(LetzterPfadSchlüssel(platz)));
+    e.Zuletzt = ChronikLesen(profil);
     return e;
-}
-
-void EinstellungenEintragen(const Einstellungen &e, Profil &profil) {
-    const auto schreiben = [&](std::string_view schlüssel, const std::string &wert) {
-        profil.Schreiben(Abschnitt, schlüssel, wert);
-    };
-    schreiben("orientation", std::to_string(e.Orientation));
-    schreiben("lastpath", e.LetzterPfad);
-    schreiben("psize", std::to_string(e.Zoom));
-    schreiben("stdfontname", e.stdfontname);
-    schreiben("stdfont_s", e.stdfont_s);
-    schreiben("stdfont_m", e.stdfont_m);
-    schreiben("stdfont_l", e.stdfont_l);
-    schreiben("clscheme", std::to_string(e.Farbschema));
-    schreiben("papersize", std::to_string(e.Papiercode));
-    schreiben("gridsize", std::to_string(e.Raster));
-    schreiben("toolbar", e.Werkzeugleiste ? "1" : "0");
-    for (int platz = 1; platz <= Chronik::Plätze; ++platz) schreiben(LetzterPfadSchlüssel(platz), e.Zuletzt[platz]);
 }
 
 Einstellungen EinstellungenAus(const std::string &datei) {
@@ -71,18 +65,10 @@ Einstellungen EinstellungenAus(const std::string &datei) {
     return EinstellungenLesen(Profil(std::move(inhalt)));
 }
 
-void EinstellungenSchreiben(const Einstellungen &e, const std::string &datei) {
+std::string LetzterOrdner(const std::string &datei) {
     std::string inhalt;
-    if (DateiVorhanden(datei) && !DateiLesen(datei, inhalt).Gelungen()) return;
-    OrdnerAnlegen(datei);
-    Profil profil(std::move(inhalt));
-    EinstellungenEintragen(e, profil);
-    DateiSchreiben(datei, profil.Inhalt());
-}
-
-void EinstellungFesthalten(const std::string &datei, std::string_view schlüssel, const std::string &wert) {
-    OrdnerAnlegen(datei);
-    ProfilSchreiben(datei, Abschnitt, schlüssel, wert);
+    DateiLesen(datei, inhalt); // a file that can't be read names none
+    return GanzLesen(Profil(std::move(inhalt)), Einstellungsabschnitt, "lastpath");
 }
 
 std::string EinstellungsDatei(const std::string &programmordner, const std::string &konfigordner) {

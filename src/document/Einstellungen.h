@@ -4,6 +4,7 @@
 #include "document/Profil.h"
 #include "platform/Sprache.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -31,20 +32,25 @@ struct Einstellungen {
 /// Missing keys give the defaults, damaged values what can be read of them; nothing fails.
 Einstellungen EinstellungenLesen(const Profil &profil);
 
-/// Writes all keys but `agedisplay` and `language`, which are written when their dialogs are confirmed.
-void EinstellungenEintragen(const Einstellungen &e, Profil &profil);
+/// A key that the program writes of itself, beside those of the recent files. `agedisplay` and `language` are none:
+/// their forms write them.
+struct Einstellungsschlüssel {
+    std::string_view Name;
+    bool Sofort; ///< written when the user changes it, else at the program's end only
+    std::string (*Text)(const Einstellungen &);
+};
+/// In the order of the file; the recent files come behind.
+extern const std::array<Einstellungsschlüssel, 11> Einstellungstafel;
+constexpr std::string_view Einstellungsabschnitt = "DEFAULT";
+std::string LetzterPfadSchlüssel(int platz);
+Chronik ChronikLesen(const Profil &profil);
 
 /// The settings of that file. A file that isn't there gives the defaults of the very first start, one that
 /// can't be read those of an empty file.
 Einstellungen EinstellungenAus(const std::string &datei);
 
-/// Writes them into that file, whose foreign keys stay; its folder is made. A folder without permission
-/// loses the settings silently.
-void EinstellungenSchreiben(const Einstellungen &e, const std::string &datei);
-
-/// Writes one key at once, for the forms that don't wait for the program's end. A folder without permission loses it
-/// silently.
-void EinstellungFesthalten(const std::string &datei, std::string_view schlüssel, const std::string &wert);
+/// The folder of the last project, as the file says now.
+std::string LetzterOrdner(const std::string &datei);
 
 /// Where the settings file lives: in the program's folder when it is there already or that folder is
 /// writable and no system folder, else in `konfigordner`. Both without a closing "/".

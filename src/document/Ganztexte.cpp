@@ -17,11 +17,19 @@ namespace {
 /// Far more than a page holds: what a file has beyond that would only fill the memory.
 constexpr std::size_t Höchstzahl = std::size_t{1} << 20;
 
-/// Whether a line gives that text back without a closer look, as it does nearly always.
+/// Whether a line gives that text back without a closer look, as it does nearly always: short, of the letters that the
+/// code page has from Latin-1, no blank or quotation mark at its ends.
 bool IstHarmlos(std::string_view wert) {
     if (wert.empty()) return true;
-    if (wert.size() >= Profil::Lesepuffer || !BleibtUnmaskiert(wert.front()) || !BleibtUnmaskiert(wert.back())) return false;
-    return std::all_of(wert.begin(), wert.end(), [](char c) { return c >= ' ' && c < '\x7F'; });
+    const auto endetHarmlos = [](char c) { return static_cast<unsigned char>(c) > 0x7F || BleibtUnmaskiert(c); };
+    if (wert.size() >= Profil::Lesepuffer || !endetHarmlos(wert.front()) || !endetHarmlos(wert.back())) return false;
+    for (std::size_t i = 0; i < wert.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(wert[i]);
+        if (byte >= ' ' && byte < 0x80) continue;
+        if ((byte != 0xC2 && byte != 0xC3) || ++i == wert.size()) return false;
+        if (!IstFortsetzung(wert[i]) || (byte == 0xC2 && static_cast<unsigned char>(wert[i]) < 0xA0)) return false;
+    }
+    return true;
 }
 
 /// A line of a section as it reads, however long.
@@ -120,16 +128,43 @@ Paarung PaarungVon(std::vector<Ganztext> &texte, std::vector<Zeile> &zeilen) {
 
 bool Überlebt(std::string_view wert) { return IstHarmlos(wert) || Profil::Gekürzt(Profil::Abbild(wert)) == wert; }
 
+std::string GanzLesen(const Profil &profil, std::string_view abschnitt, std::string_view schlüssel) {
+    auto wert = profil.Lesen(abschnitt, schlüssel);
+    const auto maskiert = profil.LesenUngekürzt(Ganzabschnitt, schlüssel);
+    auto ganz = maskiert ? Demaskiert(*maskiert) : std::nullopt;
+    return ganz && Profil::Gekürzt(Profil::Abbild(*ganz)) == wert ? std::move(*ganz) : std::move(wert);
+}
+
+void GanzSchreiben(Profil &profil, std::string_view abschnitt, std::string_view schlüssel, std::string_view wert) {
+    profil.Schreiben(abschnitt, schlüssel, wert);
+    const bool hatte = profil.LesenUngekürzt(Ganzabschnitt, schlüssel).has_value();
+    if (!hatte && Überlebt(wert)) return;
+    std::vector<std::pair<std::string, std::string>> andere;
+    profil.FürAlleEinträge(Ganzabschnitt, [&](std::string_view name, std::string_view text) {
+        if (name != schlüssel) andere.emplace_back(name, text);
+    });
+    profil.AbschnittLöschen(Ganzabschnitt);
+    for (const auto &[name, text] : andere) profil.Schreiben(Ganzabschnitt, name, text);
+    if (!Überlebt(wert)) profil.Schreiben(Ganzabschnitt, schlüssel, Maskiert(wert));
+}
+
 void Ganzschrift::Aufnehmen(std::string_view abschnitt, const std::vector<std::string> &werte) {
     std::vector<bool> nötig;
     std::unordered_set<std::string> verlorene;
-    std::size_t liste = 0;
+    std::size_t liste = 0;   // what the names so far fill of it
+    std::size_t ziffern = 1; // of a key
+    std::size_t stelle = 10; // the first key that has more of them
     for (const auto &wert : werte) {
-        liste += std::to_string(nötig.size()).size() + 1;
+        if (nötig.size() == stelle) {
+            ++ziffern;
+            stelle *= 10;
+        }
+        liste += ziffern + 1;
         const bool überlebt = Überlebt(wert);
         if (!überlebt) verlorene.insert(Profil::Abbild(wert));
         nötig.push_back(!überlebt || liste > Profil::Listenplatz);
     }
+    if (verlorene.empty() && liste <= Profil::Listenplatz) return;
     for (std::size_t i = 0; i < werte.size(); ++i) {
         if (nötig[i] || (!verlorene.empty() && verlorene.contains(werte[i])))
             texte_.emplace_back(std::string(abschnitt) + " " + std::to_string(i), werte[i]);

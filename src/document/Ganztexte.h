@@ -22,6 +22,11 @@ constexpr std::string_view Ganzabschnitt = "FULLTEXT";
 /// Whether a profile gives back that value as it was written.
 bool Überlebt(std::string_view wert);
 
+/// The value of a key, whole when a whole text of that key's name still tells what stands there.
+std::string GanzLesen(const Profil &profil, std::string_view abschnitt, std::string_view schlüssel);
+/// Writes it, and keeps it whole when it has to be.
+void GanzSchreiben(Profil &profil, std::string_view abschnitt, std::string_view schlüssel, std::string_view wert);
+
 /// The whole texts of a project that is being saved.
 class Ganzschrift {
   public:

@@ -154,6 +154,7 @@ std::size_t Profil::Platz(const Abschnitt &abschnitt, std::string_view schlüsse
 void Profil::Aufnehmen(Abschnitt &abschnitt, Stelle zeile) const {
     const auto schlüssel = Schlüsselname(Zeile(zeile));
     if (!schlüssel) return;
+    ++abschnitt.Schlüssel;
     auto &tafel = abschnitt.Tafel;
     if (5 * (abschnitt.Belegt + 1) > 4 * tafel.size()) {
         std::vector<Eintrag> größere(std::max<std::size_t>(16, 2 * tafel.size()));
@@ -230,6 +231,7 @@ bool Profil::IstFremd(std::size_t i) const {
 
 bool Profil::HatFremdeZeilen(std::string_view abschnitt) const {
     const auto &gesucht = Gesucht(abschnitt);
+    if (gesucht.Anzahl > 0 && gesucht.Kopf + 1 + gesucht.Schlüssel == gesucht.Ende) return false;
     for (auto i = gesucht.Kopf + std::size_t{1}; i < gesucht.Ende; ++i)
         if (IstFremd(i)) return true;
     return false;
@@ -256,6 +258,7 @@ int Profil::AbschnittAnzahl(std::string_view abschnitt) const { return Gesucht(a
 
 std::size_t Profil::SchlüsselAnzahl(std::string_view abschnitt) const {
     const auto &gesucht = Gesucht(abschnitt);
+    if (!gesucht.Tafel.empty()) return gesucht.Schlüssel;
     std::size_t anzahl = 0;
     for (auto i = gesucht.Kopf + std::size_t{1}; i < gesucht.Ende; ++i) anzahl += Schlüsselname(Zeile(i)) ? 1 : 0;
     return anzahl;

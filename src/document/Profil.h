@@ -78,6 +78,7 @@ class Profil {
         Stelle Kopf = 0;
         Stelle Ende = 0; ///< behind its last line
         std::size_t Belegt = 0;
+        std::size_t Schlüssel = 0;  ///< lines that are keys, once there is a table
         std::vector<Eintrag> Tafel; ///< empty until somebody asks for a key
     };
 

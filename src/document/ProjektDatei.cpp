@@ -70,7 +70,7 @@ std::optional<Ladeschaden> Satzschaden(const SpeicherZeile &zeile, size_t positi
         if (wert.find('^') != std::string_view::npos) return {};
         return Ladeschaden{Schadensart::OhnePunkt, zeile.Abschnitt, position};
     }
-    const int anzahl = wert.empty() ? 0 : Felder(wert).Anzahl();
+    const int anzahl = wert.empty() ? 0 : 1 + static_cast<int>(std::count(wert.begin(), wert.end(), '_'));
     if (anzahl >= zeile.Pflichtfelder) return {};
     return Ladeschaden{Schadensart::FelderFehlen, zeile.Abschnitt, position, zeile.Pflichtfelder, anzahl};
 }
@@ -175,6 +175,7 @@ void AbschnittSchreiben(const Dokument &dokument, const SpeicherZeile &zeile, Pr
     const bool personen = zeile.Liste == &Dokument::cboPersonen;
     const bool kreislinien = zeile.Liste == &Dokument::cboFreehandlines;
     std::vector<std::string> werte;
+    werte.reserve(static_cast<size_t>((dokument.*zeile.Liste).Anzahl()));
     for (const auto &satz : dokument.*zeile.Liste) {
         werte.push_back(personen ? PersonInDatei(satz) : kreislinien ? OhneBlanks(satz) : satz);
         profil.Schreiben(zeile.Abschnitt, std::to_string(werte.size() - 1), werte.back());

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <sstream>
 
 namespace kw {
@@ -45,6 +47,25 @@ TEST(Wiedergabe, LässtNichtsÜbrig) {
     const Ergebnis verbraucht = Gespielt("popup mnuÖffnen\ntool zwillinge\ntool zwillinge\n");
     EXPECT_EQ(verbraucht.Code, 0) << "an entry of another menu is spent, though it can't be picked";
     EXPECT_EQ(verbraucht.Text, "disabled mnuÖffnen\n");
+}
+
+/// Longer than what other programs read of a line and of a section.
+TEST(Wiedergabe, LangesUndVielesKommtWieder) {
+    const std::string ordner = testing::TempDir();
+    const std::string datei = ordner + "kw_lang.kwp";
+    std::string skript = "start\nstore cboTextboxen 9_9_Arial_8_0_0_0_0_0_" + std::string(5000, 'x') + "_1_1\n";
+    for (int i = 0; i < 1100; ++i) skript += "store cboPfeile 1_1_1_2_" + std::to_string(i) + "\n";
+    skript +=
+        "save " + datei + "\nload " + datei + "\nsave " + datei + "2\nexpect cboPfeile = 1100\nprint cboTextboxen\n";
+    const Ergebnis e = Gespielt(skript);
+    EXPECT_EQ(e.Code, 0);
+    EXPECT_EQ(e.Text, "cboTextboxen 1\n  9_9_Arial_8_0_0_0_0_0_" + std::string(5000, 'x') + "_1_1\n");
+    std::ostringstream erste, zweite;
+    erste << std::ifstream(datei).rdbuf();
+    zweite << std::ifstream(datei + "2").rdbuf();
+    EXPECT_EQ(erste.str(), zweite.str());
+    std::filesystem::remove(datei);
+    std::filesystem::remove(datei + "2");
 }
 
 } // namespace

@@ -11,7 +11,7 @@ namespace {
 
 TEST(Aufruf, SagtWasVerlangtIst) {
     using Art = Aufruf::Art;
-    const std::string projekt = std::string(KW_TESTDATEN) + "/CMakeLists.txt"; // any file that is there
+    const std::string projekt = KW_TESTDATEN "/CMakeLists.txt"; // any file that is there
     // clang-format off
     const std::pair<std::vector<std::string>, Art> fälle[] = {
         {{}, Art::Fenster}, {{"a.kwp"}, Art::Fenster}, {{"--", "--help"}, Art::Fenster},

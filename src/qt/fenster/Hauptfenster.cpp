@@ -28,6 +28,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <filesystem>
 #include <utility>
 
 namespace kw {
@@ -36,8 +37,11 @@ namespace {
 
 Startangaben Angaben(const std::string &kommandozeile) {
     const QSize bildschirm = QGuiApplication::primaryScreen()->size();
+    const std::string einstellungen = EinstellungsDateiDesBenutzers();
+    std::error_code fehler; // without its folder the file waits for the program's end, which tries again
+    std::filesystem::create_directories(std::filesystem::path(einstellungen).parent_path(), fehler);
     return {kommandozeile,
-            EinstellungsDateiDesBenutzers(),
+            einstellungen,
             QCoreApplication::applicationDirPath().toStdString(),
             Hilfeordner(),
             bildschirm.width() * TwipsJePixel,
