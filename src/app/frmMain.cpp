@@ -56,7 +56,10 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
 void frmMain::Laden() {
     ansicht.Sprache = Sprache::Englisch;
     // Asking for printers can take longer than all the rest of the start.
-    plattform.benutzer.NachErstemBild([this] { DruckerErmitteln(); });
+    plattform.benutzer.NachErstemBild([this] {
+        DruckerErmitteln();
+        netz.Aufräumen();
+    });
     ansicht.StrichFaktor = 1;
     SeiteBestimmen(dokument, ansicht);
     ListenFüllen();

@@ -32,6 +32,7 @@ constexpr const char *Versuch = ".versuch";
 constexpr const char *VorOrtAlt = "-alt.vorort";
 constexpr const char *VorOrtNeu = "-neu.vorort";
 constexpr unsigned NurIch = 0600;
+constexpr unsigned NurMeinOrdner = 0700;
 
 std::optional<Art> ArtVon(std::string_view name) {
     for (const auto &endung : Endungen)
@@ -103,7 +104,8 @@ bool Sicherheitsnetz::Bereit() {
     if (sperre_ >= 0) return true;
     std::error_code fehler;
     std::filesystem::create_directories(Pfad(ordner_), fehler);
-    if (::mkdir(ordner_.c_str(), 0700) != 0 && errno != EEXIST) return false;
+    if (::mkdir(ordner_.c_str(), NurMeinOrdner) != 0 && errno != EEXIST) return false;
+    ::chmod(ordner_.c_str(), NurMeinOrdner); // one that was there may be open to others
     const std::string kennung = NeueKennung();
     sperre_ = Sperren(Ort(kennung + std::string(Sperrendung)));
     if (sperre_ >= 0) kennung_ = kennung;
@@ -157,15 +159,23 @@ std::vector<Netzkopf> Sicherheitsnetz::Einträge() const {
     std::vector<Netzkopf> einträge;
     for (const std::string &name : Namen()) {
         if (!ArtVon(name) || Lebt(name)) continue;
-        const auto eintrag = Lesen(name);
-        if (!eintrag) continue;
-        if (IstAbgelaufen(eintrag->Kopf)) Löschen(name);
-        else einträge.push_back(eintrag->Kopf);
+        if (const auto eintrag = Lesen(name)) einträge.push_back(eintrag->Kopf);
     }
     std::sort(einträge.begin(), einträge.end(), [](const Netzkopf &a, const Netzkopf &b) {
         return a.Zeit != b.Zeit ? a.Zeit > b.Zeit : a.Name < b.Name;
     });
     return einträge;
+}
+
+void Sicherheitsnetz::Aufräumen() const {
+    for (const std::string &name : Namen()) {
+        const std::string ort = Ort(name);
+        if (name.ends_with(Sperrendung) && !name.starts_with(kennung_ + ".") && !IstGesperrt(ort)) ::unlink(ort.c_str());
+        if (name.ends_with(Versuch) && !DateiVorhanden(ort.substr(0, ort.rfind('.')))) ::unlink(ort.c_str());
+        if (ArtVon(name) != Art::Verdrängt) continue;
+        const auto eintrag = Lesen(name);
+        if (eintrag && IstAbgelaufen(eintrag->Kopf)) Löschen(name);
+    }
 }
 
 bool Sicherheitsnetz::HatUnbeantwortete() const {

@@ -36,8 +36,10 @@ class Sicherheitsnetz : public Versionswahrer {
     /// Whether the document as it stands is in the net.
     bool Hält(const Dokument &dokument) const { return hält_ && stand_.GleicherStand(dokument); }
 
-    /// Every version but a living program's document, the newest first. Those replaced more than 30 days ago go.
+    /// Every version but a living program's document, the newest first.
     std::vector<Netzkopf> Einträge() const;
+    /// Once a start: versions that were replaced more than 30 days ago go, and what dead programs left beside theirs.
+    void Aufräumen() const;
     /// Whether there is something that nobody has answered yet. Looks at names and locks only.
     bool HatUnbeantwortete() const;
     /// Nothing when it has gone, or can't be read.
