@@ -79,7 +79,7 @@ std::string Wortlaut(const std::string &zeile) { return zeile; }
 
 /// Pairs what is the same in the file. A text that a line gives back stands here since the key list ended before it,
 /// so its own line is one of those behind, unless one that reads like it was lost: then all of them stand here.
-void GleichePaaren(Paarung paarung, std::size_t gelistet, Ganztexte::Ganze &ganze) {
+void GleichePaaren(const Paarung &paarung, std::size_t gelistet, Ganztexte::Ganze &ganze) {
     const auto abbild = [](const Ganztext &text) { return text.Abbild; };
     std::unordered_set<std::string> verlorene;
     for (const auto *text : paarung.Texte)

@@ -205,3 +205,29 @@ TEST(Ganztexte, JedesDokumentKommtWieder) {
         ASSERT_EQ(Gespeichert(wieder.d), datei) << "run " << lauf;
     }
 }
+
+TEST(Ganztexte, EineVerdorbeneDateiLädtUndWasKamBleibt) {
+    Dokument d;
+    d.cboPersonen = {Person("001", "Şükrü"), Person("002", std::string(4200, 'x')), Person("003", "?")};
+    d.cboTextboxen = {Text("Ş"), Text("?"), Text(" \n")};
+    d.cboFreehandlines = {"1^2_Ş^3"};
+    for (int i = 0; i < 1045; ++i) d.cboPfeile.Anhängen("1_1_1_2_" + std::to_string(i % 1043));
+    const auto datei = Gespeichert(d);
+    std::mt19937 zufall(7);
+    for (int lauf = 0; lauf < 400; ++lauf) {
+        auto verdorben = datei;
+        for (auto i = 1 + zufall() % 4; i > 0; --i) {
+            const auto stelle = zufall() % verdorben.size();
+            const auto länge = zufall() % (lauf % 2 == 0 ? 2 : 400);
+            const auto woher = zufall() % verdorben.size();
+            verdorben.replace(stelle, länge, verdorben.substr(woher, zufall() % 8));
+        }
+        const Wieder erste(verdorben);
+        const Wieder zweite(Gespeichert(erste.d)); // without the blanks of circle lines
+        const Wieder dritte(Gespeichert(zweite.d));
+        ASSERT_TRUE(zweite.d.cboPersonen == erste.d.cboPersonen && zweite.d.cboTextboxen == erste.d.cboTextboxen &&
+                    zweite.d.cboPfeile == erste.d.cboPfeile)
+            << "run " << lauf;
+        ASSERT_TRUE(dritte.d.GleicheSätze(zweite.d) && !dritte.Befund.Verwaist) << "run " << lauf;
+    }
+}
