@@ -1,0 +1,116 @@
+// How the program starts and ends: its command line, a second start, a signal.
+#include "qt/grund/QtPlattform.h"
+#include "qt/start/Aufruf.h"
+#include "qt/start/Einzelinstanz.h"
+#include "qt/start/Sitzungsende.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace kw {
+namespace {
+
+TEST(Aufruf, SagtWasVerlangtIst) {
+    using Art = Aufruf::Art;
+    const std::string projekt = std::string(KW_TESTDATEN) + "/CMakeLists.txt"; // any file that is there
+    // clang-format off
+    const std::pair<std::vector<std::string>, Art> fälle[] = {
+        {{}, Art::Fenster}, {{"a.kwp"}, Art::Fenster}, {{"--", "--help"}, Art::Fenster},
+        {{"a.kwp", "--version"}, Art::Version}, {{"a.kwp", "b.kwp"}, Art::Falsch}, {{""}, Art::Falsch},
+        {{"/dataimport", "fall", "--export"}, Art::Fenster}, // behind the switch all is the model's
+        {{"--nonsense"}, Art::Falsch}, {{"--dpi", "72", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.PDF", "--dpi", "72", "a.kwp"}, Art::Export}, {{"a.kwp", "--export", "o.jpeg"}, Art::Export},
+        {{"--export", "o.pdf"}, Art::Falsch}, {{"--export", "o.txt", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.pdf", "--export", "o.png", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.png", "--dpi", "9", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.png", "--dpi", "72x", "a.kwp"}, Art::Falsch}, {{"--export", projekt, projekt}, Art::Falsch}};
+    // clang-format on
+    for (const auto &[worte, art] : fälle) {
+        const Aufruf a = AufrufLesen(worte);
+        EXPECT_EQ(a.Was, art) << testing::PrintToString(worte) << " " << a.Fehler;
+        EXPECT_EQ(a.Fehler.empty(), art != Art::Falsch);
+    }
+    EXPECT_EQ(AufrufLesen({"\\dataimport", "Fall", "Müller"}).Import, "\\dataimport Fall Müller");
+}
+
+TEST(Datumsfolge, FolgtDemKurzenFormatDesLandes) {
+    EXPECT_EQ(FolgeAus("dd.MM.yy"), Datumsfolge::TagMonatJahr);
+    EXPECT_EQ(FolgeAus("M/d/yyyy"), Datumsfolge::MonatTagJahr);
+    EXPECT_EQ(FolgeAus("yyyy-MM-dd"), Datumsfolge::JahrMonatTag);
+}
+
+/// Starts the program twice: whether the first answered the second.
+bool ErsterAntwortet(int &rufe) {
+    Einzelinstanz erste;
+    EXPECT_TRUE(erste.IstErste());
+    erste.BeiWeiteremStart([&] { ++rufe; });
+    Einzelinstanz zweite;
+    EXPECT_FALSE(zweite.IstErste());
+    QCoreApplication::processEvents();
+    return zweite.HatGeantwortet();
+}
+
+TEST(Einzelinstanz, EinWeitererStartRuftDenErsten) {
+    const QTemporaryDir ordner;
+    qputenv("XDG_RUNTIME_DIR", ordner.path().toUtf8());
+    int rufe = 0;
+    EXPECT_TRUE(ErsterAntwortet(rufe));
+    EXPECT_EQ(rufe, 1);
+    // A folder in the socket's place: the first start works all the same, but can't be called.
+    const QString dose =
+        QDir(ordner.path()).entryList({QStringLiteral("*.socket")}, QDir::System | QDir::Files).value(0);
+    ASSERT_FALSE(dose.isEmpty());
+    QFile::remove(ordner.filePath(dose));
+    QDir(ordner.path()).mkpath(dose);
+    EXPECT_FALSE(ErsterAntwortet(rufe));
+}
+
+/// Opens something modal in the event loop, has the system end the program meanwhile, and tells how often it did.
+int Beendet(const std::function<void()> &modal, const std::function<void()> &ende) {
+    int mal = 0;
+    const Sitzungsende sitzung({[] { return false; }, [&] { ++mal; }});
+    QTimer::singleShot(0, [&] {
+        QTimer::singleShot(50, ende);
+        modal();
+        modal(); // a loop that begins while all end doesn't keep the program
+    });
+    QTimer zuLange;
+    QObject::connect(&zuLange, &QTimer::timeout, &zuLange, [] { QCoreApplication::exit(1); });
+    zuLange.start(5000);
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    return mal;
+}
+
+TEST(Sitzungsende, BeendetAuchWennEtwasOffenIst) {
+    const auto kasten = [] { QMessageBox(QMessageBox::Question, {}, {}, QMessageBox::Yes | QMessageBox::No).exec(); };
+    const auto menü = [] {
+        QMenu popup;
+        popup.addAction(QStringLiteral("x"));
+        popup.exec(QPoint());
+    };
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        EXPECT_EQ(Beendet(kasten, [&] { ::raise(signal); }), 1) << signal;
+    EXPECT_EQ(Beendet(menü, [] { ::raise(SIGTERM), ::raise(SIGHUP); }), 1);
+    EXPECT_EQ(Beendet(kasten, [] { QCoreApplication::quit(); }), 1) << "the session manager's final word";
+    ::alarm(0);
+
+    struct sigaction jetzt {};
+    ::sigaction(SIGTERM, nullptr, &jetzt);
+    EXPECT_EQ(jetzt.sa_handler, SIG_DFL);
+    ::signal(SIGHUP, SIG_IGN);
+    const Sitzungsende sitzung({[] { return false; }, [] { ADD_FAILURE(); }});
+    ::raise(SIGHUP); // as under nohup
+    QCoreApplication::processEvents();
+    ::signal(SIGHUP, SIG_DFL);
+}
+
+} // namespace
+} // namespace kw
