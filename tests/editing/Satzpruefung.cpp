@@ -37,6 +37,12 @@ Stand StandVon(const Einblick &h) {
 
 auto Ringstand(const UndoRing &r) { return std::tuple(r.UndoPos(), r.UndoSchritte(), r.RedoSchritte()); }
 auto Frei(const Dokument &d) { return std::tie(d.lstGelöschtePersNr, d.lstGelöschtePLinien); }
+/// What forms set beside records.
+auto Gewähltes(const Stand &s) {
+    const Dokument &d = s.dokument;
+    return std::tuple(d.Papiercode, d.Seitenlage, d.LegendeSichtbar, d.LegendeQuer, d.OhneStandardsymbole,
+                      s.ansicht.Altersanzeige, s.ansicht.bDruckrandAnzeigen);
+}
 
 /// Where two documents differ, " in STORE", but for what drawing and rewriting add to records; empty when nowhere.
 std::string Unterschied(const Dokument &a, const Dokument &b) {
@@ -173,6 +179,7 @@ void Prüfung::BeiFormularenZusehen() {
         std::string ort = Unterschied(vorher.dokument, nachher.dokument);
         if (Ringstand(vorher.ring) != Ringstand(nachher.ring)) ort += " in the undo ring";
         if (einstellungen != Dateiinhalt(nachher.einstellungsdatei)) ort += " in the settings file";
+        if (Gewähltes(vorher) != Gewähltes(nachher)) ort += " in what it sets";
         if (!ort.empty()) verworfen_ = "dismissed " + form.Name() + " changes something" + ort;
     };
 }

@@ -1,17 +1,23 @@
-// What the hand does: pointer on the canvas, palette, menus. Events go to the real widgets, what came of them is
-// read in the records and in the pixels that show.
+// What the hand does: pointer on the canvas, palette, toolbar, menus. Events go to the real widgets, what came of them
+// is read in the records and in the pixels that show.
+#include "app/Befehle.h"
 #include "app/frmMain.h"
+#include "commands/Bildertafel.h"
+#include "commands/Menuetafel.h"
 #include "document/Dateien.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Person.h"
 #include "qt/drucken/QtBilder.h"
 #include "qt/fenster/Arbeitsflaeche.h"
+#include "qt/fenster/Bandknopf.h"
 #include "qt/fenster/Importliste.h"
 #include "qt/fenster/Menues.h"
 #include "qt/fenster/Palettenknopf.h"
+#include "qt/fenster/Symbolleiste.h"
 #include "qt/fenster/Werkzeugpalette.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "qt/malen/LeinwandFlaeche.h"
+#include "qt/malen/Zeilenbild.h"
 #include "replay/Einblick.h"
 #include "replay/Plattform.h"
 
@@ -22,6 +28,7 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QMouseEvent>
@@ -390,6 +397,39 @@ TEST_F(Bedienung, MenüsZeigenNurWasGeht) {
     menüs.Auffrischen();
     löschen->trigger();
     EXPECT_EQ(innen.dokument.cboPersonen.Anzahl(), 0);
+}
+
+/// No row names a picture or does a command that isn't there.
+TEST_F(Bedienung, JedeZeileFindetBildUndBefehl) {
+    for (const Menüzeile &zeile : Menütafel()) {
+        const bool da = !Menübild(zeile.Name, uhr).isNull();
+        EXPECT_EQ(da, !Bildname(zeile.Name).empty() || zeile.Menü == Werkzeugband) << zeile.Name;
+        const bool blatt = !IstMenü(zeile) && zeile.Caption.Englisch != Trennstrich && zeile.Menü != Fensterteile;
+        EXPECT_EQ(static_cast<bool>(BefehlFinden(zeile.Name)), blatt || zeile.Name == "cmdRänder") << zeile.Name;
+    }
+}
+
+TEST_F(Bedienung, BandZeigtWasDasModellSagt) {
+    QMainWindow fenster;
+    auto *band =
+        new Symbolleiste(haupt.DerAnblick(), fläche, [this](std::string_view name) { haupt.BefehlAusführen(name); });
+    fenster.addToolBar(band);
+    fenster.resize(1900, 700);
+    fenster.show();
+    QApplication::processEvents();
+    const auto knopf = [&](const char *name) -> Bandknopf * {
+        band->Auffrischen();
+        for (auto *kind : band->findChildren<QToolButton *>())
+            if (kind->accessibleName().startsWith(QLatin1String(name))) return dynamic_cast<Bandknopf *>(kind);
+        return nullptr;
+    };
+    for (int mal = 0; mal < 2; ++mal) knopf("Portrait")->click();
+    EXPECT_TRUE(knopf("Portrait")->isChecked()); // as it was when it was clicked again
+    const int breite = knopf("Zoom:")->width();
+    knopf("Zoom:")->defaultAction()->menu()->actions().first()->trigger();
+    EXPECT_TRUE(knopf("Zoom:")->text().startsWith(QStringLiteral("80")));
+    QApplication::processEvents();
+    EXPECT_EQ(knopf("Zoom:")->width(), breite); // else its neighbours would move under the pointer
 }
 
 } // namespace
