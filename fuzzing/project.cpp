@@ -1,0 +1,65 @@
+// A project file: load, draw, print, save, load again.
+#include "Umlauf.h"
+
+#include "document/saetze/Person.h"
+#include "rendering/Legende.h"
+#include "rendering/Seite.h"
+#include "rendering/Zeichnung.h"
+#include "replay/Aufzeichnung.h"
+#include "replay/Plattform.h"
+
+#include <algorithm>
+
+namespace kw {
+
+namespace {
+
+/// Draws it as window and printer do, and applies what that finds.
+void Zeichnen(Dokument &dokument) {
+    DrehbuchUhr uhr;
+    Ansicht ansicht;
+    Auswahl auswahl;
+    Gestenlage geste;
+    geste.Aktion = Aktion::TextGesetzt; // has text boxes measured
+    Legendenblatt legende;
+    LegendeAufbauen(dokument, legende);
+    SeiteBestimmen(dokument, ansicht);
+    Aufzeichnung blatt;
+    blatt.GrößeSetzen(16000, 11000);
+    Anwenden(VorschauZeichnen(blatt, {dokument, ansicht, auswahl, geste, legende, uhr}), dokument, ansicht, geste,
+             legende);
+    blatt.PixelJeCm = DruckPixelJeCm;
+    blatt.Scale(ansicht.SeitenBreite, ansicht.SeitenHöhe, 1);
+    Anwenden(DruckZeichnen(blatt, {dokument, ansicht, auswahl, geste, legende, uhr, true}), dokument, ansicht, geste,
+             legende);
+}
+
+/// A file has circle lines without blanks.
+Satzliste OhneBlanks(const Satzliste &kreislinien) {
+    Satzliste ohne;
+    for (auto satz : kreislinien) {
+        std::erase(satz, ' ');
+        ohne.Anhängen(satz);
+    }
+    return ohne;
+}
+
+} // namespace
+
+} // namespace kw
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t anzahl) {
+    using namespace kw;
+    Dokument dokument;
+    const auto befund = ProjektLesen(Profil(std::string(AlsText(bytes, anzahl))), dokument);
+    Ladetext(befund, Sprache::Deutsch);
+    if (befund.BisZumEnde) dokument.FreieNummernAufbauen();
+    for (const bool gezeichnet : {false, true}) {
+        if (gezeichnet) Zeichnen(dokument);
+        const auto wieder = Umlauf(dokument);
+        dokument.cboFreehandlines = OhneBlanks(dokument.cboFreehandlines);
+        Halten(wieder.GleicheSätze(dokument), "the records that were loaded are those that were saved");
+        Halten(wieder.Papiercode == dokument.Papiercode && wieder.Seitenlage == dokument.Seitenlage, "the page stays");
+    }
+    return 0;
+}
