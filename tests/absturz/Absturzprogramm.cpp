@@ -1,5 +1,6 @@
 // Kills sessions of the program at random moments, and looks whether what was on the page is still there:
-// absturz --runs 1000 --seed 1. Half of them are sessions of the replay, half of the real window.
+// absturz --runs 1000 --seed 1. Half of them are sessions of the replay, half of the real window. One alone, which isn't
+// killed: absturz --window SEED [FILE STEPS].
 #include "absturz/Nachpruefung.h"
 #include "absturz/Sitzungen.h"
 
@@ -71,9 +72,9 @@ class Fahrer {
         UmgebungSetzen(ordner_);
     }
 
-    /// One session and its kill; what is wrong, empty when nothing is.
-    std::string Lauf(unsigned saat) {
-        std::mt19937_64 zufall(saat);
+    /// The session of that seed and its kill at a moment of the other's; what is wrong, empty when nothing is.
+    std::string Lauf(unsigned saat, unsigned zeit) {
+        std::mt19937_64 zufall(zeit);
         const bool fenster = saat % 2 == 0;
         fs::current_path(ordner_);
         for (const char *rest : {"lauf", "protokoll", "gesagt", "prog.ini"}) fs::remove_all(rest);
@@ -138,7 +139,8 @@ class Fahrer {
 int main(int argc, char **argv) {
     std::signal(SIGXFSZ, SIG_IGN);
     const std::string_view art = argc > 2 ? argv[1] : "";
-    if (art == "--window") return kw::Fenstersitzung(static_cast<unsigned>(std::atoi(argv[2])), "");
+    const auto saatAus = [&] { return static_cast<unsigned>(std::atoi(argv[2])); };
+    if (art == "--window") return kw::Fenstersitzung(saatAus(), argc > 3 ? argv[3] : "", argc > 4 ? std::atoi(argv[4]) : 2000);
     if (art == "--offer") return kw::Fensterneustart(std::atoi(argv[2]), "../gesagt");
 
     std::map<std::string, int> angaben{{"--runs", 30}, {"--seed", 1}};
@@ -152,7 +154,8 @@ int main(int argc, char **argv) {
         Fahrer fahrer(ordner);
         for (int i = 0; i < angaben["--runs"]; ++i) {
             const int saat = angaben["--seed"] + i;
-            const std::string befund = fahrer.Lauf(static_cast<unsigned>(saat));
+            const int sitzung = angaben["--session"] > 0 ? angaben["--session"] : saat;
+            const std::string befund = fahrer.Lauf(static_cast<unsigned>(sitzung), static_cast<unsigned>(saat));
             if (!befund.empty() && ++fehler[befund] == 1) {
                 std::cout << "seed " << saat << ": " << befund << std::endl;
                 if (std::getenv("KW_KEEP")) return 1; // the folder stays

@@ -29,15 +29,14 @@ namespace {
 
 class Fensternutzer {
   public:
-    Fensternutzer(Hauptfenster &fenster, unsigned saat)
-        : fenster_(fenster), fläche_(*fenster.findChild<Arbeitsflaeche *>()), innen_(fenster.Modell()), zufall_(saat) {}
+    Fensternutzer(Hauptfenster &fenster, unsigned saat, int schritte)
+        : schritte_(schritte), fenster_(fenster), fläche_(*fenster.findChild<Arbeitsflaeche *>()), innen_(fenster.Modell()), zufall_(saat) {}
 
     const Einblick &Innen() const { return innen_; }
 
     /// The next deed stands ready before this one, since this one can wait for it in a box.
     void Handeln() {
-        constexpr int Schritte = 2000;
-        if (++getan_ > Schritte) return QApplication::exit();
+        if (schritte_-- == 0) return QApplication::exit();
         QTimer::singleShot(0, &fenster_, [this] { Handeln(); });
         QWidget *offen = QApplication::activeModalWidget();
         QWidget *menü = QApplication::activePopupWidget();
@@ -127,12 +126,12 @@ class Fensternutzer {
         if (!befehle.isEmpty()) befehle[Würfel(befehle.size())]->trigger();
     }
 
+    int schritte_; ///< still to do
     Hauptfenster &fenster_;
     Arbeitsflaeche &fläche_;
     const Einblick innen_;
     std::mt19937_64 zufall_;
     std::array<QPoint, 6> orte_{QPoint{300, 200}, {500, 200}, {400, 350}, {300, 350}, {500, 350}, {600, 250}};
-    int getan_ = 0;
     int tiefe_ = 0;
 };
 
@@ -151,10 +150,10 @@ int Laufen(const std::string &kommandozeile, const std::function<void(Hauptfenst
 
 } // namespace
 
-int Fenstersitzung(unsigned saat, const std::string &datei) {
+int Fenstersitzung(unsigned saat, const std::string &datei, int schritte) {
     std::optional<Fensternutzer> nutzer;
     const int ende = Laufen(datei.empty() ? "" : '"' + datei + '"', [&](Hauptfenster &fenster) {
-        nutzer.emplace(fenster, saat);
+        nutzer.emplace(fenster, saat, schritte);
         ProtokollBeginnen("../protokoll", [&] { return &nutzer->Innen(); });
         QTimer::singleShot(0, &fenster, [&] { nutzer->Handeln(); });
     });

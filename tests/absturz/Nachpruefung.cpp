@@ -157,7 +157,7 @@ std::string Neustarten(const Nachbefund &befund, const std::string &netz) {
     if (befund.Platz >= 0 && Sätze(StandVon(innen).Projekt) != Sätze(AlsGeladen(befund.Inhalt)))
         return "what is opened isn't what was kept";
     if (befund.Platz >= 0 && !innen.projekt.Geändert) return "what is opened counts as saved";
-    wiedergabe.Zeile("save danach.kwp");
+    for (const char *zeile : {"tool 1", "click 12 3", "save danach.kwp"}) wiedergabe.Zeile(zeile);
     if (!std::filesystem::exists("danach.kwp")) return "the next save fails: " + aus.str();
     const std::string hier = Reste(".");
     return hier.empty() && std::filesystem::exists(netz) ? Reste(netz) : hier;

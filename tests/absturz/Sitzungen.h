@@ -8,9 +8,9 @@ namespace kw {
 /// over; the program isn't ended.
 void Skriptsitzung(unsigned saat, const std::string &netz);
 
-/// A session of the real window, in the present folder, with pointer and keys at random, until it is closed or its
-/// steps are over. `datei` is opened at the start; empty for none.
-int Fenstersitzung(unsigned saat, const std::string &datei);
+/// A session of the real window, in the present folder, with pointer and keys at random, until it is closed or so
+/// many steps are done. `datei` is opened at the start; empty for none.
+int Fenstersitzung(unsigned saat, const std::string &datei, int schritte);
 
 /// A start of the real window. When the form of kept versions comes up, its entry `platz` is opened and the document is
 /// written to file `ziel`; 1 when it doesn't come.

@@ -40,7 +40,9 @@ void Skriptsitzung(unsigned saat, const std::string &netz) {
             programm->benutzer.Formulare.clear();
             programm->benutzer.Antworten.clear();
             programm->benutzer.Menüwahlen.clear();
-            if (IstEreignis(schritt)) Festhalten(Eintrag::Art::Fertig, StandVon(programm->innen));
+            // A drag that goes on has no outcome yet.
+            if (IstEreignis(schritt) && programm->Taste == 0)
+                Festhalten(Eintrag::Art::Fertig, StandVon(programm->innen));
             aus.str({});
         }
     }
