@@ -22,6 +22,7 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QScreen>
+#include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
@@ -108,6 +109,11 @@ std::string GezogenesProjekt(const QMimeData &inhalt) {
     return {};
 }
 
+/// The toolkit's file dialog would write the folders of clients into a file that all its programs share.
+void OhneDateiverlauf() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+}
+
 void PopupsSchließen() {
     while (QWidget *popup = QApplication::activePopupWidget())
         if (!popup->close()) break;
@@ -118,6 +124,7 @@ void PopupsSchließen() {
 Hauptfenster::Hauptfenster(const std::string &kommandozeile)
     : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
       fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
+    OhneDateiverlauf();
     setCentralWidget(fläche_);
     setAnimated(false);
     setAcceptDrops(true);

@@ -56,6 +56,9 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     bool SitzungBeenden();
     void Beenden() { haupt_.Beenden(); }
 
+    /// What this window shows, for those who look into the program from outside.
+    frmMain &Modell() { return haupt_; }
+
   protected:
     void closeEvent(QCloseEvent *ereignis) override;
     void dragEnterEvent(QDragEnterEvent *ereignis) override;
