@@ -3,6 +3,7 @@
 #include "document/Dateien.h"
 #include "qt/fenster/Hauptfenster.h"
 #include "qt/formulare/Formularfenster.h"
+#include "replay/Aufzeichnung.h"
 #include "replay/Programm.h"
 #include "replay/Skript.h"
 
@@ -21,6 +22,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <set>
 #include <sstream>
@@ -173,6 +175,53 @@ TEST_F(Augenschein, FormulareZeigenAllesGanz) {
         const QDir formulare(QStringLiteral(KW_TESTDATEN "/../src/dialogs"));
         EXPECT_EQ(gezeigt.size(), formulare.entryList({QStringLiteral("frm*.h")}).size()) << aus.str();
     });
+}
+
+/// What the pictures of a form show: what is drawn, and the labels in them.
+std::string Gezeigt(Formular &form) {
+    Aufzeichnung fläche;
+    fläche.Schreibt = true;
+    std::string schilder;
+    for (const auto &name : form.Reihenfolge()) {
+        const Steuerelement &element = *form.Finden(name);
+        if (!element.Visible) continue;
+        if (!element.Bei.empty()) schilder += name + " " + element.Caption + "\n";
+        if (element.Kind != Art::Bild) continue;
+        const auto [breite, höhe] = form.BildGröße(name);
+        fläche.Scale(breite, höhe, 1);
+        form.BildZeichnen(name, fläche);
+    }
+    return fläche.Text + schilder;
+}
+
+/// Chooses all that can be chosen in a form with pictures, one after the other: each gives another picture.
+TEST_F(Augenschein, BilderFolgenDerWahl) {
+    std::ostringstream aus;
+    Wiedergabe lauf(aus);
+    lauf.Zeile("start");
+    std::map<std::string, size_t> anzahl;
+    lauf.Läuft().benutzer.FormularSpielen = [&](Formular &form, const auto &) {
+        if (anzahl.contains(form.Name())) return; // it has another face the second time
+        form.Laden();
+        std::set<std::string> bilder;
+        const auto ansehen = [&](const std::string &wahl) {
+            const std::string bild = Gezeigt(form);
+            EXPECT_TRUE(bild.empty() || bilder.insert(bild).second) << form.Name() << " " << wahl;
+        };
+        for (const auto &name : form.Reihenfolge()) {
+            const Steuerelement &element = *form.Finden(name);
+            if (element.Kind == Art::Option) form.Drücken(name), ansehen(name);
+            for (int i = 0; element.Kind == Art::Liste && i < static_cast<int>(element.Einträge.size()); ++i)
+                form.Wählen(name, i), ansehen(element.Einträge[static_cast<size_t>(i)]);
+        }
+        form.Entladen();
+        anzahl[form.Name()] = bilder.size();
+    };
+    std::istringstream skript(Formulare);
+    EXPECT_EQ(lauf.Ausführen(skript), 0) << aus.str();
+    const std::map<std::string, size_t> soll{
+        {"frmSymbol", 10}, {"frmPLinien", 4}, {"frmBezLinien", 8}, {"frmSymbGlobal", 3}, {"frmLegende", 2}};
+    for (const auto &[form, bilder] : soll) EXPECT_EQ(anzahl[form], bilder) << form;
 }
 
 /// The only test that starts the window: its settings are those beside the program that runs the tests.
