@@ -2,73 +2,17 @@
 #include "document/Dateien.h"
 
 #include "document/Codepage.h"
-#include "replay/Skript.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <unistd.h>
 
 using namespace kw;
 using namespace std::string_literals;
 
-namespace {
-
-/// A recorded session with the profile calls, all texts in the bytes of the code page.
-struct Aufnahme {
-    std::string Name, Vorher, Rufe, Antworten;
-};
-
-void PrintTo(const Aufnahme &fall, std::ostream *strom) { *strom << fall.Name; }
-
-std::string Entschlüsselt(const std::string &zeile) {
-    std::string text;
-    for (size_t i = 0; i < zeile.size(); ++i) {
-        const char art = zeile[i] == '\\' ? zeile[++i] : ' ';
-        text += art == 'n' ? '\n' : art == 'r' ? '\r' : art == 't' ? '\t' : zeile[i];
-        if (art != 'x') continue;
-        text.back() = static_cast<char>(std::stoi(zeile.substr(i + 1, 2), nullptr, 16));
-        i += 2;
-    }
-    return text;
-}
-
-/// `profile/cases.txt`: a case a line, its name, file, calls and answers split by tabs, with escapes in them.
-std::vector<Aufnahme> Aufnahmen() {
-    std::ifstream datei(KW_TESTDATEN "/document/profile/cases.txt");
-    std::vector<Aufnahme> alle;
-    for (std::string zeile; std::getline(datei, zeile);) {
-        const auto teile = Geteilt(zeile, '\t');
-        alle.push_back(
-            {teile.at(0), Entschlüsselt(teile.at(1)), Entschlüsselt(teile.at(2)), Entschlüsselt(teile.at(3))});
-    }
-    return alle;
-}
-
-class AufgenommenesProfil : public testing::TestWithParam<Aufnahme> {};
-
-} // namespace
-
-TEST_P(AufgenommenesProfil, AntwortetWieAufgenommen) {
-    const auto &fall = GetParam();
-    const auto pfad =
-        std::filesystem::temp_directory_path() / ("kw-profil-" + fall.Name + "-" + std::to_string(::getpid()) + ".ini");
-    std::ofstream(pfad) << fall.Vorher;
-    std::istringstream rufe("profil " + pfad.string() + "\n" + NachUtf8(fall.Rufe) + "end\n");
-    std::ostringstream antworten;
-    EXPECT_EQ(Wiedergabe(antworten).Ausführen(rufe), 0);
-    EXPECT_EQ(NachCodepage(antworten.str()), fall.Antworten);
-    EXPECT_NE(fall.Antworten, "");
-    std::filesystem::remove(pfad);
-}
-
-INSTANTIATE_TEST_SUITE_P(Alle, AufgenommenesProfil, testing::ValuesIn(Aufnahmen()),
-                         [](const auto &fall) { return fall.param.Name; });
-
 TEST(Profil, WasDerLesepufferNichtFasstWirdAbgeschnitten) {
-    ASSERT_EQ(Aufnahmen().size(), 24U); // a data file that is not found must not pass as an empty one
     Profil profil;
     std::string linie;
     for (int i = 0; i < 700; ++i) linie += "1.5^2.5_";

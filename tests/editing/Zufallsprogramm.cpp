@@ -1,5 +1,4 @@
-// Runs random users from one seed to the next. For each kind of fault it prints the shortest script that shows it. With
-// --play it plays a script under the same check.
+// Runs random users from one seed to the next. For each kind of fault it prints the shortest script that shows it.
 #include "Zufallsnutzer.h"
 
 #include <cstdlib>
@@ -86,47 +85,16 @@ Lauf Gekürzt(Lauf lauf) {
     return lauf;
 }
 
-/// Plays a script of somebody else under the same eyes; what is set out for a step is one with it.
-std::string Spielen(std::istream &skript) {
-    kw::Prüfung prüfung;
-    std::string schritt;
-    bool form = false;
-    for (std::string zeile; std::getline(skript, zeile);) {
-        if (zeile.empty() || zeile[0] == '#') continue;
-        schritt += zeile;
-        const bool vorher = form;
-        form = zeile.starts_with("form ") || (form && zeile != "end");
-        if (form || vorher || zeile.starts_with("popup ") || zeile.starts_with("answer ")) {
-            schritt += '\n';
-            continue;
-        }
-        const std::string fehler = prüfung.Zeile(std::exchange(schritt, ""));
-        if (!fehler.empty()) return zeile + ": " + fehler + "\n";
-    }
-    return "";
-}
-
 } // namespace
 
 int main(int argc, char **argv) {
     std::map<std::string, int> angaben{{"--seed", 1}, {"--steps", 300}, {"--scripts", 60}};
-    std::ifstream skript;
-    for (int i = 1; i + 1 < argc; i += 2) {
-        if (std::string_view(argv[i]) == "--play") skript.open(argv[i + 1]);
-        else angaben[argv[i]] = std::atoi(argv[i + 1]);
-    }
+    for (int i = 1; i + 1 < argc; i += 2) angaben[argv[i]] = std::atoi(argv[i + 1]);
     std::string ordner = (std::filesystem::temp_directory_path() / "zufallsnutzer-XXXXXX").string();
     if (!::mkdtemp(ordner.data())) return 2;
     std::filesystem::current_path(ordner);
     ::setenv("TMPDIR", ordner.c_str(), 1); // what a crashed run leaves goes with it
 
-    if (skript.is_open()) {
-        const std::string verstoß = Spielen(skript);
-        std::cout << verstoß;
-        std::filesystem::current_path("/");
-        std::filesystem::remove_all(ordner);
-        return verstoß.empty() ? 0 : 1;
-    }
     std::map<std::string, int> fehler;
     size_t zeilen = 0;
     for (int saat = angaben["--seed"]; saat < angaben["--seed"] + angaben["--scripts"]; ++saat) {
