@@ -35,6 +35,7 @@ TEST(Wiedergabe, HältAnWoSieNichtsVersteht) {
         EXPECT_TRUE(e.Text.starts_with("line 2: ")) << zeile << ": " << e.Text;
         EXPECT_EQ(e.Text.find("UndoTiefe"), std::string::npos) << zeile;
     }
+    EXPECT_EQ(Gespielt("expect UndoTiefe = 7\n").Code, 1) << "what isn't so is told, and the script goes on";
 }
 
 TEST(Wiedergabe, LässtNichtsÜbrig) {
