@@ -52,6 +52,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t anz
     }
     DoppelnummernAuflösen(dokument);
     Halten(Gespeichert(dokument).GleicheSätze(dokument), "records come back from a file as they are");
-    Umlauf(dokument);
     return 0;
 }

@@ -6,7 +6,9 @@
 #include "app/frmMain.h"
 #include "commands/Menuetafel.h"
 #include "document/Felder.h"
+#include "document/Sicherheitsnetz.h"
 #include "document/Zahlen.h"
+#include "document/saetze/Person.h"
 #include "editing/Werkzeuge.h"
 #include "replay/Programm.h"
 
@@ -124,6 +126,11 @@ void Ziehen(Programm &p, Ort von, const Schritt &s) {
     p.haupt->MouseUp(TasteLinks, nach.X, nach.Y);
 }
 
+/// A gesture in progress may be ahead of the net.
+bool IstGehalten(const Einblick &innen) {
+    return !innen.projekt.Geändert || innen.lage.Gedrückt || innen.netz.Hält(innen.dokument);
+}
+
 void Gehen(Wiedergabe &lauf, Formularspieler &spieler, const Schritt &s) {
     Programm &p = lauf.Läuft();
     const Ort ort = OrtVon(p.innen.dokument, s);
@@ -148,6 +155,28 @@ void Gehen(Wiedergabe &lauf, Formularspieler &spieler, const Schritt &s) {
     }
 }
 
+/// A person has a field more until it is touched again, and a damaged place then becomes one of the raster.
+Dokument OhneMarken(Dokument dokument) {
+    auto &personen = dokument.cboPersonen;
+    for (int i = 0; i < personen.Anzahl(); ++i) {
+        PersonBau person(personen.Satz(i));
+        const double x = Gerundet(person.Stand().PosX(), 1), y = Gerundet(person.Stand().PosY(), 1);
+        personen.Ersetzen(i, person.Ort(x, y).Text());
+    }
+    return dokument;
+}
+
+/// Back as far as it goes, and forth again: the page is the same.
+void HinUndHer(Programm &p) {
+    p.haupt->MouseUp(p.Taste, 0, 0); // a gesture in progress ends
+    const Dokument vorher = OhneMarken(p.innen.dokument);
+    int schritte = 0;
+    while (p.haupt->BefehlAusführen("mnuRückgängig")) ++schritte;
+    for (; schritte > 0; --schritte) Halten(p.haupt->BefehlAusführen("mnuWiederholen"), "what was undone can be done");
+    const Dokument danach = OhneMarken(p.innen.dokument);
+    Halten(danach.GleicheSätze(vorher), "undone and done again it is the same");
+}
+
 } // namespace
 
 } // namespace kw
@@ -167,10 +196,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t anz
     Formularspieler spieler;
     lauf.Läuft().benutzer.FormularSpielen = [&](Formular &form, const auto &) { spieler.Spielen(form); };
     lauf.Zeile("load a.kwp");
-    for (std::size_t i = 2; i + Schrittlänge <= 2 + schritte; i += Schrittlänge)
+    for (std::size_t i = 2; i + Schrittlänge <= 2 + schritte; i += Schrittlänge) {
         Gehen(lauf, spieler, {bytes[i], bytes[i + 1], bytes[i + 2], bytes[i + 3]});
+        Halten(IstGehalten(lauf.Läuft().innen), "what no file has is in the safety net");
+    }
     lauf.Zeile("draw");
     lauf.Zeile("draw printing");
+    HinUndHer(lauf.Läuft());
     Umlauf(lauf.Läuft().innen.dokument);
     return 0;
 }
