@@ -7,6 +7,7 @@
 #include <chrono>
 #include <filesystem>
 #include <random>
+#include <utility>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -110,14 +111,16 @@ Sicherheitsnetz::~Sicherheitsnetz() {
 /// The folder is there and this program has its lock in it.
 bool Sicherheitsnetz::Bereit() {
     if (ordner_.empty()) return false;
-    if (sperre_ >= 0) return true;
+    struct stat angaben {};
+    if (sperre_ >= 0 && ::fstat(sperre_, &angaben) == 0 && angaben.st_nlink > 0) return true;
+    if (sperre_ >= 0) ::close(std::exchange(sperre_, -1)); // somebody has cleared the folder away
     std::error_code fehler;
     std::filesystem::create_directories(Pfad(ordner_), fehler);
     if (::mkdir(ordner_.c_str(), NurMeinOrdner) != 0 && errno != EEXIST) return false;
     ::chmod(ordner_.c_str(), NurMeinOrdner); // one that was there may be open to others
     constexpr int MeisteVersuche = 3;        // another start may be sweeping
     for (int i = 0; i < MeisteVersuche && sperre_ < 0; ++i) {
-        const std::string kennung = NeueKennung();
+        const std::string kennung = kennung_.empty() ? NeueKennung() : kennung_;
         sperre_ = Sperren(Ort(kennung + std::string(Sperrendung)));
         if (sperre_ >= 0) kennung_ = kennung;
     }
