@@ -62,7 +62,8 @@ void Datenimport::Startaufruf() {
     if (DateiVorhanden(projekt)) {
         if (projekt_.NachÄnderungenFragen()) projekt_.ImportModus = projekt_.Öffnen(projekt);
     } else if (IstSchalter(zeile.substr(0, Schalterlänge))) {
-        if (projekt_.Geändert) projekt_.mnuNeu(); // a version from the safety net isn't mixed with the case
+        // Another client's project isn't mixed with the case: a version from the safety net, saved or not.
+        if (projekt_.Geändert || !projekt_.Projektdatei.empty()) projekt_.mnuNeu();
         if (projekt_.Geändert) return;
         projekt_.ImportModus = true;
         projekt_.Projektdatei = projekt;

@@ -123,6 +123,7 @@ bool Projekt::FassungÖffnen(const Netzeintrag &fassung) {
     SpeichernAbgebrochen = false;
     if (!NachÄnderungenFragen() || !Laden({fassung.Kopf.Projektdatei, fassung.Inhalt})) return false;
     herkunft_ = fassung.Kopf.Herkunft;
+    unganz_ = unganz_ || fassung.Kopf.Unganz;
     ImportModus = false;
     Geändert = true;
     inhalt_.netz.Ablösen(fassung.Kopf.Name);
@@ -132,7 +133,12 @@ bool Projekt::FassungÖffnen(const Netzeintrag &fassung) {
 void Projekt::Loslassen() { inhalt_.netz.Loslassen(inhalt_.dokument); }
 
 bool Projekt::Nachführen() {
-    return !Geändert || inhalt_.netz.Festhalten(inhalt_.dokument, Projektdatei, herkunft_).Gelungen();
+    if (!Geändert) return true;
+    Netzkopf kopf;
+    kopf.Projektdatei = Projektdatei;
+    kopf.Herkunft = herkunft_;
+    kopf.Unganz = unganz_;
+    return inhalt_.netz.Festhalten(inhalt_.dokument, std::move(kopf)).Gelungen();
 }
 
 bool Projekt::ProjektSchreiben(const std::string &datei) {

@@ -14,8 +14,9 @@ constexpr Zweisprachig SaveText{
 /// By `Verbleib`.
 constexpr Zweisprachig Verbleibtexte[] = {
     {"Das Genogramm steht unverändert auf der Seite.", "The genogram is unchanged on the page."},
-    {"Nichts ist verloren: Ihre Änderungen stehen weiter auf der Seite und zusätzlich unter \"Gesicherte Fassungen\".",
-     "Nothing is lost: your changes are still on the page, and also among the \"Kept Versions\"."},
+    {"Nichts ist verloren: Ihre Änderungen stehen weiter auf der Seite. Sollte das Programm enden, bietet der nächste "
+     "Start sie an.",
+     "Nothing is lost: your changes are still on the page. Should the program end, the next start offers them."},
     {"Ihre Änderungen stehen weiter auf der Seite, aber in keiner Datei.",
      "Your changes are still on the page, but in no file."}};
 constexpr Zweisprachig LadeText{"Die Datei konnte nicht geöffnet werden:\n%1\n\nGrund: %2.\n\nAn der Seite hat sich "
@@ -28,10 +29,10 @@ constexpr Zweisprachig TeilText{
     "The file is damaged, and only a part of it could be read:\n%1\n\n%2\n\n"
     "It stays as it is until you save. Then it is kept, as it is, among the \"Kept Versions\"."};
 constexpr Zweisprachig FremdText{
-    "Die Datei wurde inzwischen von jemand anderem geändert:\n%1\n\nMöchten Sie sie ersetzen?\n\n"
+    "Die Datei enthält inzwischen eine andere Fassung:\n%1\n\nMöchten Sie sie ersetzen?\n\n"
     "Ja: Ihr Genogramm ersetzt sie; die andere Fassung wird unter \"Gesicherte Fassungen\" aufgehoben.\n"
     "Nein: Ihr Genogramm wird unter einem anderen Namen gespeichert.",
-    "Meanwhile somebody else has changed the file:\n%1\n\nDo you want to replace it?\n\n"
+    "Meanwhile the file holds another version:\n%1\n\nDo you want to replace it?\n\n"
     "Yes: your genogram replaces it; the other version is kept among the \"Kept Versions\".\n"
     "No: your genogram is saved under another name."};
 

@@ -69,6 +69,8 @@ frmFassungen::~frmFassungen() = default;
 
 void frmFassungen::Laden() { Auffüllen(0); }
 
+void frmFassungen::Entladen() { VersuchBeenden(); }
+
 std::string frmFassungen::Zeile(const Netzkopf &fassung) const {
     const Sprache sprache = umgebung_.Sprache();
     std::string art;
@@ -107,6 +109,7 @@ void frmFassungen::Zeigen() {
                                 : fassung->Projektdatei.empty() ? NieGespeichert.In(sprache)
                                                                 : std::string_view(fassung->Projektdatei);
     seite_.reset();
+    VersuchBeenden(); // nothing was drawn of it, so it did no harm
     if (!fassung || umgebung_.netz.IstVersucht(fassung->Name)) return;
     auto eintrag = umgebung_.netz.Lesen(fassung->Name);
     if (!eintrag) return;
@@ -134,6 +137,7 @@ void frmFassungen::Geklickt(std::string_view name) {
 
 /// The chosen one is answered. The form stays for the next that isn't.
 void frmFassungen::Behalten() {
+    VersuchBeenden(); // under the name that it has until now
     umgebung_.netz.Behalten(Gewählte()->Name);
     Auffüllen((*this)["lstFassungen"].ListIndex);
     for (size_t i = 0; i < fassungen_.size(); ++i)
@@ -143,6 +147,7 @@ void frmFassungen::Behalten() {
 }
 
 void frmFassungen::Schließkreuz() {
+    VersuchBeenden();
     for (const auto &fassung : fassungen_) umgebung_.netz.Behalten(fassung.Name);
     Schließen();
 }
@@ -174,6 +179,10 @@ void frmFassungen::BildZeichnen(std::string_view, Zeichenfläche &f) {
     const Auswahl nichts;
     const Gestenlage ruhe;
     SeitenbildZeichnen(f, {*seite_, ansicht, nichts, ruhe, legende, umgebung_.uhr});
+    VersuchBeenden();
+}
+
+void frmFassungen::VersuchBeenden() {
     if (!versuch_.empty()) umgebung_.netz.VersuchEnden(std::exchange(versuch_, {}));
 }
 

@@ -21,6 +21,7 @@ class frmFassungen : public Formular {
     ~frmFassungen() override;
 
     void Laden() override;
+    void Entladen() override;
     void Schließkreuz() override;
     /// The page of the version that is chosen. One that has once brought a program down while it was drawn isn't drawn
     /// again: nobody could get past it.
@@ -35,6 +36,7 @@ class frmFassungen : public Formular {
     void Auffüllen(int gewählt);
     void Zeigen();
     void Behalten();
+    void VersuchBeenden();
     const Netzkopf *Gewählte() const;
     std::string Zeile(const Netzkopf &fassung) const;
 

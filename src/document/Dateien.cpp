@@ -60,7 +60,10 @@ void Schreiben(const std::string &pfad, std::string_view inhalt, const Schreibwe
     if (!vorhanden && errno != ENOENT) Scheitern();
     if (pfad.empty()) Scheitern(ENOENT);
     if (DateiName(pfad).empty() || (vorhanden && S_ISDIR(angaben.st_mode))) Scheitern(EISDIR);
-    if (vorhanden && !S_ISREG(angaben.st_mode)) return DirektSchreiben(pfad, inhalt);
+    if (vorhanden && !S_ISREG(angaben.st_mode)) {
+        if (wie.Wahrer != nullptr) Scheitern(EOPNOTSUPP);
+        return DirektSchreiben(pfad, inhalt);
+    }
     // A file without a write bit was protected on purpose; root too, who could, must not replace it.
     if (vorhanden && (angaben.st_mode & 0222U) == 0) Scheitern(EACCES);
     if (vorhanden) Geprüft([&] { return ::faccessat(AT_FDCWD, pfad.c_str(), W_OK, AT_EACCESS); });

@@ -66,7 +66,7 @@ struct Schreibweise {
 /// file afterwards is the old one or the new one, whole, and the answer agrees with it. Follows links
 /// and keeps them; keeps mode, owner, group, access list and extended attributes as far as this user may set them,
 /// and never lets anybody in who wasn't. Refuses a file that is write-protected or a folder. A device or pipe is
-/// written straight.
+/// written straight, but not with a `Wahrer`: what went there can't be read again.
 ///
 /// With a `Wahrer`, a file whose folder can't be written, that has several names, or whose owner or access list
 /// wouldn't survive, is written in place instead. Only there can a kill leave neither version whole; the `Wahrer`

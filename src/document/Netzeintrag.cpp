@@ -38,6 +38,7 @@ bool Übernehmen(std::string_view zeile, Netzkopf &kopf) {
     if (name == "from") return (kopf.Herkunft = FingerabdruckAus(wert)).has_value();
     if (name == "time") return ZahlAus(wert, kopf.Zeit);
     if (name == "persons") return ZahlAus(wert, kopf.Personen);
+    if (name == "partial") kopf.Unganz = wert == "1";
     return true;
 }
 
@@ -48,6 +49,7 @@ std::string Netzdatei(const Netzkopf &kopf, std::string_view inhalt) {
     datei += "\nproject=" + Maskiert(kopf.Projektdatei) + "\ntime=" + std::to_string(kopf.Zeit) +
              "\npersons=" + std::to_string(kopf.Personen);
     if (kopf.Herkunft) datei += "\nfrom=" + AlsText(*kopf.Herkunft);
+    if (kopf.Unganz) datei += "\npartial=1";
     return datei.append("\n\n").append(inhalt);
 }
 

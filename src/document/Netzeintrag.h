@@ -23,6 +23,7 @@ struct Netzkopf {
     std::int64_t Zeit = 0;    ///< nanoseconds since 1970
     int Personen = 0;
     std::optional<Fingerabdruck> Herkunft; ///< of the project file as it was loaded or last saved
+    bool Unganz = false;                   ///< the project file holds more than could be read of it
 };
 
 /// A version with its content, which is that of a project file, byte for byte.

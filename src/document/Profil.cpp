@@ -320,6 +320,14 @@ void Profil::AbschnittLöschen(std::string_view abschnitt) {
     gesucht_.clear();
 }
 
+void Profil::VorspannLöschen() {
+    if (!HatVorspann()) return;
+    std::size_t ende = 0;
+    while (ende < zeilen_.size() && !KopfnameVon(ende)) ++ende;
+    zeilen_.erase(zeilen_.begin(), zeilen_.begin() + static_cast<std::ptrdiff_t>(ende));
+    gesucht_.clear();
+}
+
 std::string Profil::Inhalt() const {
     std::string inhalt;
     for (std::size_t i = 0; i < zeilen_.size(); ++i) {

@@ -58,6 +58,8 @@ class Profil {
     void Schreiben(std::string_view abschnitt, std::string_view schlüssel, std::string_view wert);
     /// Deletes all sections of this name, so that no record of a second one can come back.
     void AbschnittLöschen(std::string_view abschnitt);
+    /// Deletes what `HatVorspann` tells of.
+    void VorspannLöschen();
 
     /// The whole file, lines ended by CR LF.
     std::string Inhalt() const;

@@ -235,6 +235,7 @@ void ProjektEintragen(const Dokument &dokument, Profil &profil) {
     // The order in which a new file has its sections, which is not that of the loading.
     static constexpr std::array<std::string_view, 7> Reihenfolge{"OBJECTS", "LINEA", "LINEB", "LINEC",
                                                                  "LINED",   "LINEE", "TEXT"};
+    profil.VorspannLöschen(); // of a file that was no project: nobody reads it, and it may be another client's
     for (const auto abschnitt : Reihenfolge) profil.AbschnittLöschen(abschnitt);
     profil.Schreiben(Vorgaben, "orientation", std::to_string(dokument.Seitenlage));
     profil.Schreiben(Vorgaben, "papersize", std::to_string(dokument.Papiercode));

@@ -7,6 +7,7 @@
 #include <chrono>
 #include <filesystem>
 #include <random>
+#include <utility>
 
 #include <cerrno>
 #include <fcntl.h>
@@ -53,8 +54,8 @@ std::string NeueKennung() {
     return kennung;
 }
 
-/// A held lock on that file, which is made; -1 when somebody has it or it can't be had. A file that was taken away
-/// between its making and its locking would be a lock that nobody sees.
+/// A held lock on that file, which is made; -1 when it can't be had, or somebody else just looks at it. A file that was
+/// taken away between its making and its locking would be a lock that nobody sees.
 int Sperren(const std::string &pfad) {
     const int fd = ::open(pfad.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, NurIch);
     if (fd < 0) return -1;
@@ -71,6 +72,15 @@ bool IstGesperrt(const std::string &pfad) {
     const bool gesperrt = ::flock(fd, LOCK_SH | LOCK_NB) != 0 && errno == EWOULDBLOCK;
     ::close(fd);
     return gesperrt;
+}
+
+/// Takes away a dead program's lock. Held while it goes: one that has only just been made, and isn't held yet, would
+/// else go from under its owner.
+void SperreEntfernen(const std::string &pfad) {
+    const int fd = ::open(pfad.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
+    if (fd < 0) return;
+    if (::flock(fd, LOCK_EX | LOCK_NB) == 0) ::unlink(pfad.c_str());
+    ::close(fd);
 }
 
 bool IstAbgelaufen(const Netzkopf &kopf) {
@@ -101,22 +111,27 @@ Sicherheitsnetz::~Sicherheitsnetz() {
 /// The folder is there and this program has its lock in it.
 bool Sicherheitsnetz::Bereit() {
     if (ordner_.empty()) return false;
-    if (sperre_ >= 0) return true;
+    struct stat angaben {};
+    if (sperre_ >= 0 && ::fstat(sperre_, &angaben) == 0 && angaben.st_nlink > 0) return true;
+    if (sperre_ >= 0) ::close(std::exchange(sperre_, -1)); // somebody has cleared the folder away
     std::error_code fehler;
     std::filesystem::create_directories(Pfad(ordner_), fehler);
     if (::mkdir(ordner_.c_str(), NurMeinOrdner) != 0 && errno != EEXIST) return false;
     ::chmod(ordner_.c_str(), NurMeinOrdner); // one that was there may be open to others
-    const std::string kennung = NeueKennung();
-    sperre_ = Sperren(Ort(kennung + std::string(Sperrendung)));
-    if (sperre_ >= 0) kennung_ = kennung;
+    constexpr int MeisteVersuche = 3;        // another start may be sweeping
+    for (int i = 0; i < MeisteVersuche && sperre_ < 0; ++i) {
+        const std::string kennung = kennung_.empty() ? NeueKennung() : kennung_;
+        sperre_ = Sperren(Ort(kennung + std::string(Sperrendung)));
+        if (sperre_ >= 0) kennung_ = kennung;
+    }
     return sperre_ >= 0;
 }
 
-Dateibefund Sicherheitsnetz::Festhalten(const Dokument &dokument, const std::string &projektdatei,
-                                        const std::optional<Fingerabdruck> &herkunft) {
+Dateibefund Sicherheitsnetz::Festhalten(const Dokument &dokument, Netzkopf kopf) {
     if (ordner_.empty() || (abgelöst_.empty() && stand_.GleicherStand(dokument))) return {};
     if (!Bereit()) return {"the safety net's folder can't be used", Ursache::Sonstiges};
-    const Netzkopf kopf{"", Art::Stand, projektdatei, Jetzt(), dokument.cboPersonen.Anzahl(), herkunft};
+    kopf.Zeit = Jetzt();
+    kopf.Personen = dokument.cboPersonen.Anzahl();
     const std::string pfad = Ort(kennung_ + ".stand");
     Schreibweise wie;
     wie.NeuerModus = NurIch;
@@ -170,7 +185,7 @@ std::vector<Netzkopf> Sicherheitsnetz::Einträge() const {
 void Sicherheitsnetz::Aufräumen() const {
     for (const std::string &name : Namen()) {
         const std::string ort = Ort(name);
-        if (name.ends_with(Sperrendung) && !name.starts_with(kennung_ + ".") && !IstGesperrt(ort)) ::unlink(ort.c_str());
+        if (name.ends_with(Sperrendung) && !name.starts_with(kennung_ + ".")) SperreEntfernen(ort);
         if (name.ends_with(Versuch) && !DateiVorhanden(ort.substr(0, ort.rfind('.')))) ::unlink(ort.c_str());
         if (ArtVon(name) != Art::Verdrängt) continue;
         const auto eintrag = Lesen(name);
@@ -182,7 +197,7 @@ bool Sicherheitsnetz::HatUnbeantwortete() const {
     const auto namen = Namen();
     return std::any_of(namen.begin(), namen.end(), [this](const std::string &name) {
         const auto art = ArtVon(name);
-        return (art == Art::Stand || art == Art::VorOrt) && !Lebt(name);
+        return (art == Art::Stand || art == Art::VorOrt) && !Lebt(name) && Lesen(name);
     });
 }
 
@@ -225,7 +240,7 @@ std::string Sicherheitsnetz::NeuerName() { return kennung_ + "-" + std::to_strin
 
 /// Once it says so, the disk has it.
 bool Sicherheitsnetz::Aufheben(const std::string &name, const std::string &pfad, std::string_view inhalt) {
-    const Netzkopf kopf{"", Art::Verdrängt, pfad, Jetzt(), PersonenIn(inhalt), FingerabdruckVon(inhalt)};
+    const Netzkopf kopf{"", Art::Verdrängt, pfad, Jetzt(), PersonenIn(inhalt), FingerabdruckVon(inhalt), false};
     Schreibweise wie;
     wie.NeuerModus = NurIch;
     return DateiSchreiben(Ort(name), Netzdatei(kopf, inhalt), wie).Gelungen();
@@ -234,9 +249,12 @@ bool Sicherheitsnetz::Aufheben(const std::string &name, const std::string &pfad,
 /// The same version of a file is asked for twice when somebody writes it again while it is being replaced.
 bool Sicherheitsnetz::Beiseitelegen(const std::string &pfad, std::string_view inhalt) {
     const std::pair fassung(pfad, FingerabdruckVon(inhalt));
-    if (fassung == beiseite_) return true;
-    if (!Bereit() || !Aufheben(NeuerName(), pfad, inhalt)) return false;
+    if (fassung == beiseite_ && DateiVorhanden(Ort(beiseiteName_))) return true;
+    if (!Bereit()) return false;
+    const std::string name = NeuerName();
+    if (!Aufheben(name, pfad, inhalt)) return false;
     beiseite_ = fassung;
+    beiseiteName_ = name;
     return true;
 }
 

@@ -28,9 +28,8 @@ class Sicherheitsnetz : public Versionswahrer {
     Sicherheitsnetz &operator=(const Sicherheitsnetz &) = delete;
 
     /// The document holds something that no file does. Written in the place of what was kept before, unless that is the
-    /// same; the disk has it a moment later.
-    Dateibefund Festhalten(const Dokument &dokument, const std::string &projektdatei,
-                           const std::optional<Fingerabdruck> &herkunft);
+    /// same; the disk has it a moment later. `kopf` tells of the project's file, the rest of it is filled in.
+    Dateibefund Festhalten(const Dokument &dokument, Netzkopf kopf);
     /// The document is in its project file, or the user gave it up: what was kept of it goes.
     void Loslassen(const Dokument &dokument);
     /// Whether the document as it stands is in the net.
@@ -40,7 +39,7 @@ class Sicherheitsnetz : public Versionswahrer {
     std::vector<Netzkopf> Einträge() const;
     /// Once a start: versions that were replaced more than 30 days ago go, and what dead programs left beside theirs.
     void Aufräumen() const;
-    /// Whether there is something that nobody has answered yet. Looks at names and locks only.
+    /// Whether there is something to offer that nobody has answered yet. Opens nothing else.
     bool HatUnbeantwortete() const;
     /// Nothing when it has gone, or can't be read.
     std::optional<Netzeintrag> Lesen(const std::string &name) const;
@@ -75,6 +74,7 @@ class Sicherheitsnetz : public Versionswahrer {
     bool hält_ = false;
     std::string abgelöst_;                           ///< goes when its successor is written
     std::pair<std::string, Fingerabdruck> beiseite_; ///< path and content of what was set aside last
+    std::string beiseiteName_;                       ///< and its name, should it have been deleted since
     std::string vorOrt_;                             ///< of the file that is being written in place
     Nachfluss nachfluss_;
 };

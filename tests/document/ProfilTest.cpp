@@ -75,6 +75,18 @@ TEST(Profil, SchreibtAnOrtUndStelleUndBehältFremdes) {
     EXPECT_EQ(Profil(profil.Inhalt()).SchlüsselListe("a"), "0\0"s);
 }
 
+TEST(Profil, VorspannGehtKommentareBleiben) {
+    Profil brief("; ein Kommentar\nBrief an Frau Muster\nx=1\n[A]\nk=v\n");
+    EXPECT_EQ(brief.Lesen("A", "k"), "v");
+    brief.VorspannLöschen();
+    EXPECT_FALSE(brief.HatVorspann());
+    EXPECT_EQ(brief.Lesen("A", "k"), "v");
+    EXPECT_EQ(brief.Inhalt(), "[A]\r\nk=v\r\n");
+    Profil kommentar("; ein Kommentar\n[A]\n");
+    kommentar.VorspannLöschen();
+    EXPECT_EQ(kommentar.Inhalt(), "; ein Kommentar\r\n[A]\r\n");
+}
+
 TEST(Profil, ErsetztKeineDateiDieSichNichtLesenLässt) {
     const std::string pfad = std::filesystem::temp_directory_path() / ("kw-zu-gross-" + std::to_string(::getpid()));
     std::ofstream(pfad) << "[A]\n";
