@@ -15,7 +15,11 @@ namespace {
 bool Gleich(const std::string &vorher, const std::string &nachher) { return vorher == nachher || !Überlebt(vorher); }
 
 Einstellungen Umlauf(const Einstellungen &e, Profil profil) {
-    EinstellungenEintragen(e, profil);
+    const auto schreiben = [&](std::string_view schlüssel, const std::string &wert) {
+        GanzSchreiben(profil, Einstellungsabschnitt, schlüssel, wert);
+    };
+    for (const auto &zeile : Einstellungstafel) schreiben(zeile.Name, zeile.Text(e));
+    for (int platz = 1; platz <= Chronik::Plätze; ++platz) schreiben(LetzterPfadSchlüssel(platz), e.Zuletzt[platz]);
     return EinstellungenLesen(Profil(profil.Inhalt()));
 }
 
