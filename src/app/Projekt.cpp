@@ -49,6 +49,7 @@ bool Projekt::Laden(Quelle quelle) {
     Dokument neu = inhalt_.dokument; // a page or legend that the file doesn't tell stays
     neu.LegendeSichtbar = false;
     const Ladebefund befund = ProjektLesen(profil, neu);
+    if (quelle.AusDemNetz) neu.OhneStandardsymbole = OhneStandardsymboleLesen(profil);
     if (!befund.IstProjekt) {
         umfeld_.benutzer.Fragen(KeinProjektGefunden(quelle.Projektdatei, sprache));
         return false;
@@ -121,10 +122,10 @@ bool Projekt::ÖffnenMitFrage(const std::string &datei) {
 
 bool Projekt::FassungÖffnen(const Netzeintrag &fassung) {
     SpeichernAbgebrochen = false;
-    if (!NachÄnderungenFragen() || !Laden({fassung.Kopf.Projektdatei, fassung.Inhalt})) return false;
+    if (!NachÄnderungenFragen() || !Laden({fassung.Kopf.Projektdatei, fassung.Inhalt, true})) return false;
     herkunft_ = fassung.Kopf.Herkunft;
     unganz_ = unganz_ || fassung.Kopf.Unganz;
-    ImportModus = false;
+    ImportModus = fassung.Kopf.Import;
     Geändert = true;
     inhalt_.netz.Ablösen(fassung.Kopf.Name);
     return true;
@@ -138,6 +139,7 @@ bool Projekt::Nachführen() {
     kopf.Projektdatei = Projektdatei;
     kopf.Herkunft = herkunft_;
     kopf.Unganz = unganz_;
+    kopf.Import = ImportModus;
     return inhalt_.netz.Festhalten(inhalt_.dokument, std::move(kopf)).Gelungen();
 }
 

@@ -97,6 +97,7 @@ class Projekt {
     struct Quelle {
         std::string Projektdatei;
         std::string Inhalt;
+        bool AusDemNetz = false; ///< a version, which comes back as it was
     };
     bool Laden(Quelle quelle);
     void Anwenden(Dokument &&neu, bool ganz);

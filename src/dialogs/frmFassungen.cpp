@@ -10,6 +10,7 @@
 #include "rendering/Legende.h"
 #include "rendering/Seite.h"
 
+#include <algorithm>
 #include <array>
 #include <ctime>
 
@@ -49,6 +50,9 @@ constexpr Artname Artnamen[] = {
     {Netzart::Verdrängt, {"ersetzte Datei", "replaced file"}},
     {Netzart::VorOrt, {"Speichern abgebrochen", "saving broke off"}},
 };
+
+/// Nobody has answered yet what is to become of it.
+bool IstOffen(const Netzkopf &fassung) { return fassung.Was == Netzart::Stand || fassung.Was == Netzart::VorOrt; }
 
 /// In the order in which the user's locale writes dates, to the minute.
 std::string Zeitpunkt(std::int64_t nanosekunden, Datumsfolge folge) {
@@ -140,15 +144,15 @@ void frmFassungen::Behalten() {
     VersuchBeenden(); // under the name that it has until now
     umgebung_.netz.Behalten(Gewählte()->Name);
     Auffüllen((*this)["lstFassungen"].ListIndex);
-    for (size_t i = 0; i < fassungen_.size(); ++i)
-        if (fassungen_[i].Was == Netzart::Stand || fassungen_[i].Was == Netzart::VorOrt)
-            return Wählen("lstFassungen", static_cast<int>(i));
-    Schließen();
+    const auto nächste = std::find_if(fassungen_.begin(), fassungen_.end(), IstOffen);
+    if (nächste == fassungen_.end()) Schließen();
+    else Wählen("lstFassungen", static_cast<int>(nächste - fassungen_.begin()));
 }
 
 void frmFassungen::Schließkreuz() {
     VersuchBeenden();
-    for (const auto &fassung : fassungen_) umgebung_.netz.Behalten(fassung.Name);
+    for (const auto &fassung : fassungen_)
+        if (IstOffen(fassung)) umgebung_.netz.Behalten(fassung.Name);
     Schließen();
 }
 

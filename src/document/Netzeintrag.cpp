@@ -39,6 +39,7 @@ bool Übernehmen(std::string_view zeile, Netzkopf &kopf) {
     if (name == "time") return ZahlAus(wert, kopf.Zeit);
     if (name == "persons") return ZahlAus(wert, kopf.Personen);
     if (name == "partial") kopf.Unganz = wert == "1";
+    if (name == "import") kopf.Import = wert == "1";
     return true;
 }
 
@@ -50,6 +51,7 @@ std::string Netzdatei(const Netzkopf &kopf, std::string_view inhalt) {
              "\npersons=" + std::to_string(kopf.Personen);
     if (kopf.Herkunft) datei += "\nfrom=" + AlsText(*kopf.Herkunft);
     if (kopf.Unganz) datei += "\npartial=1";
+    if (kopf.Import) datei += "\nimport=1";
     return datei.append("\n\n").append(inhalt);
 }
 

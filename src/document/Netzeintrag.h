@@ -24,6 +24,7 @@ struct Netzkopf {
     int Personen = 0;
     std::optional<Fingerabdruck> Herkunft; ///< of the project file as it was loaded or last saved
     bool Unganz = false;                   ///< the project file holds more than could be read of it
+    bool Import = false;                   ///< a case that was handed over: saved under its name without asking
 };
 
 /// A version with its content, which is that of a project file, byte for byte.

@@ -231,6 +231,12 @@ Ladebefund ProjektLesen(const Profil &profil, Dokument &dokument) {
     return befund;
 }
 
+bool OhneStandardsymboleLesen(const Profil &profil) {
+    const auto wert = profil.Lesen(Vorgaben, "legende");
+    const Felder felder(wert);
+    return felder.Anzahl() > LegendeFeld::MitStandardsymbolen && felder[LegendeFeld::MitStandardsymbolen] == "0";
+}
+
 void ProjektEintragen(const Dokument &dokument, Profil &profil) {
     // The order in which a new file has its sections, which is not that of the loading.
     static constexpr std::array<std::string_view, 7> Reihenfolge{"OBJECTS", "LINEA", "LINEB", "LINEC",

@@ -27,6 +27,10 @@ void LegendeLesen(const Profil &profil, Dokument &dokument);
 /// stays as it is in `dokument`. The free numbers are the caller's to rebuild, when the load came to its end.
 Ladebefund ProjektLesen(const Profil &profil, Dokument &dokument);
 
+/// Whether the legend leaves the plain symbols out. Every save writes that, and no load of a project reads it: meant.
+/// A version that is to come back as it was has it.
+bool OhneStandardsymboleLesen(const Profil &profil);
+
 /// Writes the whole document, in place of what the profile had. Foreign sections, and foreign keys beside
 /// the page settings, stay. Texts that these sections would lose stand whole behind all others.
 void ProjektEintragen(const Dokument &dokument, Profil &profil);

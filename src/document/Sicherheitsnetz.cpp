@@ -85,7 +85,30 @@ void SperreEntfernen(const std::string &pfad) {
 
 bool IstAbgelaufen(const Netzkopf &kopf) {
     constexpr std::int64_t Frist = std::chrono::nanoseconds(std::chrono::days(30)).count();
-    return kopf.Was == Art::Verdrängt && Jetzt() - kopf.Zeit > Frist;
+    return kopf.Was == Art::Verdrängt && kopf.Zeit > 0 && Jetzt() - kopf.Zeit > Frist;
+}
+
+/// The start of a file, which holds its head; the rest can be large. Empty when it isn't to be read.
+std::string Anfang(const std::string &pfad) {
+    constexpr std::size_t Genug = 16384; // the longest path, masked, and a few lines
+    const int fd = ::open(pfad.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    struct stat angaben {};
+    std::string anfang(Genug, '\0');
+    const bool lesbar = fd >= 0 && ::fstat(fd, &angaben) == 0 && S_ISREG(angaben.st_mode);
+    const auto gelesen = lesbar ? ::read(fd, anfang.data(), anfang.size()) : 0;
+    if (fd >= 0) ::close(fd);
+    anfang.resize(gelesen > 0 ? static_cast<std::size_t>(gelesen) : 0);
+    return anfang;
+}
+
+/// With the name and the kind that it says. Nothing for what is no file of the net.
+std::optional<Netzeintrag> Benannt(const std::string &name, std::string_view inhalt) {
+    const auto art = ArtVon(name);
+    auto eintrag = art ? NetzeintragAus(inhalt) : std::nullopt;
+    if (!eintrag) return {};
+    eintrag->Kopf.Name = name;
+    eintrag->Kopf.Was = *art;
+    return eintrag;
 }
 
 std::string AlsProjekt(const Dokument &dokument) {
@@ -141,15 +164,19 @@ Dateibefund Sicherheitsnetz::Festhalten(const Dokument &dokument, Netzkopf kopf)
     nachfluss_.Wünschen(pfad);
     stand_ = dokument;
     hält_ = true;
+    VorgängerLöschen();
+    return {};
+}
+
+void Sicherheitsnetz::VorgängerLöschen() {
     if (ArtVon(abgelöst_) != Art::Verdrängt) Löschen(abgelöst_);
     abgelöst_.clear();
-    return {};
 }
 
 void Sicherheitsnetz::Loslassen(const Dokument &dokument) {
     stand_ = dokument;
     hält_ = false;
-    abgelöst_.clear();
+    VorgängerLöschen();
     if (sperre_ >= 0) ::unlink(Ort(kennung_ + ".stand").c_str());
 }
 
@@ -174,7 +201,7 @@ std::vector<Netzkopf> Sicherheitsnetz::Einträge() const {
     std::vector<Netzkopf> einträge;
     for (const std::string &name : Namen()) {
         if (!ArtVon(name) || Lebt(name)) continue;
-        if (const auto eintrag = Lesen(name)) einträge.push_back(eintrag->Kopf);
+        if (const auto eintrag = Benannt(name, Anfang(Ort(name)))) einträge.push_back(eintrag->Kopf);
     }
     std::sort(einträge.begin(), einträge.end(), [](const Netzkopf &a, const Netzkopf &b) {
         return a.Zeit != b.Zeit ? a.Zeit > b.Zeit : a.Name < b.Name;
@@ -188,7 +215,7 @@ void Sicherheitsnetz::Aufräumen() const {
         if (name.ends_with(Sperrendung) && !name.starts_with(kennung_ + ".")) SperreEntfernen(ort);
         if (name.ends_with(Versuch) && !DateiVorhanden(ort.substr(0, ort.rfind('.')))) ::unlink(ort.c_str());
         if (ArtVon(name) != Art::Verdrängt) continue;
-        const auto eintrag = Lesen(name);
+        const auto eintrag = Benannt(name, Anfang(ort));
         if (eintrag && IstAbgelaufen(eintrag->Kopf)) Löschen(name);
     }
 }
@@ -197,25 +224,20 @@ bool Sicherheitsnetz::HatUnbeantwortete() const {
     const auto namen = Namen();
     return std::any_of(namen.begin(), namen.end(), [this](const std::string &name) {
         const auto art = ArtVon(name);
-        return (art == Art::Stand || art == Art::VorOrt) && !Lebt(name) && Lesen(name);
+        return (art == Art::Stand || art == Art::VorOrt) && !Lebt(name) && Benannt(name, Anfang(Ort(name)));
     });
 }
 
 std::optional<Netzeintrag> Sicherheitsnetz::Lesen(const std::string &name) const {
     std::string datei;
-    const auto art = ArtVon(name);
-    if (!art || !DateiLesen(Ort(name), datei).Gelungen()) return {};
-    auto eintrag = NetzeintragAus(datei);
-    if (!eintrag) return {};
-    eintrag->Kopf.Name = name;
-    eintrag->Kopf.Was = *art;
-    return eintrag;
+    if (!ArtVon(name) || !DateiLesen(Ort(name), datei).Gelungen()) return {};
+    return Benannt(name, datei);
 }
 
 /// Of a file that was written in place both versions stay: what is offered again is only what nobody has answered.
 void Sicherheitsnetz::Behalten(const std::string &name) const {
     const auto art = ArtVon(name);
-    if (art != Art::Stand && art != Art::VorOrt) return;
+    if (!art || art == Art::Behalten) return;
     const std::string bleibt = name.substr(0, name.rfind('.')) + ".behalten";
     ::rename(Ort(name).c_str(), Ort(bleibt).c_str());
     if (IstVersucht(name)) ::rename(Ort(name + Versuch).c_str(), Ort(bleibt + Versuch).c_str());
@@ -240,7 +262,7 @@ std::string Sicherheitsnetz::NeuerName() { return kennung_ + "-" + std::to_strin
 
 /// Once it says so, the disk has it.
 bool Sicherheitsnetz::Aufheben(const std::string &name, const std::string &pfad, std::string_view inhalt) {
-    const Netzkopf kopf{"", Art::Verdrängt, pfad, Jetzt(), PersonenIn(inhalt), FingerabdruckVon(inhalt), false};
+    const Netzkopf kopf{"", Art::Verdrängt, pfad, Jetzt(), PersonenIn(inhalt), FingerabdruckVon(inhalt)};
     Schreibweise wie;
     wie.NeuerModus = NurIch;
     return DateiSchreiben(Ort(name), Netzdatei(kopf, inhalt), wie).Gelungen();

@@ -43,6 +43,7 @@ class Sicherheitsnetz : public Versionswahrer {
     bool HatUnbeantwortete() const;
     /// Nothing when it has gone, or can't be read.
     std::optional<Netzeintrag> Lesen(const std::string &name) const;
+    /// From now on it stays until it is deleted.
     void Behalten(const std::string &name) const;
     void Löschen(const std::string &name) const;
     /// Whoever shows a version for the first time says so before, and again when it is shown: in between it may bring
@@ -60,6 +61,7 @@ class Sicherheitsnetz : public Versionswahrer {
 
   private:
     bool Bereit();
+    void VorgängerLöschen();
     std::string Ort(const std::string &name) const { return ordner_ + "/" + name; }
     bool Lebt(const std::string &name) const;
     std::vector<std::string> Namen() const;
