@@ -126,6 +126,9 @@ void Ziehen(Programm &p, Ort von, const Schritt &s) {
     p.haupt->MouseUp(TasteLinks, nach.X, nach.Y);
 }
 
+/// The window goes behind the event that wants it, unless somebody keeps it.
+bool IstGeschlossen(Programm &p) { return std::exchange(p.benutzer.SchließenVerlangt, false) && p.haupt->Schließen(); }
+
 /// A gesture in progress may be ahead of the net.
 bool IstGehalten(const Einblick &innen) {
     return !innen.projekt.Geändert || innen.lage.Gedrückt || innen.netz.Hält(innen.dokument);
@@ -198,6 +201,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t anz
     lauf.Zeile("load a.kwp");
     for (std::size_t i = 2; i + Schrittlänge <= 2 + schritte; i += Schrittlänge) {
         Gehen(lauf, spieler, {bytes[i], bytes[i + 1], bytes[i + 2], bytes[i + 3]});
+        if (IstGeschlossen(lauf.Läuft())) return 0;
         Halten(IstGehalten(lauf.Läuft().innen), "what no file has is in the safety net");
     }
     lauf.Zeile("draw");
