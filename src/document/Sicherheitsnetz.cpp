@@ -104,10 +104,23 @@ bool Sicherheitsnetz::Bereit() {
     std::error_code fehler;
     std::filesystem::create_directories(Pfad(ordner_), fehler);
     if (::mkdir(ordner_.c_str(), 0700) != 0 && errno != EEXIST) return false;
-    const std::string kennung = NeueKennung();
-    sperre_ = Sperren(Ort(kennung + std::string(Sperrendung)));
-    if (sperre_ >= 0) kennung_ = kennung;
+    constexpr int MeisteVersuche = 3; // between making and locking it another program may have swept it
+    for (int i = 0; i < MeisteVersuche && sperre_ < 0; ++i)
+        sperre_ = Sperren(Ort((kennung_ = NeueKennung()) + std::string(Sperrendung)));
+    if (sperre_ < 0) kennung_.clear();
+    else LeereSperrenFegen();
     return sperre_ >= 0;
+}
+
+/// Of programs that were killed. Documents without a lock are known as left all the same.
+void Sicherheitsnetz::LeereSperrenFegen() const {
+    for (const std::string &name : Namen()) {
+        if (!name.ends_with(Sperrendung) || name.starts_with(kennung_)) continue;
+        const int fd = Sperren(Ort(name));
+        if (fd < 0) continue;
+        ::unlink(Ort(name).c_str());
+        ::close(fd);
+    }
 }
 
 Dateibefund Sicherheitsnetz::Festhalten(const Dokument &dokument, const std::string &projektdatei,

@@ -59,6 +59,7 @@ class Sicherheitsnetz : public Versionswahrer {
 
   private:
     bool Bereit();
+    void LeereSperrenFegen() const;
     std::string Ort(const std::string &name) const { return ordner_ + "/" + name; }
     bool Lebt(const std::string &name) const;
     std::vector<std::string> Namen() const;
