@@ -145,9 +145,9 @@ bool Projekt::Nachführen() {
 
 bool Projekt::ProjektSchreiben(const std::string &datei) {
     std::string inhalt;
-    Dateibefund befund;
     // A file that is there but can't be read would lose its foreign keys: it isn't written either.
-    if (DateiVorhanden(datei)) befund = DateiLesen(datei, inhalt);
+    Dateibefund befund = DateiLesen(datei, inhalt);
+    if (befund.Grund == Ursache::FehltDatei) befund = {};
     if (befund.Gelungen()) {
         Profil profil(std::move(inhalt));
         ProjektEintragen(inhalt_.dokument, profil);

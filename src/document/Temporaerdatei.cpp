@@ -129,6 +129,7 @@ Temporärdatei::Temporärdatei(const std::string &ziel, mode_t modus) {
         // Between making and locking it another run may have taken it for a dead one's.
         const bool wirdGefegt = !Sperren(fd, LOCK_EX) && errno == EWOULDBLOCK;
         if (!wirdGefegt && StehtFür(name_, fd)) return;
+        ::unlink(name_.c_str()); // nobody else has that name
     }
     Scheitern(EEXIST);
 }

@@ -49,7 +49,7 @@ class Buch {
         schritt_ = zeilen;
         nein_ = nein_ || zeilen.find("answer no") != std::string::npos;
         if (!zeilen.starts_with("start")) return;
-        if (pflichtig_) erwartung_.Ältere.push_back(letzter_);
+        if (pflichtig_) erwartung_.Ältere.push_back(möglich_);
         pflichtig_ = false;
     }
     void Abschließen(const Dokumentstand &stand) {
@@ -99,7 +99,7 @@ std::string Projektdateifehler(const Erwartung &erwartung) {
 
 std::string Reste(const std::string &ordner) {
     for (const auto &datei : std::filesystem::directory_iterator(ordner))
-        if (const std::string name = datei.path().filename(); name.starts_with(".kw-"))
+        if (const std::string name = datei.path().filename(); name.starts_with(".kw-") || name.ends_with(".sperre"))
             return "stray after the next save: " + ordner + "/" + name;
     return {};
 }
@@ -119,8 +119,9 @@ Nachbefund Nachsehen(const Erwartung &erwartung, const std::string &netz) {
     const auto köpfe = rest.Einträge();
     std::vector<std::string> inhalte;
     for (const auto &kopf : köpfe) inhalte.push_back(rest.Lesen(kopf.Name).value_or(Netzeintrag{}).Inhalt);
+    const auto imNetz = [&](const std::string &stand) { return Enthält(inhalte, stand); };
     for (const auto &älterer : erwartung.Ältere)
-        if (!Enthält(inhalte, älterer)) return {"an earlier program's document is lost"};
+        if (std::none_of(älterer.begin(), älterer.end(), imNetz)) return {"an earlier program's document is lost"};
     const auto kandidaten = erwartung.EinesVon;
     for (size_t i = 0; i < inhalte.size(); ++i)
         if (köpfe[i].Was == Netzkopf::Art::Stand && Enthält(kandidaten, inhalte[i]))
@@ -159,8 +160,9 @@ std::string Neustarten(const Nachbefund &befund, const std::string &netz) {
     if (befund.Platz >= 0 && !innen.projekt.Geändert) return "what is opened counts as saved";
     for (const char *zeile : {"tool 1", "click 12 3", "save danach.kwp"}) wiedergabe.Zeile(zeile);
     if (!std::filesystem::exists("danach.kwp")) return "the next save fails: " + aus.str();
+    wiedergabe.Zeile("crash"); // its own lock goes with it
     const std::string hier = Reste(".");
-    return hier.empty() && std::filesystem::exists(netz) ? Reste(netz) : hier;
+    return hier.empty() ? Reste(netz) : hier;
 }
 
 } // namespace kw

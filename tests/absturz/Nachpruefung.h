@@ -11,7 +11,7 @@ namespace kw {
 struct Erwartung {
     /// Of these, the safety net or a project file must hold one; empty when nothing was unsaved.
     std::vector<std::string> EinesVon;
-    std::vector<std::string> Ältere; ///< of programs that ended before; the net must hold each
+    std::vector<std::vector<std::string>> Ältere; ///< of programs that ended before; the net must hold one of each
     struct Projektdatei {
         std::string Pfad;
         std::vector<std::string> Bytes; ///< one of them
