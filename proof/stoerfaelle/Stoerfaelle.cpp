@@ -144,6 +144,9 @@ void Fremd() {
     std::ofstream("p.kwp") << Dateiinhalt("q.kwp") << "[FREMD]\nx=" << ++nummer << '\n';
 }
 
+/// As before a first start's end, which adds all that is missing.
+void ErsteEinstellungen() { std::ofstream("prog.ini") << "[DEFAULT]\nlanguage=en\n"; }
+
 std::vector<Fall> Fälle() {
     const auto speichern = [](Hauptfenster &f) { Befehl(f, "mnuSpeichern"); };
     const auto unter = [](Hauptfenster &f) { Befehl(f, "mnuSichernUnter"); };
@@ -158,7 +161,7 @@ std::vector<Fall> Fälle() {
         {"PDF", Art::Ausgabe, "aus.pdf", "aus.pdf", [](Hauptfenster &f) { Befehl(f, "mnuPDF_Export"); }},
         {"picture", Art::Ausgabe, "aus.bmp", "aus.bmp", [](Hauptfenster &f) { Befehl(f, "mnuExportieren"); }},
         {"region", Art::Ausgabe, "aus.jpg", "aus.jpg", Ausschneiden},
-        {"settings", Art::Still, "prog.ini", "", [](Hauptfenster &f) { f.Beenden(); }},
+        {"settings", Art::Still, "prog.ini", "", [](Hauptfenster &f) { f.Beenden(); }, ErsteEinstellungen},
         {"net", Art::Netz, "", "", [](Hauptfenster &f) {
              Befehl(f, "cmdSymb(1)");
              Klicken(f, {600, 300});
@@ -370,7 +373,7 @@ int main(int argc, char **argv) {
     if (kind == 0) {
         UmgebungSetzen(ordner);
         fs::current_path(hier);
-        std::ofstream("prog.ini") << "[DEFAULT]\nlanguage=en\n";
+        ErsteEinstellungen();
         fs::copy_file(KW_TESTDATEN "/../samples/familie.kwp", "p.kwp");
         fs::copy_file(KW_TESTDATEN "/../samples/hochformat-a5.kwp", "q.kwp");
         ::setenv("KW_STOERFALL_HIER", "1", 1);

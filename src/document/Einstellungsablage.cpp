@@ -31,8 +31,9 @@ std::vector<std::string> Verfolgte(const Einstellungen &e) {
 
 Einstellungen Einstellungsablage::Lesen() {
     std::string inhalt;
-    if (!DateiVorhanden(datei_)) return {};
-    gesperrt_ = !DateiLesen(datei_, inhalt).Gelungen();
+    const Dateibefund befund = DateiLesen(datei_, inhalt);
+    if (befund.Grund == Ursache::FehltDatei) return {};
+    gesperrt_ = !befund.Gelungen();
     const Profil profil(std::move(inhalt));
     for (const auto &zeile : Einstellungstafel) bekannt_[zeile.Name].Datei = WertVon(profil, zeile.Name);
     return EinstellungenLesen(profil);
@@ -87,7 +88,9 @@ void Einstellungsablage::Eintragen(const Einstellungen &e, const Frage &fällig)
 /// True when the file holds the change.
 bool Einstellungsablage::Ändern(const std::function<void(Profil &)> &schreiben) const {
     std::string inhalt;
-    if (gesperrt_ || (DateiVorhanden(datei_) && !DateiLesen(datei_, inhalt).Gelungen())) return false;
+    // Only one that isn't there is an empty one: what else can't be read would lose its other keys.
+    const Dateibefund befund = DateiLesen(datei_, inhalt);
+    if (gesperrt_ || (!befund.Gelungen() && befund.Grund != Ursache::FehltDatei)) return false;
     Profil profil(inhalt);
     schreiben(profil);
     const auto neu = profil.Inhalt();
