@@ -73,7 +73,8 @@ Einstellungen EinstellungenAus(const std::string &datei) {
 
 void EinstellungenSchreiben(const Einstellungen &e, const std::string &datei) {
     std::string inhalt;
-    if (DateiVorhanden(datei) && !DateiLesen(datei, inhalt).Gelungen()) return;
+    const Dateibefund befund = DateiLesen(datei, inhalt);
+    if (!befund.Gelungen() && befund.Grund != Ursache::FehltDatei) return;
     OrdnerAnlegen(datei);
     Profil profil(std::move(inhalt));
     EinstellungenEintragen(e, profil);

@@ -2,6 +2,7 @@
 
 #include "document/Dateien.h"
 
+#include <system_error>
 #include <utility>
 
 namespace kw {
@@ -20,7 +21,11 @@ void Nachfluss::Wünschen(std::string pfad) {
         const std::lock_guard wache(riegel_);
         wunsch_ = std::move(pfad);
     }
-    if (!faden_.joinable()) faden_ = std::thread([this] { Arbeiten(); });
+    try {
+        if (!faden_.joinable()) faden_ = std::thread([this] { Arbeiten(); });
+    } catch (const std::system_error &) {
+        return; // no room for a thread: the next event tries again
+    }
     wecker_.notify_one();
 }
 

@@ -338,7 +338,8 @@ bool ProfilSchreiben(const std::string &datei, std::string_view abschnitt, std::
                      std::string_view wert) {
     std::string inhalt;
     // A file that is there and cannot be read must not be replaced by one that holds only this key.
-    if (!DateiLesen(datei, inhalt).Gelungen() && DateiVorhanden(datei)) return false;
+    const Dateibefund befund = DateiLesen(datei, inhalt);
+    if (!befund.Gelungen() && befund.Grund != Ursache::FehltDatei) return false;
     Profil profil(std::move(inhalt));
     if (schlüssel) {
         profil.Schreiben(abschnitt, *schlüssel, wert);

@@ -1,6 +1,6 @@
 // Kills sessions of the program at random moments, and looks whether what was on the page is still there:
-// absturz --runs 1000 --seed 1. Half of them are sessions of the replay, half of the real window. One alone, which isn't
-// killed: absturz --window SEED [FILE STEPS].
+// absturz --runs 1000 --seed 1. Half of them are sessions of the replay, half of the real window. One alone, which
+// isn't killed: absturz --window SEED [FILE STEPS].
 #include "absturz/Nachpruefung.h"
 #include "absturz/Sitzungen.h"
 
@@ -32,11 +32,14 @@ void UmgebungSetzen(const fs::path &ordner) {
     std::ofstream(schriften) << "<?xml version=\"1.0\"?><fontconfig><cachedir>" << (ordner / "schriften").string()
                              << "</cachedir><include>/etc/fonts/fonts.conf</include></fontconfig>";
     const fs::path lauf = ordner / "lauf";
-    const std::map<const char *, std::string> werte{
-        {"FONTCONFIG_FILE", schriften},     {"HOME", lauf},
-        {"XDG_STATE_HOME", lauf / "zustand"}, {"XDG_CONFIG_HOME", lauf / "konfig"},
-        {"XDG_CACHE_HOME", lauf / "cache"}, {"XDG_RUNTIME_DIR", ordner / "laufzeit"},
-        {"TMPDIR", ordner},                 {"QT_QPA_PLATFORM", "offscreen"}};
+    const std::map<const char *, std::string> werte{{"FONTCONFIG_FILE", schriften},
+                                                    {"HOME", lauf},
+                                                    {"XDG_STATE_HOME", lauf / "zustand"},
+                                                    {"XDG_CONFIG_HOME", lauf / "konfig"},
+                                                    {"XDG_CACHE_HOME", lauf / "cache"},
+                                                    {"XDG_RUNTIME_DIR", ordner / "laufzeit"},
+                                                    {"TMPDIR", ordner},
+                                                    {"QT_QPA_PLATFORM", "offscreen"}};
     for (const auto &[name, wert] : werte) ::setenv(name, wert.c_str(), 1);
     fs::create_directory(ordner / "laufzeit");
     fs::permissions(ordner / "laufzeit", fs::perms::owner_all);
@@ -125,7 +128,9 @@ class Fahrer {
         fs::remove_all(Netz);
         fs::rename("netz-vorher", Netz);
         if (ende != 0) return "the window's restart doesn't offer it: " + std::to_string(ende);
-        return kw::Sätze(geöffnet) == kw::Sätze(kw::AlsGeladen(befund.Inhalt)) ? "" : "what the window opens isn't what was kept";
+        return kw::Sätze(geöffnet) == kw::Sätze(kw::AlsGeladen(befund.Inhalt))
+                   ? ""
+                   : "what the window opens isn't what was kept";
     }
 
     fs::path ordner_;
@@ -140,7 +145,8 @@ int main(int argc, char **argv) {
     std::signal(SIGXFSZ, SIG_IGN);
     const std::string_view art = argc > 2 ? argv[1] : "";
     const auto saatAus = [&] { return static_cast<unsigned>(std::atoi(argv[2])); };
-    if (art == "--window") return kw::Fenstersitzung(saatAus(), argc > 3 ? argv[3] : "", argc > 4 ? std::atoi(argv[4]) : 2000);
+    if (art == "--window")
+        return kw::Fenstersitzung(saatAus(), argc > 3 ? argv[3] : "", argc > 4 ? std::atoi(argv[4]) : 2000);
     if (art == "--offer") return kw::Fensterneustart(std::atoi(argv[2]), "../gesagt");
 
     std::map<std::string, int> angaben{{"--runs", 30}, {"--seed", 1}};

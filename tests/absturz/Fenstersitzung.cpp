@@ -30,7 +30,8 @@ namespace {
 class Fensternutzer {
   public:
     Fensternutzer(Hauptfenster &fenster, unsigned saat, int schritte)
-        : schritte_(schritte), fenster_(fenster), fläche_(*fenster.findChild<Arbeitsflaeche *>()), innen_(fenster.Modell()), zufall_(saat) {}
+        : schritte_(schritte), fenster_(fenster), fläche_(*fenster.findChild<Arbeitsflaeche *>()),
+          innen_(fenster.Modell()), zufall_(saat) {}
 
     const Einblick &Innen() const { return innen_; }
 
@@ -60,8 +61,7 @@ class Fensternutzer {
     void ImKasten(QMessageBox &kasten) {
         const auto knöpfe = kasten.buttons();
         QAbstractButton *knopf = knöpfe[Würfel(knöpfe.size())];
-        if (kasten.standardButton(knopf) == QMessageBox::No)
-            Festhalten("answer no");
+        if (kasten.standardButton(knopf) == QMessageBox::No) Festhalten("answer no");
         knopf->click();
     }
     void BeimDateinamen(QFileDialog &dialog) {

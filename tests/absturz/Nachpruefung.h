@@ -19,7 +19,7 @@ struct Erwartung {
     };
     std::vector<Projektdatei> Dateien;
     std::vector<std::pair<std::string, std::string>> Gespeichert; ///< path and bytes that save the document
-    std::string Fehler; ///< the session broke a rule while it ran
+    std::string Fehler;                                           ///< the session broke a rule while it ran
 };
 Erwartung ErwartungAus(const std::vector<Eintrag> &protokoll);
 

@@ -19,12 +19,12 @@ Dokumentstand StandVon(const Einblick &innen);
 /// One thing that happened to a session, written down before or when it did; it outlives the session's kill.
 struct Eintrag {
     enum class Art : char {
-        Schritt = 'B',    ///< a step begins; `Bytes` are its lines
-        Fertig = 'S',     ///< nothing is in progress
-        InsNetz = 'N',    ///< the document is about to take its place in the safety net
+        Schritt = 'B',     ///< a step begins; `Bytes` are its lines
+        Fertig = 'S',      ///< nothing is in progress
+        InsNetz = 'N',     ///< the document is about to take its place in the safety net
         AnSeinenOrt = 'P', ///< `Bytes` are about to become file `Pfad`, a project or an export
-        AusDemNetz = 'U', ///< the safety net's document is about to go
-        Zuende = 'E',     ///< the session ended by itself
+        AusDemNetz = 'U',  ///< the safety net's document is about to go
+        Zuende = 'E',      ///< the session ended by itself
     };
     Art Was = Art::Zuende;
     Dokumentstand Stand;

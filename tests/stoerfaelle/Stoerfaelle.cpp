@@ -1,6 +1,6 @@
-// What the window does with files, each system call of it failing in turn. Afterwards the file is the old one or the new
-// one, what the user was told is true, and the next save leaves nothing stray.
-// stoerfaelle --every 1 tries them all, --every 7 each seventh; --only NAME one case.
+// What the window does with files, each system call of it failing in turn. Afterwards the file is the old one or the
+// new one, what the user was told is true, and the next save leaves nothing stray. stoerfaelle --every 1 tries them
+// all, --every 7 each seventh; --only NAME one case.
 #include "stoerfaelle/Systemstoerung.h"
 
 #include "app/Projekt.h"
@@ -159,7 +159,8 @@ std::vector<Fall> Fälle() {
         {"picture", Art::Ausgabe, "aus.bmp", "aus.bmp", [](Hauptfenster &f) { Befehl(f, "mnuExportieren"); }},
         {"region", Art::Ausgabe, "aus.jpg", "aus.jpg", Ausschneiden},
         {"settings", Art::Still, "prog.ini", "", [](Hauptfenster &f) { f.Beenden(); }},
-        {"net", Art::Netz, "", "", [](Hauptfenster &f) {
+        {"net", Art::Netz, "", "",
+         [](Hauptfenster &f) {
              Befehl(f, "cmdSymb(1)");
              Klicken(f, {600, 300});
          }},
@@ -223,8 +224,7 @@ class Prüfstand {
         aus.Geändert = innen_.projekt.Geändert;
         aus.Projektdatei = innen_.projekt.Projektdatei;
         aus.Dokument = Projekt(innen_);
-        aus.NetzGemeldet =
-            innen_.lage.Hinweis && innen_.lage.Hinweis->Englisch.find("safety net") != std::string::npos;
+        aus.NetzGemeldet = innen_.lage.Hinweis && innen_.lage.Hinweis->Englisch.find("safety net") != std::string::npos;
         return aus;
     }
 
@@ -257,7 +257,8 @@ class Prüfstand {
         ++Unwahr;
         return std::string("untrue: the file is ") + (istNeu ? "new" : "old") + ", told was: " + aus.Kästen;
     }
-    std::string Sicherungsfehler(const Fall &fall, const Ausgang &aus, bool istNeu, bool istAlt, const std::string &alt) {
+    std::string Sicherungsfehler(const Fall &fall, const Ausgang &aus, bool istNeu, bool istAlt,
+                                 const std::string &alt) {
         // Where it is written in place it can't be known what the file holds when the way back fails as well.
         if (!istAlt && aus.Gemeldet && fs::hard_link_count(fall.Ziel) > 1 && ImNetz(neu_) && ImNetz(alt)) return "";
         if (!istAlt && !istNeu) return "torn";
@@ -278,7 +279,8 @@ class Prüfstand {
 
     static bool IstGanz(const std::string &datei, const std::string &bytes) {
         if (!datei.ends_with(".pdf")) return !QImage::fromData(QByteArray::fromStdString(bytes)).isNull();
-        return bytes.starts_with("%PDF") && bytes.find("%%EOF", bytes.size() - std::min<size_t>(bytes.size(), 10)) != bytes.npos;
+        return bytes.starts_with("%PDF") &&
+               bytes.find("%%EOF", bytes.size() - std::min<size_t>(bytes.size(), 10)) != bytes.npos;
     }
     /// Whether the net has that document, whoever's it is.
     static bool ImNetz(const std::string &projekt) {
@@ -302,7 +304,8 @@ class Prüfstand {
     void Scheitern(const Fall &fall, const Störung &s, const std::string &wie) {
         if (++Fehler > 20) return;
         std::cout << "FAILED: " << fall.Name << ", " << s.Ruf << ' ' << s.Ab << (s.Immer ? "+" : "") << ' '
-                  << (s.Fehler != 0 ? strerrorname_np(s.Fehler) : "short") << ' ' << s.Platz << ": " << wie << std::endl;
+                  << (s.Fehler != 0 ? strerrorname_np(s.Fehler) : "short") << ' ' << s.Platz << ": " << wie
+                  << std::endl;
     }
 
     Hauptfenster &fenster_;
@@ -310,8 +313,8 @@ class Prüfstand {
     Ausgangslage lage_;
     const std::string projekt_ = fs::absolute("p.kwp").string();
     std::string vorher_; ///< the document
-    Ausgang glatt_;   ///< what comes of the case with nothing failing
-    std::string neu_; ///< the file then
+    Ausgang glatt_;      ///< what comes of the case with nothing failing
+    std::string neu_;    ///< the file then
     const int jede_;
     int nummer_ = 0;
 };

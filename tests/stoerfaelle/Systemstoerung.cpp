@@ -61,10 +61,10 @@ void StörungBeenden() { Jetzt().Läuft = false; }
 
 // Names and kinds are the library's.
 // NOLINTBEGIN
-#define STOERBAR(name, art, parameter, worte, gegenstand, sonst)                                                                   \
+#define STOERBAR(name, art, parameter, worte, gegenstand, sonst)                                                       \
     art name parameter {                                                                                               \
         static auto *const ruf = Eigentlich<art parameter>(nullptr, #name);                                            \
-        if (const auto fehler = Getroffen(#name, gegenstand); fehler && *fehler != 0) {                                            \
+        if (const auto fehler = Getroffen(#name, gegenstand); fehler && *fehler != 0) {                                \
             errno = *fehler;                                                                                           \
             return sonst;                                                                                              \
         }                                                                                                              \

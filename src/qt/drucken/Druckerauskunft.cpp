@@ -5,6 +5,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
 #include <thread>
 
 namespace kw {
@@ -34,7 +35,12 @@ Druckerstand Druckerauskunft::Erfragen(Geduld geduld) const {
     std::unique_lock schloss(g.sperre);
     if (!g.läuft && g.stand.Beantwortet && Uhrzeit::now() - g.wann < Haltbarkeit) return g.stand;
     const bool neu = !std::exchange(g.läuft, true);
-    if (neu) std::thread(Führen, gespräch_).detach(); // nothing can end it before its answer
+    try {
+        if (neu) std::thread(Führen, gespräch_).detach(); // nothing can end it before its answer
+    } catch (const std::system_error &) {
+        g.läuft = false; // no room for a thread: asked again later
+        return {};
+    }
     if (neu || geduld == Geduld::Lang)
         g.geantwortet.wait_for(schloss, geduld == Geduld::Lang ? LangeGeduld : KurzeGeduld, [&g] { return !g.läuft; });
     Druckerstand stand = g.stand;
