@@ -118,6 +118,7 @@ Nachbefund Nachsehen(const Erwartung &erwartung, const std::string &netz) {
     const Sicherheitsnetz rest(netz);
     const auto köpfe = rest.Einträge();
     std::vector<std::string> inhalte;
+    inhalte.reserve(köpfe.size());
     for (const auto &kopf : köpfe) inhalte.push_back(rest.Lesen(kopf.Name).value_or(Netzeintrag{}).Inhalt);
     const auto imNetz = [&](const std::string &stand) { return Enthält(inhalte, stand); };
     for (const auto &älterer : erwartung.Ältere)

@@ -115,6 +115,7 @@ std::vector<Eintrag> ProtokollLesen(const std::string &datei) {
 
 } // namespace kw
 
+// NOLINTBEGIN: the parameters' names are the library's elsewhere.
 extern "C" {
 
 int rename(const char *von, const char *nach) noexcept {
@@ -137,3 +138,4 @@ int unlink(const char *pfad) noexcept {
     return ruf(pfad);
 }
 }
+// NOLINTEND
