@@ -216,7 +216,7 @@ class Prüfstand {
     }
 
     Ausgang Laufen(const Fall &fall, const Störung &störung) {
-        constexpr unsigned Geduld = 60; // s; one that hangs ends all
+        constexpr unsigned Geduld = 300; // s, on a busy machine too; one that hangs ends all
         ::alarm(Geduld);
         innen_.lage.Hinweis = nullptr;
         Zuschauer zuschauer(fall);
