@@ -151,6 +151,7 @@ bewahrt() {
     { strace -f -o spur -e inject="$2:$3" "$programm" datei 40000 b netz x1 c77 >antwort; code=$?; } 2>/dev/null
     laeufe=$((laeufe + 1))
     [ "$(cat antwort)" != ok ] || code=0
+    [ -s antwort ] || code=137 # it said nothing: killed, or ended by a sanitizer whose own call failed
     if ist datei b 40000; then
         [ "$code" != 1 ] || scheitert "$text: said it failed, but the file is new"
     elif ist datei a 300 || ist datei c 77; then
