@@ -174,9 +174,7 @@ void Load(benchmark::State &zustand) {
     for (auto _ : zustand) {
         Dokument d;
         const Profil profil{std::string(inhalt)};
-        SeiteLesen(profil, d);
-        SpeicherLesen(profil, d);
-        LegendeLesen(profil, d);
+        ProjektLesen(profil, d);
         d.FreieNummernAufbauen();
         benchmark::DoNotOptimize(d);
     }

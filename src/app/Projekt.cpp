@@ -114,10 +114,7 @@ bool Projekt::Öffnen(const std::string &datei) {
 
 bool Projekt::ÖffnenMitFrage(const std::string &datei) {
     SpeichernAbgebrochen = false;
-    if (!IstDa(datei) || !NachÄnderungenFragen() || !Öffnen(datei)) return false;
-    inhalt_.zuletzt.Eintragen(datei);
-    umfeld_.anzeige.ChronikZeigen();
-    return true;
+    return IstDa(datei) && NachÄnderungenFragen() && Öffnen(datei);
 }
 
 bool Projekt::FassungÖffnen(const Netzeintrag &fassung) {
@@ -226,9 +223,7 @@ void Projekt::mnuÖffnen() {
     std::string ordner = LetzterOrdner(IniDatei);
     if (ordner.empty()) ordner = umfeld_.benutzer.Desktopordner();
     const auto datei = umfeld_.benutzer.DateiÖffnen({Text(ÖffnenTitel), "", Text(ÖffnenFilter), ordner});
-    if (!datei || !Öffnen(*datei)) return;
-    inhalt_.zuletzt.Eintragen(Projektdatei);
-    umfeld_.anzeige.ChronikZeigen();
+    if (datei) Öffnen(*datei); // which enters it among the recent ones
 }
 
 void Projekt::FreieNummernLeeren() {

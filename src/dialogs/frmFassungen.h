@@ -4,7 +4,6 @@
 #include "document/Netzeintrag.h"
 
 #include <memory>
-#include <set>
 #include <string>
 #include <vector>
 

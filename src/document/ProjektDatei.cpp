@@ -196,8 +196,6 @@ std::optional<Ladeschaden> Legendenschaden(const Profil &profil) {
     return Ladeschaden{Schadensart::FelderFehlen, Vorgaben, 0, Gelesen, anzahl};
 }
 
-} // namespace
-
 void SeiteLesen(const Profil &profil, Dokument &dokument) {
     dokument.Papiercode = PapiercodeAus(profil.Lesen(Vorgaben, "papersize")).value_or(dokument.Papiercode);
     const int lage = Ganzzahl16(ZahlLesen(profil.Lesen(Vorgaben, "orientation")));
@@ -205,10 +203,7 @@ void SeiteLesen(const Profil &profil, Dokument &dokument) {
     dokument.Seitenlage = lage < 1 || lage > GrößterByte ? 2 : lage;
 }
 
-void SpeicherLesen(const Profil &profil, Dokument &dokument) {
-    if (!Ladevorgang(profil, dokument).Lesen().BisZumEnde) throw FeldFehlt();
-}
-
+/// Throws when a field is missing; what was set before that stays.
 void LegendeLesen(const Profil &profil, Dokument &dokument) {
     const auto wert = profil.Lesen(Vorgaben, "legende");
     const Felder felder(wert);
@@ -217,6 +212,8 @@ void LegendeLesen(const Profil &profil, Dokument &dokument) {
     dokument.LegendeQuer = felder[LegendeFeld::Quer] == "1";
     dokument.LegendeSichtbar = felder[LegendeFeld::Sichtbar] == "1";
 }
+
+} // namespace
 
 Ladebefund ProjektLesen(const Profil &profil, Dokument &dokument) {
     SeiteLesen(profil, dokument);

@@ -80,7 +80,7 @@ TEST(ProjektDatei, LiestPapierUndLage) {
           Fall{"papersize=8\norientation=3", 5, 3}, Fall{"papersize=9 \norientation=-1x", 9, 2}}) {
         Dokument d;
         d.Papiercode = 5;
-        SeiteLesen(Profil("[DEFAULT]\n" + datei), d);
+        ProjektLesen(Profil("[DEFAULT]\n" + datei), d);
         EXPECT_EQ(d.Papiercode, papier) << datei;
         EXPECT_EQ(d.Seitenlage, lage) << datei;
     }
@@ -105,7 +105,7 @@ TEST(ProjektDatei, EinKurzerSatzBeendetDasLaden) {
 TEST(ProjektDatei, OhneLegendeBleibtWasWar) {
     Dokument d;
     const Profil alte("[OBJECTS]\n0=" + Person + "\n");
-    EXPECT_THROW(LegendeLesen(alte, d), FeldFehlt);
+    EXPECT_FALSE(ProjektLesen(alte, d).BisZumEnde);
     EXPECT_EQ(Geladen("[OBJECTS]\n0=" + Person + "\n", d), "") << "old files have no legend";
     EXPECT_EQ(Geladen("[DEFAULT]\nlegende=1_7\n", d), "DEFAULT legende: the legend needs 4 fields, has 2");
     EXPECT_EQ(d.LegendeX, 7) << "set before the missing field was met";
