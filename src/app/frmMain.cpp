@@ -41,7 +41,7 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       anzeige(bedienung, {dokument, ansicht, auswahl, lage, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster,
                           druck, import}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, plattform.drucker, *this),
-      hinweis(bedienung, plattform.benutzer),
+      hinweis(bedienung, plattform.benutzer), wegweiser(bedienung, {dokument, ansicht, auswahl, lage, ring}),
       bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
       netz(start.Netzordner),
       projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt, netz},
@@ -195,17 +195,29 @@ void frmMain::NachEreignis() {
     aufgegeben_ = false;
     Festhalten();
     anzeige.MöglichesZeigen();
+    wegweiser.Zeigen();
     plattform.benutzer.AnzeigeAuffrischen();
     einstellungsablage.Nachführen(AktuelleEinstellungen());
 }
 
 void frmMain::MouseDown(int taste, double x, double y) {
+    gedrückt_ = bereich.InRahmen(x, y, ansicht.SeitenBreite);
     leinwand.MouseDown(taste, x, y);
     NachEreignis();
 }
 
+void frmMain::DanebenGedrückt(int taste) {
+    leinwand.DanebenGedrückt(taste);
+    NachEreignis();
+}
+
+void frmMain::PaletteBerührt(int werkzeug) {
+    wegweiser.PaletteBerührt(werkzeug);
+    hinweis.PaletteBerührt(werkzeug);
+}
+
 void frmMain::MouseMove(int taste, double x, double y) {
-    hinweis.PaletteBerührt(0);
+    PaletteBerührt(0);
     leinwand.MouseMove(taste, x, y);
 }
 
@@ -225,6 +237,16 @@ void frmMain::GrößeÄndern(int breite, int höhe) {
     bereich.GrößeÄndern(breite, höhe);
     plattform.benutzer.AnzeigeAuffrischen();
 }
+
+void frmMain::MausradFolgen(Rahmenort zeiger) {
+    const int vorher = bereich.cboBildGröße.ListIndex;
+    bereich.MausradFolgen(zeiger);
+    if (bereich.cboBildGröße.ListIndex == vorher)
+        Absagen(bereich.KannVergrößern() ? Name::btnBildKleiner : Name::btnBildGrößer);
+    plattform.benutzer.AnzeigeAuffrischen();
+}
+
+bool frmMain::AmRandScrollen(Rahmenort zeiger) { return leinwand.Zieht() && bereich.AmRandScrollen(zeiger, gedrückt_); }
 
 void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
     leinwand.GesteAbbrechen();
@@ -250,11 +272,24 @@ bool frmMain::IstFrei(std::string_view name) const {
     return true;
 }
 
+/// Tells why a command can't be chosen, in place of what the last gesture came to.
+void frmMain::Absagen(std::string_view name) {
+    const Zweisprachig *grund = wegweiser.WarumGesperrt(name);
+    if (!grund) return;
+    lage.Hinweis = grund;
+    anzeige.MöglichesZeigen();
+    wegweiser.Zeigen();
+    plattform.benutzer.AnzeigeAuffrischen();
+}
+
 bool frmMain::BefehlAusführen(std::string_view name) {
     const Befehl befehl = BefehlFinden(name);
     if (!befehl) return false;
     if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
-    if (!IstFrei(name)) return false;
+    if (!IstFrei(name)) {
+        Absagen(name);
+        return false;
+    }
     leinwand.GesteAbbrechen();
     Befehlsumgebung umgebung = FürBefehle();
     befehl.Ausführen(umgebung, befehl.Nummer);

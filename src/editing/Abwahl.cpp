@@ -37,6 +37,18 @@ void AuswahlAufgeben(Werkbank &w) {
     MarkerEntfernen(w);
 }
 
+bool WerkzeugWeglegen(Werkbank &w) {
+    if (!EtwasInHand(w.lage)) return false;
+    w.lage.Aktion = Aktion::Nichts;
+    w.lage.Zeiger = Mauszeiger::Pfeil;
+    w.lage.PLinieUnterMaus = false;
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = false;
+    w.lage.PunktListe.clear();
+    PositionenVergessen(w.lage);
+    AuswahlAufgeben(w);
+    return true;
+}
+
 void PositionenVergessen(Leinwandlage &lage) {
     lage.PersAuswahl = lage.KreisAuswahl = 0;
     lage.TextAuswahl = lage.BezAuswahl = lage.PLinieAuswahl = lage.KindAuswahl = lage.PfeilAuswahl = -1;

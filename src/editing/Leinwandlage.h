@@ -109,4 +109,9 @@ struct Leinwandlage : Gestenlage {
     Gestenspur Spur;
 };
 
+/// Whether a tool, a link or the choice of a region of the picture waits for the page.
+inline bool EtwasInHand(const Leinwandlage &lage) {
+    return lage.BildAuswahl || IstWerkzeug(lage.Aktion) || IstLink(lage.Aktion);
+}
+
 } // namespace kw
