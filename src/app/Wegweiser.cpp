@@ -156,6 +156,7 @@ void Wegweiser::PaletteBerührt(int werkzeug) {
     if (werkzeug == berührt_) return;
     berührt_ = werkzeug;
     überholt_ = z_.lage.Hinweis;
+    bedienung_[Name::picToolTipp].Tipp = Aussehen();
     Zeigen();
 }
 
@@ -180,9 +181,15 @@ std::string Wegweiser::KnopfZeile() const {
     const auto mit = [&](const Zweisprachig &text) { return name + ": " + std::string(text.In(z_.ansicht.Sprache)); };
     if (!knopf.Enabled)
         if (const Zweisprachig *grund = WarumGesperrt(WerkzeugName(berührt_))) return mit(*grund);
+    const std::string_view aussehen = Aussehen();
+    return aussehen.empty() ? name : name + ": " + std::string(aussehen);
+}
+
+/// How the sign of the button under the pointer looks; empty where its picture says enough.
+std::string_view Wegweiser::Aussehen() const {
     const auto *zeichen = std::find_if(std::begin(AussehenUngeborener), std::end(AussehenUngeborener),
                                        [&](const Ungeborenes &z) { return z.Werkzeug == berührt_; });
-    return zeichen == std::end(AussehenUngeborener) ? name : mit(zeichen->Aussehen);
+    return zeichen == std::end(AussehenUngeborener) ? std::string_view() : zeichen->Aussehen.In(z_.ansicht.Sprache);
 }
 
 std::string Wegweiser::NächsterSchritt() const {

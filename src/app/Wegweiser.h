@@ -39,6 +39,7 @@ class Wegweiser {
   private:
     std::string Zeile() const;
     std::string KnopfZeile() const;
+    std::string_view Aussehen() const;
     std::string NächsterSchritt() const;
 
     Bedienelemente &bedienung_;

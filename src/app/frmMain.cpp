@@ -248,6 +248,11 @@ void frmMain::MausradFolgen(Rahmenort zeiger) {
 
 bool frmMain::AmRandScrollen(Rahmenort zeiger) { return leinwand.Zieht() && bereich.AmRandScrollen(zeiger, gedrückt_); }
 
+bool frmMain::BeimImportScrollen(Rahmenort zeiger) {
+    const Rahmenort mitte{bereich.picBack.Width / 2, bereich.picBack.Height / 2}; // it came from outside
+    return bereich.AmRandScrollen(zeiger, mitte);
+}
+
 void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
     leinwand.GesteAbbrechen();
     NichtsAuswählen(werkbank);

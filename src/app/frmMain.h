@@ -85,7 +85,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void GrößeÄndern(int breite, int höhe);
     void Scrollen(int hValue, int vValue) { bereich.Scrollen(hValue, vValue); }
     void ScrollenUm(int dx, int dy) { bereich.ScrollenUm(dx, dy); }
-    void MitRadScrollen(double rasten) { bereich.MitRadScrollen(rasten); }
+    void MitRadScrollen(double quer, double längs) { bereich.MitRadScrollen(quer, längs); }
     void SeiteFassen(Rahmenort hand) { bereich.SeiteFassen(hand); }
     void SeiteSchieben(Rahmenort hand) { bereich.SeiteSchieben(hand); }
     void LeistenSetzen(int dicke) { bereich.LeistenSetzen(dicke); }
@@ -94,6 +94,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     /// One step of scrolling, every `Arbeitsbereich::RandTakt`, while the left button drags something. False when
     /// nothing is dragged or everything stays; otherwise the pointer is over another place of the page now.
     bool AmRandScrollen(Rahmenort zeiger);
+    /// The same while a line of the import list is dragged over the frame.
+    bool BeimImportScrollen(Rahmenort zeiger);
 
     /// A project that another start or the desktop hands to this window, by its full path: opened as by the menu, with
     /// the question about changes. A gesture in progress ends as for a command. Nothing happens for an empty path.

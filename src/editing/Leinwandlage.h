@@ -16,7 +16,8 @@ constexpr double GrößeNormal = 1.2;   ///< cm; size of a new symbol
 constexpr double GrößeKlein = 0.6;    ///< of a new small symbol: pregnancy to abortion
 constexpr double BalkenAbstand = 1.8; ///< drop of a new partnership bar below the lower partner
 
-enum class Mauszeiger { Pfeil, Verschieben, Person, Textfeld, Kreuz };
+/// The pointer over the page. The hands are a face's own: ready to draw the page, and drawing it.
+enum class Mauszeiger { Pfeil, Verschieben, Person, Textfeld, Kreuz, Hand, Griff };
 
 /// What the panel `Frame1(0)` tells of the selected person.
 struct Personeninfo {

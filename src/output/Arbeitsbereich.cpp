@@ -173,10 +173,10 @@ bool Arbeitsbereich::ScrollenUm(int dx, int dy) {
     return HScroll1.Value != vorher.X || VScroll1.Value != vorher.Y;
 }
 
-void Arbeitsbereich::MitRadScrollen(double rasten) {
-    const int weg = static_cast<int>(Gerundet(rasten * Radschritt, 0));
-    if (VScroll1.Visible) ScrollenUm(0, -weg);
-    else ScrollenUm(-weg, 0);
+void Arbeitsbereich::MitRadScrollen(double quer, double längs) {
+    const auto weg = [](double rasten) { return static_cast<int>(Gerundet(-rasten * Radschritt, 0)); };
+    if (VScroll1.Visible) ScrollenUm(weg(quer), weg(längs));
+    else ScrollenUm(weg(quer + längs), 0);
 }
 
 void Arbeitsbereich::SeiteFassen(Rahmenort hand) {

@@ -87,8 +87,9 @@ class Arbeitsbereich {
     void Scrollen(int hValue, int vValue);
     /// Moves what is seen by that way, on an axis where the page doesn't fit. False when everything stays.
     bool ScrollenUm(int dx, int dy);
-    /// The same, by wheel notches or parts of them. Sideways where the page fits from top to bottom.
-    void MitRadScrollen(double rasten);
+    /// The same, by wheel notches or parts of them, towards the left and upwards. What would go up and down goes
+    /// sideways where the page fits from top to bottom.
+    void MitRadScrollen(double quer, double längs);
 
     /// The hand takes the page, and draws it: the place that it took stays under it, as far as the scroll bars reach.
     void SeiteFassen(Rahmenort hand);

@@ -68,7 +68,7 @@ void Rad(Programm &p, const Wörter &w) {
 
 /// `up` or `down`: a notch of the wheel that scrolls. Two numbers: two fingers, twips.
 void Scrollen(Programm &p, const Wörter &w) {
-    if (w.size() == 2) p.haupt->MitRadScrollen(NachOben(w[1]) ? 1 : -1);
+    if (w.size() == 2) p.haupt->MitRadScrollen(0, NachOben(w[1]) ? 1 : -1);
     else p.haupt->ScrollenUm(Zahl(Wort(w, 1)), Zahl(Wort(w, 2)));
 }
 

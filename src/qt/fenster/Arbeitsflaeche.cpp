@@ -2,21 +2,24 @@
 
 #include "app/frmMain.h"
 #include "editing/Leinwandlage.h"
+#include "platform/Befehlsnamen.h"
 #include "qt/fenster/Importliste.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "qt/malen/LeinwandFlaeche.h"
+#include "qt/malen/Seitenhinweis.h"
 #include "qt/malen/Zeigerbild.h"
 
 #include <QDropEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
+#include <QPointingDevice>
 #include <QResizeEvent>
 #include <QSignalBlocker>
-#include <QTimer>
 #include <QWheelEvent>
 
 #include <cmath>
@@ -63,6 +66,8 @@ Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand),
         leiste->hide();
         connect(leiste, &QScrollBar::valueChanged, this, [this] { Scrollen(); });
     }
+    rand_.setInterval(Arbeitsbereich::RandTakt);
+    connect(&rand_, &QTimer::timeout, this, [this] { AmRandScrollen(); });
     // Below the model's least size frame and bars would stand outside.
     const QSize fehlt = QSize(Arbeitsbereich::KleinsteBreite, Arbeitsbereich::KleinsteHöhe) - Innengröße();
     setMinimumSize(size() + (fehlt + QSize(TwipsJePixel - 1, TwipsJePixel - 1)) / TwipsJePixel);
@@ -71,6 +76,7 @@ Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand),
 void Arbeitsflaeche::Verbinden(frmMain &haupt, std::function<void()> erstesBild) {
     haupt_ = &haupt;
     anblick_ = &haupt.DerAnblick();
+    haupt.LeistenSetzen(vScroll_.sizeHint().width() * TwipsJePixel);
     erstesBild_ = std::move(erstesBild);
 }
 
@@ -150,20 +156,112 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     p.translate(seite.topLeft());
     p.drawImage(QPointF(), leinwand_.Bild());
     AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, seite.width() / anblick_->ansicht.SeitenBreite);
+    if (!erstesBild_) EinstiegMalen(p, seite.intersected(rahmen & QRectF(rect())).translated(-seite.topLeft()));
     if (auto erstesBild = std::exchange(erstesBild_, nullptr)) QTimer::singleShot(0, this, erstesBild);
 }
 
+/// How to begin, in grey, where the page shows. Only here: no picture and no print has it. `feld` is what shows of the
+/// page, in the painter's units.
+void Arbeitsflaeche::EinstiegMalen(QPainter &p, const QRectF &feld) const {
+    const Bedienelement &einstieg = anblick_->bedienung[Name::lblEinstieg];
+    if (einstieg.Visible) HinweisAufSeite(p, feld, Text(einstieg.Caption), font());
+}
+
+Rahmenort Arbeitsflaeche::ImRahmen(QPointF ort) const {
+    const QPointF twips = ort * TwipsJePixel;
+    return {static_cast<int>(std::lround(twips.x())) - anblick_->bereich.picBack.Left,
+            static_cast<int>(std::lround(twips.y()))};
+}
+
+/// The page has moved under a pointer that rests: what is dragged, and rubber lines, follow it.
+void Arbeitsflaeche::SeiteUnterZeigerMelden() {
+    Auffrischen();
+    if (imModell_) return;
+    const QPointF cm = InCm(ort_);
+    Melden([&] { haupt_->MouseMove(Tastencode(taste_), cm.x(), cm.y()); });
+}
+
+/// The wheel zooms. With Shift it scrolls, with Alt sideways, as a tilted one does; two fingers do both.
 void Arbeitsflaeche::wheelEvent(QWheelEvent *ereignis) {
     ereignis->accept();
-    radrest_ += ereignis->angleDelta().y();
-    if (std::abs(radrest_) < Raste) return; // part of a notch, or none
+    if (!haupt_) return;
+    ort_ = ereignis->position();
+    QPoint drehung = ereignis->angleDelta();
+    const Qt::KeyboardModifiers dazu = ereignis->modifiers();
+    if (dazu & Qt::AltModifier && drehung.x() == 0) drehung = drehung.transposed(); // some platforms did so already
+    const QPoint finger = ereignis->pixelDelta();
+    const bool tastfeld = !finger.isNull() || ereignis->device()->type() == QInputDevice::DeviceType::TouchPad;
+    const bool quer = std::abs(drehung.x()) > std::abs(drehung.y());
+    if (dazu & Qt::ControlModifier || !(dazu & Qt::ShiftModifier || tastfeld || quer))
+        return ZoomVormerken(drehung.y());
+    const QPointF rasten = QPointF(drehung) / Raste;
+    if (!finger.isNull()) haupt_->ScrollenUm(-finger.x() * TwipsJePixel, -finger.y() * TwipsJePixel);
+    else if (dazu & Qt::ShiftModifier && !quer) haupt_->MitRadScrollen(0, rasten.y());
+    else haupt_->MitRadScrollen(rasten.x(), tastfeld ? rasten.y() : 0);
+    SeiteUnterZeigerMelden();
+}
+
+/// Counts whole notches; the page is drawn when no more wait.
+void Arbeitsflaeche::ZoomVormerken(int drehung) {
+    radrest_ += drehung;
+    if (std::abs(radrest_) < Raste) return;
     for (; std::abs(radrest_) >= Raste; radrest_ -= radrest_ > 0 ? Raste : -Raste) haupt_->MausradZählen(radrest_ > 0);
-    // The page is drawn when no more notches wait.
     if (!std::exchange(zoomSteht_, true))
         QTimer::singleShot(0, this, [this] {
             zoomSteht_ = false;
-            haupt_->MausradFolgen();
+            haupt_->MausradFolgen(ImRahmen(ort_));
+            SeiteUnterZeigerMelden();
         });
+}
+
+/// The middle button, or Space and the left one, take the page in hand.
+bool Arbeitsflaeche::SchiebenBeginnen(const QMouseEvent &ereignis) {
+    const bool links = ereignis.button() == Qt::LeftButton;
+    if (leer_ && links) leerVerbraucht_ = true;
+    if (!haupt_ || imModell_ || taste_ != Qt::NoButton || schiebt_ != Qt::NoButton) return schiebt_ != Qt::NoButton;
+    if (ereignis.button() != Qt::MiddleButton && !(leer_ && links)) return false;
+    schiebt_ = ereignis.button();
+    ort_ = ereignis.position();
+    haupt_->SeiteFassen(ImRahmen(ort_));
+    ZeigerSetzen();
+    return true;
+}
+
+void Arbeitsflaeche::SchiebenBeenden() {
+    schiebt_ = Qt::NoButton;
+    ZeigerSetzen();
+}
+
+void Arbeitsflaeche::AmRandScrollen() {
+    if (imModell_) return;
+    const Rahmenort zeiger = ImRahmen(ort_);
+    if (importzeile_ ? haupt_->BeimImportScrollen(zeiger) : haupt_->AmRandScrollen(zeiger)) {
+        if (importzeile_) Auffrischen();
+        else SeiteUnterZeigerMelden();
+    }
+}
+
+void Arbeitsflaeche::keyPressEvent(QKeyEvent *ereignis) {
+    if (ereignis->key() != Qt::Key_Space || ereignis->modifiers() != Qt::NoModifier)
+        return QWidget::keyPressEvent(ereignis);
+    if (ereignis->isAutoRepeat()) return;
+    leer_ = true;
+    leerVerbraucht_ = taste_ == Qt::LeftButton;
+    ZeigerSetzen();
+}
+
+void Arbeitsflaeche::keyReleaseEvent(QKeyEvent *ereignis) {
+    if (ereignis->key() != Qt::Key_Space) return QWidget::keyReleaseEvent(ereignis);
+    if (ereignis->isAutoRepeat()) return;
+    leer_ = false;
+    ZeigerSetzen();
+    if (!leerVerbraucht_) QWidget::keyReleaseEvent(ereignis);
+}
+
+void Arbeitsflaeche::focusOutEvent(QFocusEvent *ereignis) {
+    leer_ = false;
+    ZeigerSetzen();
+    QWidget::focusOutEvent(ereignis);
 }
 
 /// Hands the model an event. What it opens then (a popup, a box) runs a loop of its own, which can outlive this
@@ -184,16 +282,21 @@ bool Arbeitsflaeche::Melden(const std::function<void()> &ereignis) {
 /// A press and a double click.
 void Arbeitsflaeche::Drücken(QMouseEvent &ereignis, const std::function<void(QPointF)> &melden) {
     ereignis.accept();
+    if (SchiebenBeginnen(ereignis)) return setFocus(Qt::MouseFocusReason);
     if (!haupt_ || imModell_ || Tastencode(ereignis.button()) == TasteKeine) return;
     if (taste_ != Qt::NoButton && ereignis.buttons() & taste_) return;
     if (!Loslassen()) return;
     setFocus(Qt::MouseFocusReason);
-    if (!Seite().contains(ereignis.position())) return; // a gesture may leave the page, but begins on it
+    if (!Seite().contains(ereignis.position())) { // a gesture may leave the page, but begins on it
+        Melden([&] { haupt_->DanebenGedrückt(Tastencode(ereignis.button())); });
+        return;
+    }
     const QPointF cm = InCm(ereignis.position());
     // The model also judges by the last move, which a popup or a box over the page may have kept from us.
     if (std::exchange(ort_, ereignis.position()) != ereignis.position())
         Melden([&] { haupt_->MouseMove(TasteKeine, cm.x(), cm.y()); });
     taste_ = ereignis.button();
+    if (taste_ == Qt::LeftButton) rand_.start();
     const bool unten = QGuiApplication::mouseButtons() & taste_;
     if (!Melden([&] { melden(cm); })) return;
     if (unten && !(QGuiApplication::mouseButtons() & taste_)) Loslassen(); // the popup has swallowed the release
@@ -211,6 +314,12 @@ void Arbeitsflaeche::mouseDoubleClickEvent(QMouseEvent *ereignis) {
 
 void Arbeitsflaeche::mouseMoveEvent(QMouseEvent *ereignis) {
     if (!haupt_ || imModell_) return;
+    if (schiebt_ != Qt::NoButton) {
+        if (!(ereignis->buttons() & schiebt_)) return SchiebenBeenden();
+        ort_ = ereignis->position();
+        haupt_->SeiteSchieben(ImRahmen(ort_));
+        return SeiteUnterZeigerMelden();
+    }
     if (!(ereignis->buttons() & taste_) && !Loslassen()) return; // it went up where nobody told
     ort_ = ereignis->position();
     const QPointF cm = InCm(ort_);
@@ -218,6 +327,7 @@ void Arbeitsflaeche::mouseMoveEvent(QMouseEvent *ereignis) {
 }
 
 void Arbeitsflaeche::mouseReleaseEvent(QMouseEvent *ereignis) {
+    if (schiebt_ != Qt::NoButton && ereignis->button() == schiebt_) return SchiebenBeenden();
     if (!haupt_ || imModell_ || taste_ == Qt::NoButton || ereignis->button() != taste_) return;
     ort_ = ereignis->position();
     Loslassen();
@@ -225,6 +335,7 @@ void Arbeitsflaeche::mouseReleaseEvent(QMouseEvent *ereignis) {
 
 /// The button of the gesture is up, at the place of the last event. False when this widget is gone.
 bool Arbeitsflaeche::Loslassen() {
+    rand_.stop();
     const Qt::MouseButton taste = std::exchange(taste_, Qt::NoButton);
     if (taste == Qt::NoButton) return true;
     const QPointF cm = InCm(ort_);
@@ -233,15 +344,25 @@ bool Arbeitsflaeche::Loslassen() {
 
 /// Every place is asked for anew, so that the pointer tells where a row of the import list can be dropped.
 void Arbeitsflaeche::dragEnterEvent(QDragEnterEvent *ereignis) {
-    if (haupt_ && GezogeneZeile(*ereignis->mimeData())) ereignis->accept();
+    if (!haupt_ || !GezogeneZeile(*ereignis->mimeData())) return;
+    ereignis->accept();
+    importzeile_ = true;
+    ort_ = ereignis->position();
+    rand_.start();
+}
+
+void Arbeitsflaeche::dragLeaveEvent(QDragLeaveEvent *) {
+    importzeile_ = false;
+    rand_.stop();
 }
 
 void Arbeitsflaeche::dragMoveEvent(QDragMoveEvent *ereignis) {
-    const QPointF ort = ereignis->position();
+    const QPointF ort = ort_ = ereignis->position();
     ereignis->setAccepted(haupt_ && AufSeite(ort) && !childAt(ort.toPoint()));
 }
 
 void Arbeitsflaeche::dropEvent(QDropEvent *ereignis) {
+    dragLeaveEvent(nullptr);
     const auto zeile = GezogeneZeile(*ereignis->mimeData());
     if (!zeile || imModell_) return;
     ereignis->accept();
@@ -250,8 +371,15 @@ void Arbeitsflaeche::dropEvent(QDropEvent *ereignis) {
     Melden([&] { haupt_->ImportzeileAblegen(*zeile, cm.x(), cm.y()); });
 }
 
+Mauszeiger Arbeitsflaeche::Zeiger() const {
+    if (schiebt_ != Qt::NoButton) return Mauszeiger::Griff;
+    if (leer_) return Mauszeiger::Hand;
+    return AufSeite(ort_) ? anblick_->lage.Zeiger : Mauszeiger::Pfeil;
+}
+
 void Arbeitsflaeche::ZeigerSetzen() {
-    const Mauszeiger zeiger = AufSeite(ort_) ? anblick_->lage.Zeiger : Mauszeiger::Pfeil;
+    if (!anblick_) return;
+    const Mauszeiger zeiger = Zeiger();
     if (zeiger == zeiger_ && zeigerverhältnis_ == devicePixelRatioF()) return;
     zeiger_ = zeiger;
     zeigerverhältnis_ = devicePixelRatioF();

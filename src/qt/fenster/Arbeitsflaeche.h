@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QScrollBar>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -11,6 +12,7 @@ class LeinwandFläche;
 class frmMain;
 enum class Mauszeiger;
 struct Anblick;
+struct Rahmenort;
 
 /// The inside of the main window: the dark frame, the page with its shadow, the overlay shapes, the scroll bars.
 /// Shows what the model's work area says, in pixels; the model's inner area begins above and ends below it, so
@@ -25,6 +27,8 @@ class Arbeitsflaeche : public QWidget {
     void Auffrischen();
     /// The model's inner size for this widget's size, in twips.
     QSize Innengröße() const;
+    /// Whether the left button was pressed since Space went down: its release then means nothing else.
+    bool LeertasteVerbraucht() const { return leerVerbraucht_; }
 
   protected:
     void paintEvent(QPaintEvent *) override;
@@ -34,8 +38,12 @@ class Arbeitsflaeche : public QWidget {
     void mouseMoveEvent(QMouseEvent *ereignis) override;
     void mouseReleaseEvent(QMouseEvent *ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent *ereignis) override;
+    void keyPressEvent(QKeyEvent *ereignis) override;
+    void keyReleaseEvent(QKeyEvent *ereignis) override;
+    void focusOutEvent(QFocusEvent *ereignis) override;
     void dragEnterEvent(QDragEnterEvent *ereignis) override;
     void dragMoveEvent(QDragMoveEvent *ereignis) override;
+    void dragLeaveEvent(QDragLeaveEvent *ereignis) override;
     void dropEvent(QDropEvent *ereignis) override;
 
   private:
@@ -47,7 +55,15 @@ class Arbeitsflaeche : public QWidget {
     void Drücken(QMouseEvent &ereignis, const std::function<void(QPointF cm)> &melden);
     bool Loslassen();
     bool Melden(const std::function<void()> &ereignis);
+    void EinstiegMalen(QPainter &p, const QRectF &feld) const;
     void ZeigerSetzen();
+    Mauszeiger Zeiger() const;
+    Rahmenort ImRahmen(QPointF ort) const;
+    void SeiteUnterZeigerMelden();
+    bool SchiebenBeginnen(const QMouseEvent &ereignis);
+    void SchiebenBeenden();
+    void ZoomVormerken(int drehung);
+    void AmRandScrollen();
     void LeisteStellen(QScrollBar &leiste, const struct Bildlaufleiste &modell);
     void Scrollen();
 
@@ -57,11 +73,16 @@ class Arbeitsflaeche : public QWidget {
     std::function<void()> erstesBild_;
     QScrollBar vScroll_{Qt::Vertical, this};
     QScrollBar hScroll_{Qt::Horizontal, this};
-    bool zoomSteht_ = false;               ///< notches of the wheel wait to be followed
-    int radrest_ = 0;                      ///< eighths of a degree that make no notch yet
-    Qt::MouseButton taste_ = Qt::NoButton; ///< the button that is down on the canvas; another one doesn't count
-    QPointF ort_;                          ///< of the last event, pixels
-    bool imModell_ = false;                ///< an event is being worked on, perhaps in a popup's loop
+    bool zoomSteht_ = false;                 ///< notches of the wheel wait to be followed
+    int radrest_ = 0;                        ///< eighths of a degree that make no notch yet
+    Qt::MouseButton taste_ = Qt::NoButton;   ///< the button that is down on the canvas; another one doesn't count
+    QPointF ort_;                            ///< of the last event, pixels
+    Qt::MouseButton schiebt_ = Qt::NoButton; ///< the button that draws the page
+    bool leer_ = false;                      ///< Space is held down
+    bool leerVerbraucht_ = false;
+    QTimer rand_;              ///< runs while something is dragged
+    bool importzeile_ = false; ///< and that is a line of the import list
+    bool imModell_ = false;    ///< an event is being worked on, perhaps in a popup's loop
     Mauszeiger zeiger_;
     double zeigerverhältnis_ = 0; ///< resolution of the pointer's picture
 };
