@@ -97,15 +97,16 @@ constexpr Zweisprachig LeereSeite{"Links ein Symbol anklicken, dann auf die Seit
 constexpr Zweisprachig Untätig{"Ein Klick wählt aus, ein Rahmen mehrere; rechte Taste: Menü",
                                "Click to select, drag a frame for several; right button: menu"};
 
-constexpr Zweisprachig Einstieg{
-    "So beginnt ein Genogramm\n"
-    "Links ein Symbol anklicken, dann hier auf die Seite: Dort steht die Person.\n"
-    "Ein Doppelklick auf sie öffnet ihr Formular für Namen und Daten.\n"
-    "Wieder links: Linien zu Partnern und Eltern. Die Zeile ganz unten sagt, was folgt.",
-    "How to begin a genogram\n"
-    "Click a symbol at the left, then here on the page: the person stands there.\n"
-    "A double-click opens the form for names and dates.\n"
-    "Again at the left: lines to partners and parents. The row below tells what comes next."};
+constexpr Zweisprachig Einstieg{"So beginnt ein Genogramm\n"
+                                "Links ein Symbol anklicken, dann hier auf die Seite: Dort steht die Person.\n"
+                                "Ein Doppelklick auf sie öffnet das Formular für Namen und Daten.\n"
+                                "Eine Person anklicken, links eine Linie wählen, dann ihr Ziel anklicken.\n"
+                                "Die Zeile ganz unten sagt, was als Nächstes kommt; F1 öffnet die Anleitung.",
+                                "How to begin a genogram\n"
+                                "Click a symbol at the left, then here on the page: the person stands there.\n"
+                                "A double-click on it opens the form for names and dates.\n"
+                                "Click a person, choose a line at the left, then click its target.\n"
+                                "The row at the bottom tells what comes next; F1 opens the manual."};
 
 /// How the signs of the unborn look, which differ in little.
 struct Ungeborenes {

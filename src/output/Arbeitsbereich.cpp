@@ -148,8 +148,9 @@ void Arbeitsbereich::BildlaufleistenSetzen() {
 
 /// A canvas that fits is centred in what shows and has no scroll bar; one that doesn't goes back to its resting place.
 void Arbeitsbereich::ArbeitsbereichAnordnen() {
-    VScroll1.Visible = canvas_.Height() + LuftHöhe > std::min(picBack.Height, SichtHöhe());
-    HScroll1.Visible = canvas_.Width() + LuftBreite > std::min(picBack.Width, SichtBreite()); // beside the other bar
+    VScroll1.Visible = HScroll1.Visible = true; // what shows beside the bars
+    VScroll1.Visible = canvas_.Height() + LuftHöhe > SichtHöhe();
+    HScroll1.Visible = canvas_.Width() + LuftBreite > SichtBreite();
     const auto anfang = [](int canvas, int sicht, Bildlaufleiste &leiste) {
         leiste.Value = 0;
         return leiste.Visible ? Ruhelage : (sicht - canvas) / 2;

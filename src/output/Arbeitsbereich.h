@@ -101,8 +101,8 @@ class Arbeitsbereich {
     bool AmRandScrollen(Rahmenort zeiger, Rahmenort gedrückt);
     static constexpr int RandTakt = 30; ///< ms between two such steps
 
-    /// How thick a face's scroll bars are, twips. From then on the page is centred in what shows, which ends before the
-    /// frame does or goes on behind it; without a face the frame itself is what shows.
+    /// How thick a face's scroll bars are, twips. From then on the page fits, and is centred, in what shows, which ends
+    /// before the frame does or goes on behind it; without a face the frame itself is what shows.
     void LeistenSetzen(int dicke);
     /// Where a place of the page is in the frame; `seitenBreite` in the same unit, cm.
     Rahmenort InRahmen(double x, double y, double seitenBreite) const;

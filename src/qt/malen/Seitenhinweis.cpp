@@ -13,14 +13,16 @@ namespace {
 
 constexpr QColor Grau{112, 112, 112}; ///< to be read on white, and no more than that
 constexpr double Rand = 24;           ///< logical pixels, as below
-constexpr double Breiteste = 36;      ///< widths of an "m"
+constexpr double Breiteste = 50;      ///< widths of an "m"
 constexpr double Überschrift = 1.3;
+constexpr double Höchste = 1e4;
 constexpr double KleinsteSchrift = 0.5;
 
 struct Absatz {
+    QString Nummer;
     QString Text;
     QFont Schrift;
-    QRectF Feld; ///< from the first one's top on
+    QRectF Feld; ///< from the first one's corner on; the number stands at its left
 };
 
 /// The lines one below the other, broken at that width; the fonts by that much of their size.
@@ -34,10 +36,12 @@ std::vector<Absatz> Gesetzt(const QStringList &zeilen, const QFont &schrift, dou
         const double größe = anteil * (oben ? Überschrift : 1);
         if (schrift.pointSizeF() > 0) eigene.setPointSizeF(schrift.pointSizeF() * größe);
         else eigene.setPixelSize(std::max(1, static_cast<int>(schrift.pixelSize() * größe)));
-        const QString text = oben ? zeilen[i] : QString::number(i) + QStringLiteral(".  ") + zeilen[i];
         const QFontMetricsF maß(eigene);
-        const double höhe = maß.boundingRect(QRectF(0, 0, breite, 1e4), Qt::TextWordWrap, text).height();
-        absätze.push_back({text, eigene, {0, y, breite, höhe}});
+        const double einzug = oben ? 0 : maß.horizontalAdvance(QStringLiteral("9.  "));
+        const QRectF platz(einzug, y, breite - einzug, Höchste);
+        const double höhe = maß.boundingRect(platz, Qt::TextWordWrap, zeilen[i]).height();
+        absätze.push_back(
+            {oben ? QString() : QString::number(i) + u'.', zeilen[i], eigene, {einzug, y, breite - einzug, höhe}});
         y += höhe + maß.height() / 2;
     }
     return absätze;
@@ -55,12 +59,14 @@ void HinweisAufSeite(QPainter &p, const QRectF &feld, const QString &text, const
         absätze = Gesetzt(zeilen, schrift, anteil, breite);
         if (absätze.back().Feld.bottom() <= innen.height()) break;
     }
-    const QPointF ecke = innen.center() - QPointF(absätze.back().Feld.width(), absätze.back().Feld.bottom()) / 2;
+    const QPointF ecke = innen.center() - absätze.back().Feld.bottomRight() / 2;
     p.save();
     p.setClipRect(feld, Qt::IntersectClip);
     p.setPen(Grau);
     for (const Absatz &absatz : absätze) {
         p.setFont(absatz.Schrift);
+        p.drawText(QRectF(ecke.x(), ecke.y() + absatz.Feld.top(), absatz.Feld.left(), absatz.Feld.height()),
+                   Qt::AlignLeft | Qt::AlignTop, absatz.Nummer);
         p.drawText(absatz.Feld.translated(ecke), Qt::TextWordWrap, absatz.Text);
     }
     p.restore();
