@@ -240,9 +240,11 @@ void frmMain::GrößeÄndern(int breite, int höhe) {
 
 void frmMain::MausradFolgen(Rahmenort zeiger) {
     const int vorher = bereich.cboBildGröße.ListIndex;
+    lage.Hinweis = nullptr;
     bereich.MausradFolgen(zeiger);
     if (bereich.cboBildGröße.ListIndex == vorher)
         Absagen(bereich.KannVergrößern() ? Name::btnBildKleiner : Name::btnBildGrößer);
+    wegweiser.Zeigen();
     plattform.benutzer.AnzeigeAuffrischen();
 }
 

@@ -149,14 +149,16 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     // The page shows up to the scroll bars, which stand a little outside the frame that it is laid out in.
     const QRectF rahmen = Fläche(b.picBack).translated(0, -Pixel(FrameOben));
     const double unten = b.HScroll1.Visible ? Pixel(b.HScroll1.Top - FrameOben) : height();
-    p.setClipRect(QRectF(rahmen.left(), 0, width() - rahmen.left(), unten));
+    const double rechts = b.VScroll1.Visible ? Pixel(b.VScroll1.Left) : width();
+    const QRectF sicht(rahmen.left(), 0, rechts - rahmen.left(), unten);
+    p.setClipRect(sicht);
     p.fillRect(Fläche(b.shpSchatten).translated(rahmen.topLeft()), Schatten);
     const QRectF seite = Seite();
     AufPixelRücken(p, seite.topLeft());
     p.translate(seite.topLeft());
     p.drawImage(QPointF(), leinwand_.Bild());
     AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, seite.width() / anblick_->ansicht.SeitenBreite);
-    if (!erstesBild_) EinstiegMalen(p, seite.intersected(rahmen & QRectF(rect())).translated(-seite.topLeft()));
+    if (!erstesBild_) EinstiegMalen(p, (seite & sicht).translated(-seite.topLeft()));
     if (auto erstesBild = std::exchange(erstesBild_, nullptr)) QTimer::singleShot(0, this, erstesBild);
 }
 
