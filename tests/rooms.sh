@@ -27,7 +27,7 @@ floors_within() {
     editing)
         printf '%s\n' 'Ablage Auflagen Fensterdienste Geometrie' 'Gruppenart Leinwandlage' Werkbank 'Gesten Marker' Abwahl
         printf '%s\n' Linien+Linienzug Kinder+Zwillinge 'Personen+Symbolgroesse Pfeile Kreislinien Texte Legende Bildausschnitt'
-        printf '%s\n' Gruppe Zwischenablage 'Leinwand Werkzeuge'
+        printf '%s\n' 'Gruppe Elemente' Zwischenablage 'Leinwand Werkzeuge'
         ;;
     qt) printf '%s\n' grund/ malen/ 'drucken/ formulare/' fenster/ start/ ;;
     esac
