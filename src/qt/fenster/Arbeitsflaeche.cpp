@@ -245,13 +245,13 @@ bool Arbeitsflaeche::TasteMelden(const Tastendruck &taste) {
 }
 
 void Arbeitsflaeche::keyPressEvent(QKeyEvent *ereignis) {
-    const auto taste = TasteVon(*ereignis);
+    const auto taste = hasFocus() ? TasteVon(*ereignis) : std::nullopt; // the palette's come by here too
     if (taste && taste->Ist(Taste::F, true)) return SucheÖffnen();
     if (!taste || !TasteMelden(*taste)) ereignis->ignore();
 }
 
 void Arbeitsflaeche::keyReleaseEvent(QKeyEvent *ereignis) {
-    if (ereignis->key() != Qt::Key_Space || ereignis->isAutoRepeat() || !haupt_ || imModell_)
+    if (ereignis->key() != Qt::Key_Space || ereignis->isAutoRepeat() || !hasFocus() || !haupt_ || imModell_)
         return QWidget::keyReleaseEvent(ereignis);
     Melden([this] { haupt_->LeertasteLoslassen(); });
 }
