@@ -15,6 +15,7 @@
 #include "document/Sicherheitsnetz.h"
 #include "document/UndoRing.h"
 #include "editing/Leinwand.h"
+#include "keyboard/Tastatur.h"
 #include "output/Arbeitsbereich.h"
 #include "output/Druckwerk.h"
 #include "output/basBildExport.h"
@@ -81,12 +82,20 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void MouseUp(int taste, double x, double y);
     void DblClick(double x, double y);
 
+    /// A key on the page, or in the window where nothing else wants it. False when it has no meaning here now: Tab then
+    /// leads on.
+    bool TasteDrücken(const Tastendruck &taste);
+    /// Space has been let go.
+    void LeertasteLoslassen();
+    /// Goes to the next person of that name. False when there is none.
+    bool PersonSuchen(std::string_view text);
+
     /// The window has another inner size, twips; see `Arbeitsbereich`, as for those that follow.
     void GrößeÄndern(int breite, int höhe);
     void Scrollen(int hValue, int vValue) { bereich.Scrollen(hValue, vValue); }
     void ScrollenUm(int dx, int dy) { bereich.ScrollenUm(dx, dy); }
     void MitRadScrollen(double quer, double längs) { bereich.MitRadScrollen(quer, längs); }
-    void SeiteFassen(Rahmenort hand) { bereich.SeiteFassen(hand); }
+    void SeiteFassen(Rahmenort hand);
     void SeiteSchieben(Rahmenort hand) { bereich.SeiteSchieben(hand); }
     void LeistenSetzen(int dicke) { bereich.LeistenSetzen(dicke); }
     void MausradZählen(bool hoch) { bereich.MausradZählen(hoch); }
@@ -129,6 +138,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void Absagen(std::string_view name);
     void NachEreignis();
     void Festhalten();
+    void CursorInsBild();
     void KommandozeileÖffnen();
     void ZweiteStufe();
     void ListenFüllen();
@@ -173,12 +183,13 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Datenimport import;
     Werkbank werkbank;
     Leinwand leinwand;
+    Tastatur tastatur{werkbank};
     Rahmenort gedrückt_;        ///< where in the frame the last press was
     bool aufgegeben_ = false;   ///< the closing question was answered with No
     bool netzGemeldet_ = false; ///< that the safety net can't be written
     std::string Kommandozeile;  ///< trimmed and unquoted
-    const Anblick anblick{projekt.Titel, ansicht, bedienung,           bereich,
-                          auflagen,      lage,    import.Listenzeilen, plattform.uhr};
+    const Anblick anblick{projekt.Titel,       ansicht,       bedienung, bereich, auflagen,         lage,
+                          import.Listenzeilen, plattform.uhr, dokument,  legende, tastatur.Cursor()};
 };
 
 /// The command line as the program takes it: trimmed, one pair of enclosing quotation marks removed.

@@ -37,18 +37,6 @@ void AuswahlAufgeben(Werkbank &w) {
     MarkerEntfernen(w);
 }
 
-bool WerkzeugWeglegen(Werkbank &w) {
-    if (!EtwasInHand(w.lage)) return false;
-    w.lage.Aktion = Aktion::Nichts;
-    w.lage.Zeiger = Mauszeiger::Pfeil;
-    w.lage.PLinieUnterMaus = false;
-    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = false;
-    w.lage.PunktListe.clear();
-    PositionenVergessen(w.lage);
-    AuswahlAufgeben(w);
-    return true;
-}
-
 void PositionenVergessen(Leinwandlage &lage) {
     lage.PersAuswahl = lage.KreisAuswahl = 0;
     lage.TextAuswahl = lage.BezAuswahl = lage.PLinieAuswahl = lage.KindAuswahl = lage.PfeilAuswahl = -1;
@@ -64,6 +52,18 @@ void AllesAbwählen(Auswahl &auswahl, Leinwandlage &lage, Auflagen &auflagen) {
     lage.AuswahlGröße = vorher.AuswahlGröße;
     lage.TextRahmenUnten = vorher.TextRahmenUnten;
     auflagen = {};
+}
+
+void NichtsAuswählen(Werkbank &w) {
+    AllesAbwählen(w.auswahl, w.lage, w.auflagen);
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = false;
+}
+
+bool WerkzeugWeglegen(Werkbank &w) {
+    if (!EtwasInHand(w.lage)) return false;
+    NichtsAuswählen(w);
+    w.fenster.Vorschau();
+    return true;
 }
 
 void LöschenAbschließen(Werkbank &w) {

@@ -15,6 +15,7 @@
 #include "editing/Personen.h"
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
+#include "editing/Werkzeuge.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 
@@ -155,6 +156,10 @@ constexpr Schritt Schritte[] = {Zurücksetzen, Weglegen,      BildBeginnen,   Pf
                                 LinkBeenden,  PersonSetzen,  PersonTreffen,  LinieWarGewählt, LinieTreffen,
                                 TextTreffen,  RahmenBeginnen};
 
+/// Those of them that make something with a tool.
+constexpr Schritt Werkzeugschritte[] = {Zurücksetzen, OrtMerken,     BildBeginnen, PfeilBeginnen,
+                                        TextSetzen,   KreisBeginnen, PersonSetzen};
+
 /// The form of the person under the pointer, or of the one that the press has selected.
 void PersonÖffnen(Werkbank &w, int position) {
     constexpr int NachDemEreignis = 60; // ms
@@ -248,6 +253,15 @@ void Leinwand::DanebenGedrückt(int taste) {
     else if (EtwasInHand(w.lage)) w.lage.Hinweis = &Absage::Daneben;
 }
 
+bool Leinwand::WerkzeugAnsetzen(double x, double y) {
+    if (!IstBereit(w.lage)) return false;
+    w.lage.MausX = x;
+    w.lage.MausY = y;
+    const Ereignis e{TasteLinks, x, y};
+    return std::any_of(std::begin(Werkzeugschritte), std::end(Werkzeugschritte),
+                       [&](Schritt schritt) { return schritt(w, e); });
+}
+
 void Leinwand::MouseMove(int taste, double x, double y) {
     w.lage.MausX = x;
     w.lage.MausY = y;
@@ -312,6 +326,25 @@ void Leinwand::DblClick(double x, double y) {
     }
     if (w.lage.Aktion == Aktion::KreisGewählt || IstPfeilwahl(w.lage.Aktion)) w.lage.Hinweis = &Absage::OhneFormular;
     PersonÖffnen(w, person);
+}
+
+bool Leinwand::GesteZurücknehmen() {
+    if (!w.lage.Gedrückt) return false;
+    const int kreis = w.lage.KreisAuswahl - 1;
+    if (w.lage.Aktion == Aktion::KreisGewählt && Gültig(w.dokument.cboFreehandlines, kreis) &&
+        KreisPunkte(w.dokument.cboFreehandlines.Satz(kreis)) != w.lage.KreisPunkte)
+        w.dokument.cboFreehandlines.Ersetzen(kreis, KreisText(w.lage.KreisPunkte));
+    const bool pfeil = w.lage.Aktion == Aktion::PfeilEnde1 || w.lage.Aktion == Aktion::PfeilEnde2 ||
+                       w.lage.Aktion == Aktion::PfeilGefasst;
+    const bool bleibt = w.lage.Aktion == Aktion::PfeilZeichnen || w.lage.Aktion == Aktion::KreisZeichnen;
+    const Aktion aktion = pfeil ? Aktion::PfeilGewählt : w.lage.Aktion;
+    const bool bild = w.lage.BildAuswahl;
+    w.lage.Gedrückt = false;
+    ZugAbbrechen(w);
+    if (bleibt || pfeil) w.lage.Aktion = aktion;
+    w.lage.BildAuswahl = bild;
+    w.fenster.Vorschau();
+    return true;
 }
 
 void Leinwand::GesteAbbrechen() {

@@ -81,6 +81,8 @@ bool WerkzeugBrauchbar(int nummer, const Dokument &d, const Auswahl &auswahl, co
     return HatPerson(d, auswahl, lage) && (nummer != WerkzeugKind || KannKindWerden(d, lage));
 }
 
+bool IstBereit(const Leinwandlage &lage) { return lage.BildAuswahl || IstWerkzeug(lage.Aktion); }
+
 bool WerkzeugGedrückt(int nummer, const Leinwandlage &lage) {
     const Werkzeug *werkzeug = WerkzeugFinden(nummer);
     if (!werkzeug || lage.Aktion != werkzeug->Aktion) return false;

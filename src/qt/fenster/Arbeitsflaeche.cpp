@@ -4,6 +4,8 @@
 #include "editing/Leinwandlage.h"
 #include "platform/Befehlsnamen.h"
 #include "qt/fenster/Importliste.h"
+#include "qt/fenster/Suchfeld.h"
+#include "qt/fenster/Tasten.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "qt/malen/LeinwandFlaeche.h"
@@ -17,10 +19,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QPointingDevice>
 #include <QResizeEvent>
 #include <QSignalBlocker>
-#include <QWheelEvent>
 
 #include <cmath>
 #include <utility>
@@ -34,7 +34,6 @@ constexpr QColor Hintergrund{35, 35, 35};
 constexpr QColor Schatten{15, 15, 15};
 constexpr int FrameOben = Arbeitsbereich::FrameOben; ///< the model's inner area begins that far above the widget
 constexpr int Zeile = 20 * TwipsJePixel;
-constexpr int Raste = 120; ///< eighths of a degree of one wheel notch
 
 double Pixel(int twips) { return static_cast<double>(twips) / TwipsJePixel; }
 
@@ -157,7 +156,9 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     AufPixelRücken(p, seite.topLeft());
     p.translate(seite.topLeft());
     p.drawImage(QPointF(), leinwand_.Bild());
-    AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, seite.width() / anblick_->ansicht.SeitenBreite);
+    const double pixelJeCm = seite.width() / anblick_->ansicht.SeitenBreite;
+    AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, pixelJeCm);
+    if (hasFocus()) CursorMalen(p, anblick_->auflagen, pixelJeCm);
     if (!erstesBild_) EinstiegMalen(p, (seite & sicht).translated(-seite.topLeft()));
     if (auto erstesBild = std::exchange(erstesBild_, nullptr)) QTimer::singleShot(0, this, erstesBild);
 }
@@ -169,101 +170,12 @@ void Arbeitsflaeche::EinstiegMalen(QPainter &p, const QRectF &feld) const {
     if (einstieg.Visible) HinweisAufSeite(p, feld, Text(einstieg.Caption), font());
 }
 
-Rahmenort Arbeitsflaeche::ImRahmen(QPointF ort) const {
-    const QPointF twips = ort * TwipsJePixel;
-    return {static_cast<int>(std::lround(twips.x())) - anblick_->bereich.picBack.Left,
-            static_cast<int>(std::lround(twips.y()))};
-}
-
 /// The page has moved under a pointer that rests: what is dragged, and rubber lines, follow it.
 void Arbeitsflaeche::SeiteUnterZeigerMelden() {
     Auffrischen();
     if (imModell_) return;
     const QPointF cm = InCm(ort_);
     Melden([&] { haupt_->MouseMove(Tastencode(taste_), cm.x(), cm.y()); });
-}
-
-/// The wheel zooms. With Shift it scrolls, with Alt sideways, as a tilted one does; two fingers do both.
-void Arbeitsflaeche::wheelEvent(QWheelEvent *ereignis) {
-    ereignis->accept();
-    if (!haupt_) return;
-    ort_ = ereignis->position();
-    QPoint drehung = ereignis->angleDelta();
-    const Qt::KeyboardModifiers dazu = ereignis->modifiers();
-    if (dazu & Qt::AltModifier && drehung.x() == 0) drehung = drehung.transposed(); // some platforms did so already
-    const QPoint finger = ereignis->pixelDelta();
-    const bool tastfeld = !finger.isNull() || ereignis->device()->type() == QInputDevice::DeviceType::TouchPad;
-    const bool quer = std::abs(drehung.x()) > std::abs(drehung.y());
-    if (dazu & Qt::ControlModifier || !(dazu & Qt::ShiftModifier || tastfeld || quer))
-        return ZoomVormerken(drehung.y());
-    const QPointF rasten = QPointF(drehung) / Raste;
-    if (!finger.isNull()) haupt_->ScrollenUm(-finger.x() * TwipsJePixel, -finger.y() * TwipsJePixel);
-    else if (dazu & Qt::ShiftModifier && !quer) haupt_->MitRadScrollen(0, rasten.y());
-    else haupt_->MitRadScrollen(rasten.x(), tastfeld ? rasten.y() : 0);
-    SeiteUnterZeigerMelden();
-}
-
-/// Counts whole notches; the page is drawn when no more wait.
-void Arbeitsflaeche::ZoomVormerken(int drehung) {
-    radrest_ += drehung;
-    if (std::abs(radrest_) < Raste) return;
-    for (; std::abs(radrest_) >= Raste; radrest_ -= radrest_ > 0 ? Raste : -Raste) haupt_->MausradZählen(radrest_ > 0);
-    if (!std::exchange(zoomSteht_, true))
-        QTimer::singleShot(0, this, [this] {
-            zoomSteht_ = false;
-            haupt_->MausradFolgen(ImRahmen(ort_));
-            SeiteUnterZeigerMelden();
-        });
-}
-
-/// The middle button, or Space and the left one, take the page in hand.
-bool Arbeitsflaeche::SchiebenBeginnen(const QMouseEvent &ereignis) {
-    const bool links = ereignis.button() == Qt::LeftButton;
-    if (leer_ && links) leerVerbraucht_ = true;
-    if (!haupt_ || imModell_ || taste_ != Qt::NoButton || schiebt_ != Qt::NoButton) return schiebt_ != Qt::NoButton;
-    if (ereignis.button() != Qt::MiddleButton && !(leer_ && links)) return false;
-    schiebt_ = ereignis.button();
-    ort_ = ereignis.position();
-    haupt_->SeiteFassen(ImRahmen(ort_));
-    ZeigerSetzen();
-    return true;
-}
-
-void Arbeitsflaeche::SchiebenBeenden() {
-    schiebt_ = Qt::NoButton;
-    ZeigerSetzen();
-}
-
-void Arbeitsflaeche::AmRandScrollen() {
-    if (imModell_) return;
-    const Rahmenort zeiger = ImRahmen(ort_);
-    if (importzeile_ ? haupt_->BeimImportScrollen(zeiger) : haupt_->AmRandScrollen(zeiger)) {
-        if (importzeile_) Auffrischen();
-        else SeiteUnterZeigerMelden();
-    }
-}
-
-void Arbeitsflaeche::keyPressEvent(QKeyEvent *ereignis) {
-    if (ereignis->key() != Qt::Key_Space || ereignis->modifiers() != Qt::NoModifier)
-        return QWidget::keyPressEvent(ereignis);
-    if (ereignis->isAutoRepeat()) return;
-    leer_ = true;
-    leerVerbraucht_ = taste_ == Qt::LeftButton;
-    ZeigerSetzen();
-}
-
-void Arbeitsflaeche::keyReleaseEvent(QKeyEvent *ereignis) {
-    if (ereignis->key() != Qt::Key_Space) return QWidget::keyReleaseEvent(ereignis);
-    if (ereignis->isAutoRepeat()) return;
-    leer_ = false;
-    ZeigerSetzen();
-    if (!leerVerbraucht_) QWidget::keyReleaseEvent(ereignis);
-}
-
-void Arbeitsflaeche::focusOutEvent(QFocusEvent *ereignis) {
-    leer_ = false;
-    ZeigerSetzen();
-    QWidget::focusOutEvent(ereignis);
 }
 
 /// Hands the model an event. What it opens then (a popup, a box) runs a loop of its own, which can outlive this
@@ -342,6 +254,57 @@ bool Arbeitsflaeche::Loslassen() {
     if (taste == Qt::NoButton) return true;
     const QPointF cm = InCm(ort_);
     return Melden([&] { haupt_->MouseUp(Tastencode(taste), cm.x(), cm.y()); });
+}
+
+/// A key for the model, which may open a menu or a form. False when it means nothing there.
+bool Arbeitsflaeche::TasteMelden(const Tastendruck &taste) {
+    if (!haupt_ || imModell_) return false;
+    bool gemeint = false;
+    Melden([&] { gemeint = haupt_->TasteDrücken(taste); });
+    return gemeint;
+}
+
+void Arbeitsflaeche::keyPressEvent(QKeyEvent *ereignis) {
+    if (ereignis->key() == Qt::Key_Space && !ereignis->isAutoRepeat()) LeertasteHalten(true);
+    const auto taste = hasFocus() ? TasteVon(*ereignis) : std::nullopt; // the palette's come by here too
+    if (taste && taste->Ist(Taste::F, true)) return SucheÖffnen();
+    if (!taste || !TasteMelden(*taste)) ereignis->ignore();
+}
+
+void Arbeitsflaeche::keyReleaseEvent(QKeyEvent *ereignis) {
+    if (ereignis->key() != Qt::Key_Space || ereignis->isAutoRepeat()) return QWidget::keyReleaseEvent(ereignis);
+    LeertasteHalten(false);
+    if (leerVerbraucht_ || !hasFocus() || !haupt_ || imModell_) return;
+    Melden([this] { haupt_->LeertasteLoslassen(); });
+}
+
+/// Where the keyboard is shows only while it works here.
+void Arbeitsflaeche::focusInEvent(QFocusEvent *) { update(); }
+void Arbeitsflaeche::focusOutEvent(QFocusEvent *) {
+    LeertasteHalten(false);
+    update();
+}
+
+/// Tab walks round the page, and on from its ends.
+bool Arbeitsflaeche::focusNextPrevChild(bool nächstes) {
+    return TasteMelden({Taste::Tabulator, false, false, !nächstes}) || QWidget::focusNextPrevChild(nächstes);
+}
+
+void Arbeitsflaeche::SucheÖffnen() {
+    if (!suche_)
+        suche_ = new Suchfeld(
+            *this, [this](std::string_view name) { return haupt_->PersonSuchen(name); },
+            [this] { setFocus(Qt::OtherFocusReason); });
+    suche_->Öffnen(anblick_->ansicht.Sprache);
+}
+
+std::optional<QPoint> Arbeitsflaeche::Cursorort() const {
+    const Auflagenform &form = anblick_->auflagen.shpCursor;
+    if (!hasFocus() || !form.Visible) return std::nullopt;
+    const QRectF seite = Seite();
+    const double pixelJeCm = seite.width() / anblick_->ansicht.SeitenBreite;
+    const QPointF unten(form.Left + form.Width / 2, form.Top + form.Height);
+    return mapToGlobal((seite.topLeft() + unten * pixelJeCm).toPoint());
 }
 
 /// Every place is asked for anew, so that the pointer tells where a row of the import list can be dropped.
