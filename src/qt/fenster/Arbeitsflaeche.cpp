@@ -268,7 +268,11 @@ void Arbeitsflaeche::keyPressEvent(QKeyEvent *ereignis) {
     if (ereignis->key() == Qt::Key_Space && !ereignis->isAutoRepeat()) LeertasteHalten(true);
     const auto taste = hasFocus() ? TasteVon(*ereignis) : std::nullopt; // the palette's come by here too
     if (taste && taste->Ist(Taste::F, true)) return SucheÖffnen();
-    if (!taste || !TasteMelden(*taste)) ereignis->ignore();
+    if (taste && TasteMelden(*taste)) return;
+    ereignis->ignore();
+    const std::string_view befehl = hasFocus() ? BefehlMitKürzel(*ereignis) : std::string_view();
+    if (!befehl.empty() && haupt_ && !imModell_)
+        Melden([&] { haupt_->BefehlAusführen(befehl); }); // which tells why not
 }
 
 void Arbeitsflaeche::keyReleaseEvent(QKeyEvent *ereignis) {
