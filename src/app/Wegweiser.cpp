@@ -206,7 +206,10 @@ std::string Wegweiser::NächsterSchritt() const {
     const bool gruppe = lage.Aktion == Aktion::GruppeGewählt;
     if (gruppe && lage.Angebot.Zwillinge) return text(Geschwister);
     if (gruppe && z_.auswahl.lstMovedPers.Anzahl() == 2) return text(ZweiPersonen);
-    if (const Zweisprachig *schritt = Suchen(Schritte, lage.Aktion)) return text(*schritt);
+    // What was dragged stays selected, though the gesture is over.
+    const bool gezogen = lage.Aktion == Aktion::Nichts && z_.auswahl.lstMovedPers.Anzahl() == 1;
+    if (const Zweisprachig *schritt = Suchen(Schritte, gezogen ? Aktion::PersonGewählt : lage.Aktion))
+        return text(*schritt);
     return text(Satzzahl(z_.dokument) == 0 ? LeereSeite : Untätig);
 }
 
