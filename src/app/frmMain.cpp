@@ -42,7 +42,7 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       anzeige(bedienung, {dokument, ansicht, auswahl, lage, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster,
                           druck, import}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, plattform.drucker, *this),
-      hinweis(bedienung, plattform.benutzer),
+      hinweis(bedienung, plattform.benutzer), wegweiser(bedienung, {dokument, ansicht, auswahl, lage, ring}),
       bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
       netz(start.Netzordner), projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt, netz},
                                       {ansicht, anzeige, plattform.benutzer, *this, *this,
@@ -204,6 +204,7 @@ void frmMain::NachEreignis() {
     Festhalten();
     tastatur.NachEreignis();
     anzeige.MöglichesZeigen();
+    wegweiser.Zeigen();
     plattform.benutzer.AnzeigeAuffrischen();
     einstellungsablage.Nachführen(AktuelleEinstellungen());
 }

@@ -250,7 +250,9 @@ constexpr Menüzeile Tafel[] = {
 
     {Name::cmdRänder, Fensterteile, {"Druckränder ...", "Print Margins ..."}},
     {Name::lblTool, Fensterteile, {}},
-    {Name::lblHinweis, Fensterteile, {}}, // why nothing came of a gesture
+    {Name::lblHinweis, Fensterteile, {}},  // why nothing came of a gesture
+    {Name::lblStatus, Fensterteile, {}},   // that, or what comes next, or what the pointer is over
+    {Name::lblEinstieg, Fensterteile, {}}, // on a page on which nothing was ever done: how to begin
     {Name::picToolTipp, Fensterteile, {}, "", true, Versteckt},
     {Name::imgVariable, Fensterteile, {}, "", true, Versteckt},
 };

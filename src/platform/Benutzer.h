@@ -58,11 +58,11 @@ class Benutzer {
     virtual void AnzeigeAuffrischen() = 0;
     /// Requests the main window's closing, as its close box does.
     virtual void FensterSchließen() = 0;
-    /// Opens a file or a web page in the default browser. Without one nothing shows.
-    virtual void AdresseÖffnen(const std::string &adresse) = 0;
+    /// Opens a file or a web page in the default browser. False when it is known that nothing shows.
+    virtual bool AdresseÖffnen(const std::string &adresse) = 0;
     /// Starts the program of that name from the program's own folder with the rights of the system's keeper, and goes
-    /// on. When it isn't there nothing happens.
-    virtual void ProgrammStarten(const std::string &name) = 0;
+    /// on. False, and nothing done, when it isn't there.
+    virtual bool ProgrammStarten(const std::string &name) = 0;
     /// Gives the canvas the keyboard again.
     virtual void FokusAufLeinwand() = 0;
     /// Gives the keyboard to the next part of the window, or to the one before: canvas, palette, toolbar, status row.

@@ -134,11 +134,14 @@ void Ablegen(Wiedergabe &lauf, const Wörter &w) {
     p.haupt->ImportzeileAblegen(zeile, Dezimalzahl(Wort(w, 2)), Dezimalzahl(Wort(w, 3)));
 }
 
-/// What the next output that goes there meets with: `memory` of pictures and print jobs, the rest of print jobs.
+/// What the next output that goes there meets with: `memory` of pictures and print jobs, `program` of another program
+/// that is to start, the rest of print jobs.
 void Stören(Programm &p, const std::string &wort) {
-    constexpr std::string_view Bekannt[] = {"memory", "printer", "job", "pdf"};
+    constexpr std::string_view Bekannt[] = {"memory", "printer", "job", "pdf", "program"};
     if (std::find(std::begin(Bekannt), std::end(Bekannt), wort) == std::end(Bekannt))
         throw Skriptfehler("unknown failure: " + wort);
+    p.benutzer.OhneProgramm = wort == "program";
+    if (p.benutzer.OhneProgramm) return;
     p.drucker.Störung = wort;
     p.bilder.OhneSpeicher = wort == "memory";
 }

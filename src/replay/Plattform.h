@@ -14,6 +14,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kw {
@@ -42,6 +43,7 @@ class DrehbuchBenutzer : public Benutzer {
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
+    bool OhneProgramm = false;                         ///< the next other program can't be started
     std::deque<Formularskript> Formulare;              ///< what to do in the next forms, each waiting for its name
     std::map<std::string, std::string> Formularwerte_; ///< of the forms that have closed, each as it was last
     /// Plays the user in front of a form.
@@ -57,8 +59,8 @@ class DrehbuchBenutzer : public Benutzer {
     void NachErstemBild(std::function<void()> arbeit) override { arbeit(); }
     void AnzeigeAuffrischen() override {}
     void FensterSchließen() override { SchließenVerlangt = true; }
-    void AdresseÖffnen(const std::string &adresse) override { wirkungen_ += "address " + adresse + "\n"; }
-    void ProgrammStarten(const std::string &name) override { wirkungen_ += "program " + name + "\n"; }
+    bool AdresseÖffnen(const std::string &adresse) override { return Starten("address " + adresse); }
+    bool ProgrammStarten(const std::string &name) override { return Starten("program " + name); }
     void FokusAufLeinwand() override {}
     void FokusWeitergeben(bool zurück) override { wirkungen_ += zurück ? "focus back\n" : "focus on\n"; }
     std::string Desktopordner() const override { return "/home/user/Desktop/"; }
@@ -67,6 +69,11 @@ class DrehbuchBenutzer : public Benutzer {
   private:
     /// Whether a user finds entry `name` in `menü` or in a menu below it, and can choose it.
     bool IstWählbar(const std::string &name, std::string_view menü) const;
+    bool Starten(const std::string &wirkung) {
+        if (std::exchange(OhneProgramm, false)) return false;
+        wirkungen_ += wirkung + "\n";
+        return true;
+    }
     std::optional<std::string> DateiWählen(const Dateiwahl &wahl);
     /// The next answer when `passt` says that it fits the prompt; else the prompt shows as unanswered.
     template <typename Passt> std::optional<Vorbereitet> Nächste(const std::string &titel, Passt passt);

@@ -314,18 +314,18 @@ void Hauptfenster::ZeitgeberStarten(std::string_view name, int ms) {
 void Hauptfenster::NachErstemBild(std::function<void()> arbeit) { nachErstemBild_.push_back(std::move(arbeit)); }
 
 /// A file's name may hold what an address would be cut at ("#", "?").
-void Hauptfenster::AdresseÖffnen(const std::string &adresse) {
+bool Hauptfenster::AdresseÖffnen(const std::string &adresse) {
     const QString ziel = Text(adresse);
     const QString datei = QStringLiteral("file://");
-    QDesktopServices::openUrl(ziel.startsWith(datei) ? QUrl::fromLocalFile(ziel.mid(datei.size())) : QUrl(ziel));
+    return QDesktopServices::openUrl(ziel.startsWith(datei) ? QUrl::fromLocalFile(ziel.mid(datei.size())) : QUrl(ziel));
 }
 
 /// Run as the system's keeper, it must be one that nobody else can have put there.
-void Hauptfenster::ProgrammStarten(const std::string &name) {
+bool Hauptfenster::ProgrammStarten(const std::string &name) {
     const QString programm = QCoreApplication::applicationDirPath() + u'/' + Text(name);
     const QString eigentlich = QFileInfo(programm).canonicalFilePath();
-    if (QFileInfo(eigentlich).isExecutable() && GehörtDemSystem(eigentlich.toStdString()))
-        QProcess::startDetached(QStringLiteral("pkexec"), {eigentlich});
+    return QFileInfo(eigentlich).isExecutable() && GehörtDemSystem(eigentlich.toStdString()) &&
+           QProcess::startDetached(QStringLiteral("pkexec"), {eigentlich});
 }
 
 void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }

@@ -41,8 +41,8 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void NachErstemBild(std::function<void()> arbeit) override;
     void AnzeigeAuffrischen() override;
     void FensterSchließen() override { close(); }
-    void AdresseÖffnen(const std::string &adresse) override;
-    void ProgrammStarten(const std::string &name) override;
+    bool AdresseÖffnen(const std::string &adresse) override;
+    bool ProgrammStarten(const std::string &name) override;
     void FokusAufLeinwand() override;
     void FokusWeitergeben(bool zurück) override;
     std::string Desktopordner() const override;

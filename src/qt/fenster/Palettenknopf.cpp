@@ -23,7 +23,8 @@ constexpr QColor Rand{150, 150, 150};
 constexpr QColor Akzent{25, 95, 200}; ///< reads on the face as on light and dark themes around it
 constexpr double Blass = 0.3;
 constexpr double Rundung = 4;
-constexpr int Luft = 3; ///< between edge and icon
+constexpr int Luft = 3;         ///< between edge and icon
+constexpr int Hinweisbild = 40; ///< the picture beside a name
 
 /// Makes the icon anew only when its size on the screen has changed.
 void BildHolen(QPixmap &pixmap, const Bildmacher &bild, const QWidget &feld) {
@@ -115,7 +116,32 @@ Palettenhinweis::Palettenhinweis(QWidget *fläche) : QLabel(fläche) {
     setBackgroundRole(QPalette::ToolTipBase);
     setAutoFillBackground(true);
     setFrameStyle(QFrame::Box);
-    setMargin(Luft);
+}
+
+void Palettenhinweis::Zeigen(const QString &name, const QString &aussehen, Bildmacher bild) {
+    setText(name);
+    aussehen_ = aussehen;
+    bild_ = std::move(bild);
+    update();
+}
+
+QSize Palettenhinweis::sizeHint() const {
+    const QFontMetrics maß = fontMetrics();
+    const int breite = std::max(maß.horizontalAdvance(text()), maß.horizontalAdvance(aussehen_));
+    const int höhe = maß.height() * (aussehen_.isEmpty() ? 1 : 2);
+    return {Hinweisbild + breite + 5 * Luft, std::max(Hinweisbild, höhe) + 2 * Luft};
+}
+
+void Palettenhinweis::paintEvent(QPaintEvent *) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    drawFrame(&p);
+    const QRect bild(Luft, (height() - Hinweisbild) / 2, Hinweisbild, Hinweisbild);
+    p.fillRect(bild, Seitenfarbe);
+    if (bild_) p.drawPixmap(bild.topLeft(), bild_(Hinweisbild, devicePixelRatioF()));
+    p.setPen(palette().color(foregroundRole()));
+    const QRect rest = rect().adjusted(Hinweisbild + 3 * Luft, 0, -Luft, 0);
+    p.drawText(rest, Qt::AlignVCenter, aussehen_.isEmpty() ? text() : text() + u'\n' + aussehen_);
 }
 
 QPixmap Papierkorb(int kante, double pixelverhältnis) {

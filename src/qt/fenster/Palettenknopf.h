@@ -60,10 +60,20 @@ class Merkmalfeld : public QLabel {
     bool gilt_ = false;
 };
 
-/// The name of the button under the pointer. Looks like a tool tip, but stands still and lets presses through.
+/// The name of the button under the pointer, its picture in large, and how a sign looks that could be taken for another
+/// one. Looks like a tool tip, but stands still and lets presses through.
 class Palettenhinweis : public QLabel {
   public:
     explicit Palettenhinweis(QWidget *fläche);
+    void Zeigen(const QString &name, const QString &aussehen, Bildmacher bild);
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent *ereignis) override;
+
+  private:
+    QString aussehen_;
+    Bildmacher bild_;
 };
 
 /// A bin.
