@@ -269,7 +269,7 @@ TEST_F(Augenschein, FensterZeigtAllesGanz) {
         }
         QApplication::processEvents();
         Ansehen(fenster, wo);
-        EXPECT_EQ(fenster.menuBar()->actions().front()->text(), sprache == "de" ? "Datei" : "File");
+        EXPECT_EQ(fenster.menuBar()->actions().front()->text(), sprache == "de" ? "&Datei" : "&File");
         EXPECT_TRUE(fenster.windowTitle().contains(QStringLiteral("familie"))) << fenster.windowTitle().toStdString();
         for (QWidget *teil : {static_cast<QWidget *>(fenster.menuBar()), fenster.centralWidget()})
             EXPECT_TRUE(ZeigtEtwas(*teil)) << wo;

@@ -391,7 +391,7 @@ TEST_F(Bedienung, MenüsZeigenNurWasGeht) {
     ASSERT_TRUE(löschen);
     PersonSetzen({400, 300});
     menüs.Auffrischen();
-    EXPECT_EQ(löschen->text(), QStringLiteral("Delete")); // the key stands beside it already
+    EXPECT_EQ(löschen->text(), QStringLiteral("&Delete")); // the key stands beside it already
     EXPECT_FALSE(löschen->isEnabled());
     Klicken({400, 300});
     menüs.Auffrischen();
