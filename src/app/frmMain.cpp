@@ -158,6 +158,7 @@ Einstellungen frmMain::AktuelleEinstellungen() const {
 void frmMain::EinstellungenSichern() {
     projekt.IniDatei = start.IniDatei;
     einstellungen = AktuelleEinstellungen();
+    if (const auto stand = plattform.benutzer.Fensterstand()) einstellungen.Fenster = stand;
     if (plattform.drucker.DeviceName()) einstellungen.Orientation = plattform.drucker.Orientation();
     einstellungsablage.Abschließen(einstellungen);
 }

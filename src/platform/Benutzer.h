@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Fensterlage.h"
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -65,6 +67,8 @@ class Benutzer {
     virtual void ProgrammStarten(const std::string &name) = 0;
     /// Gives the canvas the keyboard again.
     virtual void FokusAufLeinwand() = 0;
+    /// Where the main window stands; nothing where there is none to see.
+    virtual std::optional<Fensterlage> Fensterstand() const = 0;
     virtual std::string Desktopordner() const = 0;
     virtual std::vector<std::string> Schriftarten() const = 0;
 };

@@ -42,6 +42,8 @@ class DrehbuchBenutzer : public Benutzer {
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
+    std::optional<Fensterlage> Fenster;                ///< where the window was put
+    Schirmfläche Schirm;                               ///< the only screen
     std::deque<Formularskript> Formulare;              ///< what to do in the next forms, each waiting for its name
     std::map<std::string, std::string> Formularwerte_; ///< of the forms that have closed, each as it was last
     /// Plays the user in front of a form.
@@ -60,6 +62,7 @@ class DrehbuchBenutzer : public Benutzer {
     void AdresseÖffnen(const std::string &adresse) override { wirkungen_ += "address " + adresse + "\n"; }
     void ProgrammStarten(const std::string &name) override { wirkungen_ += "program " + name + "\n"; }
     void FokusAufLeinwand() override {}
+    std::optional<Fensterlage> Fensterstand() const override { return Fenster; }
     std::string Desktopordner() const override { return "/home/user/Desktop/"; }
     std::vector<std::string> Schriftarten() const override { return {"Arial", "Courier New", "Times New Roman"}; }
 

@@ -1,5 +1,6 @@
 #include "app/frmMain.h"
 #include "commands/Menuetafel.h"
+#include "document/Fensterplatz.h"
 #include "document/Sicherheitsnetz.h"
 #include "document/Texte.h"
 #include "replay/Namen.h"
@@ -77,6 +78,15 @@ std::string NetzText(const Sicherheitsnetz &netz) {
     return text;
 }
 
+/// Where the window comes up.
+std::string FensterText(const Programm &p) {
+    const auto &zuletzt = p.haupt->DerAnblick().Fenster;
+    if (!zuletzt) return "window none";
+    const auto [f, maximiert] = AufSchirmen(*zuletzt, {&p.benutzer.Schirm, 1});
+    return "window " + std::to_string(f.Left) + " " + std::to_string(f.Top) + " " + std::to_string(f.Width) + " " +
+           std::to_string(f.Height) + (maximiert ? " maximized" : "");
+}
+
 void Drucken(Wiedergabe &lauf, const Wörter &w) {
     Programm &p = lauf.Läuft();
     const std::string &name = Wort(w, 1);
@@ -90,6 +100,10 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
     }
     if (name == "net") {
         lauf.aus << NetzText(p.innen.netz);
+        return;
+    }
+    if (name == "window") {
+        lauf.aus << FensterText(p) << "\n";
         return;
     }
     if (name == "shape") {

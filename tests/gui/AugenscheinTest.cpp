@@ -18,6 +18,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -258,9 +259,12 @@ TEST_F(Augenschein, BilderFolgenDerWahl) {
 TEST_F(Augenschein, FensterZeigtAllesGanz) {
     const std::string einstellungen = QCoreApplication::applicationDirPath().toStdString() + "/prog.ini";
     Überall([&](const std::string &sprache, const std::string &wo) {
-        ASSERT_TRUE(DateiSchreiben(einstellungen, "[DEFAULT]\r\nlanguage=" + sprache + "\r\n").Gelungen());
+        const std::string inhalt = "[DEFAULT]\r\nlanguage=" + sprache + "\r\nwindow=-9000,60,700,600,0\r\n";
+        ASSERT_TRUE(DateiSchreiben(einstellungen, inhalt).Gelungen());
         Hauptfenster fenster("\"" KW_TESTDATEN "/../samples/familie.kwp\"");
-        fenster.resize(1400, 900);
+        const QRect schirm = fenster.screen()->availableGeometry();
+        EXPECT_TRUE(schirm.contains(fenster.geometry())) << "left on a screen that has gone";
+        fenster.setGeometry(40, 60, 1400, 900);
         fenster.show();
         while (!fenster.findChild<QMenuBar *>()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
         for (QTimer *zeitgeber : fenster.findChildren<QTimer *>()) { // the project is opened a moment later
@@ -278,6 +282,7 @@ TEST_F(Augenschein, FensterZeigtAllesGanz) {
         fenster.NachVorn();
         EXPECT_FALSE(fenster.isMinimized());
         EXPECT_TRUE(fenster.close()) << "nothing has changed, nothing is asked";
+        EXPECT_EQ(ProfilLesen(einstellungen, "DEFAULT", "window"), "40,60,1400,900,0");
         QFile::remove(QString::fromStdString(einstellungen));
     });
 }

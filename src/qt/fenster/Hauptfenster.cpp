@@ -1,6 +1,7 @@
 #include "qt/fenster/Hauptfenster.h"
 
 #include "document/Dateien.h"
+#include "document/Fensterplatz.h"
 #include "qt/fenster/Importliste.h"
 #include "qt/fenster/Statuszeile.h"
 #include "qt/fenster/Symbolleiste.h"
@@ -131,7 +132,6 @@ Hauptfenster::Hauptfenster(const std::string &kommandozeile)
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide toolbar and panels
     // Until these come, so that the page doesn't jump.
     setContentsMargins(0, Menüs::Höhe() + Symbolleiste::Höhe(), 0, Statuszeile::Höhe());
-    resize(QGuiApplication::primaryScreen()->availableSize() * 0.9);
     fläche_->Verbinden(haupt_, [this] {
         // Not before: the first word on the window costs the loading of the system's fonts.
         LeistenBauen();
@@ -140,7 +140,28 @@ Hauptfenster::Hauptfenster(const std::string &kommandozeile)
         for (const auto &arbeit : std::exchange(nachErstemBild_, {})) arbeit();
     });
     haupt_.Laden();
+    Aufstellen();
     Anzeigen();
+}
+
+void Hauptfenster::Aufstellen() {
+    const auto &zuletzt = haupt_.DerAnblick().Fenster;
+    const QScreen *üblich = QGuiApplication::primaryScreen();
+    if (!zuletzt) return resize(üblich->availableSize() * 0.9);
+    std::vector<Schirmfläche> schirme;
+    for (const QScreen *schirm : üblich->virtualSiblings()) {
+        const QRect r = schirm->availableGeometry();
+        schirme.insert(schirm == üblich ? schirme.begin() : schirme.end(), {r.x(), r.y(), r.width(), r.height()});
+    }
+    const auto [f, maximiert] = AufSchirmen(*zuletzt, schirme);
+    setGeometry(f.Left, f.Top, f.Width, f.Height);
+    if (maximiert) setWindowState(Qt::WindowMaximized);
+}
+
+std::optional<Fensterlage> Hauptfenster::Fensterstand() const {
+    const QRect r = normalGeometry();
+    if (!r.isValid()) return std::nullopt;
+    return Fensterlage{{r.x(), r.y(), r.width(), r.height()}, isMaximized()};
 }
 
 void Hauptfenster::LeistenBauen() {
