@@ -20,6 +20,7 @@ struct Leinwandlage;
 /// does goes to the operations of `frmMain`, in which this lives.
 struct Anblick {
     const std::string &Titel;
+    const bool &Geändert;                      ///< there are unsaved changes
     const std::optional<Fensterlage> &Fenster; ///< where the last window stood when it closed
     const Ansicht &ansicht;                    ///< the language, the size of the page
     const Bedienelemente &bedienung;           ///< menus, toolbar, palette, status row

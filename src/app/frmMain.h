@@ -162,7 +162,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     bool netzGemeldet_ = false; ///< that the safety net can't be written
     std::string Kommandozeile;  ///< trimmed and unquoted
     const Anblick anblick{
-        projekt.Titel,    einstellungen.Fenster, ansicht, bedienung, bereich, auflagen,
+        projekt.Titel, projekt.Geändert,    einstellungen.Fenster, ansicht, bedienung, bereich, auflagen,
         lage,          import.Listenzeilen, plattform.uhr};
 };
 

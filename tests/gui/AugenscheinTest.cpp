@@ -4,6 +4,7 @@
 #include "qt/fenster/Hauptfenster.h"
 #include "qt/formulare/Formularfenster.h"
 #include "replay/Aufzeichnung.h"
+#include "replay/Einblick.h"
 #include "replay/Programm.h"
 #include "replay/Skript.h"
 
@@ -255,6 +256,18 @@ TEST_F(Augenschein, BilderFolgenDerWahl) {
     for (const auto &[form, bilder] : soll) EXPECT_EQ(anzahl[form], bilder) << form;
 }
 
+/// The title bar says whether there is something to save; what the program calls the window stays as it is.
+void ÄnderungenZeigen(Hauptfenster &fenster) {
+    bool &geändert = Einblick(fenster.Modell()).projekt.Geändert;
+    for (const bool soll : {true, false}) {
+        geändert = soll;
+        fenster.AnzeigeAuffrischen();
+        QApplication::processEvents();
+        EXPECT_EQ(fenster.isWindowModified(), soll);
+        EXPECT_EQ(fenster.windowTitle(), "[*]" + QString::fromStdString(fenster.Modell().DerAnblick().Titel));
+    }
+}
+
 /// The only test that starts the window: its settings are those beside the program that runs the tests.
 TEST_F(Augenschein, FensterZeigtAllesGanz) {
     const std::string einstellungen = QCoreApplication::applicationDirPath().toStdString() + "/prog.ini";
@@ -278,6 +291,7 @@ TEST_F(Augenschein, FensterZeigtAllesGanz) {
         for (QWidget *teil : {static_cast<QWidget *>(fenster.menuBar()), fenster.centralWidget()})
             EXPECT_TRUE(ZeigtEtwas(*teil)) << wo;
         Fallenlassen(fenster);
+        ÄnderungenZeigen(fenster);
         fenster.showMinimized();
         fenster.NachVorn();
         EXPECT_FALSE(fenster.isMinimized());

@@ -192,8 +192,10 @@ void Hauptfenster::AnzeigeAuffrischen() {
 
 void Hauptfenster::Anzeigen() {
     auffrischungSteht_ = false;
-    // The toolkit has a use of its own for this mark.
-    setWindowTitle(Text(haupt_.DerAnblick().Titel).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+    // The toolkit's place for its sign of changes, where a long path can't push it out; elsewhere it is none.
+    const QLatin1String zeichen("[*]");
+    setWindowTitle(zeichen + Text(haupt_.DerAnblick().Titel).replace(zeichen, QLatin1String("[*][*]")));
+    setWindowModified(haupt_.DerAnblick().Geändert);
     menüs_.Auffrischen();
     if (band_) band_->Auffrischen();
     fläche_->Auffrischen();
