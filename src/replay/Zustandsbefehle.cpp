@@ -44,6 +44,7 @@ std::string Zustand(const Programm &p, const std::string &frage, const std::stri
     const Bedienelement *element = p.innen.bedienung.Finden(name);
     if (!element) throw Skriptfehler("unknown element: " + name);
     if (frage == "caption") return element->Caption;
+    if (frage == "tip") return element->Tipp;
     if (frage == "enabled") return std::to_string(element->Enabled);
     if (frage == "visible") return std::to_string(element->Visible);
     if (frage == "checked") return std::to_string(element->Checked);
@@ -110,7 +111,7 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
         lauf.aus << FormText(p, Wort(w, 2)) << "\n";
         return;
     }
-    if (w.size() > 2) { // caption|enabled|visible|checked NAME
+    if (w.size() > 2) { // caption|tip|enabled|visible|checked NAME
         const std::string zustand = Zustand(p, name, w[2]);
         lauf.aus << name << " " << w[2] << " = " << zustand << "\n";
         return;

@@ -29,6 +29,12 @@ bool IstTrennstrich(const Menüzeile &zeile) { return zeile.Caption.Englisch == 
 /// The toolkit takes a single "&" for its own.
 QString OhneMarken(const std::string &text) { return Text(text).replace(u'&', QLatin1String("&&")); }
 
+/// Menus show none unless they are told to.
+void TippZeigen(QAction &aktion, const std::string &tipp) {
+    aktion.setToolTip(Tipptext(tipp));
+    if (auto *menü = qobject_cast<QMenu *>(aktion.parent())) menü->setToolTipsVisible(true);
+}
+
 /// Sees to a press that dismisses a popup: it is a click on what lies there, as a popup's press is nobody's else.
 class Danebenklick : public QObject {
   public:
@@ -133,6 +139,7 @@ void Menüs::Zeigen(const Eintrag &eintrag) {
     eintrag.Aktion->setVisible(element->Visible);
     if (eintrag.Aktion->isSeparator()) return;
     eintrag.Aktion->setText(Menütext(*eintrag.Zeile, element->Caption, anblick_.ansicht.Sprache));
+    if (!element->Tipp.empty()) TippZeigen(*eintrag.Aktion, element->Tipp);
     eintrag.Aktion->setEnabled(element->Enabled);
     eintrag.Aktion->setCheckable(element->Checked);
     eintrag.Aktion->setChecked(element->Checked);
