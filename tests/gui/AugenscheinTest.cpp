@@ -292,6 +292,7 @@ TEST_F(Augenschein, FensterZeigtAllesGanz) {
             EXPECT_TRUE(ZeigtEtwas(*teil)) << wo;
         Fallenlassen(fenster);
         ÄnderungenZeigen(fenster);
+        EXPECT_FALSE(QMessageBox(&fenster).windowIcon().isNull()) << "not installed";
         fenster.showMinimized();
         fenster.NachVorn();
         EXPECT_FALSE(fenster.isMinimized());

@@ -8,6 +8,7 @@
 #include "qt/fenster/Werkzeugpalette.h"
 #include "qt/formulare/Formularfenster.h"
 #include "qt/grund/Text.h"
+#include "qt/malen/Svgsinnbild.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -135,6 +136,7 @@ Hauptfenster::Hauptfenster(const std::string &kommandozeile)
     fläche_->Verbinden(haupt_, [this] {
         // Not before: the first word on the window costs the loading of the system's fonts.
         LeistenBauen();
+        QApplication::setWindowIcon(Programmsinnbild()); // of boxes and forms too, installed or not
         palette_ = new Werkzeugpalette(fläche_, haupt_, [this](std::string_view name) { Ausführen(name); });
         Anzeigen();
         for (const auto &arbeit : std::exchange(nachErstemBild_, {})) arbeit();
