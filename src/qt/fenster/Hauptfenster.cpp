@@ -127,6 +127,7 @@ Hauptfenster::Hauptfenster(const std::string &kommandozeile)
     : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
       fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     OhneDateiverlauf();
+    leinwand_.BildschirmSetzen(QGuiApplication::primaryScreen()->size());
     setCentralWidget(fläche_);
     setAnimated(false);
     setAcceptDrops(true);
