@@ -22,7 +22,8 @@ struct Nachfrage {
     Zeichen Bild = Zeichen::Keins;
 };
 
-/// A file dialog. `Filter` is a caption and a pattern joined by "|". The box for reading only never shows.
+/// A file dialog. `Filter` is a caption and a pattern joined by "|", and what can be chosen beside it are more of such
+/// pairs. A name to save under that has no ending gets that of the chosen one. The box for reading only never shows.
 struct Dateiwahl {
     enum class Kennungen { Eine, Alle };
 
@@ -31,6 +32,10 @@ struct Dateiwahl {
     std::string Filter;
     std::string Ordner;
     Kennungen Erlaubt = Kennungen::Eine; ///< whether a name to save under may end otherwise than the filter says
+    std::string WeitereFilter = {};
+
+    /// All of them.
+    std::string AlleFilter() const { return WeitereFilter.empty() ? Filter : Filter + "|" + WeitereFilter; }
 };
 
 class Formular;

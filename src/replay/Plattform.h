@@ -39,6 +39,7 @@ class DrehbuchBenutzer : public Benutzer {
     std::deque<Vorbereitet> Antworten;
     std::deque<std::string> Menüwahlen; ///< entries to pick in the next context menus
     std::string Kästen;                 ///< boxes and dialogs since they were last asked for, a line each
+    std::string Filter;                 ///< of the last file dialog
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
@@ -120,9 +121,13 @@ class DrehbuchBilder : public Bilder {
 
     Ursache SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) override;
     Ursache AlsJpeg(const std::string &datei, unsigned char quality) override;
+    Ursache AlsPng(const std::string &datei, const Bildausschnitt &ausschnitt) override;
+    Ursache SeiteAls(const std::string &datei, const Druckauftrag &seite) override;
     void InZwischenablage(const Bildausschnitt &ausschnitt) override;
 
   private:
+    /// Of that size, in the words of an effect.
+    Ursache Ausgeben(const std::string &datei, const std::string &art, const std::string &größe);
     Ursache Schreiben(const std::string &datei, const std::string &art,
                       const std::optional<Bildausschnitt> &ausschnitt);
 

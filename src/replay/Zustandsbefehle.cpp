@@ -99,6 +99,10 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
         lauf.aus << std::exchange(p.wirkungen, {});
         return;
     }
+    if (name == "filters") {
+        lauf.aus << "filters " << p.benutzer.Filter << "\n";
+        return;
+    }
     if (name == "net") {
         lauf.aus << NetzText(p.innen.netz);
         return;

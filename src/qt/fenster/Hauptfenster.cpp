@@ -74,12 +74,23 @@ QMessageBox::Icon Bild(Zeichen zeichen) {
     }
 }
 
-/// The caption of a filter carries its pattern in parentheses, as the toolkit wants it.
-QString Filter(const Dateiwahl &wahl) { return Text(wahl.Filter.substr(0, wahl.Filter.find('|'))); }
+/// The captions of the filters, each of which carries its pattern in parentheses, as the toolkit wants it.
+QStringList Filter(const Dateiwahl &wahl) {
+    QStringList alle;
+    const QStringList paare = Text(wahl.AlleFilter()).split(u'|');
+    for (qsizetype i = 0; i < paare.size(); i += 2) alle += paare[i];
+    return alle;
+}
+
+/// The ending that the chosen one of them stands for.
+std::string Filterkennung(const QString &gewählt) {
+    return Kennung(gewählt.section(u'(', -1).section(u')', 0, 0).toStdString());
+}
 
 /// A file dialog as the model asks for it; it doesn't ask about existing files itself.
 std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl, QFileDialog::AcceptMode art) {
-    QFileDialog dialog(fenster, Text(wahl.Titel), Text(wahl.Ordner), Filter(wahl));
+    QFileDialog dialog(fenster, Text(wahl.Titel), Text(wahl.Ordner));
+    dialog.setNameFilters(Filter(wahl));
     dialog.setAcceptMode(art);
     dialog.setFileMode(art == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
@@ -88,7 +99,7 @@ std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl,
     const std::string datei = dialog.selectedFiles().first().toStdString();
     if (art == QFileDialog::AcceptOpen) return datei;
     // As the platform's dialogs do; the question about replacing then names it whole.
-    return MitKennung(datei, Kennung(wahl.Filter), wahl.Erlaubt == Dateiwahl::Kennungen::Alle);
+    return MitKennung(datei, Filterkennung(dialog.selectedNameFilter()), wahl.Erlaubt == Dateiwahl::Kennungen::Alle);
 }
 
 /// The path that the address of a local file means, in the bytes of its name; empty for any other.
