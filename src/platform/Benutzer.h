@@ -74,6 +74,8 @@ class Benutzer {
     virtual void FokusAufLeinwand() = 0;
     /// Where the main window stands; nothing where there is none to see.
     virtual std::optional<Fensterlage> Fensterstand() const = 0;
+    /// Gives the keyboard to the next part of the window, or to the one before: canvas, palette, toolbar, status row.
+    virtual void FokusWeitergeben(bool zurück) = 0;
     virtual std::string Desktopordner() const = 0;
     virtual std::vector<std::string> Schriftarten() const = 0;
 };
