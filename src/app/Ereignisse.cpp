@@ -5,6 +5,7 @@
 #include "commands/Menuetafel.h"
 #include "editing/Abwahl.h"
 #include "editing/Werkzeuge.h"
+#include "editing/Zwischenablage.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 
@@ -66,11 +67,19 @@ bool frmMain::IstFrei(std::string_view name) const {
     return true;
 }
 
+/// What is refused does nothing. Why a paste can't be, nothing that shows would tell.
+bool frmMain::Ablehnen(std::string_view name) {
+    if (name != std::string_view(Name::mnuEinfügen) || ablage.HatEtwas()) return false;
+    EinfügenAblehnen(werkbank);
+    NachEreignis();
+    return false;
+}
+
 bool frmMain::BefehlAusführen(std::string_view name) {
     const Befehl befehl = BefehlFinden(name);
     if (!befehl) return false;
     if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
-    if (!IstFrei(name)) return false;
+    if (!IstFrei(name)) return Ablehnen(name);
     tastatur.VorBefehl();
     leinwand.GesteAbbrechen();
     Befehlsumgebung umgebung = FürBefehle();

@@ -122,6 +122,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
 
     bool IstFrei(std::string_view name) const;
+    bool Ablehnen(std::string_view name);
     void NachEreignis();
     void Festhalten();
     void CursorInsBild();

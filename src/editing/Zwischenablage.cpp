@@ -15,6 +15,8 @@
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
 #include "editing/Werkbank.h"
+#include "platform/Benutzer.h"
+#include "platform/Sprache.h"
 
 #include <map>
 #include <unordered_set>
@@ -237,7 +239,14 @@ void NachKopie(Werkbank &w) {
     w.fenster.Vorschau();
 }
 
+constexpr Zweisprachig NichtsDa{"Es ist nichts kopiert, was eingefügt werden kann",
+                                "Nothing is copied that can be pasted"};
+constexpr Zweisprachig NurFremdes{"Texte und Bilder aus anderen Programmen lassen sich nicht einfügen",
+                                  "Texts and pictures from other programs can't be pasted"};
+
 } // namespace
+
+void EinfügenAblehnen(Werkbank &w) { w.lage.Hinweis = w.benutzer.AblageBelegt() ? &NurFremdes : &NichtsDa; }
 
 void Kopieren(Werkbank &w) {
     AblageFüllen(w, "Kopieren");

@@ -13,4 +13,7 @@ void Ausschneiden(Werkbank &w);
 /// land 0.3 cm right and below of where they last stood; what was cut lands where it was.
 void Einfügen(Werkbank &w);
 
+/// Tells why nothing can be pasted: the program's own clipboard is empty, whatever lies on the desktop's.
+void EinfügenAblehnen(Werkbank &w);
+
 } // namespace kw

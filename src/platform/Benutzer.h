@@ -76,6 +76,8 @@ class Benutzer {
     virtual std::optional<Fensterlage> Fensterstand() const = 0;
     /// Gives the keyboard to the next part of the window, or to the one before: canvas, palette, toolbar, status row.
     virtual void FokusWeitergeben(bool zurück) = 0;
+    /// Whether the desktop's clipboard holds anything, whoever has put it there.
+    virtual bool AblageBelegt() const = 0;
     virtual std::string Desktopordner() const = 0;
     virtual std::vector<std::string> Schriftarten() const = 0;
 };

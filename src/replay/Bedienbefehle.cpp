@@ -143,6 +143,12 @@ void Stören(Programm &p, const std::string &wort) {
     p.bilder.OhneSpeicher = wort == "memory";
 }
 
+/// What other programs have put on the desktop's clipboard.
+void AblageFüllen(Programm &p, const std::string &wort) {
+    if (wort != "text" && wort != "picture" && wort != "empty") throw Skriptfehler("unknown word: " + wort);
+    p.benutzer.Ablage = wort != "empty";
+}
+
 /// Moves the window: its left and upper edge, width and height, in pixels; and `maximized`.
 void FensterStellen(Programm &p, const Wörter &w) {
     if (w.size() > 5 && w[5] != "maximized") throw Skriptfehler("unknown word: " + w[5]);
@@ -165,6 +171,7 @@ constexpr Skriptbefehl Tabelle[] = {
     {"fail", [](auto &lauf, auto &w, auto &) { Stören(lauf.Läuft(), Wort(w, 1)); }},
     {"resize",
      [](auto &lauf, auto &w, auto &) { lauf.Läuft().innen.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
+    {"clipboard", [](auto &lauf, auto &w, auto &) { AblageFüllen(lauf.Läuft(), Wort(w, 1)); }},
     {"window", [](auto &lauf, auto &w, auto &) { FensterStellen(lauf.Läuft(), w); }},
     {"close",
      [](auto &lauf, auto &, auto &) { lauf.aus << (lauf.Läuft().haupt->Schließen() ? "closed\n" : "open\n"); }},

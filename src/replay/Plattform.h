@@ -43,6 +43,7 @@ class DrehbuchBenutzer : public Benutzer {
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
+    bool Ablage = false;                               ///< something lies on the desktop's clipboard
     std::optional<Fensterlage> Fenster;                ///< where the window was put
     Schirmfläche Schirm;                               ///< the only screen
     std::deque<Formularskript> Formulare;              ///< what to do in the next forms, each waiting for its name
@@ -65,6 +66,7 @@ class DrehbuchBenutzer : public Benutzer {
     void FokusAufLeinwand() override {}
     std::optional<Fensterlage> Fensterstand() const override { return Fenster; }
     void FokusWeitergeben(bool zurück) override { wirkungen_ += zurück ? "focus back\n" : "focus on\n"; }
+    bool AblageBelegt() const override { return Ablage; }
     std::string Desktopordner() const override { return "/home/user/Desktop/"; }
     std::vector<std::string> Schriftarten() const override { return {"Arial", "Courier New", "Times New Roman"}; }
 

@@ -3,6 +3,8 @@
 #include "app/Fenstertasten.h"
 #include "document/Dateien.h"
 #include "document/Fensterplatz.h"
+#include "platform/Befehlsnamen.h"
+#include "qt/fenster/Dateidialog.h"
 #include "qt/fenster/Importliste.h"
 #include "qt/fenster/Statuszeile.h"
 #include "qt/fenster/Symbolleiste.h"
@@ -13,11 +15,11 @@
 #include "qt/malen/Svgsinnbild.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QKeyEvent>
@@ -27,7 +29,6 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QScreen>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
@@ -78,34 +79,6 @@ QMessageBox::Icon Bild(Zeichen zeichen) {
     }
 }
 
-/// The captions of the filters, each of which carries its pattern in parentheses, as the toolkit wants it.
-QStringList Filter(const Dateiwahl &wahl) {
-    QStringList alle;
-    const QStringList paare = Text(wahl.AlleFilter()).split(u'|');
-    for (qsizetype i = 0; i < paare.size(); i += 2) alle += paare[i];
-    return alle;
-}
-
-/// The ending that the chosen one of them stands for.
-std::string Filterkennung(const QString &gewählt) {
-    return Kennung(gewählt.section(u'(', -1).section(u')', 0, 0).toStdString());
-}
-
-/// A file dialog as the model asks for it; it doesn't ask about existing files itself.
-std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl, QFileDialog::AcceptMode art) {
-    QFileDialog dialog(fenster, Text(wahl.Titel), Text(wahl.Ordner));
-    dialog.setNameFilters(Filter(wahl));
-    dialog.setAcceptMode(art);
-    dialog.setFileMode(art == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    if (!wahl.Vorschlag.empty()) dialog.selectFile(Text(wahl.Vorschlag));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    const std::string datei = dialog.selectedFiles().first().toStdString();
-    if (art == QFileDialog::AcceptOpen) return datei;
-    // As the platform's dialogs do; the question about replacing then names it whole.
-    return MitKennung(datei, Filterkennung(dialog.selectedNameFilter()), wahl.Erlaubt == Dateiwahl::Kennungen::Alle);
-}
-
 /// The path that the address of a local file means, in the bytes of its name; empty for any other.
 std::string LokalerPfad(const QByteArray &adresse) {
     for (const char *anfang : {"file://localhost/", "file:///", "file:/"})
@@ -124,11 +97,6 @@ std::string GezogenesProjekt(const QMimeData &inhalt) {
         if (istName && MitKennung(datei, "kwp", false) == datei) return datei;
     }
     return {};
-}
-
-/// The toolkit's file dialog would write the folders of clients into a file that all its programs share.
-void OhneDateiverlauf() {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
 }
 
 /// What of a part of the window takes the keyboard by Tab; nothing when it is hidden or has nothing to press.
@@ -311,11 +279,11 @@ Antwort Hauptfenster::Fragen(const Nachfrage &nachfrage) {
 }
 
 std::optional<std::string> Hauptfenster::DateiÖffnen(const Dateiwahl &wahl) {
-    return DialogZeigen(Vordergrund(), wahl, QFileDialog::AcceptOpen);
+    return DateiErfragen(Vordergrund(), wahl, QFileDialog::AcceptOpen);
 }
 
 std::optional<std::string> Hauptfenster::DateiSpeichern(const Dateiwahl &wahl) {
-    return DialogZeigen(Vordergrund(), wahl, QFileDialog::AcceptSave);
+    return DateiErfragen(Vordergrund(), wahl, QFileDialog::AcceptSave);
 }
 
 std::optional<std::string> Hauptfenster::PopupZeigen(std::string_view menü) {
@@ -381,12 +349,19 @@ void Hauptfenster::FokusWeitergeben(bool zurück) {
     }
 }
 
-/// What no part of the window wants: zooming and the rest work wherever the keyboard is.
+/// What no part of the window wants: zooming and the rest work wherever the keyboard is. A paste comes here only where it
+/// can't be, else it is the menu's; the model knows why.
 void Hauptfenster::keyPressEvent(QKeyEvent *ereignis) {
+    if (ereignis->matches(QKeySequence::Paste)) return Ausführen(std::string_view(Name::mnuEinfügen));
     const auto taste = TasteVon(*ereignis);
     if (taste && taste->Ist(Taste::F, true)) return fläche_->SucheÖffnen();
     if (taste && FenstertasteFinden(*taste)) haupt_.TasteDrücken(*taste);
     else QMainWindow::keyPressEvent(ereignis);
+}
+
+bool Hauptfenster::AblageBelegt() const {
+    const QMimeData *inhalt = QGuiApplication::clipboard()->mimeData();
+    return inhalt && !inhalt->formats().isEmpty();
 }
 
 std::string Hauptfenster::Desktopordner() const {

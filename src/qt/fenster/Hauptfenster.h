@@ -46,6 +46,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void FokusAufLeinwand() override;
     std::optional<Fensterlage> Fensterstand() const override;
     void FokusWeitergeben(bool zurück) override;
+    bool AblageBelegt() const override;
     std::string Desktopordner() const override;
     std::vector<std::string> Schriftarten() const override;
 
