@@ -349,8 +349,8 @@ void Hauptfenster::FokusWeitergeben(bool zurück) {
     }
 }
 
-/// What no part of the window wants: zooming and the rest work wherever the keyboard is. A paste comes here only where it
-/// can't be, else it is the menu's; the model knows why.
+/// What no part of the window wants: zooming and the rest work wherever the keyboard is. A paste comes here only where
+/// it can't be, else it is the menu's; the model knows why.
 void Hauptfenster::keyPressEvent(QKeyEvent *ereignis) {
     if (ereignis->matches(QKeySequence::Paste)) return Ausführen(std::string_view(Name::mnuEinfügen));
     const auto taste = TasteVon(*ereignis);
