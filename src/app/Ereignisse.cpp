@@ -3,6 +3,7 @@
 #include "app/Fenstertasten.h"
 #include "app/frmMain.h"
 #include "commands/Menuetafel.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Werkzeuge.h"
 #include "platform/Befehlsnamen.h"
@@ -105,6 +106,7 @@ bool frmMain::IstFrei(std::string_view name) const {
 void frmMain::Absagen(std::string_view name) {
     const Zweisprachig *grund = wegweiser.WarumGesperrt(name);
     if (!grund) return;
+    if (grund == &Absage::LeereAblage && plattform.benutzer.AblageBelegt()) grund = &Absage::NurFremdes;
     lage.Hinweis = grund;
     anzeige.MöglichesZeigen();
     wegweiser.Zeigen();

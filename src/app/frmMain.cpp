@@ -43,7 +43,8 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
                           druck, import}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, plattform.drucker, *this),
       hinweis(bedienung, plattform.benutzer), wegweiser(bedienung, {dokument, ansicht, auswahl, lage, ring}),
-      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
+      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht,
+                 {[this] { NichtsAuswählen(werkbank); }, [this](Zeichenfläche &papier) { AufPapier(papier); }}),
       netz(start.Netzordner), projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt, netz},
                                       {ansicht, anzeige, plattform.benutzer, *this, *this,
                                        [this] {
@@ -165,6 +166,7 @@ Einstellungen frmMain::AktuelleEinstellungen() const {
 void frmMain::EinstellungenSichern() {
     projekt.IniDatei = start.IniDatei;
     einstellungen = AktuelleEinstellungen();
+    if (const auto stand = plattform.benutzer.Fensterstand()) einstellungen.Fenster = stand;
     if (plattform.drucker.DeviceName()) einstellungen.Orientation = plattform.drucker.Orientation();
     einstellungsablage.Abschließen(einstellungen);
 }

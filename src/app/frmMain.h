@@ -188,8 +188,9 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     bool aufgegeben_ = false;   ///< the closing question was answered with No
     bool netzGemeldet_ = false; ///< that the safety net can't be written
     std::string Kommandozeile;  ///< trimmed and unquoted
-    const Anblick anblick{projekt.Titel,       ansicht,       bedienung, bereich, auflagen,         lage,
-                          import.Listenzeilen, plattform.uhr, dokument,  legende, tastatur.Cursor()};
+    const Anblick anblick{
+        projekt.Titel, projekt.Geändert,    einstellungen.Fenster, ansicht,  bedienung, bereich,          auflagen,
+        lage,          import.Listenzeilen, plattform.uhr,         dokument, legende,   tastatur.Cursor()};
 };
 
 /// The command line as the program takes it: trimmed, one pair of enclosing quotation marks removed.

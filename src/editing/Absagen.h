@@ -59,6 +59,8 @@ inline constexpr Zweisprachig NichtsZurück{"Es gibt nichts rückgängig zu mach
 inline constexpr Zweisprachig NichtsWieder{"Es gibt nichts wiederherzustellen.", "There is nothing to redo."};
 inline constexpr Zweisprachig LeereAblage{"Es gibt nichts einzufügen: erst im Genogramm etwas kopieren.",
                                           "There is nothing to paste: copy something of the genogram first."};
+inline constexpr Zweisprachig NurFremdes{"Texte und Bilder aus anderen Programmen lassen sich nicht einfügen.",
+                                         "Texts and pictures from other programs can't be pasted."};
 inline constexpr Zweisprachig KeinProgramm{"Dieses Programm ist hier nicht installiert.",
                                            "That program isn't installed here."};
 inline constexpr Zweisprachig KeinAnzeiger{"Die Anleitung ließ sich nicht öffnen.", "The manual could not be opened."};

@@ -12,7 +12,7 @@ namespace kw {
 struct Bedienelement {
     std::string Caption;
     std::string Tipp = {}; ///< of a toolbar item: its name, where the caption may be a state; of the palette's panel
-                           ///< how a sign looks
+                           ///< how a sign looks; of a recent file its path
     bool Enabled = true;
     bool Visible = true;
     bool Checked = false; ///< ticked, or for a button pressed

@@ -146,6 +146,18 @@ void Stören(Programm &p, const std::string &wort) {
     p.bilder.OhneSpeicher = wort == "memory";
 }
 
+/// What other programs have put on the desktop's clipboard.
+void AblageFüllen(Programm &p, const std::string &wort) {
+    if (wort != "text" && wort != "picture" && wort != "empty") throw Skriptfehler("unknown word: " + wort);
+    p.benutzer.Ablage = wort != "empty";
+}
+
+/// Moves the window: its left and upper edge, width and height, in pixels; and `maximized`.
+void FensterStellen(Programm &p, const Wörter &w) {
+    if (w.size() > 5 && w[5] != "maximized") throw Skriptfehler("unknown word: " + w[5]);
+    p.benutzer.Fenster = {{Zahl(Wort(w, 1)), Zahl(Wort(w, 2)), Zahl(Wort(w, 3)), Zahl(Wort(w, 4))}, w.size() > 5};
+}
+
 constexpr Skriptbefehl Tabelle[] = {
     {"tool", [](auto &lauf, auto &w, auto &) { WerkzeugWählen(lauf, Wort(w, 1)); }},
     {"press", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
@@ -162,6 +174,8 @@ constexpr Skriptbefehl Tabelle[] = {
     {"fail", [](auto &lauf, auto &w, auto &) { Stören(lauf.Läuft(), Wort(w, 1)); }},
     {"resize",
      [](auto &lauf, auto &w, auto &) { lauf.Läuft().innen.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
+    {"clipboard", [](auto &lauf, auto &w, auto &) { AblageFüllen(lauf.Läuft(), Wort(w, 1)); }},
+    {"window", [](auto &lauf, auto &w, auto &) { FensterStellen(lauf.Läuft(), w); }},
     {"close",
      [](auto &lauf, auto &, auto &) { lauf.aus << (lauf.Läuft().haupt->Schließen() ? "closed\n" : "open\n"); }},
     {"logout",

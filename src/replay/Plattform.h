@@ -40,10 +40,14 @@ class DrehbuchBenutzer : public Benutzer {
     std::deque<Vorbereitet> Antworten;
     std::deque<std::string> Menüwahlen; ///< entries to pick in the next context menus
     std::string Kästen;                 ///< boxes and dialogs since they were last asked for, a line each
+    std::string Filter;                 ///< of the last file dialog
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
     bool OhneProgramm = false;                         ///< the next other program can't be started
+    bool Ablage = false;                               ///< something lies on the desktop's clipboard
+    std::optional<Fensterlage> Fenster;                ///< where the window was put
+    Schirmfläche Schirm;                               ///< the only screen
     std::deque<Formularskript> Formulare;              ///< what to do in the next forms, each waiting for its name
     std::map<std::string, std::string> Formularwerte_; ///< of the forms that have closed, each as it was last
     /// Plays the user in front of a form.
@@ -62,7 +66,9 @@ class DrehbuchBenutzer : public Benutzer {
     bool AdresseÖffnen(const std::string &adresse) override { return Starten("address " + adresse); }
     bool ProgrammStarten(const std::string &name) override { return Starten("program " + name); }
     void FokusAufLeinwand() override {}
+    std::optional<Fensterlage> Fensterstand() const override { return Fenster; }
     void FokusWeitergeben(bool zurück) override { wirkungen_ += zurück ? "focus back\n" : "focus on\n"; }
+    bool AblageBelegt() const override { return Ablage; }
     std::string Desktopordner() const override { return "/home/user/Desktop/"; }
     std::vector<std::string> Schriftarten() const override { return {"Arial", "Courier New", "Times New Roman"}; }
 
@@ -125,9 +131,13 @@ class DrehbuchBilder : public Bilder {
 
     Ursache SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) override;
     Ursache AlsJpeg(const std::string &datei, unsigned char quality) override;
+    Ursache AlsPng(const std::string &datei, const Bildausschnitt &ausschnitt) override;
+    Ursache SeiteAls(const std::string &datei, const Druckauftrag &seite) override;
     void InZwischenablage(const Bildausschnitt &ausschnitt) override;
 
   private:
+    /// Of that size, in the words of an effect.
+    Ursache Ausgeben(const std::string &datei, const std::string &art, const std::string &größe);
     Ursache Schreiben(const std::string &datei, const std::string &art,
                       const std::optional<Bildausschnitt> &ausschnitt);
 

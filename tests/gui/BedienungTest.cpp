@@ -1,12 +1,16 @@
 // What the hand does: pointer on the canvas, palette, toolbar, menus. Events go to the real widgets, what came of them
 // is read in the records and in the pixels that show.
 #include "app/Befehle.h"
+#include "app/Einzelbild.h"
 #include "app/frmMain.h"
 #include "commands/Bildertafel.h"
 #include "commands/Menuetafel.h"
 #include "document/Dateien.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Person.h"
+#include "editing/Personen.h"
+#include "output/basBildExport.h"
+#include "qt/drucken/Ausgabe.h"
 #include "qt/drucken/QtBilder.h"
 #include "qt/fenster/Arbeitsflaeche.h"
 #include "qt/fenster/Bandknopf.h"
@@ -491,6 +495,31 @@ TEST_F(Bedienung, BildIstDieLeinwandOhneAuflösung) {
     EXPECT_EQ(QImage(datei).size(), leinwand.Bild().size());
 }
 
+/// Whatever is selected and however it is zoomed: to the byte what an export without a window writes.
+TEST_F(Bedienung, PngUndSvgGleichenDenenDerBefehlszeile) {
+    const std::string projekt = KW_TESTDATEN "/../samples/familie.kwp";
+    const QTemporaryDir ordner;
+    QtBilder kamera(leinwand);
+    Bildexport bildexport(benutzer, kamera, innen.bereich, innen.ansicht,
+                          {[] {}, [this](Zeichenfläche &papier) { innen.AufPapier(papier); }});
+    ASSERT_TRUE(innen.projekt.Öffnen(projekt));
+    ASSERT_TRUE(haupt.BefehlAusführen("mnuFarbig"));
+    ASSERT_TRUE(haupt.BefehlAusführen("mnuRasterAnzeigen"));
+    PersonAuswählen(innen, 0);
+    Einzelbild allein(uhr, "");
+    ASSERT_EQ(allein.Laden(projekt), "");
+    for (const char *endung : {"png", "SVG"}) {
+        const std::string hier = ordner.filePath(QStringLiteral("hier.")).toStdString() + endung;
+        const std::string dort = ordner.filePath(QStringLiteral("dort.")).toStdString() + endung;
+        benutzer.Antworten.push_back({DrehbuchBenutzer::Vorbereitet::Art::Datei, false, Antwort::Ok, hier});
+        bildexport.SeiteExportieren(projekt);
+        EXPECT_EQ(Exportieren(allein, dort, ÜblicheDpi, "familie"), "");
+        std::string einer, anderer;
+        EXPECT_TRUE(DateiLesen(hier, einer).Gelungen() && DateiLesen(dort, anderer).Gelungen());
+        EXPECT_TRUE(einer == anderer) << endung;
+    }
+}
+
 #ifndef __SANITIZE_ADDRESS__ // it would end the program itself
 /// The page that is too large isn't drawn, and nothing is written; with the next one all is as before.
 TEST_F(Bedienung, OhneSpeicherGehtNurDasGroßeBildNicht) {
@@ -528,7 +557,7 @@ TEST_F(Bedienung, MenüsZeigenNurWasGeht) {
     ASSERT_TRUE(löschen);
     PersonSetzen({400, 300});
     menüs.Auffrischen();
-    EXPECT_EQ(löschen->text(), QStringLiteral("Delete")); // the key stands beside it already
+    EXPECT_EQ(löschen->text(), QStringLiteral("&Delete")); // the key stands beside it already
     EXPECT_FALSE(löschen->isEnabled());
     Klicken({400, 300});
     menüs.Auffrischen();

@@ -11,8 +11,8 @@ namespace kw {
 /// Draws an icon of `kante` logical pixels for a screen of that resolution.
 using Bildmacher = std::function<QPixmap(int kante, double pixelverhältnis)>;
 
-/// A button of the palette: an icon on a face of the page's colour on every theme, since that is what the
-/// symbols are drawn for. Takes the focus by keyboard only: a press by mouse leaves it on the canvas.
+/// A button of the palette: an icon on a face that is light on every theme, since the symbols are drawn for the page.
+/// Takes the focus by keyboard only: a press by mouse leaves it on the canvas.
 class Palettenknopf : public QAbstractButton {
   public:
     Palettenknopf(Bildmacher bild, QWidget *palette);
