@@ -11,9 +11,9 @@ below() {
     platform | document) ;;
     rendering) echo document ;;
     editing) echo document rendering ;;
-    dialogs | output | commands) echo document rendering editing ;;
-    app) echo document rendering editing dialogs output commands ;;
-    qt | replay) echo document rendering editing dialogs output commands app ;;
+    dialogs | description | output | commands) echo document rendering editing ;;
+    app) echo document rendering editing dialogs description output commands ;;
+    qt | replay) echo document rendering editing dialogs description output commands app ;;
     *) return 1 ;;
     esac
 }

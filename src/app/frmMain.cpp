@@ -12,6 +12,8 @@
 #include "rendering/Seite.h"
 #include "rendering/Zeichnung.h"
 
+#include <utility>
+
 namespace kw {
 
 namespace {
@@ -189,12 +191,21 @@ void frmMain::Festhalten() {
     netzGemeldet_ = !gehalten;
 }
 
+/// Tells a listener what has come of the event, and why nothing has.
+void frmMain::Vorlesen() {
+    if (!vorleser.HörtZu()) return;
+    if (const std::string text = vorleser.NachEreignis(); !text.empty()) plattform.benutzer.Ansagen(text);
+    const std::string &warum = bedienung[Name::lblHinweis].Caption;
+    if (std::exchange(vorgelesen_, warum) != warum && !warum.empty()) plattform.benutzer.Ansagen(warum);
+}
+
 /// What every event ends with: the safety net has its outcome, what can be chosen follows, the face shows it, the
 /// settings file has it.
 void frmMain::NachEreignis() {
     aufgegeben_ = false;
     Festhalten();
     anzeige.MöglichesZeigen();
+    Vorlesen();
     plattform.benutzer.AnzeigeAuffrischen();
     einstellungsablage.Nachführen(AktuelleEinstellungen());
 }

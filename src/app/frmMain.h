@@ -7,6 +7,7 @@
 #include "app/Projekt.h"
 #include "app/Startangaben.h"
 #include "app/Werkzeughinweis.h"
+#include "description/Vorleser.h"
 #include "dialogs/Dialogumgebung.h"
 #include "document/Auswahlliste.h"
 #include "document/Dokument.h"
@@ -68,6 +69,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
 
     /// What a face shows.
     const Anblick &DerAnblick() const { return anblick; }
+    /// The page in words, for a face that has it read out.
+    Vorleser &DerVorleser() { return vorleser; }
     /// Redraws the whole canvas from the stores.
     void Vorschau() override;
 
@@ -115,6 +118,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     bool IstFrei(std::string_view name) const;
     void NachEreignis();
     void Festhalten();
+    void Vorlesen();
     void KommandozeileÖffnen();
     void ZweiteStufe();
     void ListenFüllen();
@@ -158,8 +162,10 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Datenimport import;
     Werkbank werkbank;
     Leinwand leinwand;
+    Vorleser vorleser{{dokument, ansicht, auswahl, lage, legende, plattform.uhr}};
     bool aufgegeben_ = false;   ///< the closing question was answered with No
     bool netzGemeldet_ = false; ///< that the safety net can't be written
+    std::string vorgelesen_;    ///< why nothing came of a gesture, as it was last told
     std::string Kommandozeile;  ///< trimmed and unquoted
     const Anblick anblick{projekt.Titel, ansicht, bedienung,           bereich,
                           auflagen,      lage,    import.Listenzeilen, plattform.uhr};

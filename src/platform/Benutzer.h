@@ -63,6 +63,8 @@ class Benutzer {
     /// Starts the program of that name from the program's own folder with the rights of the system's keeper, and goes
     /// on. When it isn't there nothing happens.
     virtual void ProgrammStarten(const std::string &name) = 0;
+    /// Tells those who listen what an event came to; for all others nothing shows.
+    virtual void Ansagen(std::string_view text) = 0;
     /// Gives the canvas the keyboard again.
     virtual void FokusAufLeinwand() = 0;
     virtual std::string Desktopordner() const = 0;

@@ -39,6 +39,7 @@ class DrehbuchBenutzer : public Benutzer {
     std::deque<Vorbereitet> Antworten;
     std::deque<std::string> Menüwahlen; ///< entries to pick in the next context menus
     std::string Kästen;                 ///< boxes and dialogs since they were last asked for, a line each
+    std::string Angesagtes;             ///< what was told since it was last asked for, a line each
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
@@ -59,6 +60,7 @@ class DrehbuchBenutzer : public Benutzer {
     void FensterSchließen() override { SchließenVerlangt = true; }
     void AdresseÖffnen(const std::string &adresse) override { wirkungen_ += "address " + adresse + "\n"; }
     void ProgrammStarten(const std::string &name) override { wirkungen_ += "program " + name + "\n"; }
+    void Ansagen(std::string_view text) override { Angesagtes += "  " + std::string(text) + "\n"; }
     void FokusAufLeinwand() override {}
     std::string Desktopordner() const override { return "/home/user/Desktop/"; }
     std::vector<std::string> Schriftarten() const override { return {"Arial", "Courier New", "Times New Roman"}; }

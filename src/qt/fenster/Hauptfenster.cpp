@@ -312,6 +312,8 @@ void Hauptfenster::ProgrammStarten(const std::string &name) {
         QProcess::startDetached(QStringLiteral("pkexec"), {eigentlich});
 }
 
+void Hauptfenster::Ansagen(std::string_view) {}
+
 void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }
 
 std::string Hauptfenster::Desktopordner() const {

@@ -43,6 +43,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void FensterSchließen() override { close(); }
     void AdresseÖffnen(const std::string &adresse) override;
     void ProgrammStarten(const std::string &name) override;
+    void Ansagen(std::string_view text) override;
     void FokusAufLeinwand() override;
     std::string Desktopordner() const override;
     std::vector<std::string> Schriftarten() const override;
