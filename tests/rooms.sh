@@ -29,7 +29,7 @@ floors_within() {
         printf '%s\n' Linien+Linienzug Kinder+Zwillinge 'Personen+Symbolgroesse Pfeile Kreislinien Texte Legende Bildausschnitt'
         printf '%s\n' 'Gruppe Elemente' Zwischenablage 'Leinwand Werkzeuge'
         ;;
-    qt) printf '%s\n' grund/ malen/ 'drucken/ formulare/' fenster/ start/ ;;
+    qt) printf '%s\n' grund/ malen/ 'drucken/ formulare/ zugang/' fenster/ start/ ;;
     esac
 }
 

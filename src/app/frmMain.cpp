@@ -195,8 +195,8 @@ void frmMain::Festhalten() {
 void frmMain::Vorlesen() {
     if (!vorleser.HörtZu()) return;
     if (const std::string text = vorleser.NachEreignis(); !text.empty()) plattform.benutzer.Ansagen(text);
-    const std::string &warum = bedienung[Name::lblHinweis].Caption;
-    if (std::exchange(vorgelesen_, warum) != warum && !warum.empty()) plattform.benutzer.Ansagen(warum);
+    const Zweisprachig *warum = lage.Hinweis;
+    if (std::exchange(vorgelesen_, warum) != warum && warum) plattform.benutzer.Ansagen(warum->In(ansicht.Sprache));
 }
 
 /// What every event ends with: the safety net has its outcome, what can be chosen follows, the face shows it, the
@@ -211,6 +211,7 @@ void frmMain::NachEreignis() {
 }
 
 void frmMain::MouseDown(int taste, double x, double y) {
+    vorgelesen_ = nullptr;
     leinwand.MouseDown(taste, x, y);
     NachEreignis();
 }
@@ -266,6 +267,7 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     if (!befehl) return false;
     if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
     if (!IstFrei(name)) return false;
+    vorgelesen_ = nullptr;
     leinwand.GesteAbbrechen();
     Befehlsumgebung umgebung = FürBefehle();
     befehl.Ausführen(umgebung, befehl.Nummer);

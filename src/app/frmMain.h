@@ -163,10 +163,10 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Werkbank werkbank;
     Leinwand leinwand;
     Vorleser vorleser{{dokument, ansicht, auswahl, lage, legende, plattform.uhr}};
-    bool aufgegeben_ = false;   ///< the closing question was answered with No
-    bool netzGemeldet_ = false; ///< that the safety net can't be written
-    std::string vorgelesen_;    ///< why nothing came of a gesture, as it was last told
-    std::string Kommandozeile;  ///< trimmed and unquoted
+    bool aufgegeben_ = false;                  ///< the closing question was answered with No
+    bool netzGemeldet_ = false;                ///< that the safety net can't be written
+    const Zweisprachig *vorgelesen_ = nullptr; ///< why nothing came of the gesture, when that has been told
+    std::string Kommandozeile;                 ///< trimmed and unquoted
     const Anblick anblick{projekt.Titel, ansicht, bedienung,           bereich,
                           auflagen,      lage,    import.Listenzeilen, plattform.uhr};
 };

@@ -4,6 +4,7 @@
 #include "editing/Leinwandlage.h"
 #include "qt/fenster/Importliste.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "qt/malen/LeinwandFlaeche.h"
 #include "qt/malen/Zeigerbild.h"
@@ -53,6 +54,7 @@ int Tastencode(Qt::MouseButton taste) {
 } // namespace
 
 Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand), zeiger_(Mauszeiger::Pfeil) {
+    baum_ = std::make_unique<Seitenbaum>(*this, FürVorleser());
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true); // rubber lines follow the pointer without a button
@@ -95,7 +97,7 @@ void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &mod
 
 void Arbeitsflaeche::Auffrischen() {
     if (!haupt_) return;
-    setAccessibleName(Text(Zweisprachig{"Genogramm", "Genogram"}.In(anblick_->ansicht.Sprache)));
+    VorlesenAls(*this, Text(Zweisprachig{"Genogramm", "Genogram"}.In(anblick_->ansicht.Sprache)));
     const Arbeitsbereich &b = anblick_->bereich;
     const int breite = vScroll_.sizeHint().width();
     const int höhe = hScroll_.sizeHint().height();
@@ -109,6 +111,7 @@ void Arbeitsflaeche::Auffrischen() {
     LeisteStellen(hScroll_, b.HScroll1);
     ZeigerSetzen();
     update();
+    baum_->Auffrischen();
 }
 
 QRectF Arbeitsflaeche::Seite() const {
@@ -249,6 +252,58 @@ void Arbeitsflaeche::dropEvent(QDropEvent *ereignis) {
     const QPointF cm = InCm(ereignis->position());
     Melden([&] { haupt_->ImportzeileAblegen(*zeile, cm.x(), cm.y()); });
 }
+
+void Arbeitsflaeche::focusInEvent(QFocusEvent *ereignis) {
+    QWidget::focusInEvent(ereignis);
+    baum_->FokusKam();
+}
+
+void Arbeitsflaeche::focusOutEvent(QFocusEvent *ereignis) {
+    QWidget::focusOutEvent(ereignis);
+    baum_->FokusGing();
+}
+
+/// For who can't see it.
+Seitenquelle Arbeitsflaeche::FürVorleser() {
+    return {[this]() -> const std::vector<Elementzeile> & {
+                haupt_->DerVorleser().Zuhören();
+                return haupt_->DerVorleser().Zeilen();
+            },
+            [this] { return anblick_->ansicht.Sprache; },
+            [this](const Umgebung &cm) { return OrtVon(cm); },
+            [this] { return Sicht(); },
+            [this] { return Fokuselement(); },
+            [this](Element element, Elementtat tat) { Machen(element, tat); }};
+}
+
+QRect Arbeitsflaeche::Sicht() const {
+    const Arbeitsbereich &b = anblick_->bereich;
+    const int rechts = b.VScroll1.Visible ? vScroll_.x() : width();
+    const int unten = b.HScroll1.Visible ? hScroll_.y() : height();
+    const int links = b.picBack.Left / TwipsJePixel;
+    return Seite().toAlignedRect() & QRect(links, 0, rechts - links, unten);
+}
+
+QRect Arbeitsflaeche::OrtVon(const Umgebung &cm) const {
+    const QRectF seite = Seite();
+    const double maßstab = seite.width() / anblick_->ansicht.SeitenBreite;
+    const QRectF ort(cm.Links * maßstab, cm.Oben * maßstab, (cm.Rechts - cm.Links) * maßstab,
+                     (cm.Unten - cm.Oben) * maßstab);
+    return ort.translated(seite.topLeft()).toRect();
+}
+
+/// The one that is selected.
+std::optional<Element> Arbeitsflaeche::Fokuselement() const {
+    std::optional<Element> einziges;
+    for (const Elementzeile &zeile : haupt_->DerVorleser().Zeilen()) {
+        if (!zeile.Gewählt) continue;
+        if (einziges) return std::nullopt;
+        einziges = zeile.Element;
+    }
+    return einziges;
+}
+
+void Arbeitsflaeche::Machen(Element, Elementtat) {}
 
 void Arbeitsflaeche::ZeigerSetzen() {
     const Mauszeiger zeiger = AufSeite(ort_) ? anblick_->lage.Zeiger : Mauszeiger::Pfeil;

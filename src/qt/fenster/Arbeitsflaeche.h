@@ -1,9 +1,13 @@
 #pragma once
 
+#include "qt/zugang/Seitenbaum.h"
+
 #include <QScrollBar>
 #include <QWidget>
 
 #include <functional>
+#include <memory>
+#include <optional>
 
 namespace kw {
 
@@ -15,7 +19,7 @@ struct Anblick;
 /// The inside of the main window: the dark frame, the page with its shadow, the overlay shapes, the scroll bars.
 /// Shows what the model's work area says, in pixels; the model's inner area begins above and ends below it, so
 /// that frame and bars meet the edges. Hands the model what the pointer does, in centimetres of the page.
-class Arbeitsflaeche : public QWidget {
+class Arbeitsflaeche : public QWidget, public MitSeitenbaum {
   public:
     explicit Arbeitsflaeche(LeinwandFläche &leinwand);
 
@@ -25,6 +29,7 @@ class Arbeitsflaeche : public QWidget {
     void Auffrischen();
     /// The model's inner size for this widget's size, in twips.
     QSize Innengröße() const;
+    Seitenbaum &Baum() override { return *baum_; }
 
   protected:
     void paintEvent(QPaintEvent *) override;
@@ -37,6 +42,8 @@ class Arbeitsflaeche : public QWidget {
     void dragEnterEvent(QDragEnterEvent *ereignis) override;
     void dragMoveEvent(QDragMoveEvent *ereignis) override;
     void dropEvent(QDropEvent *ereignis) override;
+    void focusInEvent(QFocusEvent *ereignis) override;
+    void focusOutEvent(QFocusEvent *ereignis) override;
 
   private:
     /// The page on this widget, logical pixels.
@@ -51,7 +58,14 @@ class Arbeitsflaeche : public QWidget {
     void LeisteStellen(QScrollBar &leiste, const struct Bildlaufleiste &modell);
     void Scrollen();
 
+    Seitenquelle FürVorleser();
+    QRect Sicht() const;
+    QRect OrtVon(const Umgebung &cm) const;
+    std::optional<Element> Fokuselement() const;
+    void Machen(Element element, Elementtat tat);
+
     LeinwandFläche &leinwand_;
+    std::unique_ptr<Seitenbaum> baum_;
     frmMain *haupt_ = nullptr;
     const Anblick *anblick_ = nullptr; ///< what it shows
     std::function<void()> erstesBild_;

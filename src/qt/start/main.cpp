@@ -116,6 +116,9 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     case Einzelinstanz::Stand::Allein: Melden(instanz.Grund() + "; this window stands alone", 0); break;
     case Einzelinstanz::Stand::Erste: break;
     }
+    // Without it a screen reader that is started later is never heard of.
+    if (!qEnvironmentVariableIsSet("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"))
+        qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     const QApplication anwendung(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kinwright"));
     QApplication::setDesktopFileName(QStringLiteral("kinwright")); // gives the window its icon
