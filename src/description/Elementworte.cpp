@@ -38,9 +38,8 @@ std::string Einzeiler(std::string_view inhalt) {
     return std::string(Getrimmt(text));
 }
 
-constexpr Zweisprachig PartnerschaftVon{"Partnerschaft: %", "partnership: %"};
-constexpr Zweisprachig KindlinieVon{"Kindlinie: %", "child line: %"};
-constexpr Zweisprachig BeziehungVon{"%: %", "%: %"};
+constexpr Zweisprachig Partnerschaftswort{"Partnerschaft", "partnership"};
+constexpr Zweisprachig Kindlinienwort{"Kindlinie", "child line"};
 constexpr Zweisprachig Textfeld{"Text: %", "text: %"};
 constexpr Zweisprachig KreisUm{"Kreislinie um %", "circle line round %"};
 constexpr Zweisprachig KreisAllein{"Kreislinie", "circle line"};
@@ -91,8 +90,7 @@ std::string Elementworte::Partnerschaft(int position) const {
     const std::string &satz = dokument_.cboPartnerschaftsLinien.Satz(position);
     const PartnerschaftSatz linie(satz, Lücken::Leer);
     const std::string wer = personen.RufVon(linie.PersNr1(), linie.PersNr2());
-    return Verbunden({Eingesetzt(PartnerschaftVon, personen.sprache, {wer}), Partnerstand(satz, personen.sprache)},
-                     ", ");
+    return Verbunden({Verbunden({Im(Partnerschaftswort), wer}, ": "), Partnerstand(satz, personen.sprache)}, ", ");
 }
 
 std::vector<std::string> Elementworte::ZurPartnerschaft(int position) const {
@@ -118,14 +116,14 @@ std::string Elementworte::Kind(int position) const {
     const bool mensch = kind >= 0 && Personenworte::IstMensch(SymbolKennzahl(
                                          PersonSatz(dokument_.cboPersonen.Satz(kind), Lücken::Leer).Symboltyp()));
     const std::string von = eltern.empty() ? eltern : Kindschaft(linie.Kindart(), mensch, eltern, personen.sprache);
-    return Eingesetzt(KindlinieVon, personen.sprache, {Verbunden({personen.Ruf(kind), von}, ", ")});
+    return Verbunden({Im(Kindlinienwort), Verbunden({personen.Ruf(kind), von}, ", ")}, ": ");
 }
 
 std::string Elementworte::Beziehung(int position) const {
     const BeziehungSatz linie(dokument_.cboBeziehungsLinien.Satz(position), Lücken::Leer);
-    return Eingesetzt(
-        BeziehungVon, personen.sprache,
-        {Beziehungswort(linie.Beziehungsart(), personen.sprache), personen.RufVon(linie.PersNr1(), linie.PersNr2())});
+    return Verbunden(
+        {Beziehungswort(linie.Beziehungsart(), personen.sprache), personen.RufVon(linie.PersNr1(), linie.PersNr2())},
+        ": ");
 }
 
 std::string Elementworte::Text(int position) const {

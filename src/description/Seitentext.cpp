@@ -59,9 +59,7 @@ std::string Seitentext(const Seiteninhalt &s) {
     const Elementworte worte(s.dokument, s.legende, sprache, s.uhr);
     const auto zeilen = Lesefolge(Elementzeilen(s));
     if (zeilen.empty()) return std::string(OhneInhalt.In(sprache)) + '\n';
-    auto ohneKindlinien = zeilen; // who is whose child is told with the persons
-    std::erase_if(ohneKindlinien, [](const Elementzeile &z) { return z.Element.Art == Elementart::Kind; });
-    std::string text = Verbunden({Eingesetzt(Inhalt, sprache, {Bestand(ohneKindlinien, sprache)}),
+    std::string text = Verbunden({Eingesetzt(Inhalt, sprache, {Überblick(zeilen, sprache)}),
                                   FürTerminal(Indexsatz(s.dokument, worte.personen))},
                                  " ") +
                        "\n\n";

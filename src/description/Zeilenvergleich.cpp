@@ -145,6 +145,12 @@ std::string Auswahltext(const Zeilen &vorher, const Zeilen &nachher, Sprache spr
     return vor > 1 && nach == 0 ? std::string(NichtsMarkiert.In(sprache)) : std::string();
 }
 
+/// More new elements at once than old ones, or none of many left, are another document.
+bool IstAndereSeite(size_t neue, size_t nachher, size_t vorher) {
+    constexpr size_t Viele = 5;
+    return nachher == 0 ? vorher > Viele : neue > Viele && neue > nachher / 2;
+}
+
 } // namespace
 
 Zeilenvergleich Verglichen(const Zeilen &vorher, const Zeilen &nachher) {
@@ -173,14 +179,17 @@ std::string Ergebnistext(const Zeilen &vorher, const Zeilen &nachher, Sprache sp
     }
     Zeilen gegangene;
     for (const int alt : v.Gegangen) gegangene.push_back(An(vorher, alt));
-    constexpr size_t Viele = 5; // more at once are another page
-    if (neue.size() == nachher.size() && (!vorher.empty() || neue.size() > Viele))
-        return vorher.empty() && nachher.empty() ? std::string()
-                                                 : Eingesetzt(Genogramm, sprache, {Bestand(nachher, sprache)});
+    if (IstAndereSeite(neue.size(), nachher.size(), vorher.size()))
+        return Eingesetzt(Genogramm, sprache, {Überblick(nachher, sprache)});
     if (!neue.empty() || !gegangene.empty())
         return Verbunden({Gelöschtes(gegangene, sprache), Eingefügtes(neue, sprache)}, "; ");
     if (!bewegte.empty()) return Verschobenes(bewegte, sprache);
     return Auswahltext(vorher, nachher, sprache);
+}
+
+std::string Überblick(Zeilen zeilen, Sprache sprache) {
+    std::erase_if(zeilen, [](const Elementzeile &z) { return z.Element.Art == Elementart::Kind; });
+    return Bestand(zeilen, sprache);
 }
 
 std::string Bestand(const Zeilen &zeilen, Sprache sprache) {

@@ -26,4 +26,7 @@ std::string Ergebnistext(const std::vector<Elementzeile> &vorher, const std::vec
 /// "22 Personen, 7 Partnerschaften, 10 Beziehungen und 2 Texte"; "leer" without any.
 std::string Bestand(const std::vector<Elementzeile> &zeilen, Sprache sprache);
 
+/// The same of a whole page: who is whose child is told with the persons.
+std::string Überblick(std::vector<Elementzeile> zeilen, Sprache sprache);
+
 } // namespace kw

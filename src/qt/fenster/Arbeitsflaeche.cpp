@@ -98,6 +98,10 @@ void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &mod
 void Arbeitsflaeche::Auffrischen() {
     if (!haupt_) return;
     VorlesenAls(*this, Text(Zweisprachig{"Genogramm", "Genogram"}.In(anblick_->ansicht.Sprache)));
+    VorlesenAls(vScroll_,
+                Text(Zweisprachig{"Senkrechter Bildlauf", "Vertical Scrolling"}.In(anblick_->ansicht.Sprache)));
+    VorlesenAls(hScroll_,
+                Text(Zweisprachig{"Waagrechter Bildlauf", "Horizontal Scrolling"}.In(anblick_->ansicht.Sprache)));
     const Arbeitsbereich &b = anblick_->bereich;
     const int breite = vScroll_.sizeHint().width();
     const int höhe = hScroll_.sizeHint().height();

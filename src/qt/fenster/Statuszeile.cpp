@@ -6,6 +6,8 @@
 #include "qt/fenster/Menues.h"
 #include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
+#include "rendering/Ansicht.h"
 
 #include <QLabel>
 #include <QToolButton>
@@ -44,6 +46,7 @@ Statuszeile::Statuszeile(std::function<void(std::string_view)> ausführen) {
 }
 
 void Statuszeile::Auffrischen(const Anblick &anblick) {
+    VorlesenAls(*this, Text(Zweisprachig{"Statuszeile", "Status Bar"}.In(anblick.ansicht.Sprache)));
     const std::string &werkzeug = anblick.bedienung[Name::lblTool].Caption;
     lblTool_->setText(Text(werkzeug.empty() ? anblick.bedienung[Name::lblHinweis].Caption : werkzeug));
     const Bedienelement &knopf = *anblick.bedienung.Finden(Rändername);

@@ -98,4 +98,11 @@ class MitSeitenbaum {
     virtual Seitenbaum &Baum() = 0;
 };
 
+/// A widget that is something else to screen readers than its class says.
+class MitRolle {
+  public:
+    virtual ~MitRolle() = default;
+    virtual QAccessible::Role Rolle() const = 0;
+};
+
 } // namespace kw

@@ -36,6 +36,8 @@ const Tatzeile *TatMit(const QString &name) {
 }
 
 QAccessibleInterface *Fabrik(const QString &, QObject *objekt) {
+    const auto *rolle = dynamic_cast<MitRolle *>(objekt);
+    if (rolle) return new QAccessibleWidget(static_cast<QWidget *>(objekt), rolle->Rolle());
     auto *seite = dynamic_cast<MitSeitenbaum *>(objekt);
     return seite ? new Leinwandzugang(seite->Baum().leinwand, seite->Baum()) : nullptr;
 }
