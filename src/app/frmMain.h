@@ -15,6 +15,7 @@
 #include "document/Sicherheitsnetz.h"
 #include "document/UndoRing.h"
 #include "editing/Leinwand.h"
+#include "keyboard/Tastatur.h"
 #include "output/Arbeitsbereich.h"
 #include "output/Druckwerk.h"
 #include "output/basBildExport.h"
@@ -81,6 +82,16 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void MouseUp(int taste, double x, double y);
     void DblClick(double x, double y);
 
+    /// A key on the page, or in the window where nothing else wants it. False when it has no meaning here now: Tab then
+    /// leads on.
+    bool TasteDrücken(const Tastendruck &taste);
+    /// Puts the keyboard's cursor on an element, wherever it is.
+    void ElementFokussieren(Element element);
+    /// Space has been let go.
+    void LeertasteLoslassen();
+    /// Goes to the next person of that name. False when there is none.
+    bool PersonSuchen(std::string_view text);
+
     /// The window has another inner size, twips; see `Arbeitsbereich`, as for the next three.
     void GrößeÄndern(int breite, int höhe);
     void Scrollen(int hValue, int vValue) { bereich.Scrollen(hValue, vValue); }
@@ -119,6 +130,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void NachEreignis();
     void Festhalten();
     void Vorlesen();
+    void CursorInsBild();
     void KommandozeileÖffnen();
     void ZweiteStufe();
     void ListenFüllen();
@@ -162,13 +174,15 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Datenimport import;
     Werkbank werkbank;
     Leinwand leinwand;
+    Tastatur tastatur{werkbank};
     Vorleser vorleser{{dokument, ansicht, auswahl, lage, legende, plattform.uhr}};
+    std::optional<Seitenort> vorgelesenerOrt_;
+    const Zweisprachig *vorgelesen_ = nullptr; ///< why nothing came of the event, when that has been told
     bool aufgegeben_ = false;                  ///< the closing question was answered with No
     bool netzGemeldet_ = false;                ///< that the safety net can't be written
-    const Zweisprachig *vorgelesen_ = nullptr; ///< why nothing came of the gesture, when that has been told
     std::string Kommandozeile;                 ///< trimmed and unquoted
-    const Anblick anblick{projekt.Titel, ansicht, bedienung,           bereich,
-                          auflagen,      lage,    import.Listenzeilen, plattform.uhr};
+    const Anblick anblick{projekt.Titel,       ansicht,       bedienung, bereich, auflagen,         lage,
+                          import.Listenzeilen, plattform.uhr, dokument,  legende, tastatur.Cursor()};
 };
 
 /// The command line as the program takes it: trimmed, one pair of enclosing quotation marks removed.

@@ -77,7 +77,8 @@ constexpr Zweisprachig Genogramm{"Genogramm: %", "Genogram: %"};
 constexpr Zweisprachig Verknüpft{"verknüpft: %", "linked: %"};
 constexpr Zweisprachig Eingefügt{"eingefügt: %", "inserted: %"};
 constexpr Zweisprachig Gelöscht{"gelöscht: %", "deleted: %"};
-constexpr Zweisprachig EinesVerschoben{"verschoben, Mitte bei % und % cm", "moved, centre at % and % cm"};
+constexpr Zweisprachig Ort{"% und % cm", "% and % cm"};
+constexpr Zweisprachig EinesVerschoben{"verschoben, Mitte bei %", "moved, centre at %"};
 constexpr Zweisprachig MehrereVerschoben{"% Elemente verschoben", "% elements moved"};
 constexpr Zweisprachig Markiert{"% Elemente markiert", "% elements selected"};
 constexpr Zweisprachig NichtsMarkiert{"nichts markiert", "nothing selected"};
@@ -131,8 +132,7 @@ std::string Verschobenes(const Zeilen &zeilen, Sprache sprache) {
     if (bewegt.empty()) return {};
     if (bewegt.size() > 1) return Eingesetzt(MehrereVerschoben, sprache, {std::to_string(bewegt.size())});
     const Umgebung &u = bewegt.front().Rahmen;
-    return Eingesetzt(EinesVerschoben, sprache,
-                      {Zentimeter((u.Links + u.Rechts) / 2, sprache), Zentimeter((u.Oben + u.Unten) / 2, sprache)});
+    return Eingesetzt(EinesVerschoben, sprache, {Ortstext((u.Links + u.Rechts) / 2, (u.Oben + u.Unten) / 2, sprache)});
 }
 
 std::string Auswahltext(const Zeilen &vorher, const Zeilen &nachher, Sprache sprache) {
@@ -190,6 +190,10 @@ std::string Ergebnistext(const Zeilen &vorher, const Zeilen &nachher, Sprache sp
 std::string Überblick(Zeilen zeilen, Sprache sprache) {
     std::erase_if(zeilen, [](const Elementzeile &z) { return z.Element.Art == Elementart::Kind; });
     return Bestand(zeilen, sprache);
+}
+
+std::string Ortstext(double x, double y, Sprache sprache) {
+    return Eingesetzt(Ort, sprache, {Zentimeter(x, sprache), Zentimeter(y, sprache)});
 }
 
 std::string Bestand(const Zeilen &zeilen, Sprache sprache) {

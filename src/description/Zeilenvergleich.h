@@ -23,6 +23,9 @@ Zeilenvergleich Verglichen(const std::vector<Elementzeile> &vorher, const std::v
 std::string Ergebnistext(const std::vector<Elementzeile> &vorher, const std::vector<Elementzeile> &nachher,
                          Sprache sprache);
 
+/// A place on the page, cm: "6,3 und 5,4 cm".
+std::string Ortstext(double x, double y, Sprache sprache);
+
 /// "22 Personen, 7 Partnerschaften, 10 Beziehungen und 2 Texte"; "leer" without any.
 std::string Bestand(const std::vector<Elementzeile> &zeilen, Sprache sprache);
 

@@ -3,6 +3,8 @@
 #include "app/frmMain.h"
 #include "editing/Leinwandlage.h"
 #include "qt/fenster/Importliste.h"
+#include "qt/fenster/Suchfeld.h"
+#include "qt/fenster/Tasten.h"
 #include "qt/grund/Text.h"
 #include "qt/grund/Vorlesename.h"
 #include "qt/malen/Auflagenmaler.h"
@@ -11,6 +13,7 @@
 
 #include <QDropEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -156,7 +159,9 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     AufPixelRücken(p, seite.topLeft());
     p.translate(seite.topLeft());
     p.drawImage(QPointF(), leinwand_.Bild());
-    AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, seite.width() / anblick_->ansicht.SeitenBreite);
+    const double pixelJeCm = seite.width() / anblick_->ansicht.SeitenBreite;
+    AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, pixelJeCm);
+    if (hasFocus()) CursorMalen(p, anblick_->auflagen, pixelJeCm);
     if (auto erstesBild = std::exchange(erstesBild_, nullptr)) QTimer::singleShot(0, this, erstesBild);
 }
 
@@ -238,6 +243,59 @@ bool Arbeitsflaeche::Loslassen() {
     return Melden([&] { haupt_->MouseUp(Tastencode(taste), cm.x(), cm.y()); });
 }
 
+/// A key for the model, which may open a menu or a form. False when it means nothing there.
+bool Arbeitsflaeche::TasteMelden(const Tastendruck &taste) {
+    if (!haupt_ || imModell_) return false;
+    bool gemeint = false;
+    Melden([&] { gemeint = haupt_->TasteDrücken(taste); });
+    return gemeint;
+}
+
+void Arbeitsflaeche::keyPressEvent(QKeyEvent *ereignis) {
+    const auto taste = hasFocus() ? TasteVon(*ereignis) : std::nullopt; // the palette's come by here too
+    if (taste && taste->Ist(Taste::F, true)) return SucheÖffnen();
+    if (!taste || !TasteMelden(*taste)) ereignis->ignore();
+}
+
+void Arbeitsflaeche::keyReleaseEvent(QKeyEvent *ereignis) {
+    if (ereignis->key() != Qt::Key_Space || ereignis->isAutoRepeat() || !hasFocus() || !haupt_ || imModell_)
+        return QWidget::keyReleaseEvent(ereignis);
+    Melden([this] { haupt_->LeertasteLoslassen(); });
+}
+
+/// Where the keyboard is shows only while it works here.
+void Arbeitsflaeche::focusInEvent(QFocusEvent *) {
+    update();
+    baum_->FokusKam();
+}
+
+void Arbeitsflaeche::focusOutEvent(QFocusEvent *) {
+    update();
+    baum_->FokusGing();
+}
+
+/// Tab walks round the page, and on from its ends.
+bool Arbeitsflaeche::focusNextPrevChild(bool nächstes) {
+    return TasteMelden({Taste::Tabulator, false, false, !nächstes}) || QWidget::focusNextPrevChild(nächstes);
+}
+
+void Arbeitsflaeche::SucheÖffnen() {
+    if (!suche_)
+        suche_ = new Suchfeld(
+            *this, [this](std::string_view name) { return haupt_->PersonSuchen(name); },
+            [this] { setFocus(Qt::OtherFocusReason); });
+    suche_->Öffnen(anblick_->ansicht.Sprache);
+}
+
+std::optional<QPoint> Arbeitsflaeche::Cursorort() const {
+    const Auflagenform &form = anblick_->auflagen.shpCursor;
+    if (!hasFocus() || !form.Visible) return std::nullopt;
+    const QRectF seite = Seite();
+    const double pixelJeCm = seite.width() / anblick_->ansicht.SeitenBreite;
+    const QPointF unten(form.Left + form.Width / 2, form.Top + form.Height);
+    return mapToGlobal((seite.topLeft() + unten * pixelJeCm).toPoint());
+}
+
 /// Every place is asked for anew, so that the pointer tells where a row of the import list can be dropped.
 void Arbeitsflaeche::dragEnterEvent(QDragEnterEvent *ereignis) {
     if (haupt_ && GezogeneZeile(*ereignis->mimeData())) ereignis->accept();
@@ -257,16 +315,6 @@ void Arbeitsflaeche::dropEvent(QDropEvent *ereignis) {
     Melden([&] { haupt_->ImportzeileAblegen(*zeile, cm.x(), cm.y()); });
 }
 
-void Arbeitsflaeche::focusInEvent(QFocusEvent *ereignis) {
-    QWidget::focusInEvent(ereignis);
-    baum_->FokusKam();
-}
-
-void Arbeitsflaeche::focusOutEvent(QFocusEvent *ereignis) {
-    QWidget::focusOutEvent(ereignis);
-    baum_->FokusGing();
-}
-
 /// For who can't see it.
 Seitenquelle Arbeitsflaeche::FürVorleser() {
     return {[this]() -> const std::vector<Elementzeile> & {
@@ -276,7 +324,7 @@ Seitenquelle Arbeitsflaeche::FürVorleser() {
             [this] { return anblick_->ansicht.Sprache; },
             [this](const Umgebung &cm) { return OrtVon(cm); },
             [this] { return Sicht(); },
-            [this] { return Fokuselement(); },
+            [this] { return anblick_->cursor.Element(); },
             [this](Element element, Elementtat tat) { Machen(element, tat); }};
 }
 
@@ -296,18 +344,20 @@ QRect Arbeitsflaeche::OrtVon(const Umgebung &cm) const {
     return ort.translated(seite.topLeft()).toRect();
 }
 
-/// The one that is selected.
-std::optional<Element> Arbeitsflaeche::Fokuselement() const {
-    std::optional<Element> einziges;
-    for (const Elementzeile &zeile : haupt_->DerVorleser().Zeilen()) {
-        if (!zeile.Gewählt) continue;
-        if (einziges) return std::nullopt;
-        einziges = zeile.Element;
+/// As the keys do it that are told with the names of what can be done.
+void Arbeitsflaeche::Machen(Element element, Elementtat tat) {
+    if (!haupt_ || imModell_) return;
+    setFocus(Qt::OtherFocusReason);
+    Melden([&] { haupt_->ElementFokussieren(element); });
+    switch (tat) {
+    case Elementtat::Fokussieren: break;
+    case Elementtat::Wählen:
+        if (TasteMelden({Taste::Leer})) Melden([this] { haupt_->LeertasteLoslassen(); });
+        break;
+    case Elementtat::Bearbeiten: TasteMelden({Taste::Eingabe}); break;
+    case Elementtat::MenüÖffnen: TasteMelden({Taste::Menü}); break;
     }
-    return einziges;
 }
-
-void Arbeitsflaeche::Machen(Element, Elementtat) {}
 
 void Arbeitsflaeche::ZeigerSetzen() {
     const Mauszeiger zeiger = AufSeite(ort_) ? anblick_->lage.Zeiger : Mauszeiger::Pfeil;

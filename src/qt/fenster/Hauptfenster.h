@@ -45,6 +45,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void ProgrammStarten(const std::string &name) override;
     void Ansagen(std::string_view text) override;
     void FokusAufLeinwand() override;
+    void FokusWeitergeben(bool zurück) override;
     std::string Desktopordner() const override;
     std::vector<std::string> Schriftarten() const override;
 
@@ -61,6 +62,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     frmMain &Modell() { return haupt_; }
 
   protected:
+    void keyPressEvent(QKeyEvent *ereignis) override;
     void closeEvent(QCloseEvent *ereignis) override;
     void dragEnterEvent(QDragEnterEvent *ereignis) override;
     void dropEvent(QDropEvent *ereignis) override;

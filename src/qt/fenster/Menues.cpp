@@ -155,6 +155,7 @@ void Menüs::Auffrischen() {
 
 std::optional<std::string> Menüs::Popup(std::string_view menü, QPoint ort, QWidget &fenster) {
     const QPointer<QMenu> popup = new QMenu(&fenster);
+    VorlesenAls(*popup, Text(Zweisprachig{"Kontextmenü", "Context Menu"}.In(anblick_.ansicht.Sprache)));
     std::vector<Eintrag> einträge;
     Füllen(*popup, menü, einträge);
     for (const Eintrag &eintrag : einträge) Zeigen(eintrag);

@@ -13,6 +13,7 @@ namespace {
 constexpr QColor Gummifarbe{30, 90, 200};
 constexpr QColor Maskenfarbe{70, 70, 70};
 constexpr QColor Rahmenfarbe{20, 60, 150};
+constexpr QColor Cursorfarbe{0, 0, 0};
 constexpr QColor Zielfarbe{251, 59, 15};
 constexpr QColor Hof{255, 255, 255, 200}; ///< on both sides of a stroke: what it crosses doesn't swallow it
 constexpr double Hofbreite = 1.5;
@@ -28,6 +29,7 @@ bool Zeigt(const Auflagenform &f) { return f.Visible && f.Left != Geparkt && (f.
 QPen Stift(const QColor &farbe, double breite, Qt::PenStyle stil = Qt::SolidLine) {
     QPen stift(farbe, breite, stil, Qt::FlatCap, Qt::MiterJoin);
     if (stil == Qt::DashLine) stift.setDashPattern({4, 3});
+    if (stil == Qt::DotLine) stift.setDashPattern({1.5, 1.5});
     return stift;
 }
 
@@ -102,6 +104,13 @@ void AuflagenMalen(QPainter &p, const Auflagen &a, int pfeilArt, double pixelJeC
     maler.Pfeil(a.Line5, pfeilArt);
     maler.Form(a.shpMask, Maskenfarbe, Strich);
     maler.Form(a.shpBox, Rahmenfarbe, Strich, Qt::DashLine);
+}
+
+void CursorMalen(QPainter &p, const Auflagen &a, double pixelJeCm) {
+    p.setRenderHint(QPainter::Antialiasing);
+    Maler maler(p, pixelJeCm);
+    maler.Form(a.shpCursor, Cursorfarbe, Zielstrich, Qt::DotLine);
+    for (const Auflagenlinie &l : a.Kreuz) maler.Linie(l, Cursorfarbe, Zielstrich);
 }
 
 } // namespace kw

@@ -57,7 +57,9 @@ QString Elementzugang::text(QAccessible::Text was) const {
 QRect Elementzugang::rect() const {
     const Elementzeile *zeile = baum_.Zeile(nummer);
     if (!zeile) return {};
-    const QRect ort = baum_.Ort(*zeile);
+    QRect ort = baum_.Ort(*zeile);
+    // What can be pointed at is what shows of it.
+    if (const QRect sichtbar = ort & baum_.quelle.Sicht(); !sichtbar.isEmpty()) ort = sichtbar;
     return {baum_.leinwand.mapToGlobal(ort.topLeft()), ort.size()};
 }
 
