@@ -72,7 +72,7 @@ constexpr std::array<Artwort, 7> Artworte{{
     {Elementart::Pfeil, {{"Pfeil", "arrow"}, {"Pfeile", "arrows"}}},
     {Elementart::Kreis, {{"Kreislinie", "circle line"}, {"Kreislinien", "circle lines"}}},
 }};
-constexpr Zweisprachig Leer{"leer", "empty"};
+constexpr Zweisprachig Leer{"leere Seite", "empty page"};
 constexpr Zweisprachig Genogramm{"Genogramm: %", "Genogram: %"};
 constexpr Zweisprachig Verknüpft{"verknüpft: %", "linked: %"};
 constexpr Zweisprachig Eingefügt{"eingefügt: %", "inserted: %"};

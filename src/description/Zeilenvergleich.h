@@ -26,7 +26,7 @@ std::string Ergebnistext(const std::vector<Elementzeile> &vorher, const std::vec
 /// A place on the page, cm: "6,3 und 5,4 cm".
 std::string Ortstext(double x, double y, Sprache sprache);
 
-/// "22 Personen, 7 Partnerschaften, 10 Beziehungen und 2 Texte"; "leer" without any.
+/// "22 Personen, 7 Partnerschaften, 10 Beziehungen und 2 Texte"; "leere Seite" without any.
 std::string Bestand(const std::vector<Elementzeile> &zeilen, Sprache sprache);
 
 /// The same of a whole page: who is whose child is told with the persons.

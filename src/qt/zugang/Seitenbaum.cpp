@@ -1,6 +1,7 @@
 #include "qt/zugang/Seitenbaum.h"
 
 #include "description/Zeilenvergleich.h"
+#include "qt/grund/Text.h"
 #include "qt/zugang/Seitenzugang.h"
 
 #include <QTimer>
@@ -112,6 +113,8 @@ void Seitenbaum::FokusKam() {
     if (std::exchange(fokusSteht_, true)) return;
     QTimer::singleShot(0, &leinwand, [this] {
         fokusSteht_ = false;
+        if (wach_ && leinwand.hasFocus() && !quelle.Fokus())
+            Ansagen(Text(Überblick(quelle.Zeilen(), quelle.InSprache())));
         Auffrischen();
     });
 }

@@ -40,8 +40,9 @@ class Seitenbaum : private QAccessible::ActivationObserver {
 
     /// An event is over: tells what is gone, new, selected and focused, then what was to be announced.
     void Auffrischen();
-    /// The canvas has got the focus: its element is told behind the event, or the lost focus forgotten.
+    /// The canvas has got the focus: its element is told behind the event, without one what there is on the page.
     void FokusKam();
+    /// It has lost it.
     void FokusGing() { erzählterFokus_ = 0; }
     /// Is read out whatever has the focus, behind what the event tells of elements.
     void Ansagen(const QString &text);
