@@ -73,22 +73,26 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
     if (!IstFrei(name)) return false;
     vorgelesen_ = nullptr;
-    tastatur.VorBefehl();
+    const auto inHand = [this] { return IstBereit(lage) || IstLink(lage.Aktion); };
+    const bool vorher = inHand();
+    tastatur.VorBefehl(); // what moves comes to its end, and is what undo takes back
     leinwand.GesteAbbrechen();
     Befehlsumgebung umgebung = FürBefehle();
     befehl.Ausführen(umgebung, befehl.Nummer);
     NachEreignis();
-    if (IstBereit(lage) || IstLink(lage.Aktion)) plattform.benutzer.FokusAufLeinwand(); // the page is what comes next
+    if (!vorher && inHand()) plattform.benutzer.FokusAufLeinwand(); // the page is what comes next
     return true;
 }
 
 bool frmMain::TasteDrücken(const Tastendruck &taste) {
     vorgelesen_ = nullptr;
     const auto vorher = tastatur.Cursor().Text(dokument);
+    const bool unterwegs = tastatur.IstUnterwegs();
     const Fenstertaste *fenstertaste = FenstertasteFinden(taste);
     Befehlsumgebung umgebung = FürBefehle();
     if (fenstertaste) tastatur.LaufBeenden();
     const bool gemeint = fenstertaste ? (fenstertaste->Ausführen(umgebung), true) : tastatur.Drücken(taste);
+    if (unterwegs || tastatur.IstUnterwegs()) anzeige.UndoKnöpfeZeigen(tastatur.IstUnterwegs());
     NachEreignis();
     if (tastatur.Cursor().Text(dokument) != vorher || taste.Alt) CursorInsBild();
     return gemeint;

@@ -17,6 +17,8 @@ class Lauf {
     explicit Lauf(Werkbank &w) : w_(w) {}
 
     bool Läuft() const { return anfang_.has_value(); }
+    /// Whether it has come anywhere.
+    bool HatWeg() const { return Läuft() && (schritteX_ != 0 || schritteY_ != 0); }
     /// What is selected, or else `ersatz`, goes so many steps of the raster further, and stays selected. False when it
     /// can't: nothing there, a line that follows its persons, the page's edge.
     bool Schritt(std::optional<Element> ersatz, int schritteX, int schritteY);

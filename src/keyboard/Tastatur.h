@@ -30,6 +30,8 @@ class Tastatur {
 
     /// What moves by keys comes to its end: before a press, a command, after a while.
     void LaufBeenden() { lauf_.Beenden(); }
+    /// Whether such a run has moved something that no snapshot holds yet.
+    bool IstUnterwegs() const { return lauf_.HatWeg(); }
     /// The pointer is used: the cursor goes with what it selects, and doesn't show.
     void MausGedrückt();
     void MausBewegt();
