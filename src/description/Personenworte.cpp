@@ -225,6 +225,7 @@ std::vector<std::string> Personenworte::Kinderzahlen(const PersonSatz &person) c
         ++zahlen[!zählt ? 0 : kennzahl == 6 ? 5 : kennzahl];
     }
     std::vector<std::string> texte;
+    texte.reserve(zahlen.size());
     for (const auto &[kennzahl, anzahl] : zahlen)
         texte.push_back(Gezählt(anzahl, kennzahl == 0 ? Kinderwort : ArtVon(kennzahl).Zahl, sprache));
     return texte;

@@ -172,8 +172,8 @@ void Seitenbaum::Auffrischen() {
         for (const Eintrag &alter : vorher)
             if (alter.Zugang && StelleVon(alter.Nummer) < 0) QAccessible::deleteAccessibleInterface(alter.Zugang);
         if (QAccessible::isActive())
-            for (size_t i = 0; i < einträge_.size(); ++i)
-                if (einträge_[i].Nummer >= ersteNeue) Melden(Zugang(einträge_[i].Nummer), QAccessible::ObjectCreated);
+            for (const Eintrag &eintrag : einträge_)
+                if (eintrag.Nummer >= ersteNeue) Melden(Zugang(eintrag.Nummer), QAccessible::ObjectCreated);
         for (const int nummer : gewählte) Melden(Zugang(nummer), QAccessible::Selection);
         FokusErzählen();
     }

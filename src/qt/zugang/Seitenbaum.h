@@ -34,7 +34,7 @@ class Seitenbaum : private QAccessible::ActivationObserver {
   public:
     /// `leinwand` has the keyboard's focus for all elements, and owns this.
     Seitenbaum(QWidget &leinwand, Seitenquelle quelle);
-    ~Seitenbaum();
+    ~Seitenbaum() override;
     Seitenbaum(const Seitenbaum &) = delete;
     Seitenbaum &operator=(const Seitenbaum &) = delete;
 
