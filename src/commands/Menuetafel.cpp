@@ -277,6 +277,14 @@ constexpr Paar Gleiche[] = {
     {Name::keyFarbig, Name::mnuFarbig},
 };
 
+/// Beside the choices of the toolbar's lists.
+constexpr std::string_view Ankreuzbare[] = {
+    Name::mnuLegendeAnzeigen, Name::mnuSchwarzWeiß,    Name::mnuGraustufen,     Name::mnuFarbig,
+    Name::mnuRasterGroß,      Name::mnuRasterKlein,    Name::btnHochformat,     Name::btnQuerformat,
+    Name::btnBlattränder,     Name::btnGitterZeichnen, Name::btnWerkzeugleiste, Name::btnLegende,
+    Name::btnAuswahlZuBild,   Name::btnImport,
+};
+
 } // namespace
 
 std::span<const Menüzeile> Menütafel() { return Tafel; }
@@ -295,6 +303,10 @@ bool GehörtZu(std::string_view name, std::string_view menü) {
     for (const Menüzeile *z = MenüzeileFinden(name); z; z = MenüzeileFinden(z->Menü))
         if (z->Menü == menü) return true;
     return false;
+}
+
+bool IstAnkreuzbar(std::string_view name) {
+    return std::find(std::begin(Ankreuzbare), std::end(Ankreuzbare), name) != std::end(Ankreuzbare);
 }
 
 std::string_view Menügleich(std::string_view name) {

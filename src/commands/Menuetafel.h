@@ -40,6 +40,9 @@ bool IstMenü(const Menüzeile &zeile);
 /// Whether the row `name` stands in `menü` or in a menu below it.
 bool GehörtZu(std::string_view name, std::string_view menü);
 
+/// Whether the row can be ticked, or a button pressed, and let go again.
+bool IstAnkreuzbar(std::string_view name);
+
 /// The menu entry that toolbar item `name` stands for, in what it does and in its shortcut; empty for an item of its
 /// own. Undo and redo have a second name, under which nothing shows.
 std::string_view Menügleich(std::string_view name);

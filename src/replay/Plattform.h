@@ -40,6 +40,7 @@ class DrehbuchBenutzer : public Benutzer {
     std::deque<Vorbereitet> Antworten;
     std::deque<std::string> Menüwahlen; ///< entries to pick in the next context menus
     std::string Kästen;                 ///< boxes and dialogs since they were last asked for, a line each
+    std::string Angesagtes;             ///< what was told since it was last asked for, a line each
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
@@ -61,6 +62,7 @@ class DrehbuchBenutzer : public Benutzer {
     void FensterSchließen() override { SchließenVerlangt = true; }
     bool AdresseÖffnen(const std::string &adresse) override { return Starten("address " + adresse); }
     bool ProgrammStarten(const std::string &name) override { return Starten("program " + name); }
+    void Ansagen(std::string_view text) override { Angesagtes += "  " + std::string(text) + "\n"; }
     void FokusAufLeinwand() override {}
     void FokusWeitergeben(bool zurück) override { wirkungen_ += zurück ? "focus back\n" : "focus on\n"; }
     std::string Desktopordner() const override { return "/home/user/Desktop/"; }

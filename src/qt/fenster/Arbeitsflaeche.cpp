@@ -7,6 +7,7 @@
 #include "qt/fenster/Suchfeld.h"
 #include "qt/fenster/Tasten.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "qt/malen/LeinwandFlaeche.h"
 #include "qt/malen/Seitenhinweis.h"
@@ -55,6 +56,7 @@ int Tastencode(Qt::MouseButton taste) {
 } // namespace
 
 Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand), zeiger_(Mauszeiger::Pfeil) {
+    baum_ = std::make_unique<Seitenbaum>(*this, FürVorleser());
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true); // rubber lines follow the pointer without a button
@@ -100,7 +102,11 @@ void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &mod
 
 void Arbeitsflaeche::Auffrischen() {
     if (!haupt_) return;
-    setAccessibleName(Text(Zweisprachig{"Genogramm", "Genogram"}.In(anblick_->ansicht.Sprache)));
+    VorlesenAls(*this, Text(Zweisprachig{"Genogramm", "Genogram"}.In(anblick_->ansicht.Sprache)));
+    VorlesenAls(vScroll_,
+                Text(Zweisprachig{"Senkrechter Bildlauf", "Vertical Scrolling"}.In(anblick_->ansicht.Sprache)));
+    VorlesenAls(hScroll_,
+                Text(Zweisprachig{"Waagrechter Bildlauf", "Horizontal Scrolling"}.In(anblick_->ansicht.Sprache)));
     const Arbeitsbereich &b = anblick_->bereich;
     const int breite = vScroll_.sizeHint().width();
     const int höhe = hScroll_.sizeHint().height();
@@ -114,6 +120,7 @@ void Arbeitsflaeche::Auffrischen() {
     LeisteStellen(hScroll_, b.HScroll1);
     ZeigerSetzen();
     update();
+    baum_->Auffrischen();
 }
 
 QRectF Arbeitsflaeche::Seite() const {
@@ -283,10 +290,15 @@ void Arbeitsflaeche::keyReleaseEvent(QKeyEvent *ereignis) {
 }
 
 /// Where the keyboard is shows only while it works here.
-void Arbeitsflaeche::focusInEvent(QFocusEvent *) { update(); }
+void Arbeitsflaeche::focusInEvent(QFocusEvent *) {
+    update();
+    baum_->FokusKam();
+}
+
 void Arbeitsflaeche::focusOutEvent(QFocusEvent *) {
     LeertasteHalten(false);
     update();
+    baum_->FokusGing();
 }
 
 /// Tab walks round the page, and on from its ends.
@@ -338,6 +350,50 @@ void Arbeitsflaeche::dropEvent(QDropEvent *ereignis) {
     setFocus(Qt::OtherFocusReason);
     const QPointF cm = InCm(ereignis->position());
     Melden([&] { haupt_->ImportzeileAblegen(*zeile, cm.x(), cm.y()); });
+}
+
+/// For who can't see it.
+Seitenquelle Arbeitsflaeche::FürVorleser() {
+    return {[this]() -> const std::vector<Elementzeile> & {
+                haupt_->DerVorleser().Zuhören();
+                return haupt_->DerVorleser().Zeilen();
+            },
+            [this] { return anblick_->ansicht.Sprache; },
+            [this](const Umgebung &cm) { return OrtVon(cm); },
+            [this] { return Sicht(); },
+            [this] { return anblick_->cursor.Element(); },
+            [this](Element element, Elementtat tat) { Machen(element, tat); }};
+}
+
+QRect Arbeitsflaeche::Sicht() const {
+    const Arbeitsbereich &b = anblick_->bereich;
+    const int rechts = b.VScroll1.Visible ? vScroll_.x() : width();
+    const int unten = b.HScroll1.Visible ? hScroll_.y() : height();
+    const int links = b.picBack.Left / TwipsJePixel;
+    return Seite().toAlignedRect() & QRect(links, 0, rechts - links, unten);
+}
+
+QRect Arbeitsflaeche::OrtVon(const Umgebung &cm) const {
+    const QRectF seite = Seite();
+    const double maßstab = seite.width() / anblick_->ansicht.SeitenBreite;
+    const QRectF ort(cm.Links * maßstab, cm.Oben * maßstab, (cm.Rechts - cm.Links) * maßstab,
+                     (cm.Unten - cm.Oben) * maßstab);
+    return ort.translated(seite.topLeft()).toRect();
+}
+
+/// As the keys do it that are told with the names of what can be done.
+void Arbeitsflaeche::Machen(Element element, Elementtat tat) {
+    if (!haupt_ || imModell_) return;
+    setFocus(Qt::OtherFocusReason);
+    Melden([&] { haupt_->ElementFokussieren(element); });
+    switch (tat) {
+    case Elementtat::Fokussieren: break;
+    case Elementtat::Wählen:
+        if (TasteMelden({Taste::Leer})) Melden([this] { haupt_->LeertasteLoslassen(); });
+        break;
+    case Elementtat::Bearbeiten: TasteMelden({Taste::Eingabe}); break;
+    case Elementtat::MenüÖffnen: TasteMelden({Taste::Menü}); break;
+    }
 }
 
 Mauszeiger Arbeitsflaeche::Zeiger() const {

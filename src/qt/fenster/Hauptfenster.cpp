@@ -9,6 +9,7 @@
 #include "qt/fenster/Werkzeugpalette.h"
 #include "qt/formulare/Formularfenster.h"
 #include "qt/grund/Text.h"
+#include "qt/zugang/Seitenzugang.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -140,6 +141,7 @@ Hauptfenster::Hauptfenster(const std::string &kommandozeile)
     : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
       fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     OhneDateiverlauf();
+    SeitenzugangEinrichten();
     setCentralWidget(fläche_);
     setAnimated(false);
     setAcceptDrops(true);
@@ -327,6 +329,8 @@ bool Hauptfenster::ProgrammStarten(const std::string &name) {
     return QFileInfo(eigentlich).isExecutable() && GehörtDemSystem(eigentlich.toStdString()) &&
            QProcess::startDetached(QStringLiteral("pkexec"), {eigentlich});
 }
+
+void Hauptfenster::Ansagen(std::string_view text) { fläche_->Baum().Ansagen(Text(text)); }
 
 void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }
 
