@@ -30,7 +30,11 @@ TEST(Aufruf, SagtWasVerlangtIst) {
         {{"--export", "o.pdf"}, Art::Falsch}, {{"--export", "o.txt", "a.kwp"}, Art::Falsch},
         {{"--export", "o.pdf", "--export", "o.png", "a.kwp"}, Art::Falsch},
         {{"--export", "o.png", "--dpi", "9", "a.kwp"}, Art::Falsch},
-        {{"--export", "o.png", "--dpi", "72x", "a.kwp"}, Art::Falsch}, {{"--export", projekt, projekt}, Art::Falsch}};
+        {{"--export", "o.png", "--dpi", "72x", "a.kwp"}, Art::Falsch}, {{"--export", projekt, projekt}, Art::Falsch},
+        {{"--describe", "a.kwp"}, Art::Beschreibung}, {{"a.kwp", "--language", "de", "--describe"}, Art::Beschreibung},
+        {{"--describe"}, Art::Falsch}, {{"--describe", "--language", "fr", "a.kwp"}, Art::Falsch},
+        {{"--language", "de", "a.kwp"}, Art::Falsch}, {{"--describe", "--export", "o.png", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.png", "--describe", "a.kwp"}, Art::Falsch}};
     // clang-format on
     for (const auto &[worte, art] : fälle) {
         const Aufruf a = AufrufLesen(worte);

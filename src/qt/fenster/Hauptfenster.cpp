@@ -13,6 +13,7 @@
 #include "qt/formulare/Formularfenster.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Svgsinnbild.h"
+#include "qt/zugang/Seitenzugang.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -122,6 +123,7 @@ Hauptfenster::Hauptfenster(const std::string &kommandozeile)
       fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     OhneDateiverlauf();
     leinwand_.BildschirmSetzen(QGuiApplication::primaryScreen()->size());
+    SeitenzugangEinrichten();
     setCentralWidget(fläche_);
     setAnimated(false);
     setAcceptDrops(true);
@@ -332,6 +334,8 @@ bool Hauptfenster::ProgrammStarten(const std::string &name) {
     return QFileInfo(eigentlich).isExecutable() && GehörtDemSystem(eigentlich.toStdString()) &&
            QProcess::startDetached(QStringLiteral("pkexec"), {eigentlich});
 }
+
+void Hauptfenster::Ansagen(std::string_view text) { fläche_->Baum().Ansagen(Text(text)); }
 
 void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }
 

@@ -43,6 +43,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void FensterSchließen() override { close(); }
     bool AdresseÖffnen(const std::string &adresse) override;
     bool ProgrammStarten(const std::string &name) override;
+    void Ansagen(std::string_view text) override;
     void FokusAufLeinwand() override;
     std::optional<Fensterlage> Fensterstand() const override;
     void FokusWeitergeben(bool zurück) override;

@@ -59,6 +59,18 @@ int Exportieren(const Aufruf &aufruf, int &argc, char **argv) {
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
 }
 
+/// The page in words, as the window would tell it.
+int Beschreiben(const Aufruf &aufruf, int &argc, char **argv) {
+    const QCoreApplication anwendung(argc, argv);
+    const QtUhr uhr;
+    Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
+    if (aufruf.InSprache) bild.ansicht.Sprache = *aufruf.InSprache;
+    const std::string schaden = bild.Laden(aufruf.Datei);
+    if (bild.IstGelesen())
+        if (const int ergebnis = Ausgegeben(bild.InWorten())) return ergebnis;
+    return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
+}
+
 /// The texts of the platform's own dialogs and buttons, which follow the platform's language and not the program's.
 /// The program itself is written from left to right in all its languages.
 void PlattformtexteLaden(QTranslator &texte) {
@@ -104,6 +116,9 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     case Einzelinstanz::Stand::Allein: Melden(instanz.Grund() + "; this window stands alone", 0); break;
     case Einzelinstanz::Stand::Erste: break;
     }
+    // Without it a screen reader that is started later is never heard of.
+    if (!qEnvironmentVariableIsSet("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"))
+        qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     const QApplication anwendung(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kinwright"));
     QApplication::setDesktopFileName(QStringLiteral("kinwright")); // by it desktops know whose window it is
@@ -127,6 +142,7 @@ int main(int argc, char **argv) try {
     case Aufruf::Art::Version: return Ausgegeben("kinwright " + std::string(Programmversion) + "\n");
     case Aufruf::Art::Falsch: return Melden(aufruf.Fehler + "; see kinwright --help", 2);
     case Aufruf::Art::Export: return Exportieren(aufruf, argc, argv);
+    case Aufruf::Art::Beschreibung: return Beschreiben(aufruf, argc, argv);
     case Aufruf::Art::Fenster: break;
     }
     return FensterZeigen(aufruf, argc, argv);
