@@ -11,9 +11,9 @@ below() {
     platform | document) ;;
     rendering) echo document ;;
     editing) echo document rendering ;;
-    dialogs | output | commands) echo document rendering editing ;;
-    app) echo document rendering editing dialogs output commands ;;
-    qt | replay) echo document rendering editing dialogs output commands app ;;
+    dialogs | output | commands | keyboard) echo document rendering editing ;;
+    app) echo document rendering editing dialogs output commands keyboard ;;
+    qt | replay) echo document rendering editing dialogs output commands keyboard app ;;
     *) return 1 ;;
     esac
 }
@@ -27,7 +27,7 @@ floors_within() {
     editing)
         printf '%s\n' 'Ablage Auflagen Fensterdienste Geometrie' 'Gruppenart Leinwandlage' Werkbank 'Gesten Marker' Abwahl
         printf '%s\n' Linien+Linienzug Kinder+Zwillinge 'Personen+Symbolgroesse Pfeile Kreislinien Texte Legende Bildausschnitt'
-        printf '%s\n' 'Gruppe Elemente' Zwischenablage 'Leinwand Werkzeuge'
+        printf '%s\n' 'Gruppe Elemente' Zwischenablage Werkzeuge Leinwand
         ;;
     qt) printf '%s\n' grund/ malen/ 'drucken/ formulare/' fenster/ start/ ;;
     esac

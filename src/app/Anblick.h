@@ -7,10 +7,13 @@ namespace kw {
 
 class Arbeitsbereich;
 class Bedienelemente;
+class Seitencursor;
 class Uhr;
 struct Ansicht;
 struct Auflagen;
+struct Dokument;
 struct Importperson;
+struct Legendenblatt;
 struct Leinwandlage;
 
 /// What a face shows of the main window, as it stands after each event. A face changes nothing of it: what the user
@@ -24,6 +27,9 @@ struct Anblick {
     const Leinwandlage &lage;        ///< the pointer's picture, and what is told of the selected person
     const std::vector<Importperson> &Importzeilen;
     const Uhr &uhr; ///< the pictures of symbols are drawn with it
+    const Dokument &dokument;
+    const Legendenblatt &legende;
+    const Seitencursor &cursor; ///< where the keyboard is on the page
 };
 
 } // namespace kw

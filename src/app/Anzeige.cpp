@@ -120,9 +120,11 @@ void Anzeige::WerkzeugleisteZeigen() {
     bedienung_[Name::mnuWerkzeugleiste].Caption = Text(Palettentext, sichtbar, z_.ansicht);
 }
 
-void Anzeige::UndoKnöpfeZeigen() {
-    bedienung_[Name::btnUndo].Enabled = bedienung_[Name::mnuRückgängig].Enabled = z_.ring.UndoSchritte() >= 1;
-    bedienung_[Name::btnRedo].Enabled = bedienung_[Name::mnuWiederholen].Enabled = z_.ring.RedoSchritte() >= 1;
+void Anzeige::UndoKnöpfeZeigen(bool unterwegs) {
+    const bool zurück = unterwegs || z_.ring.UndoSchritte() >= 1;
+    const bool vor = !unterwegs && z_.ring.RedoSchritte() >= 1;
+    bedienung_[Name::btnUndo].Enabled = bedienung_[Name::mnuRückgängig].Enabled = zurück;
+    bedienung_[Name::btnRedo].Enabled = bedienung_[Name::mnuWiederholen].Enabled = vor;
 }
 
 void Anzeige::UndoKnöpfeSperren() { bedienung_[Name::btnUndo].Enabled = bedienung_[Name::btnRedo].Enabled = false; }

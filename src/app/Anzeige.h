@@ -61,7 +61,8 @@ class Anzeige {
     void MöglichesZeigen();
     /// Undo and redo, as the ring has steps: whenever it has changed, and not after every event, since closing takes
     /// both away whatever it holds.
-    void UndoKnöpfeZeigen();
+    /// `unterwegs` says that a run of moves is on whose step the ring gets when something else is done.
+    void UndoKnöpfeZeigen(bool unterwegs = false);
     void UndoKnöpfeSperren();
 
   private:

@@ -259,11 +259,6 @@ Befehl AusReihe(std::string_view name) {
 
 } // namespace
 
-void NichtsAuswählen(Werkbank &w) {
-    AllesAbwählen(w.auswahl, w.lage, w.auflagen);
-    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = false;
-}
-
 Befehl BefehlFinden(std::string_view name) {
     if (const auto menü = Menügleich(name); !menü.empty()) name = menü;
     const auto i =

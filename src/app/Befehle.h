@@ -41,9 +41,6 @@ struct Befehl {
     explicit operator bool() const { return Ausführen != nullptr; }
 };
 
-/// Ends the selection and the gesture in progress; what needs a selection can't be pressed then.
-void NichtsAuswählen(Werkbank &w);
-
 /// The command under that name; an empty one when there is none.
 Befehl BefehlFinden(std::string_view name);
 

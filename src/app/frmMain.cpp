@@ -6,6 +6,7 @@
 #include "dialogs/frmEinstellungen.h"
 #include "document/Dateien.h"
 #include "document/Texte.h"
+#include "editing/Abwahl.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
@@ -43,10 +44,13 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, plattform.drucker, *this),
       hinweis(bedienung, plattform.benutzer),
       bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
-      netz(start.Netzordner),
-      projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt, netz},
-              {ansicht, anzeige, plattform.benutzer, *this, *this, [this] { NichtsAuswählen(werkbank); }},
-              start.IniDatei),
+      netz(start.Netzordner), projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt, netz},
+                                      {ansicht, anzeige, plattform.benutzer, *this, *this,
+                                       [this] {
+                                           NichtsAuswählen(werkbank);
+                                           tastatur.Vergessen();
+                                       }},
+                                      start.IniDatei),
       import(start, {dokument, lage, ansicht}, projekt, plattform.benutzer, *this),
       werkbank{dokument, ansicht, auswahl, lage, auflagen, ablage, legende, picVorschau, plattform.benutzer, *this},
       leinwand(werkbank), Kommandozeile(Entpackt(start.Kommandozeile)) {
@@ -128,6 +132,7 @@ bool frmMain::Schließen() {
 }
 
 bool frmMain::SitzungBeenden() {
+    tastatur.LaufBeenden();
     leinwand.GesteAbbrechen(); // what stands on the page already counts as a change
     projekt.SpeichernAbgebrochen = false;
     aufgegeben_ = false;
@@ -139,6 +144,8 @@ bool frmMain::SitzungBeenden() {
 
 /// What was given up goes only now: until here somebody else could have kept the session.
 void frmMain::Beenden() {
+    tastatur.LaufBeenden();
+    Festhalten();
     if (aufgegeben_) projekt.Loslassen();
     EinstellungenSichern();
 }
@@ -171,6 +178,7 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "tmrDrucker") DruckerErmitteln();
     if (name == "tmrLanguage") SpracheErfragen();
     if (name == "tmrToolTipp") hinweis.Zeigen();
+    if (name == "tmrLauf") tastatur.LaufBeenden();
     NachEreignis();
 }
 
@@ -194,72 +202,10 @@ void frmMain::Festhalten() {
 void frmMain::NachEreignis() {
     aufgegeben_ = false;
     Festhalten();
+    tastatur.NachEreignis();
     anzeige.MöglichesZeigen();
     plattform.benutzer.AnzeigeAuffrischen();
     einstellungsablage.Nachführen(AktuelleEinstellungen());
-}
-
-void frmMain::MouseDown(int taste, double x, double y) {
-    leinwand.MouseDown(taste, x, y);
-    NachEreignis();
-}
-
-void frmMain::MouseMove(int taste, double x, double y) {
-    hinweis.PaletteBerührt(0);
-    leinwand.MouseMove(taste, x, y);
-}
-
-void frmMain::MouseUp(int taste, double x, double y) {
-    anzeige.UndoKnöpfeZeigen();
-    leinwand.MouseUp(taste, x, y);
-    NachEreignis();
-}
-
-void frmMain::DblClick(double x, double y) {
-    leinwand.DblClick(x, y);
-    NachEreignis();
-}
-
-/// The palette stands beside the frame.
-void frmMain::GrößeÄndern(int breite, int höhe) {
-    bereich.GrößeÄndern(breite, höhe);
-    plattform.benutzer.AnzeigeAuffrischen();
-}
-
-void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
-    leinwand.GesteAbbrechen();
-    NichtsAuswählen(werkbank);
-    import.Ablegen(werkbank, zeile, x, y);
-    NachEreignis();
-}
-
-void frmMain::DateiÜbernehmen(const std::string &pfad) {
-    if (pfad.empty()) return;
-    leinwand.GesteAbbrechen();
-    projekt.ÖffnenMitFrage(pfad);
-    NachEreignis();
-}
-
-/// Whether a user finds `name`, or else the menu entry that it stands for, and the menus around it, and can choose it.
-bool frmMain::IstFrei(std::string_view name) const {
-    const Menüzeile *zeile = MenüzeileFinden(name);
-    for (zeile = zeile ? zeile : MenüzeileFinden(Menügleich(name)); zeile; zeile = MenüzeileFinden(zeile->Menü)) {
-        const Bedienelement &element = *bedienung.Finden(zeile->Name);
-        if (!element.Enabled || !element.Visible) return false;
-    }
-    return true;
-}
-
-bool frmMain::BefehlAusführen(std::string_view name) {
-    const Befehl befehl = BefehlFinden(name);
-    if (!befehl) return false;
-    if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
-    if (!IstFrei(name)) return false;
-    leinwand.GesteAbbrechen();
-    Befehlsumgebung umgebung = FürBefehle();
-    befehl.Ausführen(umgebung, befehl.Nummer);
-    NachEreignis();
-    return true;
 }
 
 void frmMain::PopupÖffnen(Befehlsname menü) {

@@ -14,6 +14,7 @@
 #include "document/Sicherheitsnetz.h"
 #include "document/UndoRing.h"
 #include "editing/Leinwand.h"
+#include "keyboard/Tastatur.h"
 #include "output/Arbeitsbereich.h"
 #include "output/Druckwerk.h"
 #include "output/basBildExport.h"
@@ -78,6 +79,14 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void MouseUp(int taste, double x, double y);
     void DblClick(double x, double y);
 
+    /// A key on the page, or in the window where nothing else wants it. False when it has no meaning here now: Tab then
+    /// leads on.
+    bool TasteDrücken(const Tastendruck &taste);
+    /// Space has been let go.
+    void LeertasteLoslassen();
+    /// Goes to the next person of that name. False when there is none.
+    bool PersonSuchen(std::string_view text);
+
     /// The window has another inner size, twips; see `Arbeitsbereich`, as for the next three.
     void GrößeÄndern(int breite, int höhe);
     void Scrollen(int hValue, int vValue) { bereich.Scrollen(hValue, vValue); }
@@ -115,6 +124,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     bool IstFrei(std::string_view name) const;
     void NachEreignis();
     void Festhalten();
+    void CursorInsBild();
     void KommandozeileÖffnen();
     void ZweiteStufe();
     void ListenFüllen();
@@ -158,11 +168,12 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Datenimport import;
     Werkbank werkbank;
     Leinwand leinwand;
+    Tastatur tastatur{werkbank};
     bool aufgegeben_ = false;   ///< the closing question was answered with No
     bool netzGemeldet_ = false; ///< that the safety net can't be written
     std::string Kommandozeile;  ///< trimmed and unquoted
-    const Anblick anblick{projekt.Titel, ansicht, bedienung,           bereich,
-                          auflagen,      lage,    import.Listenzeilen, plattform.uhr};
+    const Anblick anblick{projekt.Titel,       ansicht,       bedienung, bereich, auflagen,         lage,
+                          import.Listenzeilen, plattform.uhr, dokument,  legende, tastatur.Cursor()};
 };
 
 /// The command line as the program takes it: trimmed, one pair of enclosing quotation marks removed.

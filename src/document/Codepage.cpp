@@ -6,6 +6,10 @@
 #include <array>
 #include <cstdint>
 
+#include <clocale>
+#include <cwctype>
+#include <locale.h>
+
 namespace kw {
 
 namespace {
@@ -77,6 +81,20 @@ std::string NachCodepage(std::string_view utf8) {
         utf8.remove_prefix(std::max<size_t>(länge, 1));
     }
     return bytes;
+}
+
+std::string Kleingeschrieben(std::string_view utf8) {
+    static const locale_t Unicode = ::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr); // the user's may know less
+    std::string klein;
+    klein.reserve(utf8.size());
+    while (!utf8.empty()) {
+        const auto [zeichen, länge] = ErstesZeichen(utf8);
+        const bool hatBeide = länge > 0 && länge < 4 && Unicode; // behind these hardly a script has
+        if (hatBeide) Anfügen(klein, static_cast<char32_t>(::towlower_l(static_cast<wint_t>(zeichen), Unicode)));
+        else klein += utf8.substr(0, std::max<size_t>(länge, 1));
+        utf8.remove_prefix(std::max<size_t>(länge, 1));
+    }
+    return klein;
 }
 
 } // namespace kw

@@ -14,4 +14,7 @@ std::string NachUtf8(std::string_view bytes);
 /// no UTF-8.
 std::string NachCodepage(std::string_view utf8);
 
+/// UTF-8 in small letters of every script, so that names can be compared; bytes that are no UTF-8 stay.
+std::string Kleingeschrieben(std::string_view utf8);
+
 } // namespace kw

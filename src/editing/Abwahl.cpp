@@ -54,6 +54,11 @@ void AllesAbwählen(Auswahl &auswahl, Leinwandlage &lage, Auflagen &auflagen) {
     auflagen = {};
 }
 
+void NichtsAuswählen(Werkbank &w) {
+    AllesAbwählen(w.auswahl, w.lage, w.auflagen);
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = false;
+}
+
 void LöschenAbschließen(Werkbank &w) {
     PositionenVergessen(w.lage);
     w.lage.Aktion = Aktion::Nichts;

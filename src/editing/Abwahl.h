@@ -17,6 +17,8 @@ void AuswahlAufgeben(Werkbank &w);
 void PositionenVergessen(Leinwandlage &lage);
 /// Nothing selected, no gesture, every shape out of the way; no redraw. Before other records come into the stores.
 void AllesAbwählen(Auswahl &auswahl, Leinwandlage &lage, Auflagen &auflagen);
+/// The same for whoever has the whole: what needs a selection can't be pressed then.
+void NichtsAuswählen(Werkbank &w);
 /// How the deleting of a single element ends: nothing selected, one snapshot, one redraw.
 void LöschenAbschließen(Werkbank &w);
 

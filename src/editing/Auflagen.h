@@ -54,6 +54,8 @@ struct Auflagen {
     Auflagenform shpMask;                  ///< what is dragged: a person, a text box, the legend
     Auflagenform shpBox{.Visible = true};  ///< marquee and group frame
     Auflagenform shpPerson;                ///< link target
+    Auflagenform shpCursor;                ///< where the keyboard is
+    std::array<Auflagenlinie, 2> Kreuz;    ///< the same with a tool in hand
 };
 
 } // namespace kw

@@ -31,6 +31,8 @@ struct Umgebung {
     double Links = 0, Oben = 0, Rechts = 0, Unten = 0;
     bool Leer = true;
 
+    double MitteX() const { return (Links + Rechts) / 2; }
+    double MitteY() const { return (Oben + Unten) / 2; }
     void Aufnehmen(double x, double y, double breite = 0, double höhe = 0);
 };
 

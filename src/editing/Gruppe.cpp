@@ -135,16 +135,19 @@ bool GruppeFassen(Werkbank &w, const Ereignis &e) {
         w.fenster.Vorschau();
         return true;
     }
+    RahmenFassen(w, e);
+    return true;
+}
+
+void RahmenFassen(Werkbank &w, const Ereignis &e) {
     w.lage.Zeiger = Mauszeiger::Verschieben;
     w.lage.DeltaX = w.lage.DeltaY = 0;
-    w.lage.VersatzX = e.X - rahmen.Left;
-    w.lage.VersatzY = e.Y - rahmen.Top;
-    if (e.Rechts()) {
-        w.lage.Zeiger = Mauszeiger::Pfeil; // no drag follows
-        w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
-        PopupÖffnen(w, Name::mnuAuswahlBox);
-    }
-    return true;
+    w.lage.VersatzX = e.X - w.auflagen.shpBox.Left;
+    w.lage.VersatzY = e.Y - w.auflagen.shpBox.Top;
+    if (!e.Rechts()) return;
+    w.lage.Zeiger = Mauszeiger::Pfeil; // no drag follows
+    w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
+    PopupÖffnen(w, Name::mnuAuswahlBox);
 }
 
 void GruppeZiehen(Werkbank &w, const Ereignis &e) {

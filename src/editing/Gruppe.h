@@ -22,6 +22,8 @@ void RahmenLoslassen(Werkbank &w, const Ereignis &e);
 bool ImRahmen(const Auflagen &auflagen, double x, double y);
 /// A press with a group selected takes the frame, or ends the selection. Says whether the event ends with it.
 bool GruppeFassen(Werkbank &w, const Ereignis &e);
+/// What that does with the frame, wherever the point lies: it is taken, or its menu opens.
+void RahmenFassen(Werkbank &w, const Ereignis &e);
 /// The frame follows the pointer by whole steps of the raster, as far as it stays on the page.
 void GruppeZiehen(Werkbank &w, const Ereignis &e);
 /// The frame goes back to where it was taken.

@@ -100,12 +100,15 @@ int KindLinieBei(const Dokument &d, double x, double y, double auswahlGröße) {
 
 bool KindLinieTreffer(Werkbank &w, double x, double y) {
     const int i = KindLinieBei(w.dokument, x, y, w.lage.AuswahlGröße);
-    if (i < 0) return false;
-    w.lage.KindAuswahl = i;
+    if (i >= 0) KindLinieFassen(w, i);
+    return i >= 0;
+}
+
+void KindLinieFassen(Werkbank &w, int position) {
+    w.lage.KindAuswahl = position;
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.lage.Aktion = Aktion::KindlinieGewählt;
     w.fenster.Vorschau();
-    return true;
 }
 
 void KindLinieLoslassen(Werkbank &w, const Ereignis &) { w.lage.Angebot.Löschen = true; }
@@ -131,6 +134,17 @@ void KindLinkZiehen(Werkbank &w, const Ereignis &e) {
     const int vorige = w.lage.PLinieAuswahl;
     w.lage.PLinieUnterMaus = PLinieTreffer(w, e.X, e.Y);
     if (w.lage.PLinieUnterMaus != vorher || (vorher && w.lage.PLinieAuswahl != vorige)) w.fenster.Vorschau();
+}
+
+void KindLinkZeigen(Werkbank &w, int plinie, const Ereignis &e) {
+    KindLinkZiehen(w, e);
+    PLinieFassen(w, plinie);
+    w.lage.PLinieUnterMaus = true;
+    w.fenster.Vorschau();
+}
+
+bool KannKindSein(const Dokument &d, int plinie, int person) {
+    return Gültig(d.cboPartnerschaftsLinien, plinie) && !StammtVon(d, plinie, person);
 }
 
 bool KindLinkBeenden(Werkbank &w, const Ereignis &) {

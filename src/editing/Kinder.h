@@ -21,14 +21,20 @@ int KindLinieBei(const Dokument &dokument, double x, double y, double auswahlGr√
 
 /// A press on one selects it. Says whether the event ends with it.
 bool KindLinieTreffer(Werkbank &w, double x, double y);
+/// What that does with the line at `position`, whatever lies over it.
+void KindLinieFassen(Werkbank &w, int position);
 /// The release leaves it selected, ready to be deleted.
 void KindLinieLoslassen(Werkbank &w, const Ereignis &e);
 
 /// Whether the selected person may become a child: it has no parents yet.
 bool KannKindWerden(const Dokument &dokument, const Leinwandlage &lage);
+/// Whether the couple of that partnership can be the parents of the person: they neither are it nor come from it.
+bool KannKindSein(const Dokument &dokument, int plinie, int person);
 /// Starts the link gesture of a child: its line follows the pointer to a bar, where a press hangs it up.
 void mnuKindVon(Werkbank &w);
 void KindLinkZiehen(Werkbank &w, const Ereignis &e);
+/// The same for one who names the bar instead of pointing at it, whatever lies over it at `e`.
+void KindLinkZeigen(Werkbank &w, int plinie, const Ereignis &e);
 bool KindLinkBeenden(Werkbank &w, const Ereignis &e);
 
 /// Kind of the selected child line: "A" adopted, "P" foster child, anything else natural.

@@ -134,6 +134,10 @@ bool KreisGewählt(Werkbank &w, const Ereignis &e) {
 void KreisZiehen(Werkbank &w, const Ereignis &e) {
     const double schritt = w.ansicht.Rasterweite;
     if (!Kleiner(schritt, std::fabs(e.X - w.lage.DownX)) && !Kleiner(schritt, std::fabs(e.Y - w.lage.DownY))) return;
+    KreisVerschieben(w, e);
+}
+
+void KreisVerschieben(Werkbank &w, const Ereignis &e) {
     if (!Gültig(w.dokument.cboFreehandlines, w.lage.KreisAuswahl - 1)) return;
     auto punkte = w.lage.KreisPunkte;
     Umgebung u;
@@ -156,7 +160,10 @@ void KreisZeichnen(Werkbank &w, const Ereignis &e) {
     const Kreispunkt ort = AufSeite(w.ansicht, e);
     const double dx = ort.X - w.lage.LetztX;
     const double dy = ort.Y - w.lage.LetztY;
-    if (w.lage.PunktListe.empty() || !Kleiner(StrichSchritt, std::hypot(dx, dy))) return;
+    if (!w.lage.PunktListe.empty() && Kleiner(StrichSchritt, std::hypot(dx, dy))) KreisPunktSetzen(w, ort);
+}
+
+void KreisPunktSetzen(Werkbank &w, Kreispunkt ort) {
     KreisPunktAnhängen(w.lage.PunktListe, ort);
     // On the kept picture itself: the next redraw takes the finished line in its place.
     Zeichenfläche &f = w.picVorschau;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/saetze/Kreislinie.h"
 #include "editing/Gruppenart.h"
 
 // Circle lines: closed strokes drawn by hand.
@@ -23,6 +24,10 @@ bool KreisGewählt(Werkbank &w, const Ereignis &e);
 // What follows the pointer: the selected line, whose record changes at once; the stroke in the making.
 void KreisZiehen(Werkbank &w, const Ereignis &e);
 void KreisZeichnen(Werkbank &w, const Ereignis &e);
+/// The selected line stands as far from where it was taken as `e` from the place of the press; however near that is.
+void KreisVerschieben(Werkbank &w, const Ereignis &e);
+/// The stroke in the making goes on to that place, however near it is.
+void KreisPunktSetzen(Werkbank &w, Kreispunkt ort);
 
 // The release: a line that was dragged gets its snapshot; a stroke is closed, and stored if it has two points.
 void KreisLoslassen(Werkbank &w, const Ereignis &e);

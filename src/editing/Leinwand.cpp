@@ -14,6 +14,7 @@
 #include "editing/Personen.h"
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
+#include "editing/Werkzeuge.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 
@@ -146,6 +147,10 @@ constexpr Schritt Schritte[] = {
     LegendeFassen, KreisTreffen, KreisGewählt,  GruppeFassen,    TextWarGefasst, KindLinkBeenden, MenüWarOffen,
     LinkBeenden,   PersonSetzen, PersonTreffen, LinieWarGewählt, LinieTreffen,   TextTreffen,     RahmenBeginnen};
 
+/// Those of them that make something with a tool.
+constexpr Schritt Werkzeugschritte[] = {Zurücksetzen, OrtMerken,     BildBeginnen, PfeilBeginnen,
+                                        TextSetzen,   KreisBeginnen, PersonSetzen};
+
 /// The form of the person under the pointer, or of the one that the press has selected.
 void PersonÖffnen(Werkbank &w, int position) {
     constexpr int NachDemEreignis = 60; // ms
@@ -228,6 +233,15 @@ void Leinwand::MouseDown(int taste, double x, double y) {
         if (schritt(w, e)) return;
 }
 
+bool Leinwand::WerkzeugAnsetzen(double x, double y) {
+    if (!IstBereit(w.lage)) return false;
+    w.lage.MausX = x;
+    w.lage.MausY = y;
+    const Ereignis e{TasteLinks, x, y};
+    return std::any_of(std::begin(Werkzeugschritte), std::end(Werkzeugschritte),
+                       [&](Schritt schritt) { return schritt(w, e); });
+}
+
 void Leinwand::MouseMove(int taste, double x, double y) {
     w.lage.MausX = x;
     w.lage.MausY = y;
@@ -284,6 +298,25 @@ void Leinwand::DblClick(double x, double y) {
         return;
     }
     PersonÖffnen(w, person);
+}
+
+bool Leinwand::GesteZurücknehmen() {
+    if (!w.lage.Gedrückt) return false;
+    const int kreis = w.lage.KreisAuswahl - 1;
+    if (w.lage.Aktion == Aktion::KreisGewählt && Gültig(w.dokument.cboFreehandlines, kreis) &&
+        KreisPunkte(w.dokument.cboFreehandlines.Satz(kreis)) != w.lage.KreisPunkte)
+        w.dokument.cboFreehandlines.Ersetzen(kreis, KreisText(w.lage.KreisPunkte));
+    const bool pfeil = w.lage.Aktion == Aktion::PfeilEnde1 || w.lage.Aktion == Aktion::PfeilEnde2 ||
+                       w.lage.Aktion == Aktion::PfeilGefasst;
+    const bool bleibt = w.lage.Aktion == Aktion::PfeilZeichnen || w.lage.Aktion == Aktion::KreisZeichnen;
+    const Aktion aktion = pfeil ? Aktion::PfeilGewählt : w.lage.Aktion;
+    const bool bild = w.lage.BildAuswahl;
+    w.lage.Gedrückt = false;
+    ZugAbbrechen(w);
+    if (bleibt || pfeil) w.lage.Aktion = aktion;
+    w.lage.BildAuswahl = bild;
+    w.fenster.Vorschau();
+    return true;
 }
 
 void Leinwand::GesteAbbrechen() {

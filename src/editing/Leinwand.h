@@ -18,9 +18,17 @@ class Leinwand {
     /// Opens the form of what lies there, text boxes and the legend first; of a person behind the event, by a timer.
     void DblClick(double x, double y);
 
+    /// A press of the left button with a tool in hand that makes something, whatever lies there: a tool that is named
+    /// instead of pointed with hits nothing else. False, and nothing done, without such a tool.
+    bool WerkzeugAnsetzen(double x, double y);
+
     /// A command comes: a link gesture ends with nothing made, and so does what the button is dragging, but for a
     /// circle line, which stays where it is. The release to come ends no gesture.
     void GesteAbbrechen();
+
+    /// What the button is dragging, or a tool is making, goes back to where it was; the tool stays in hand. False when
+    /// there is no such gesture.
+    bool GesteZurücknehmen();
 
   private:
     Werkbank &w;

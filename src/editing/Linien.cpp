@@ -120,27 +120,33 @@ bool BalkenImKasten(std::string_view satz, const Auswahlkasten &kasten) {
 
 bool BezLinieTreffer(Werkbank &w, double x, double y) {
     const int i = BezLinieBei(w.dokument, x, y);
-    if (i < 0) return false;
-    w.lage.BezAuswahl = i;
+    if (i >= 0) BezLinieFassen(w, i);
+    return i >= 0;
+}
+
+void BezLinieFassen(Werkbank &w, int position) {
+    w.lage.BezAuswahl = position;
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     w.lage.Aktion = Aktion::BeziehungGewählt;
     w.lage.Angebot.Löschen = true;
     w.fenster.Vorschau();
-    return true;
 }
 
 bool PLinieTreffer(Werkbank &w, double x, double y) {
     w.auswahl.lstMovedPLines.Leeren();
     const int i = PLinieBei(w.dokument, x, y);
-    if (i < 0) return false;
-    w.lage.PLinieAuswahl = i;
+    if (i >= 0) PLinieFassen(w, i);
+    return i >= 0;
+}
+
+void PLinieFassen(Werkbank &w, int position) {
+    w.lage.PLinieAuswahl = position;
     w.lage.LinieVerschoben = false;
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
-    w.auswahl.lstMovedPLines.Anhängen(std::to_string(i + 1));
-    if (w.lage.Aktion == Aktion::KindZiehen) return true; // a link gesture goes on
+    w.auswahl.lstMovedPLines.Anhängen(std::to_string(position + 1));
+    if (w.lage.Aktion == Aktion::KindZiehen) return; // a link gesture goes on
     w.lage.Aktion = Aktion::PLinieGewählt;
     w.fenster.Vorschau();
-    return true;
 }
 
 void BalkenZiehen(Werkbank &w, const Ereignis &e) {

@@ -32,6 +32,9 @@ bool BalkenImKasten(std::string_view satz, const Auswahlkasten &kasten);
 // touched is taken in hand without ending the gesture.
 bool BezLinieTreffer(Werkbank &w, double x, double y);
 bool PLinieTreffer(Werkbank &w, double x, double y);
+// What these do with the line at `position`, whatever lies over it.
+void BezLinieFassen(Werkbank &w, int position);
+void PLinieFassen(Werkbank &w, int position);
 
 /// A bar follows the pointer, up and down only; released, it and its children's lines take that height.
 void BalkenZiehen(Werkbank &w, const Ereignis &e);
@@ -49,6 +52,8 @@ void mnuBeziehungErstellen2(Werkbank &w);
 /// The pointer is at (x, y), over the person at that position or over none (-1): sets `ZielPerson`, the rubber line and
 /// the marks on the target.
 void LinkZiehen(Werkbank &w, int person, double x, double y);
+/// Whether that gesture can end at the person at that position: another one, and not joined so already.
+bool KannZielSein(const Werkbank &w, int person);
 /// A press ends the gesture at the person under the last move. Says whether the event ends with it.
 bool LinkBeenden(Werkbank &w, const Ereignis &e);
 /// Two persons, as positions in their store.

@@ -142,6 +142,19 @@ void LinkZiehen(Werkbank &w, int person, double x, double y) {
     ZielAnzeigen(w);
 }
 
+bool KannZielSein(const Werkbank &w, int person) {
+    const Dokument &d = w.dokument;
+    const auto [a, b] = std::minmax({person, w.lage.PersAuswahl - 1});
+    if (!IstPaar(d.cboPersonen, {a, b})) return false;
+    const auto nrA = Nummer(d.cboPersonen.Satz(a));
+    const auto nrB = Nummer(d.cboPersonen.Satz(b));
+    if (w.lage.Aktion == Aktion::PartnerschaftZiehen) return PLinieVonNach(d, nrA, nrB) < 0;
+    return ErsterSatz(d.cboBeziehungsLinien, [&](const std::string &satz) {
+               const BeziehungSatz linie(satz, Lücken::Leer);
+               return linie.PersNr1() == nrA && linie.PersNr2() == nrB;
+           }) < 0;
+}
+
 bool LinkBeenden(Werkbank &w, const Ereignis &) {
     if (w.lage.Aktion != Aktion::BeziehungZiehen && w.lage.Aktion != Aktion::PartnerschaftZiehen) return false;
     LinkAufräumen(w.lage, w.auflagen);

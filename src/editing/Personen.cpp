@@ -139,8 +139,12 @@ bool PersonTreffen(Werkbank &w, const Ereignis &e) {
     w.lage.PersAuswahl = 0;
     w.lage.PersRecord.clear();
     const int i = PersonBei(w.dokument, e.X, e.Y);
-    if (i < 0) return false;
-    PersonAuswählen(w, i);
+    if (i >= 0) PersonFassen(w, i, e);
+    return i >= 0;
+}
+
+void PersonFassen(Werkbank &w, int position, const Ereignis &e) {
+    PersonAuswählen(w, position);
     Gummi1Parken(w.auflagen);
     w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = true;
     const PersonSatz person(w.lage.PersRecord);
@@ -148,7 +152,6 @@ bool PersonTreffen(Werkbank &w, const Ereignis &e) {
     w.lage.VersatzY = e.Y - person.PosY();
     w.fenster.Vorschau();
     if (e.Rechts()) MenüÖffnen(w, person);
-    return true;
 }
 
 void PersonZiehen(Werkbank &w, const Ereignis &e) {

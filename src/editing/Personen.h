@@ -36,6 +36,8 @@ void ElternAnlegen(Werkbank &w);
 // A press: with a tool in hand that places somebody; on a person. Each says whether the event ends with it.
 bool PersonSetzen(Werkbank &w, const Ereignis &e);
 bool PersonTreffen(Werkbank &w, const Ereignis &e);
+/// What the press on the person at `position` does, whatever lies over it.
+void PersonFassen(Werkbank &w, int position, const Ereignis &e);
 
 /// Only the mask follows the pointer; a small drag leaves it unshown, that is the whole threshold.
 void PersonZiehen(Werkbank &w, const Ereignis &e);

@@ -17,7 +17,7 @@ constexpr double EndeToleranz = 0.2;   ///< on either axis, cm
 constexpr double KürzesterPfeil = 0.5; ///< on either axis, cm
 
 /// Lays the arrow's overlay over it: where it stands at the release is what is stored.
-void PfeilFassen(Werkbank &w) {
+void InHandNehmen(Werkbank &w) {
     const PfeilSatz pfeil(w.dokument.cboPfeile.Satz(w.lage.PfeilAuswahl));
     w.lage.PfeilArt = Ganzzahl16(ZahlLesen(pfeil.Pfeilart()));
     w.lage.PfeilEndeX = pfeil.X2();
@@ -101,30 +101,28 @@ bool PfeilBeginnen(Werkbank &w, const Ereignis &e) {
 
 bool PfeilTreffer(Werkbank &w, double x, double y) {
     const int i = PfeilBei(w.dokument, x, y);
-    if (i < 0) return false;
-    w.lage.PfeilAuswahl = i;
-    MarkierungsListBoxenLöschen(w.auswahl, w.lage);
-    w.auswahl.lstMovedPfeile.Anhängen(std::to_string(i));
-    LöschenUndAusschneidenAnbieten(w);
-    PfeilFassen(w);
-    w.lage.Aktion = Aktion::PfeilGefasst;
-    w.fenster.Vorschau();
-    return true;
+    if (i >= 0) PfeilFassen(w, i, 0);
+    return i >= 0;
 }
 
 bool PfeilEndeTreffer(Werkbank &w, double x, double y) {
     const auto bei = [&](int position) { return PfeilEndeBei(w.dokument, position, x, y); };
-    int ende = bei(w.lage.PfeilAuswahl); // the one in hand first
+    int pfeil = w.lage.PfeilAuswahl; // the one in hand first
+    int ende = bei(pfeil);
     for (int i = 0; ende == 0 && i < w.dokument.cboPfeile.Anzahl(); ++i)
-        if ((ende = bei(i)) != 0) w.lage.PfeilAuswahl = i;
-    if (ende == 0) return false;
-    PfeilFassen(w);
+        if ((ende = bei(i)) != 0) pfeil = i;
+    if (ende != 0) PfeilFassen(w, pfeil, ende);
+    return ende != 0;
+}
+
+void PfeilFassen(Werkbank &w, int position, int ende) {
+    w.lage.PfeilAuswahl = position;
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
-    w.auswahl.lstMovedPfeile.Anhängen(std::to_string(w.lage.PfeilAuswahl));
+    w.auswahl.lstMovedPfeile.Anhängen(std::to_string(position));
     LöschenUndAusschneidenAnbieten(w);
-    w.lage.Aktion = ende == 2 ? Aktion::PfeilEnde2 : Aktion::PfeilEnde1;
+    InHandNehmen(w);
+    w.lage.Aktion = ende == 0 ? Aktion::PfeilGefasst : ende == 2 ? Aktion::PfeilEnde2 : Aktion::PfeilEnde1;
     w.fenster.Vorschau();
-    return true;
 }
 
 void PfeilAufziehen(Werkbank &w, const Ereignis &e) {

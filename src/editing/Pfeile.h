@@ -17,6 +17,8 @@ int PfeilEndeBei(const Dokument &dokument, int position, double x, double y);
 bool PfeilBeginnen(Werkbank &w, const Ereignis &e);
 bool PfeilTreffer(Werkbank &w, double x, double y);
 bool PfeilEndeTreffer(Werkbank &w, double x, double y);
+/// What these do with the arrow at `position`, whatever lies over it: 2 takes its second end, 1 its first, 0 the whole.
+void PfeilFassen(Werkbank &w, int position, int ende);
 
 // What moves with the pointer: a new arrow's second end; an arrow, or the end in hand.
 void PfeilAufziehen(Werkbank &w, const Ereignis &e);

@@ -101,14 +101,17 @@ bool TextWarGefasst(Werkbank &w, const Ereignis &) {
 
 bool TextTreffen(Werkbank &w, const Ereignis &e) {
     const int i = TextboxBei(w.dokument, e.X, e.Y);
-    if (i < 0) return false;
-    TextboxAuswählen(w, i);
-    w.auswahl.lstMovedText.Anhängen(std::to_string(i));
+    if (i >= 0) TextFassen(w, i, e);
+    return i >= 0;
+}
+
+void TextFassen(Werkbank &w, int position, const Ereignis &e) {
+    TextboxAuswählen(w, position);
+    w.auswahl.lstMovedText.Anhängen(std::to_string(position));
     w.lage.VersatzX = e.X - w.auflagen.shpMask.Left;
     w.lage.VersatzY = e.Y - w.auflagen.shpMask.Top;
     w.lage.Aktion = Aktion::TextGefasst;
     w.fenster.Vorschau();
-    return true;
 }
 
 void TextZiehen(Werkbank &w, const Ereignis &e) {

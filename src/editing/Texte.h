@@ -24,6 +24,8 @@ void NeuenTextAufSeite(Dokument &dokument, const Ansicht &ansicht);
 bool TextSetzen(Werkbank &w, const Ereignis &e);
 bool TextWarGefasst(Werkbank &w, const Ereignis &e);
 bool TextTreffen(Werkbank &w, const Ereignis &e);
+/// What the press on the box at `position` does, whatever lies over it.
+void TextFassen(Werkbank &w, int position, const Ereignis &e);
 
 // What is in hand follows the pointer as a mask; the release stores the place, snapped, or opens the menu.
 void TextZiehen(Werkbank &w, const Ereignis &e);

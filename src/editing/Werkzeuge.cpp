@@ -81,6 +81,12 @@ bool WerkzeugBrauchbar(int nummer, const Dokument &d, const Auswahl &auswahl, co
     return HatPerson(d, auswahl, lage) && (nummer != WerkzeugKind || KannKindWerden(d, lage));
 }
 
+bool IstBereit(const Leinwandlage &lage) {
+    constexpr Aktion Bereite[] = {Aktion::PersonSetzen, Aktion::ElternSetzen, Aktion::TextGesetzt,
+                                  Aktion::KreisZeichnen, Aktion::PfeilZeichnen};
+    return lage.BildAuswahl || std::find(std::begin(Bereite), std::end(Bereite), lage.Aktion) != std::end(Bereite);
+}
+
 bool WerkzeugGedrückt(int nummer, const Leinwandlage &lage) {
     const Werkzeug *werkzeug = WerkzeugFinden(nummer);
     if (!werkzeug || lage.Aktion != werkzeug->Aktion) return false;

@@ -30,6 +30,8 @@ void WerkzeugDrücken(Werkbank &w, int nummer);
 
 /// Whether the tool would do something: links start from a selected person.
 bool WerkzeugBrauchbar(int nummer, const Dokument &dokument, const Auswahl &auswahl, const Leinwandlage &lage);
+/// Whether a tool is in hand that makes something where it is put; no link.
+bool IstBereit(const Leinwandlage &lage);
 /// Whether it is in hand.
 bool WerkzeugGedrückt(int nummer, const Leinwandlage &lage);
 

@@ -51,6 +51,40 @@ void Arbeitsbereich::Vergrößern() { ZoomWählen(cboBildGröße.ListIndex + 1);
 
 void Arbeitsbereich::Verkleinern() { ZoomWählen(cboBildGröße.ListIndex - 1); }
 
+/// By the canvas as it is now: all zooms have its shape.
+void Arbeitsbereich::ZoomEinpassen() {
+    const auto prozent = [this](int i) { return ZahlLesen(cboBildGröße.Einträge.Satz(i)); };
+    const double jetzt = prozent(cboBildGröße.ListIndex);
+    const auto passt = [&](int i) {
+        const double faktor = prozent(i) / jetzt;
+        return canvas_.Width() * faktor + LuftBreite <= picBack.Width &&
+               canvas_.Height() * faktor + LuftHöhe <= picBack.Height;
+    };
+    int größter = cboBildGröße.Anzahl() - 1;
+    while (größter > 0 && !passt(größter)) --größter;
+    ZoomWählen(größter);
+}
+
+void Arbeitsbereich::Blättern(int richtung, bool seitwärts) {
+    constexpr int Rest = 10; // a tenth of the frame stays in sight
+    const int weite = seitwärts ? picBack.Width : picBack.Height;
+    const int weg = richtung * (weite - weite / Rest);
+    Scrollen(HScroll1.Value + (seitwärts ? weg : 0), VScroll1.Value + (seitwärts ? 0 : weg));
+}
+
+void Arbeitsbereich::InsBild(const Seitenkasten &cm) {
+    constexpr int Luft = 300; // twips between the box and the frame's edge
+    const double twipsJeCm = canvas_.Width() / ansicht_.SeitenBreite;
+    const auto wert = [&](double von, double bis, int canvas, int rahmen, int alt) {
+        const int anfang = canvas + static_cast<int>(von * twipsJeCm) - Luft; // within the frame
+        const int ende = canvas + static_cast<int>(bis * twipsJeCm) + Luft;
+        if (anfang < 0) return alt + anfang;
+        return ende > rahmen ? alt + std::min(ende - rahmen, anfang) : alt;
+    };
+    Scrollen(wert(cm.Links, cm.Rechts, canvasLinks_, picBack.Width, HScroll1.Value),
+             wert(cm.Oben, cm.Unten, canvasOben_, picBack.Height, VScroll1.Value));
+}
+
 void Arbeitsbereich::Mausrad(bool hoch) {
     MausradZählen(hoch);
     MausradFolgen();

@@ -54,6 +54,8 @@ class Arbeitsbereich {
     void ZoomWählen(int listIndex);
     void Vergrößern();
     void Verkleinern();
+    /// The largest zoom of the list at which the page fits into its frame, else the smallest of all.
+    void ZoomEinpassen();
     bool KannVergrößern() const { return cboBildGröße.ListIndex < cboBildGröße.Anzahl() - 1; }
     bool KannVerkleinern() const { return cboBildGröße.ListIndex > 0; }
     /// One notch of the wheel, which zooms.
@@ -75,6 +77,15 @@ class Arbeitsbereich {
 
     /// The scroll bars were moved.
     void Scrollen(int hValue, int vValue);
+
+    /// Scrolls by nearly a frame: -1 up or to the left, 1 down or to the right.
+    void Blättern(int richtung, bool seitwärts);
+    /// A box on the page, cm.
+    struct Seitenkasten {
+        double Links, Oben, Rechts, Unten;
+    };
+    /// Scrolls as far as it must for the box to be seen; of one larger than the frame its upper left corner.
+    void InsBild(const Seitenkasten &cm);
 
     /// Where the scroll bars and the frame stand at the inner area's edges.
     static constexpr int BalkenRechts = 500; ///< left of the right edge

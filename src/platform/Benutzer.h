@@ -65,6 +65,8 @@ class Benutzer {
     virtual void ProgrammStarten(const std::string &name) = 0;
     /// Gives the canvas the keyboard again.
     virtual void FokusAufLeinwand() = 0;
+    /// Gives the keyboard to the next part of the window, or to the one before: canvas, palette, toolbar, status row.
+    virtual void FokusWeitergeben(bool zurück) = 0;
     virtual std::string Desktopordner() const = 0;
     virtual std::vector<std::string> Schriftarten() const = 0;
 };

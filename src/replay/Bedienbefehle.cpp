@@ -2,6 +2,7 @@
 #include "app/frmMain.h"
 #include "commands/Menuetafel.h"
 #include "editing/Werkzeuge.h"
+#include "keyboard/Tastendruck.h"
 #include "replay/Programm.h"
 #include "replay/Skriptbefehle.h"
 
@@ -26,11 +27,21 @@ void WerkzeugWählen(Wiedergabe &lauf, const std::string &wort) {
     Auslösen(lauf, WerkzeugName(nummer));
 }
 
-void TasteTippen(Wiedergabe &lauf, const std::string &kürzel) {
+/// A shortcut of the menus, or a key on the page, pressed and let go. Text behind it is what a search is for.
+void TasteTippen(Wiedergabe &lauf, const Wörter &w) {
+    const std::string &kürzel = Wort(w, 1);
     const auto tafel = Menütafel();
     const auto zeile = std::find_if(tafel.begin(), tafel.end(), [&](const Menüzeile &z) { return z.Kürzel == kürzel; });
-    if (kürzel.empty() || zeile == tafel.end()) throw Skriptfehler("unknown key: " + kürzel);
-    Auslösen(lauf, std::string(zeile->Name));
+    if (!kürzel.empty() && zeile != tafel.end()) return Auslösen(lauf, std::string(zeile->Name));
+    const auto taste = TasteLesen(kürzel);
+    if (!taste) throw Skriptfehler("unknown key: " + kürzel);
+    frmMain &haupt = *lauf.Läuft().haupt;
+    if (taste->Ist(Taste::F, true)) {
+        haupt.PersonSuchen(w.size() > 2 ? Ab(w, 2) : "");
+        return;
+    }
+    haupt.TasteDrücken(*taste);
+    if (taste->Ist(Taste::Leer)) haupt.LeertasteLoslassen();
 }
 
 void MenüwahlVormerken(Wiedergabe &lauf, const std::string &name) {
@@ -94,7 +105,8 @@ void Wählen(Wiedergabe &lauf, const std::string &name, const std::string &index
 }
 
 void ZeitgeberAuslösen(Programm &p, const std::string &name) {
-    constexpr std::string_view Bekannt[] = {"Timer2", "Timer3", "Timer4", "Timer5", "tmrLanguage", "tmrToolTipp"};
+    constexpr std::string_view Bekannt[] = {"Timer2",      "Timer3",      "Timer4", "Timer5",
+                                            "tmrLanguage", "tmrToolTipp", "tmrLauf"};
     const auto gestartet = std::erase_if(p.benutzer.ZeitgeberListe, [&](const auto &z) { return z.Name == name; });
     if (gestartet == 0 && std::find(std::begin(Bekannt), std::end(Bekannt), name) == std::end(Bekannt))
         throw Skriptfehler("unknown timer: " + name);
@@ -136,7 +148,7 @@ constexpr Skriptbefehl Tabelle[] = {
     {"press", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
     {"menu", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
     {"toolbar", [](auto &lauf, auto &w, auto &) { Auslösen(lauf, Wort(w, 1)); }},
-    {"key", [](auto &lauf, auto &w, auto &) { TasteTippen(lauf, Wort(w, 1)); }},
+    {"key", [](auto &lauf, auto &w, auto &) { TasteTippen(lauf, w); }},
     {"form", [](auto &lauf, auto &w, auto &) { FormularVormerken(lauf, Wort(w, 1)); }},
     {"popup", [](auto &lauf, auto &w, auto &) { MenüwahlVormerken(lauf, Wort(w, 1)); }},
     {"answer", [](auto &lauf, auto &w, auto &) { Beantworten(lauf, w); }},

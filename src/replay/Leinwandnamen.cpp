@@ -89,6 +89,7 @@ void Namen::Auflagennamen(Auflagen &a) {
     for (size_t i = 0; i < a.MarkLine.size(); ++i) linie("MarkLine(" + std::to_string(i + 1) + ")", a.MarkLine[i]);
     form("shpMask", a.shpMask);
     form("shpBox", a.shpBox);
+    form("shpCursor", a.shpCursor);
     form("shpPerson", a.shpPerson);
 }
 

@@ -60,6 +60,7 @@ class DrehbuchBenutzer : public Benutzer {
     void AdresseÖffnen(const std::string &adresse) override { wirkungen_ += "address " + adresse + "\n"; }
     void ProgrammStarten(const std::string &name) override { wirkungen_ += "program " + name + "\n"; }
     void FokusAufLeinwand() override {}
+    void FokusWeitergeben(bool zurück) override { wirkungen_ += zurück ? "focus back\n" : "focus on\n"; }
     std::string Desktopordner() const override { return "/home/user/Desktop/"; }
     std::vector<std::string> Schriftarten() const override { return {"Arial", "Courier New", "Times New Roman"}; }
 

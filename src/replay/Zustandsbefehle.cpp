@@ -92,6 +92,10 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
         lauf.aus << NetzText(p.innen.netz);
         return;
     }
+    if (name == "cursor") {
+        lauf.aus << "cursor " << p.haupt->DerAnblick().cursor.Text(p.innen.dokument) << "\n";
+        return;
+    }
     if (name == "shape") {
         lauf.aus << FormText(p, Wort(w, 2)) << "\n";
         return;

@@ -3,6 +3,8 @@
 #include "app/frmMain.h"
 #include "editing/Leinwandlage.h"
 #include "qt/fenster/Importliste.h"
+#include "qt/fenster/Suchfeld.h"
+#include "qt/fenster/Tasten.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "qt/malen/LeinwandFlaeche.h"
@@ -10,6 +12,7 @@
 
 #include <QDropEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -149,7 +152,9 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     AufPixelRücken(p, seite.topLeft());
     p.translate(seite.topLeft());
     p.drawImage(QPointF(), leinwand_.Bild());
-    AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, seite.width() / anblick_->ansicht.SeitenBreite);
+    const double pixelJeCm = seite.width() / anblick_->ansicht.SeitenBreite;
+    AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, pixelJeCm);
+    if (hasFocus()) CursorMalen(p, anblick_->auflagen, pixelJeCm);
     if (auto erstesBild = std::exchange(erstesBild_, nullptr)) QTimer::singleShot(0, this, erstesBild);
 }
 
@@ -229,6 +234,52 @@ bool Arbeitsflaeche::Loslassen() {
     if (taste == Qt::NoButton) return true;
     const QPointF cm = InCm(ort_);
     return Melden([&] { haupt_->MouseUp(Tastencode(taste), cm.x(), cm.y()); });
+}
+
+/// A key for the model, which may open a menu or a form. False when it means nothing there.
+bool Arbeitsflaeche::TasteMelden(const Tastendruck &taste) {
+    if (!haupt_ || imModell_) return false;
+    bool gemeint = false;
+    Melden([&] { gemeint = haupt_->TasteDrücken(taste); });
+    return gemeint;
+}
+
+void Arbeitsflaeche::keyPressEvent(QKeyEvent *ereignis) {
+    const auto taste = hasFocus() ? TasteVon(*ereignis) : std::nullopt; // the palette's come by here too
+    if (taste && taste->Ist(Taste::F, true)) return SucheÖffnen();
+    if (!taste || !TasteMelden(*taste)) ereignis->ignore();
+}
+
+void Arbeitsflaeche::keyReleaseEvent(QKeyEvent *ereignis) {
+    if (ereignis->key() != Qt::Key_Space || ereignis->isAutoRepeat() || !hasFocus() || !haupt_ || imModell_)
+        return QWidget::keyReleaseEvent(ereignis);
+    Melden([this] { haupt_->LeertasteLoslassen(); });
+}
+
+/// Where the keyboard is shows only while it works here.
+void Arbeitsflaeche::focusInEvent(QFocusEvent *) { update(); }
+void Arbeitsflaeche::focusOutEvent(QFocusEvent *) { update(); }
+
+/// Tab walks round the page, and on from its ends.
+bool Arbeitsflaeche::focusNextPrevChild(bool nächstes) {
+    return TasteMelden({Taste::Tabulator, false, false, !nächstes}) || QWidget::focusNextPrevChild(nächstes);
+}
+
+void Arbeitsflaeche::SucheÖffnen() {
+    if (!suche_)
+        suche_ = new Suchfeld(
+            *this, [this](std::string_view name) { return haupt_->PersonSuchen(name); },
+            [this] { setFocus(Qt::OtherFocusReason); });
+    suche_->Öffnen(anblick_->ansicht.Sprache);
+}
+
+std::optional<QPoint> Arbeitsflaeche::Cursorort() const {
+    const Auflagenform &form = anblick_->auflagen.shpCursor;
+    if (!hasFocus() || !form.Visible) return std::nullopt;
+    const QRectF seite = Seite();
+    const double pixelJeCm = seite.width() / anblick_->ansicht.SeitenBreite;
+    const QPointF unten(form.Left + form.Width / 2, form.Top + form.Height);
+    return mapToGlobal((seite.topLeft() + unten * pixelJeCm).toPoint());
 }
 
 /// Every place is asked for anew, so that the pointer tells where a row of the import list can be dropped.

@@ -4,13 +4,16 @@
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 namespace kw {
 
 class LeinwandFläche;
+class Suchfeld;
 class frmMain;
 enum class Mauszeiger;
 struct Anblick;
+struct Tastendruck;
 
 /// The inside of the main window: the dark frame, the page with its shadow, the overlay shapes, the scroll bars.
 /// Shows what the model's work area says, in pixels; the model's inner area begins above and ends below it, so
@@ -23,6 +26,10 @@ class Arbeitsflaeche : public QWidget {
     void Verbinden(frmMain &haupt, std::function<void()> erstesBild);
     /// Copies the model's places into the widgets and repaints.
     void Auffrischen();
+    /// Shows the field that finds a person by name.
+    void SucheÖffnen();
+    /// Below what the keyboard is on, on the screen; nothing while that doesn't show.
+    std::optional<QPoint> Cursorort() const;
     /// The model's inner size for this widget's size, in twips.
     QSize Innengröße() const;
 
@@ -34,6 +41,11 @@ class Arbeitsflaeche : public QWidget {
     void mouseMoveEvent(QMouseEvent *ereignis) override;
     void mouseReleaseEvent(QMouseEvent *ereignis) override;
     void mouseDoubleClickEvent(QMouseEvent *ereignis) override;
+    void keyPressEvent(QKeyEvent *ereignis) override;
+    void keyReleaseEvent(QKeyEvent *ereignis) override;
+    void focusInEvent(QFocusEvent *ereignis) override;
+    void focusOutEvent(QFocusEvent *ereignis) override;
+    bool focusNextPrevChild(bool nächstes) override;
     void dragEnterEvent(QDragEnterEvent *ereignis) override;
     void dragMoveEvent(QDragMoveEvent *ereignis) override;
     void dropEvent(QDropEvent *ereignis) override;
@@ -46,6 +58,7 @@ class Arbeitsflaeche : public QWidget {
     bool AufSeite(QPointF ort) const;
     void Drücken(QMouseEvent &ereignis, const std::function<void(QPointF cm)> &melden);
     bool Loslassen();
+    bool TasteMelden(const Tastendruck &taste);
     bool Melden(const std::function<void()> &ereignis);
     void ZeigerSetzen();
     void LeisteStellen(QScrollBar &leiste, const struct Bildlaufleiste &modell);
@@ -55,6 +68,7 @@ class Arbeitsflaeche : public QWidget {
     frmMain *haupt_ = nullptr;
     const Anblick *anblick_ = nullptr; ///< what it shows
     std::function<void()> erstesBild_;
+    Suchfeld *suche_ = nullptr; ///< from its first use on
     QScrollBar vScroll_{Qt::Vertical, this};
     QScrollBar hScroll_{Qt::Horizontal, this};
     bool zoomSteht_ = false;               ///< notches of the wheel wait to be followed

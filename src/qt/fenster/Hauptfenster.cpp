@@ -1,9 +1,11 @@
 #include "qt/fenster/Hauptfenster.h"
 
+#include "app/Fenstertasten.h"
 #include "document/Dateien.h"
 #include "qt/fenster/Importliste.h"
 #include "qt/fenster/Statuszeile.h"
 #include "qt/fenster/Symbolleiste.h"
+#include "qt/fenster/Tasten.h"
 #include "qt/fenster/Werkzeugpalette.h"
 #include "qt/formulare/Formularfenster.h"
 #include "qt/grund/Text.h"
@@ -16,6 +18,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QLayout>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -28,6 +31,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <filesystem>
 #include <utility>
@@ -112,6 +116,17 @@ std::string GezogenesProjekt(const QMimeData &inhalt) {
 /// The toolkit's file dialog would write the folders of clients into a file that all its programs share.
 void OhneDateiverlauf() {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
+}
+
+/// What of a part of the window takes the keyboard by Tab; nothing when it is hidden or has nothing to press.
+QWidget *ErsterStopp(QWidget *teil) {
+    const auto nimmt = [](const QWidget *w) {
+        return w->isVisible() && w->isEnabled() && w->focusPolicy() & Qt::TabFocus;
+    };
+    if (!teil || nimmt(teil)) return teil;
+    for (QWidget *kind : teil->findChildren<QWidget *>())
+        if (nimmt(kind)) return kind;
+    return nullptr;
 }
 
 void PopupsSchließen() {
@@ -275,7 +290,8 @@ std::optional<std::string> Hauptfenster::DateiSpeichern(const Dateiwahl &wahl) {
 }
 
 std::optional<std::string> Hauptfenster::PopupZeigen(std::string_view menü) {
-    const auto ort = palette_ ? palette_->Popuport() : std::nullopt;
+    auto ort = palette_ ? palette_->Popuport() : std::nullopt;
+    if (!ort) ort = fläche_->Cursorort();
     return menüs_.Popup(menü, ort.value_or(QCursor::pos()), *this);
 }
 
@@ -321,6 +337,28 @@ void Hauptfenster::ProgrammStarten(const std::string &name) {
 }
 
 void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }
+
+void Hauptfenster::FokusWeitergeben(bool zurück) {
+    const std::array<QWidget *, 4> teile{fläche_, palette_, band_, status_};
+    const auto anzahl = static_cast<int>(teile.size());
+    const QWidget *jetzt = QApplication::focusWidget();
+    const auto hier = std::find_if(teile.begin(), teile.end(), [&](const QWidget *teil) {
+        return teil && jetzt && (teil == jetzt || teil->isAncestorOf(jetzt)) && (teil != fläche_ || jetzt == fläche_);
+    });
+    int i = hier == teile.end() ? (zurück ? 0 : anzahl - 1) : static_cast<int>(hier - teile.begin());
+    for (int versuche = 0; versuche < anzahl; ++versuche) {
+        i = (i + (zurück ? anzahl - 1 : 1)) % anzahl;
+        if (QWidget *stopp = ErsterStopp(teile.at(static_cast<size_t>(i)))) return stopp->setFocus(Qt::TabFocusReason);
+    }
+}
+
+/// What no part of the window wants: zooming and the rest work wherever the keyboard is.
+void Hauptfenster::keyPressEvent(QKeyEvent *ereignis) {
+    const auto taste = TasteVon(*ereignis);
+    if (taste && taste->Ist(Taste::F, true)) return fläche_->SucheÖffnen();
+    if (taste && FenstertasteFinden(*taste)) haupt_.TasteDrücken(*taste);
+    else QMainWindow::keyPressEvent(ereignis);
+}
 
 std::string Hauptfenster::Desktopordner() const {
     const QString ordner = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);

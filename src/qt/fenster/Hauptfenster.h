@@ -44,6 +44,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void AdresseÖffnen(const std::string &adresse) override;
     void ProgrammStarten(const std::string &name) override;
     void FokusAufLeinwand() override;
+    void FokusWeitergeben(bool zurück) override;
     std::string Desktopordner() const override;
     std::vector<std::string> Schriftarten() const override;
 
@@ -63,6 +64,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     frmMain &Modell() { return haupt_; }
 
   protected:
+    void keyPressEvent(QKeyEvent *ereignis) override;
     void closeEvent(QCloseEvent *ereignis) override;
     void dragEnterEvent(QDragEnterEvent *ereignis) override;
     void dropEvent(QDropEvent *ereignis) override;

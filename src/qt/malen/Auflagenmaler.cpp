@@ -13,11 +13,13 @@ namespace {
 constexpr QColor Gummifarbe{30, 90, 200};
 constexpr QColor Maskenfarbe{70, 70, 70};
 constexpr QColor Rahmenfarbe{20, 60, 150};
+constexpr QColor Cursorfarbe{0, 0, 0};
 constexpr QColor Zielfarbe{251, 59, 15};
 constexpr QColor Hof{255, 255, 255, 200}; ///< on both sides of a stroke: what it crosses doesn't swallow it
 constexpr double Hofbreite = 1.5;
 constexpr double Strich = 1.5; ///< logical pixels, as all below
 constexpr double Zielstrich = 2;
+constexpr double Rahmenluft = 3;     ///< a group's frame is as narrow as can be, and would hide the edges of symbols
 constexpr double Spitze = 9;         ///< length of an arrow's head
 constexpr double Spitzenwinkel = 22; ///< degrees, between its side and the shaft
 
@@ -28,6 +30,7 @@ bool Zeigt(const Auflagenform &f) { return f.Visible && f.Left != Geparkt && (f.
 QPen Stift(const QColor &farbe, double breite, Qt::PenStyle stil = Qt::SolidLine) {
     QPen stift(farbe, breite, stil, Qt::FlatCap, Qt::MiterJoin);
     if (stil == Qt::DashLine) stift.setDashPattern({4, 3});
+    if (stil == Qt::DotLine) stift.setDashPattern({1.5, 1.5});
     return stift;
 }
 
@@ -49,10 +52,12 @@ class Maler {
         if (art == 2) PfeilspitzeMalen({schaft.p2(), schaft.p1()});
     }
 
-    void Form(const Auflagenform &f, const QColor &farbe, double breite, Qt::PenStyle stil = Qt::SolidLine) {
+    /// `luft` is what the stroke keeps away from what the shape is round, logical pixels.
+    void Form(const Auflagenform &f, const QColor &farbe, double breite, Qt::PenStyle stil = Qt::SolidLine,
+              double luft = 0) {
         if (!Zeigt(f)) return;
         QRectF r(f.Left * k_, f.Top * k_, f.Width * k_, f.Height * k_);
-        r = r.normalized();
+        r = r.normalized().adjusted(-luft, -luft, luft, luft);
         if (f.Shape == Umriss::Quadrat || f.Shape == Umriss::Kreis) {
             const double kante = std::min(r.width(), r.height());
             r = QRectF(r.center() - QPointF(kante, kante) / 2, QSizeF(kante, kante));
@@ -101,7 +106,14 @@ void AuflagenMalen(QPainter &p, const Auflagen &a, int pfeilArt, double pixelJeC
     maler.Linie(a.Line2, Gummifarbe);
     maler.Pfeil(a.Line5, pfeilArt);
     maler.Form(a.shpMask, Maskenfarbe, Strich);
-    maler.Form(a.shpBox, Rahmenfarbe, Strich, Qt::DashLine);
+    maler.Form(a.shpBox, Rahmenfarbe, Strich, Qt::DashLine, Rahmenluft);
+}
+
+void CursorMalen(QPainter &p, const Auflagen &a, double pixelJeCm) {
+    p.setRenderHint(QPainter::Antialiasing);
+    Maler maler(p, pixelJeCm);
+    maler.Form(a.shpCursor, Cursorfarbe, Zielstrich, Qt::DotLine);
+    for (const Auflagenlinie &l : a.Kreuz) maler.Linie(l, Cursorfarbe, Zielstrich);
 }
 
 } // namespace kw

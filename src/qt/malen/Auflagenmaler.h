@@ -14,4 +14,7 @@ bool ZeigtAuflagen(const Auflagen &auflagen);
 /// the dark ground around it. An arrow in hand has two heads when `pfeilArt` is 2.
 void AuflagenMalen(QPainter &p, const Auflagen &auflagen, int pfeilArt, double pixelJeCm);
 
+/// The same for where the keyboard is: a frame, or the cross of a tool.
+void CursorMalen(QPainter &p, const Auflagen &auflagen, double pixelJeCm);
+
 } // namespace kw

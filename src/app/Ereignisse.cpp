@@ -1,0 +1,120 @@
+// What happens to the main window: pointer, keys, commands, what the desktop hands over. Each ends in `NachEreignis`.
+#include "app/Befehle.h"
+#include "app/Fenstertasten.h"
+#include "app/frmMain.h"
+#include "commands/Menuetafel.h"
+#include "editing/Abwahl.h"
+#include "editing/Werkzeuge.h"
+#include "platform/Befehlsnamen.h"
+#include "platform/Benutzer.h"
+
+namespace kw {
+
+void frmMain::MouseDown(int taste, double x, double y) {
+    tastatur.MausGedrückt();
+    leinwand.MouseDown(taste, x, y);
+    NachEreignis();
+}
+
+void frmMain::MouseMove(int taste, double x, double y) {
+    hinweis.PaletteBerührt(0);
+    tastatur.MausBewegt();
+    leinwand.MouseMove(taste, x, y);
+}
+
+void frmMain::MouseUp(int taste, double x, double y) {
+    anzeige.UndoKnöpfeZeigen();
+    leinwand.MouseUp(taste, x, y);
+    NachEreignis();
+}
+
+void frmMain::DblClick(double x, double y) {
+    tastatur.MausGedrückt();
+    leinwand.DblClick(x, y);
+    NachEreignis();
+}
+
+/// The palette stands beside the frame.
+void frmMain::GrößeÄndern(int breite, int höhe) {
+    bereich.GrößeÄndern(breite, höhe);
+    plattform.benutzer.AnzeigeAuffrischen();
+}
+
+void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
+    tastatur.MausGedrückt();
+    leinwand.GesteAbbrechen();
+    NichtsAuswählen(werkbank);
+    import.Ablegen(werkbank, zeile, x, y);
+    NachEreignis();
+}
+
+void frmMain::DateiÜbernehmen(const std::string &pfad) {
+    if (pfad.empty()) return;
+    tastatur.LaufBeenden();
+    leinwand.GesteAbbrechen();
+    projekt.ÖffnenMitFrage(pfad);
+    NachEreignis();
+}
+
+/// Whether a user finds `name`, or else the menu entry that it stands for, and the menus around it, and can choose it.
+bool frmMain::IstFrei(std::string_view name) const {
+    const Menüzeile *zeile = MenüzeileFinden(name);
+    for (zeile = zeile ? zeile : MenüzeileFinden(Menügleich(name)); zeile; zeile = MenüzeileFinden(zeile->Menü)) {
+        const Bedienelement &element = *bedienung.Finden(zeile->Name);
+        if (!element.Enabled || !element.Visible) return false;
+    }
+    return true;
+}
+
+bool frmMain::BefehlAusführen(std::string_view name) {
+    const Befehl befehl = BefehlFinden(name);
+    if (!befehl) return false;
+    if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
+    if (!IstFrei(name)) return false;
+    const auto inHand = [this] { return IstBereit(lage) || IstLink(lage.Aktion); };
+    const bool vorher = inHand();
+    tastatur.VorBefehl(); // what moves comes to its end, and is what undo takes back
+    leinwand.GesteAbbrechen();
+    Befehlsumgebung umgebung = FürBefehle();
+    befehl.Ausführen(umgebung, befehl.Nummer);
+    NachEreignis();
+    if (!vorher && inHand()) plattform.benutzer.FokusAufLeinwand(); // the page is what comes next
+    return true;
+}
+
+bool frmMain::TasteDrücken(const Tastendruck &taste) {
+    const auto vorher = tastatur.Cursor().Text(dokument);
+    const bool unterwegs = tastatur.IstUnterwegs();
+    const Fenstertaste *fenstertaste = FenstertasteFinden(taste);
+    Befehlsumgebung umgebung = FürBefehle();
+    if (fenstertaste) tastatur.LaufBeenden();
+    const bool gemeint = fenstertaste ? (fenstertaste->Ausführen(umgebung), true) : tastatur.Drücken(taste);
+    if (unterwegs || tastatur.IstUnterwegs()) anzeige.UndoKnöpfeZeigen(tastatur.IstUnterwegs());
+    NachEreignis();
+    if (tastatur.Cursor().Text(dokument) != vorher || taste.Alt) CursorInsBild();
+    return gemeint;
+}
+
+void frmMain::LeertasteLoslassen() {
+    tastatur.LeertasteLoslassen();
+    NachEreignis();
+}
+
+/// The page scrolls as far as it must for where the keyboard is to be seen.
+void frmMain::CursorInsBild() {
+    const auto &cursor = tastatur.Cursor();
+    Umgebung rahmen;
+    if (cursor.Ort) rahmen.Aufnehmen(cursor.Ort->X, cursor.Ort->Y);
+    else if (cursor.Element()) rahmen = Elementrahmen(dokument, legende, *cursor.Element());
+    if (!rahmen.Leer) bereich.InsBild({rahmen.Links, rahmen.Oben, rahmen.Rechts, rahmen.Unten});
+    plattform.benutzer.AnzeigeAuffrischen();
+}
+
+bool frmMain::PersonSuchen(std::string_view text) {
+    const bool gefunden = tastatur.Suchen(text);
+    NachEreignis();
+    CursorInsBild();
+    return gefunden;
+}
+
+} // namespace kw
