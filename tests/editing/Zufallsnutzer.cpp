@@ -56,8 +56,8 @@ constexpr std::string_view Störungen[] = {
     "crash\n%S|%await 100", "crash\n%S cmd=%k|%await 100|%Await 100", "down left %x|move %x|crash\n%S|%await 100",
     "crash\n%s", "%S|%await 100", "%A%A%apress mnuFassungen", "key Ctrl+S", "answer yes\nkey Ctrl+S",
     "answer no\nanswer file %k\nkey Ctrl+S", "%Akey Ctrl+S", "answer file fehlt/1.kwp\npress mnuSichernUnter",
-    "answer file %n\npress mnuSichernUnter", "answer file %k/1.kwp\npress mnuSichernUnter", "disk folder ordner.kwp|"
-    "answer file ordner.kwp\npress mnuSichernUnter", "disk remove %k|%Akey Ctrl+S", "disk copy %k %k",
+    "answer file %n\npress mnuSichernUnter", "answer file %k/1.kwp\npress mnuSichernUnter",
+    "disk folder ordner.kwp|answer file ordner.kwp\npress mnuSichernUnter", "disk remove %k|%Akey Ctrl+S", "disk copy %k %k",
     "disk cut %k 0|answer yes\nkey Ctrl+S", "disk cut %k 30", "disk cut %k 75", "disk remove %k", "disk copy %k %k",
     "disk folder 3|answer file 3/1.kwp\npress mnuSichernUnter|%c|disk remove 3|key Ctrl+S",
     "answer yes\nanswer file fehlt/1.kwp\nanswer ok\npress mnuNeu", "disk copy %k %k|%A%Apress mnuSichernUnter",
