@@ -216,6 +216,12 @@ bool Hauptfenster::SitzungBeenden() {
     return haupt_.SitzungBeenden();
 }
 
+/// Nothing is opened when the session has ended.
+void Hauptfenster::Beenden() {
+    übergeben_.clear();
+    haupt_.Beenden();
+}
+
 void Hauptfenster::NachVorn() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
@@ -233,9 +239,11 @@ void Hauptfenster::Übernehmen(const std::string &datei) {
 /// One after the other; each can ask.
 void Hauptfenster::ÜbernahmeFolgen() {
     constexpr int Später = 200; // ms
+    if (übergeben_.empty()) return;
     if (IstBeschäftigt()) return QTimer::singleShot(Später, this, [this] { ÜbernahmeFolgen(); });
-    haupt_.DateiÜbernehmen(übergeben_.front());
-    übergeben_.pop_front();
+    const std::string datei = std::move(übergeben_.front());
+    übergeben_.pop_front(); // before the question, in which more can come, and the session's end
+    haupt_.DateiÜbernehmen(datei);
     if (!übergeben_.empty()) QTimer::singleShot(0, this, [this] { ÜbernahmeFolgen(); });
 }
 
