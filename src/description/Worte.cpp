@@ -1,8 +1,12 @@
 #include "description/Worte.h"
 
-#include <utility>
-
 namespace kw {
+
+namespace {
+
+char Groß(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+} // namespace
 
 std::string Gezählt(int anzahl, const Zählwort &wort, Sprache sprache) {
     return std::to_string(anzahl) + ' ' + std::string((anzahl == 1 ? wort.Eines : wort.Mehrere).In(sprache));
@@ -36,16 +40,16 @@ std::string Verbunden(const std::vector<std::string> &teile, std::string_view zw
 }
 
 std::string GroßBegonnen(std::string text) {
-    const bool klein = !text.empty() && text.front() >= 'a' && text.front() <= 'z';
-    if (klein) text.front() = static_cast<char>(text.front() - 'a' + 'A');
+    if (!text.empty()) text.front() = Groß(text.front());
     return text;
 }
 
 std::string AlsSatz(std::string text) {
     if (text.empty()) return text;
     const char ende = text.back();
+    text.front() = Groß(text.front());
     if (ende != '.' && ende != '!' && ende != '?') text += '.';
-    return GroßBegonnen(std::move(text));
+    return text;
 }
 
 } // namespace kw
