@@ -3,6 +3,7 @@
 #include "document/Dateien.h"
 #include "document/Texte.h"
 #include "qt/drucken/Ausgabe.h"
+#include "qt/drucken/Vorschaubild.h"
 #include "qt/fenster/Hauptfenster.h"
 #include "qt/grund/QtPlattform.h"
 #include "qt/start/Aufruf.h"
@@ -57,6 +58,18 @@ int Exportieren(const Aufruf &aufruf, int &argc, char **argv) {
     const std::string fehler = kw::Exportieren(bild, aufruf.Ziel, aufruf.Dpi, titel);
     if (!fehler.empty()) return Melden(aufruf.Ziel + ": " + fehler, 1);
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
+}
+
+/// A page that isn't whole gets no picture, so that nobody takes it for the whole.
+int VorschaubildMachen(const Aufruf &aufruf, int &argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication anwendung(argc, argv);
+    const QtUhr uhr;
+    Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
+    if (const std::string schaden = bild.Laden(aufruf.Datei); !schaden.empty())
+        return Melden(aufruf.Datei + ": " + schaden, 1);
+    const std::string fehler = VorschaubildSchreiben(bild, aufruf.Ziel, aufruf.Kante);
+    return fehler.empty() ? 0 : Melden(aufruf.Ziel + ": " + fehler, 1);
 }
 
 /// The texts of the platform's own dialogs and buttons, which follow the platform's language and not the program's.
@@ -127,6 +140,7 @@ int main(int argc, char **argv) try {
     case Aufruf::Art::Version: return Ausgegeben("kinwright " + std::string(Programmversion) + "\n");
     case Aufruf::Art::Falsch: return Melden(aufruf.Fehler + "; see kinwright --help", 2);
     case Aufruf::Art::Export: return Exportieren(aufruf, argc, argv);
+    case Aufruf::Art::Vorschaubild: return VorschaubildMachen(aufruf, argc, argv);
     case Aufruf::Art::Fenster: break;
     }
     return FensterZeigen(aufruf, argc, argv);
