@@ -30,7 +30,10 @@ TEST(Aufruf, SagtWasVerlangtIst) {
         {{"--export", "o.pdf"}, Art::Falsch}, {{"--export", "o.txt", "a.kwp"}, Art::Falsch},
         {{"--export", "o.pdf", "--export", "o.png", "a.kwp"}, Art::Falsch},
         {{"--export", "o.png", "--dpi", "9", "a.kwp"}, Art::Falsch},
-        {{"--export", "o.png", "--dpi", "72x", "a.kwp"}, Art::Falsch}, {{"--export", projekt, projekt}, Art::Falsch}};
+        {{"--export", "o.png", "--dpi", "72x", "a.kwp"}, Art::Falsch}, {{"--export", projekt, projekt}, Art::Falsch},
+        {{"--thumbnail", "128", "-a b.kwp", "--o"}, Art::Vorschaubild}, {{"--thumbnail", "128", "a.kwp"}, Art::Falsch},
+        {{"--thumbnail", "15", "a.kwp", "o"}, Art::Falsch}, {{"--thumbnail", "128", projekt, projekt}, Art::Falsch},
+        {{"--thumbnail", "128", "a.kwp", ""}, Art::Falsch}, {{"a.kwp", "--thumbnail", "128", "o"}, Art::Falsch}};
     // clang-format on
     for (const auto &[worte, art] : fälle) {
         const Aufruf a = AufrufLesen(worte);
