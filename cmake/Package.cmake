@@ -105,8 +105,9 @@ set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The font that pages are measured with: without it texts have other widths, and pages look otherwise than elsewhere.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation | fonts-liberation2")
-# Wayland, the platform's own dialogs in German, printing, and what opens the manual.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-translations-l10n, cups, xdg-utils")
+# Wayland, the platform's own dialogs in German, printing, what opens the manual; and a font that systems take for their
+# menus: where there is no other than the pages' own, they come in typewriter letters.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland, qt6-translations-l10n, cups, fonts-dejavu-core, xdg-utils")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "editor for genograms, the diagrams of a family's relationships")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "\
 Kinwright draws genograms as social workers, counsellors and therapists use
