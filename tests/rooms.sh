@@ -25,7 +25,7 @@ floors_within() {
     case $1 in
     document) printf '%s\n' 'Felder Texte Zahlen Satzliste' saetze/ Nummernvergabe Dokument Nachschlagen Verweise ;;
     editing)
-        printf '%s\n' 'Ablage Auflagen Fensterdienste Geometrie' 'Gruppenart Leinwandlage' Werkbank 'Gesten Marker' Abwahl
+        printf '%s\n' 'Ablage Absagen Auflagen Fensterdienste Geometrie' 'Gruppenart Leinwandlage' Werkbank 'Gesten Marker' Abwahl
         printf '%s\n' Linien+Linienzug Kinder+Zwillinge 'Personen+Symbolgroesse Pfeile Kreislinien Texte Legende Bildausschnitt'
         printf '%s\n' 'Gruppe Elemente' Zwischenablage Werkzeuge Leinwand
         ;;

@@ -74,6 +74,7 @@ void Anzeige::ChronikZeigen() {
         const std::string &pfad = z_.zuletzt[i];
         Bedienelement &eintrag = bedienung_.Mit("mnuRecent(" + std::to_string(i) + ")");
         eintrag.Caption = "  " + std::to_string(i) + " " + DateiName(pfad);
+        eintrag.Tipp = pfad;
         eintrag.Visible = !pfad.empty();
         einer = einer || eintrag.Visible;
     }

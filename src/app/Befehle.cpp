@@ -11,6 +11,7 @@
 #include "document/Texte.h"
 #include "document/UndoRing.h"
 #include "document/Zahlen.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Bildausschnitt.h"
 #include "editing/Gruppe.h"
@@ -102,7 +103,12 @@ void HilfeÖffnen(Befehlsumgebung &u, int) {
     const std::string &datei = u.bedienung[Name::mnuDatei].Caption;
     const char *sprache = datei == "Datei" ? "de" : datei == "File" ? "en" : nullptr;
     if (!sprache) return;
-    u.werkbank.benutzer.AdresseÖffnen("file://" + u.start.Hilfeordner + "/" + sprache + "/index.htm");
+    const std::string anleitung = "file://" + u.start.Hilfeordner + "/" + sprache + "/index.htm";
+    if (!u.werkbank.benutzer.AdresseÖffnen(anleitung)) u.werkbank.lage.Hinweis = &Absage::KeinAnzeiger;
+}
+
+void UpdateStarten(Befehlsumgebung &u, int) {
+    if (!u.werkbank.benutzer.ProgrammStarten("kw_update")) u.werkbank.lage.Hinweis = &Absage::KeinProgramm;
 }
 
 void DruckränderUmschalten(Befehlsumgebung &u, int) {
@@ -223,7 +229,7 @@ constexpr Zeile Tabelle[] = {
     {Name::mnuDrucken, [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmDrucken); }},
     {Name::mnuEinstellungen, [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmEinstellungen); }},
     {Name::mnuHilfethemen, HilfeÖffnen},
-    {Name::mnuUpdate, [](Befehlsumgebung &u, int) { u.werkbank.benutzer.ProgrammStarten("kw_update"); }},
+    {Name::mnuUpdate, UpdateStarten},
     {Name::mnuFassungen, [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmFassungen); }},
     {Name::btnImport, [](Befehlsumgebung &u, int) { u.import.ListeUmschalten(); }},
     {Name::mnuInfo, [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmInfo); }},

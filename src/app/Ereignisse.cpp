@@ -3,6 +3,7 @@
 #include "app/Fenstertasten.h"
 #include "app/frmMain.h"
 #include "commands/Menuetafel.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Werkzeuge.h"
 #include "platform/Befehlsnamen.h"
@@ -12,12 +13,24 @@ namespace kw {
 
 void frmMain::MouseDown(int taste, double x, double y) {
     tastatur.MausGedrückt();
+    gedrückt_ = bereich.InRahmen(x, y, ansicht.SeitenBreite);
     leinwand.MouseDown(taste, x, y);
     NachEreignis();
 }
 
+void frmMain::DanebenGedrückt(int taste) {
+    tastatur.MausGedrückt();
+    leinwand.DanebenGedrückt(taste);
+    NachEreignis();
+}
+
+void frmMain::PaletteBerührt(int werkzeug) {
+    wegweiser.PaletteBerührt(werkzeug);
+    hinweis.PaletteBerührt(werkzeug);
+}
+
 void frmMain::MouseMove(int taste, double x, double y) {
-    hinweis.PaletteBerührt(0);
+    PaletteBerührt(0);
     tastatur.MausBewegt();
     leinwand.MouseMove(taste, x, y);
 }
@@ -38,6 +51,29 @@ void frmMain::DblClick(double x, double y) {
 void frmMain::GrößeÄndern(int breite, int höhe) {
     bereich.GrößeÄndern(breite, höhe);
     plattform.benutzer.AnzeigeAuffrischen();
+}
+
+void frmMain::SeiteFassen(Rahmenort hand) {
+    tastatur.MausGedrückt();
+    bereich.SeiteFassen(hand);
+    NachEreignis();
+}
+
+void frmMain::MausradFolgen(Rahmenort zeiger) {
+    const int vorher = bereich.cboBildGröße.ListIndex;
+    lage.Hinweis = nullptr;
+    bereich.MausradFolgen(zeiger);
+    if (bereich.cboBildGröße.ListIndex == vorher)
+        Absagen(bereich.KannVergrößern() ? Name::btnBildKleiner : Name::btnBildGrößer);
+    wegweiser.Zeigen();
+    plattform.benutzer.AnzeigeAuffrischen();
+}
+
+bool frmMain::AmRandScrollen(Rahmenort zeiger) { return leinwand.Zieht() && bereich.AmRandScrollen(zeiger, gedrückt_); }
+
+bool frmMain::BeimImportScrollen(Rahmenort zeiger) {
+    const Rahmenort mitte{bereich.picBack.Width / 2, bereich.picBack.Height / 2}; // it came from outside
+    return bereich.AmRandScrollen(zeiger, mitte);
 }
 
 void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
@@ -66,11 +102,25 @@ bool frmMain::IstFrei(std::string_view name) const {
     return true;
 }
 
+/// Tells why a command can't be chosen, in place of what the last gesture came to.
+void frmMain::Absagen(std::string_view name) {
+    const Zweisprachig *grund = wegweiser.WarumGesperrt(name);
+    if (!grund) return;
+    if (grund == &Absage::LeereAblage && plattform.benutzer.AblageBelegt()) grund = &Absage::NurFremdes;
+    lage.Hinweis = grund;
+    anzeige.MöglichesZeigen();
+    wegweiser.Zeigen();
+    plattform.benutzer.AnzeigeAuffrischen();
+}
+
 bool frmMain::BefehlAusführen(std::string_view name) {
     const Befehl befehl = BefehlFinden(name);
     if (!befehl) return false;
     if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
-    if (!IstFrei(name)) return false;
+    if (!IstFrei(name)) {
+        Absagen(name);
+        return false;
+    }
     const auto inHand = [this] { return IstBereit(lage) || IstLink(lage.Aktion); };
     const bool vorher = inHand();
     tastatur.VorBefehl(); // what moves comes to its end, and is what undo takes back

@@ -42,8 +42,9 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
       anzeige(bedienung, {dokument, ansicht, auswahl, lage, ablage, ring, einstellungen.Zuletzt, bereich, cboRaster,
                           druck, import}),
       darstellung(ansicht, dokument, cboRaster, bereich, anzeige, plattform.drucker, *this),
-      hinweis(bedienung, plattform.benutzer),
-      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht, [this] { NichtsAuswählen(werkbank); }),
+      hinweis(bedienung, plattform.benutzer), wegweiser(bedienung, {dokument, ansicht, auswahl, lage, ring}),
+      bildexport(plattform.benutzer, plattform.bilder, bereich, ansicht,
+                 {[this] { NichtsAuswählen(werkbank); }, [this](Zeichenfläche &papier) { AufPapier(papier); }}),
       netz(start.Netzordner), projekt({dokument, legende, ring, ablage, einstellungen.Zuletzt, netz},
                                       {ansicht, anzeige, plattform.benutzer, *this, *this,
                                        [this] {
@@ -165,6 +166,7 @@ Einstellungen frmMain::AktuelleEinstellungen() const {
 void frmMain::EinstellungenSichern() {
     projekt.IniDatei = start.IniDatei;
     einstellungen = AktuelleEinstellungen();
+    if (const auto stand = plattform.benutzer.Fensterstand()) einstellungen.Fenster = stand;
     if (plattform.drucker.DeviceName()) einstellungen.Orientation = plattform.drucker.Orientation();
     einstellungsablage.Abschließen(einstellungen);
 }
@@ -204,6 +206,7 @@ void frmMain::NachEreignis() {
     Festhalten();
     tastatur.NachEreignis();
     anzeige.MöglichesZeigen();
+    wegweiser.Zeigen();
     plattform.benutzer.AnzeigeAuffrischen();
     einstellungsablage.Nachführen(AktuelleEinstellungen());
 }

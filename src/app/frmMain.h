@@ -6,6 +6,7 @@
 #include "app/Datenimport.h"
 #include "app/Projekt.h"
 #include "app/Startangaben.h"
+#include "app/Wegweiser.h"
 #include "app/Werkzeughinweis.h"
 #include "dialogs/Dialogumgebung.h"
 #include "document/Auswahlliste.h"
@@ -75,6 +76,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     /// Pointer events on the canvas, centimetres on the page; see `Leinwand`. After a press, a release and a double
     /// click the face is asked to refresh; a move changes the overlays only, which the face repaints itself.
     void MouseDown(int taste, double x, double y);
+    /// The press of a button beside the page, where no gesture begins.
+    void DanebenGedrückt(int taste);
     void MouseMove(int taste, double x, double y);
     void MouseUp(int taste, double x, double y);
     void DblClick(double x, double y);
@@ -87,11 +90,21 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     /// Goes to the next person of that name. False when there is none.
     bool PersonSuchen(std::string_view text);
 
-    /// The window has another inner size, twips; see `Arbeitsbereich`, as for the next three.
+    /// The window has another inner size, twips; see `Arbeitsbereich`, as for those that follow.
     void GrößeÄndern(int breite, int höhe);
     void Scrollen(int hValue, int vValue) { bereich.Scrollen(hValue, vValue); }
+    void ScrollenUm(int dx, int dy) { bereich.ScrollenUm(dx, dy); }
+    void MitRadScrollen(double quer, double längs) { bereich.MitRadScrollen(quer, längs); }
+    void SeiteFassen(Rahmenort hand);
+    void SeiteSchieben(Rahmenort hand) { bereich.SeiteSchieben(hand); }
+    void LeistenSetzen(int dicke) { bereich.LeistenSetzen(dicke); }
     void MausradZählen(bool hoch) { bereich.MausradZählen(hoch); }
-    void MausradFolgen() { bereich.MausradFolgen(); }
+    void MausradFolgen(Rahmenort zeiger);
+    /// One step of scrolling, every `Arbeitsbereich::RandTakt`, while the left button drags something. False when
+    /// nothing is dragged or everything stays; otherwise the pointer is over another place of the page now.
+    bool AmRandScrollen(Rahmenort zeiger);
+    /// The same while a line of the import list is dragged over the frame.
+    bool BeimImportScrollen(Rahmenort zeiger);
 
     /// A project that another start or the desktop hands to this window, by its full path: opened as by the menu, with
     /// the question about changes. A gesture in progress ends as for a command. Nothing happens for an empty path.
@@ -99,7 +112,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     /// A line of the import list, from 0, has been dragged onto the page.
     void ImportzeileAblegen(int zeile, double x, double y);
     /// The pointer has come over the palette's button `werkzeug`, or is over none (0).
-    void PaletteBerührt(int werkzeug) { hinweis.PaletteBerührt(werkzeug); }
+    void PaletteBerührt(int werkzeug);
 
     /// Runs the command `name` as a user's choice: its menu opens first, with the states that this refreshes.
     /// False, and nothing done, when there is none or it is disabled or hidden.
@@ -122,6 +135,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
 
     bool IstFrei(std::string_view name) const;
+    void Absagen(std::string_view name);
     void NachEreignis();
     void Festhalten();
     void CursorInsBild();
@@ -162,6 +176,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Anzeige anzeige;
     Darstellung darstellung;
     Werkzeughinweis hinweis;
+    Wegweiser wegweiser;
     Bildexport bildexport;
     Sicherheitsnetz netz;
     Projekt projekt;
@@ -169,11 +184,13 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Werkbank werkbank;
     Leinwand leinwand;
     Tastatur tastatur{werkbank};
+    Rahmenort gedrückt_;        ///< where in the frame the last press was
     bool aufgegeben_ = false;   ///< the closing question was answered with No
     bool netzGemeldet_ = false; ///< that the safety net can't be written
     std::string Kommandozeile;  ///< trimmed and unquoted
-    const Anblick anblick{projekt.Titel,       ansicht,       bedienung, bereich, auflagen,         lage,
-                          import.Listenzeilen, plattform.uhr, dokument,  legende, tastatur.Cursor()};
+    const Anblick anblick{
+        projekt.Titel, projekt.Geändert,    einstellungen.Fenster, ansicht,  bedienung, bereich,          auflagen,
+        lage,          import.Listenzeilen, plattform.uhr,         dokument, legende,   tastatur.Cursor()};
 };
 
 /// The command line as the program takes it: trimmed, one pair of enclosing quotation marks removed.

@@ -3,6 +3,7 @@
 #include "platform/Sprache.h"
 
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace kw {
@@ -16,7 +17,8 @@ struct Menüzeile {
     std::string_view Name;
     std::string_view Menü; ///< the menu that it stands in; a group below for what stands in none
     Zweisprachig Caption;
-    std::string_view Kürzel = {}; ///< "Ctrl+O"
+    Zweisprachig Kennbuchstabe = {}; ///< the letter that picks it in its menu; no other row of that has it
+    std::string_view Kürzel = {};    ///< "Ctrl+O"
     bool Enabled = true;
     bool Visible = true;
 };
@@ -39,6 +41,15 @@ const Menüzeile *MenüzeileFinden(std::string_view name);
 bool IstMenü(const Menüzeile &zeile);
 /// Whether the row `name` stands in `menü` or in a menu below it.
 bool GehörtZu(std::string_view name, std::string_view menü);
+
+/// A caption in two pieces, with the letter that picks it at the beginning of the second one.
+struct Kennstelle {
+    std::string Davor; ///< all of it when the letter isn't in it
+    std::string Ab;
+};
+/// Splits what the row shows now, `caption`: its own one, another that says a state, or a file's name. The letter
+/// counts as it is written, at the beginning of a word if it is at one. A mark that the row's own caption has goes.
+Kennstelle KennstelleIn(const Menüzeile &zeile, std::string_view caption, Sprache sprache);
 
 /// The menu entry that toolbar item `name` stands for, in what it does and in its shortcut; empty for an item of its
 /// own. Undo and redo have a second name, under which nothing shows.

@@ -1,6 +1,7 @@
 #include "document/Einstellungen.h"
 
 #include "document/Dateien.h"
+#include "document/Fensterplatz.h"
 #include "document/Ganztexte.h"
 #include "document/Papier.h"
 #include "document/Zahlen.h"
@@ -13,7 +14,7 @@ std::string OderSonst(const std::string &wert, const std::string &sonst) { retur
 
 } // namespace
 
-const std::array<Einstellungsschlüssel, 11> Einstellungstafel{{
+const std::array<Einstellungsschlüssel, 12> Einstellungstafel{{
     {"orientation", false, [](const Einstellungen &e) { return std::to_string(e.Orientation); }},
     {"lastpath", true, [](const Einstellungen &e) { return e.LetzterPfad; }},
     {"psize", false, [](const Einstellungen &e) { return std::to_string(e.Zoom); }},
@@ -25,6 +26,7 @@ const std::array<Einstellungsschlüssel, 11> Einstellungstafel{{
     {"papersize", false, [](const Einstellungen &e) { return std::to_string(e.Papiercode); }},
     {"gridsize", true, [](const Einstellungen &e) { return std::to_string(e.Raster); }},
     {"toolbar", true, [](const Einstellungen &e) { return std::string(e.Werkzeugleiste ? "1" : "0"); }},
+    {"window", false, [](const Einstellungen &e) { return e.Fenster ? FensterlageText(*e.Fenster) : ""; }},
 }};
 
 std::string LetzterPfadSchlüssel(int platz) { return "lastpath_" + std::to_string(platz); }
@@ -55,6 +57,7 @@ Einstellungen EinstellungenLesen(const Profil &profil) {
     e.OhneSprache = text("language").empty();
     e.Sprache = SpracheAus(text("language"));
     e.Zuletzt = ChronikLesen(profil);
+    e.Fenster = FensterlageAus(text("window"));
     return e;
 }
 

@@ -2,9 +2,12 @@
 
 #include "document/Chronik.h"
 #include "document/Profil.h"
+#include "platform/Fensterlage.h"
 #include "platform/Sprache.h"
 
 #include <array>
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,6 +30,7 @@ struct Einstellungen {
     kw::Sprache Sprache = kw::Sprache::Englisch;
     bool OhneSprache = true; ///< none has been chosen yet
     Chronik Zuletzt;
+    std::optional<Fensterlage> Fenster; ///< nothing until a window has told
 };
 
 /// Missing keys give the defaults, damaged values what can be read of them; nothing fails.
@@ -39,8 +43,10 @@ struct Einstellungsschlüssel {
     bool Sofort; ///< written when the user changes it, else at the program's end only
     std::string (*Text)(const Einstellungen &);
 };
-/// In the order of the file; the recent files come behind.
-extern const std::array<Einstellungsschlüssel, 11> Einstellungstafel;
+/// In the order of the file. The recent files come behind the first `VorDenLetzten`; what stands behind them is written
+/// only once there is a value.
+extern const std::array<Einstellungsschlüssel, 12> Einstellungstafel;
+constexpr std::size_t VorDenLetzten = 11;
 constexpr std::string_view Einstellungsabschnitt = "DEFAULT";
 std::string LetzterPfadSchlüssel(int platz);
 Chronik ChronikLesen(const Profil &profil);

@@ -4,6 +4,7 @@
 #include "document/Ganztexte.h"
 
 #include <filesystem>
+#include <span>
 #include <utility>
 
 namespace kw {
@@ -69,16 +70,20 @@ void Einstellungsablage::Festhalten(std::string_view schlüssel, const std::stri
 void Einstellungsablage::Eintragen(const Einstellungen &e, const Frage &fällig) {
     auto bekannt = bekannt_;
     const bool geschrieben = Ändern([&](Profil &profil) {
-        for (const auto &zeile : Einstellungstafel) {
+        const auto eintragen = [&](const Einstellungsschlüssel &zeile) {
             const auto wert = zeile.Text(e);
-            if (Hat(profil, zeile.Name) && !fällig(zeile, wert, profil)) continue;
+            if (Hat(profil, zeile.Name) && !fällig(zeile, wert, profil)) return;
             GanzSchreiben(profil, Einstellungsabschnitt, zeile.Name, wert);
             bekannt[zeile.Name] = {wert, wert};
-        }
+        };
+        const std::span tafel(Einstellungstafel);
+        for (const auto &zeile : tafel.first(VorDenLetzten)) eintragen(zeile);
         auto chronik = ChronikLesen(profil);
         chronik.Nachvollziehen(chronik_, e.Zuletzt);
         for (int platz = 1; platz <= Chronik::Plätze; ++platz)
             GanzSchreiben(profil, Einstellungsabschnitt, LetzterPfadSchlüssel(platz), chronik[platz]);
+        for (const auto &zeile : tafel.subspan(VorDenLetzten))
+            if (!zeile.Text(e).empty()) eintragen(zeile);
     });
     if (!geschrieben) return;
     bekannt_ = std::move(bekannt);

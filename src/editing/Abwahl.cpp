@@ -59,6 +59,13 @@ void NichtsAuswählen(Werkbank &w) {
     w.lage.Angebot.Löschen = w.lage.Angebot.Ausschneiden = false;
 }
 
+bool WerkzeugWeglegen(Werkbank &w) {
+    if (!EtwasInHand(w.lage)) return false;
+    NichtsAuswählen(w);
+    w.fenster.Vorschau();
+    return true;
+}
+
 void LöschenAbschließen(Werkbank &w) {
     PositionenVergessen(w.lage);
     w.lage.Aktion = Aktion::Nichts;

@@ -13,6 +13,9 @@ void LinkAufräumen(Leinwandlage &lage, Auflagen &auflagen);
 void LinkAbbrechen(Auswahl &auswahl, Leinwandlage &lage, Auflagen &auflagen);
 /// What a tool begins with: what was selected or armed ends. Redraws.
 void AuswahlAufgeben(Werkbank &w);
+/// Puts away what is armed: a tool, a link, the choice of a region of the picture. Nothing is selected then, nothing
+/// made. False, and nothing done, when nothing is armed.
+bool WerkzeugWeglegen(Werkbank &w);
 /// Forgets the positions of single selected elements: after records have gone or others are selected.
 void PositionenVergessen(Leinwandlage &lage);
 /// Nothing selected, no gesture, every shape out of the way; no redraw. Before other records come into the stores.

@@ -1,5 +1,6 @@
 #include "editing/Bildausschnitt.h"
 
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
@@ -31,6 +32,7 @@ void BildLoslassen(Werkbank &w) {
     const Bildausschnitt region{box.Left, box.Top, box.Width, box.Height};
     if (Kleiner(Kleinstes, region.Width) && Kleiner(Kleinstes, region.Height))
         w.fenster.AusschnittAusgeben(region, w.lage.bAuswahlInDatei);
+    else w.lage.Hinweis = &Absage::KleinesBild;
     AuswahlrahmenParken(w.auflagen);
     w.lage.BildAuswahl = false;
     w.lage.Zeiger = Mauszeiger::Pfeil;

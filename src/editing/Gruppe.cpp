@@ -1,6 +1,7 @@
 #include "editing/Gruppe.h"
 
 #include "document/Verweise.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Kinder.h"
@@ -119,7 +120,10 @@ void RahmenAuswählen(Werkbank &w) {
     w.fenster.Vorschau();
 }
 
-void RahmenLoslassen(Werkbank &w, const Ereignis &) { RahmenAuswählen(w); }
+void RahmenLoslassen(Werkbank &w, const Ereignis &e) {
+    RahmenAuswählen(w);
+    if (w.lage.Aktion == Aktion::Nichts && HatSichBewegt(w.lage, e)) w.lage.Hinweis = &Absage::LeererRahmen;
+}
 
 bool ImRahmen(const Auflagen &auflagen, double x, double y) { return Rahmenkasten(auflagen).Enthält(x, y); }
 
@@ -172,7 +176,10 @@ void GruppeLoslassen(Werkbank &w, const Ereignis &) {
     const double dx = w.lage.DeltaX;
     const double dy = w.lage.DeltaY;
     if (dx == 0 && dy == 0) return;
-    if (!w.auswahl.HatKopierbares()) return GruppeZurücksetzen(w); // bars without their partners stay
+    if (!w.auswahl.HatKopierbares()) { // bars without their partners stay
+        w.lage.Hinweis = &Absage::NurBalken;
+        return GruppeZurücksetzen(w);
+    }
     PersonenMitbewegen(w.dokument, {NummernIn(w.auswahl.lstMovedPers), dx, dy});
     for (const Gruppenart *art : Arten) Mitbewegen(*art, w.dokument, w.auswahl, dx, dy);
     MarkerParken(w.lage, w.auflagen);

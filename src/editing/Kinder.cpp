@@ -4,6 +4,7 @@
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Geometrie.h"
 #include "editing/Gesten.h"
@@ -37,9 +38,6 @@ bool KindLinieAnlegen(Dokument &d, int plinie, int kind) {
     d.cboKindlinien.Anhängen(linie.Text());
     return true;
 }
-
-constexpr Zweisprachig KeinKreis{"Nicht verknüpft: Niemand kann Kind von sich selbst oder von eigenen Nachkommen sein.",
-                                 "Not linked: nobody can be a child of themselves or of their own descendants."};
 
 /// Whether the couple of a partnership are that person, or come from it.
 bool StammtVon(const Dokument &d, int plinie, int person) {
@@ -152,8 +150,8 @@ bool KindLinkBeenden(Werkbank &w, const Ereignis &) {
     const int plinie = w.lage.PLinieUnterMaus ? w.lage.PLinieAuswahl : -1;
     const int kind = w.lage.PersAuswahl - 1;
     const bool kreis = StammtVon(w.dokument, plinie, kind);
-    if (kreis) w.lage.Hinweis = &KeinKreis;
     const bool angelegt = !kreis && KindLinieAnlegen(w.dokument, plinie, kind);
+    if (!angelegt) w.lage.Hinweis = kreis ? &Absage::KeinKreis : &Absage::KeineEltern;
     w.lage.Aktion = Aktion::Nichts; // before the redraw, which marks the bar under the pointer
     w.lage.PLinieUnterMaus = false;
     w.lage.PersRecord.clear();

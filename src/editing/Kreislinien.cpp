@@ -3,6 +3,7 @@
 #include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Kreislinie.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
@@ -109,6 +110,7 @@ bool KreisTreffen(Werkbank &w, const Ereignis &e) {
     w.lage.KreisGetroffen = i >= 0;
     w.lage.KreisAuswahl = 0;
     if (w.lage.KreisGetroffen) {
+        if (EtwasInHand(w.lage)) w.lage.Hinweis = &Absage::KreisImWeg;
         AuswahlrahmenParken(w.auflagen);
         LinkAufräumen(w.lage, w.auflagen);
         KreisAuswählen(w, i);
@@ -189,7 +191,10 @@ void KreisLoslassen(Werkbank &w, const Ereignis &) {
 void KreisSchließen(Werkbank &w, const Ereignis &) {
     w.lage.Aktion = Aktion::Nichts;
     auto punkte = KreisPunkte(std::exchange(w.lage.PunktListe, {}));
-    if (punkte.size() < 2) return; // nothing was drawn
+    if (punkte.size() < 2) { // nothing was drawn
+        w.lage.Hinweis = &Absage::KeinStrich;
+        return;
+    }
     const auto lücke = Lückenpunkte(punkte.back(), punkte.front());
     punkte.insert(punkte.end(), lücke.begin(), lücke.end());
     if (punkte.back() != punkte.front()) punkte.push_back(punkte.front());

@@ -1,5 +1,6 @@
 #include "editing/Legende.h"
 
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
@@ -30,6 +31,7 @@ bool LegendeUnterMaus(const Werkbank &w) {
 
 bool LegendeFassen(Werkbank &w, const Ereignis &e) {
     if (!LegendeUnterMaus(w)) return false;
+    if (EtwasInHand(w.lage)) w.lage.Hinweis = &Absage::LegendeImWeg;
     LinkAbbrechen(w.auswahl, w.lage, w.auflagen);
     if (w.lage.Aktion == Aktion::GruppeGewählt) {
         AuswahlrahmenParken(w.auflagen);

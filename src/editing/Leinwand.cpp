@@ -2,6 +2,7 @@
 
 #include "document/Texte.h"
 #include "document/Zahlen.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Bildausschnitt.h"
 #include "editing/Gesten.h"
@@ -41,6 +42,13 @@ bool Zurücksetzen(Werkbank &w, const Ereignis &) {
     w.auflagen.shpMask.Visible = false;
     w.lage.Info.Visible = false;
     return false;
+}
+
+/// With a tool or a link in hand the right button only puts it away: no menu, and nothing selected.
+bool Weglegen(Werkbank &w, const Ereignis &e) {
+    if (!e.Rechts() || !WerkzeugWeglegen(w)) return false;
+    w.lage.Gedrückt = false; // the release ends nothing more
+    return true;
 }
 
 bool OrtMerken(Werkbank &w, const Ereignis &e) {
@@ -137,15 +145,16 @@ bool LinieTreffen(Werkbank &w, const Ereignis &e) {
            PfeilTreffer(w, e.X, e.Y) || PfeilEndeTreffer(w, e.X, e.Y);
 }
 
-/// The order decides what a press means. The tools of region, arrow, text and circle line come first, then, when no
-/// selection elsewhere is in the way of a right press, the legend and the circle lines under the pointer, whatever is
-/// armed or selected; then a group and what else is armed, then persons, lines, arrows and text boxes under the
-/// pointer. On the empty page a marquee begins.
+/// The order decides what a press means. A right press puts away what is armed. The tools of region, arrow, text and
+/// circle line come first, then, when no selection elsewhere is in the way of a right press, the legend and the circle
+/// lines under the pointer, whatever is armed or selected; then a group and what else is armed, then persons, lines,
+/// arrows and text boxes under the pointer. On the empty page a marquee begins.
 using Schritt = bool (*)(Werkbank &, const Ereignis &);
-constexpr Schritt Schritte[] = {
-    Zurücksetzen,  BildBeginnen, PfeilBeginnen, TextSetzen,      OrtMerken,      KreisBeginnen,   AnderesGemeint,
-    LegendeFassen, KreisTreffen, KreisGewählt,  GruppeFassen,    TextWarGefasst, KindLinkBeenden, MenüWarOffen,
-    LinkBeenden,   PersonSetzen, PersonTreffen, LinieWarGewählt, LinieTreffen,   TextTreffen,     RahmenBeginnen};
+constexpr Schritt Schritte[] = {Zurücksetzen, Weglegen,      BildBeginnen,   PfeilBeginnen,   TextSetzen,
+                                OrtMerken,    KreisBeginnen, AnderesGemeint, LegendeFassen,   KreisTreffen,
+                                KreisGewählt, GruppeFassen,  TextWarGefasst, KindLinkBeenden, MenüWarOffen,
+                                LinkBeenden,  PersonSetzen,  PersonTreffen,  LinieWarGewählt, LinieTreffen,
+                                TextTreffen,  RahmenBeginnen};
 
 /// Those of them that make something with a tool.
 constexpr Schritt Werkzeugschritte[] = {Zurücksetzen, OrtMerken,     BildBeginnen, PfeilBeginnen,
@@ -203,6 +212,11 @@ constexpr Ende Enden[] = {
     {Aktion::PfeilGefasst, PfeilLoslassen},
 };
 
+bool IstPfeilwahl(Aktion aktion) {
+    return aktion == Aktion::PfeilGefasst || aktion == Aktion::PfeilGewählt || aktion == Aktion::PfeilEnde1 ||
+           aktion == Aktion::PfeilEnde2;
+}
+
 void ZugAbbrechen(Werkbank &w) {
     w.auflagen.shpMask.Visible = w.auflagen.Line1.Visible = w.auflagen.Line5.Visible = false;
     w.lage.LinieVerschoben = false;
@@ -231,6 +245,12 @@ void Leinwand::MouseDown(int taste, double x, double y) {
     const Ereignis e{taste, x, y};
     for (const Schritt schritt : Schritte)
         if (schritt(w, e)) return;
+}
+
+void Leinwand::DanebenGedrückt(int taste) {
+    w.lage.Hinweis = nullptr;
+    if (taste == TasteRechts) WerkzeugWeglegen(w);
+    else if (EtwasInHand(w.lage)) w.lage.Hinweis = &Absage::Daneben;
 }
 
 bool Leinwand::WerkzeugAnsetzen(double x, double y) {
@@ -269,8 +289,15 @@ void Leinwand::MouseUp(int taste, double x, double y) {
     }
 }
 
+bool Leinwand::Zieht() const {
+    return w.lage.Gedrückt && std::any_of(std::begin(Züge), std::end(Züge), [&](const Zug &z) {
+               return z.Aktion == w.lage.Aktion && (z.NurLinks || !IstLink(z.Aktion));
+           });
+}
+
 void Leinwand::DblClick(double x, double y) {
-    if (w.lage.BildAuswahl) return;                           // a region is being dragged
+    if (w.lage.BildAuswahl) return; // a region is being dragged
+    w.lage.Hinweis = nullptr;
     if (std::exchange(w.lage.Gedrückt, false)) Festhalten(w); // the last release got lost
     w.lage.MausX = x;
     w.lage.MausY = y;
@@ -297,6 +324,7 @@ void Leinwand::DblClick(double x, double y) {
         w.fenster.Vorschau();
         return;
     }
+    if (w.lage.Aktion == Aktion::KreisGewählt || IstPfeilwahl(w.lage.Aktion)) w.lage.Hinweis = &Absage::OhneFormular;
     PersonÖffnen(w, person);
 }
 

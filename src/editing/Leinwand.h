@@ -13,8 +13,12 @@ class Leinwand {
     explicit Leinwand(Werkbank &werkbank) : w(werkbank) {}
 
     void MouseDown(int taste, double x, double y);
+    /// A press beside the page: a tool can't be used there, and the right button ends it there too.
+    void DanebenGedrückt(int taste);
     void MouseMove(int taste, double x, double y);
     void MouseUp(int taste, double x, double y);
+    /// Whether a move with the left button down would drag something now.
+    bool Zieht() const;
     /// Opens the form of what lies there, text boxes and the legend first; of a person behind the event, by a timer.
     void DblClick(double x, double y);
 

@@ -16,7 +16,8 @@ constexpr double GrößeNormal = 1.2;   ///< cm; size of a new symbol
 constexpr double GrößeKlein = 0.6;    ///< of a new small symbol: pregnancy to abortion
 constexpr double BalkenAbstand = 1.8; ///< drop of a new partnership bar below the lower partner
 
-enum class Mauszeiger { Pfeil, Verschieben, Person, Textfeld, Kreuz };
+/// The pointer over the page. The hands are a face's own: ready to draw the page, and drawing it.
+enum class Mauszeiger { Pfeil, Verschieben, Person, Textfeld, Kreuz, Hand, Griff };
 
 /// What the panel `Frame1(0)` tells of the selected person.
 struct Personeninfo {
@@ -108,5 +109,10 @@ struct Leinwandlage : Gestenlage {
     kw::Angebot Angebot;
     Gestenspur Spur;
 };
+
+/// Whether a tool, a link or the choice of a region of the picture waits for the page.
+inline bool EtwasInHand(const Leinwandlage &lage) {
+    return lage.BildAuswahl || IstWerkzeug(lage.Aktion) || IstLink(lage.Aktion);
+}
 
 } // namespace kw

@@ -5,6 +5,7 @@
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Geometrie.h"
 #include "editing/Gesten.h"
@@ -157,9 +158,10 @@ void BalkenZiehen(Werkbank &w, const Ereignis &e) {
     w.lage.LinieVerschoben = true;
 }
 
-void BalkenLoslassen(Werkbank &w, const Ereignis &) {
-    const bool verschoben = std::exchange(w.lage.LinieVerschoben, false) &&
-                            BalkenBewegen(w.dokument, w.lage.PLinieAuswahl, w.auflagen.Line1);
+void BalkenLoslassen(Werkbank &w, const Ereignis &e) {
+    const bool gezogen = std::exchange(w.lage.LinieVerschoben, false);
+    const bool verschoben = gezogen && BalkenBewegen(w.dokument, w.lage.PLinieAuswahl, w.auflagen.Line1);
+    if (gezogen && !verschoben && HatSichBewegt(w.lage, e)) w.lage.Hinweis = &Absage::NurSenkrecht;
     if (verschoben) {
         w.lage.Aktion = Aktion::Nichts;
         Gummi1Parken(w.auflagen);

@@ -3,6 +3,7 @@
 #include "document/saetze/Beziehung.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Marker.h"
@@ -75,6 +76,12 @@ std::string NeueBeziehung(const PersonSatz &erster, const PersonSatz &zweiter) {
     return linie.PersNr1(erster.Nr()).PersNr2(zweiter.Nr()).Text();
 }
 
+/// Why a link gesture makes no line; nothing when it could make one.
+const Zweisprachig *Hindernis(const Leinwandlage &lage) {
+    if (lage.ZielPerson < 1) return &Absage::Niemand;
+    return lage.ZielPerson == lage.PersAuswahl ? &Absage::MitSichSelbst : nullptr;
+}
+
 /// A relationship line between link target and selected person, and its form. Nothing when they have one.
 void BeziehungAnlegen(Werkbank &w) {
     constexpr size_t PaarLänge = 7; // "001_002"
@@ -94,7 +101,10 @@ void BeziehungAnlegen(Werkbank &w) {
     const std::string_view nummern = std::string_view(satz).substr(satz.size() - PaarLänge);
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
     const auto &linien = d.cboBeziehungsLinien;
-    if (std::any_of(linien.begin(), linien.end(), [&](const std::string &l) { return l.ends_with(nummern); })) return;
+    if (std::any_of(linien.begin(), linien.end(), [&](const std::string &l) { return l.ends_with(nummern); })) {
+        w.lage.Hinweis = &Absage::SchonVerknüpft;
+        return;
+    }
     d.cboBeziehungsLinien.Anhängen(satz);
     w.lage.BezAuswahl = linien.Anzahl() - 1;
     w.lage.Aktion = Aktion::BeziehungGewählt;
@@ -160,11 +170,13 @@ bool LinkBeenden(Werkbank &w, const Ereignis &) {
     LinkAufräumen(w.lage, w.auflagen);
     w.lage.PersRecord.clear();
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
+    w.lage.Hinweis = Hindernis(w.lage);
     if (w.lage.Aktion == Aktion::BeziehungZiehen) {
         BeziehungAnlegen(w);
     } else {
         w.lage.Aktion = Aktion::Nichts;
         if (PartnerschaftAnlegen(w, Verknüpfte(w.lage))) w.fenster.Sichern();
+        else if (!w.lage.Hinweis) w.lage.Hinweis = &Absage::SchonVerknüpft;
     }
     w.lage.Aktion = Aktion::Nichts;
     w.fenster.Vorschau();

@@ -2,6 +2,7 @@
 
 #include "document/Verweise.h"
 #include "document/saetze/Person.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Geometrie.h"
 #include "editing/Gesten.h"
@@ -194,6 +195,7 @@ void PersonLoslassen(Werkbank &w, const Ereignis &e) {
     w.fenster.Vorschau();
     w.auflagen.shpMask.Parken();
     if (!w.dokument.GleicheSätze(vorher)) w.fenster.Sichern();
+    else lage.Hinweis = &Absage::KurzerWeg;
 }
 
 void LinienDerPersonNachziehen(Dokument &d, const Bezüge &bezüge, std::string_view nr, double x, double y,

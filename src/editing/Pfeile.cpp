@@ -2,6 +2,7 @@
 
 #include "document/Nachschlagen.h"
 #include "document/saetze/Pfeil.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "platform/Befehlsnamen.h"
@@ -147,8 +148,10 @@ void PfeilZiehen(Werkbank &w, const Ereignis &e) {
 void PfeilGezogen(Werkbank &w, const Ereignis &e) {
     w.lage.Aktion = Aktion::Nichts;
     if (Kleiner(std::fabs(e.X - w.lage.AnkerX), KürzesterPfeil) &&
-        Kleiner(std::fabs(e.Y - w.lage.AnkerY), KürzesterPfeil))
+        Kleiner(std::fabs(e.Y - w.lage.AnkerY), KürzesterPfeil)) {
+        w.lage.Hinweis = &Absage::KurzerPfeil;
         return;
+    }
     w.lage.PfeilEndeX = Gerundet(RasterX(w.ansicht, e.X), 1);
     w.lage.PfeilEndeY = Gerundet(RasterY(w.ansicht, e.Y), 1);
     PfeilBau pfeil;

@@ -1,5 +1,6 @@
 #include "document/Texte.h"
 #include "document/saetze/Person.h"
+#include "editing/Absagen.h"
 #include "editing/Marker.h"
 #include "editing/Personen.h"
 #include "editing/Werkbank.h"
@@ -56,6 +57,8 @@ void GrößeÄndern(Werkbank &w, double delta) {
     w.fenster.Vorschau();
     w.lage.Aktion = Aktion::Nichts;
     if (personen != vorher) w.fenster.Sichern();
+    else if (w.auswahl.lstMovedPers.Leer()) w.lage.Hinweis = &Absage::KeinePersonGewählt;
+    else w.lage.Hinweis = delta > 0 ? &Absage::GrößtesSymbol : &Absage::KleinstesSymbol;
 }
 
 void mnuSymbolVergrößern(Werkbank &w) {

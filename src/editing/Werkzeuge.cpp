@@ -81,11 +81,7 @@ bool WerkzeugBrauchbar(int nummer, const Dokument &d, const Auswahl &auswahl, co
     return HatPerson(d, auswahl, lage) && (nummer != WerkzeugKind || KannKindWerden(d, lage));
 }
 
-bool IstBereit(const Leinwandlage &lage) {
-    constexpr Aktion Bereite[] = {Aktion::PersonSetzen, Aktion::ElternSetzen, Aktion::TextGesetzt,
-                                  Aktion::KreisZeichnen, Aktion::PfeilZeichnen};
-    return lage.BildAuswahl || std::find(std::begin(Bereite), std::end(Bereite), lage.Aktion) != std::end(Bereite);
-}
+bool IstBereit(const Leinwandlage &lage) { return lage.BildAuswahl || IstWerkzeug(lage.Aktion); }
 
 bool WerkzeugGedrückt(int nummer, const Leinwandlage &lage) {
     const Werkzeug *werkzeug = WerkzeugFinden(nummer);

@@ -2,6 +2,7 @@
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
+#include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Gesten.h"
 #include "editing/Kinder.h"
@@ -37,6 +38,7 @@ void Melden(Werkbank &w, const Zweisprachig &text) {
         {"Kinwright Information ", std::string(text.In(w.ansicht.Sprache)), Knöpfe::Ok, Zeichen::Warnung});
     AuswahlrahmenParken(w.auflagen);
     MarkierungsListBoxenLöschen(w.auswahl, w.lage);
+    w.lage.Hinweis = &Absage::KeinPaar;
 }
 
 /// The marks of somebody who is born by a command are all "0", that of the age at death too.

@@ -15,6 +15,8 @@
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
 #include "editing/Werkbank.h"
+#include "platform/Benutzer.h"
+#include "platform/Sprache.h"
 
 #include <map>
 #include <unordered_set>

@@ -18,7 +18,24 @@ constexpr int LuftBreite = 200; ///< a canvas fits when this is left over
 constexpr int LuftHöhe = 600;
 constexpr int PaletteUndRand = 2620; ///< what of the inner width isn't the frame's
 constexpr int PalettenBreite = 960;
+constexpr int Radschritt = 900;         ///< that a notch of the wheel scrolls
+constexpr int Randzone = 360;           ///< inside the frame's edge, where a drag scrolls
+constexpr int GrößterSchritt = 600;     ///< of that scrolling, at once
 constexpr int LetzterEinfacherZoom = 7; ///< 150 %; above it lines are twice as wide
+
+/// How far a place reaches into the zone at the near edge (negative) or at the far one.
+int Randtiefe(int ort, int länge) {
+    if (ort < Randzone) return ort - Randzone;
+    return std::max(ort - (länge - Randzone), 0);
+}
+
+/// One step of scrolling on an axis. A drag that began in the zone scrolls only when it has come nearer to the edge.
+int Randschritt(int zeiger, int gedrückt, int länge) {
+    const int tief = Randtiefe(zeiger, länge);
+    const int anfangs = Randtiefe(gedrückt, länge);
+    const int weiter = tief < 0 ? std::min(tief - std::min(anfangs, 0), 0) : std::max(tief - std::max(anfangs, 0), 0);
+    return std::clamp(weiter, -GrößterSchritt, GrößterSchritt);
+}
 
 } // namespace
 
@@ -98,6 +115,18 @@ void Arbeitsbereich::MausradFolgen() {
     if (cboBildGröße.ListIndex != MausradIndex) ZoomWählen(MausradIndex);
 }
 
+void Arbeitsbereich::MausradFolgen(Rahmenort zeiger) {
+    const double anteilX = static_cast<double>(zeiger.X - canvasLinks_) / std::max(canvas_.Width(), 1);
+    const double anteilY = static_cast<double>(zeiger.Y - canvasOben_) / std::max(canvas_.Height(), 1);
+    if (cboBildGröße.ListIndex == MausradIndex) return;
+    ZoomWählen(MausradIndex);
+    const auto wert = [](double anteil, int länge, int ort) {
+        return static_cast<int>(Gerundet(Ruhelage + anteil * länge - ort, 0));
+    };
+    Scrollen(HScroll1.Visible ? wert(anteilX, canvas_.Width(), zeiger.X) : 0,
+             VScroll1.Visible ? wert(anteilY, canvas_.Height(), zeiger.Y) : 0);
+}
+
 void Arbeitsbereich::Bildgrößenveränderung() {
     ansicht_.StrichFaktor = cboBildGröße.ListIndex <= LetzterEinfacherZoom ? 1 : 2;
     LeinwandGroesseSetzen();
@@ -151,15 +180,17 @@ void Arbeitsbereich::BildlaufleistenSetzen() {
     HScroll1.Max = canvas_.Width() + Überlauf - picBack.Width;
 }
 
-/// A canvas that fits is centred and has no scroll bar; one that doesn't goes back to its resting place.
+/// A canvas that fits is centred in what shows and has no scroll bar; one that doesn't goes back to its resting place.
 void Arbeitsbereich::ArbeitsbereichAnordnen() {
-    const auto anordnen = [](int canvas, int rahmen, int luft, Bildlaufleiste &leiste) {
-        leiste.Visible = canvas + luft > rahmen;
+    VScroll1.Visible = HScroll1.Visible = true; // what shows beside the bars
+    VScroll1.Visible = canvas_.Height() + LuftHöhe > SichtHöhe();
+    HScroll1.Visible = canvas_.Width() + LuftBreite > SichtBreite();
+    const auto anfang = [](int canvas, int sicht, Bildlaufleiste &leiste) {
         leiste.Value = 0;
-        return leiste.Visible ? Ruhelage : (rahmen - canvas) / 2;
+        return leiste.Visible ? Ruhelage : (sicht - canvas) / 2;
     };
-    canvasLinks_ = anordnen(canvas_.Width(), picBack.Width, LuftBreite, HScroll1);
-    canvasOben_ = anordnen(canvas_.Height(), picBack.Height, LuftHöhe, VScroll1);
+    canvasLinks_ = anfang(canvas_.Width(), SichtBreite(), HScroll1);
+    canvasOben_ = anfang(canvas_.Height(), SichtHöhe(), VScroll1);
     SchattenSetzen();
 }
 
@@ -169,6 +200,53 @@ void Arbeitsbereich::Scrollen(int hValue, int vValue) {
     if (HScroll1.Visible) canvasLinks_ = Ruhelage - HScroll1.Value;
     if (VScroll1.Visible) canvasOben_ = Ruhelage - VScroll1.Value;
     SchattenSetzen();
+}
+
+bool Arbeitsbereich::ScrollenUm(int dx, int dy) {
+    const Rahmenort vorher{HScroll1.Value, VScroll1.Value};
+    Scrollen(HScroll1.Value + (HScroll1.Visible ? dx : 0), VScroll1.Value + (VScroll1.Visible ? dy : 0));
+    return HScroll1.Value != vorher.X || VScroll1.Value != vorher.Y;
+}
+
+void Arbeitsbereich::MitRadScrollen(double quer, double längs) {
+    const auto weg = [](double rasten) { return static_cast<int>(Gerundet(-rasten * Radschritt, 0)); };
+    if (VScroll1.Visible) ScrollenUm(weg(quer), weg(längs));
+    else ScrollenUm(weg(quer + längs), 0);
+}
+
+void Arbeitsbereich::SeiteFassen(Rahmenort hand) {
+    hand_ = hand;
+    stand_ = {HScroll1.Value, VScroll1.Value};
+}
+
+void Arbeitsbereich::SeiteSchieben(Rahmenort hand) {
+    ScrollenUm(stand_.X + hand_.X - hand.X - HScroll1.Value, stand_.Y + hand_.Y - hand.Y - VScroll1.Value);
+}
+
+bool Arbeitsbereich::AmRandScrollen(Rahmenort zeiger, Rahmenort gedrückt) {
+    return ScrollenUm(Randschritt(zeiger.X, gedrückt.X, SichtBreite()), Randschritt(zeiger.Y, gedrückt.Y, SichtHöhe()));
+}
+
+void Arbeitsbereich::LeistenSetzen(int dicke) {
+    if (leistendicke_ == dicke) return;
+    leistendicke_ = dicke;
+    ArbeitsbereichAnordnen();
+}
+
+int Arbeitsbereich::SichtBreite() const {
+    if (!leistendicke_) return picBack.Width;
+    return VScroll1.Left + (VScroll1.Visible ? 0 : *leistendicke_) - picBack.Left;
+}
+
+int Arbeitsbereich::SichtHöhe() const {
+    if (!leistendicke_) return picBack.Height;
+    return HScroll1.Top + (HScroll1.Visible ? 0 : *leistendicke_) - picBack.Top;
+}
+
+Rahmenort Arbeitsbereich::InRahmen(double x, double y, double seitenBreite) const {
+    const double twips = canvas_.Width() / seitenBreite;
+    return {static_cast<int>(Gerundet(canvasLinks_ + x * twips, 0)),
+            static_cast<int>(Gerundet(canvasOben_ + y * twips, 0))};
 }
 
 void Arbeitsbereich::SchattenSetzen() {

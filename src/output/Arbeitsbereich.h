@@ -3,6 +3,7 @@
 #include "document/Auswahlliste.h"
 
 #include <functional>
+#include <optional>
 
 namespace kw {
 
@@ -22,6 +23,12 @@ struct Steuerfläche {
 struct Bildlaufleiste : Steuerfläche {
     int Max = 0; ///< some way beyond the page, however large that is; negative while the frame is larger
     int Value = 0;
+};
+
+/// A place within the frame `picBack`, twips from its upper left corner; outside of it too.
+struct Rahmenort {
+    int X = 0;
+    int Y = 0;
 };
 
 /// The work area: how large the zoom makes the canvas, and where frame, canvas and scroll bars stand. All
@@ -64,6 +71,9 @@ class Arbeitsbereich {
     /// zoom follows.
     void MausradZählen(bool hoch);
     void MausradFolgen();
+    /// The same with the pointer at that place: what of the page lies there stays there as far as the scroll bars
+    /// reach, on an axis where the page doesn't fit.
+    void MausradFolgen(Rahmenort zeiger);
     /// Applies the current zoom: line width, canvas, page.
     void Bildgrößenveränderung();
 
@@ -77,6 +87,27 @@ class Arbeitsbereich {
 
     /// The scroll bars were moved.
     void Scrollen(int hValue, int vValue);
+    /// Moves what is seen by that way, on an axis where the page doesn't fit. False when everything stays.
+    bool ScrollenUm(int dx, int dy);
+    /// The same, by wheel notches or parts of them, towards the left and upwards. What would go up and down goes
+    /// sideways where the page fits from top to bottom.
+    void MitRadScrollen(double quer, double längs);
+
+    /// The hand takes the page, and draws it: the place that it took stays under it, as far as the scroll bars reach.
+    void SeiteFassen(Rahmenort hand);
+    void SeiteSchieben(Rahmenort hand);
+
+    /// One step of scrolling while something is dragged to the frame's edge: the faster, the nearer or the further
+    /// beyond it. `gedrückt` is where the drag began, which is no nearer to the edge by itself. False when everything
+    /// stays.
+    bool AmRandScrollen(Rahmenort zeiger, Rahmenort gedrückt);
+    static constexpr int RandTakt = 30; ///< ms between two such steps
+
+    /// How thick a face's scroll bars are, twips. From then on the page fits, and is centred, in what shows, which ends
+    /// before the frame does or goes on behind it; without a face the frame itself is what shows.
+    void LeistenSetzen(int dicke);
+    /// Where a place of the page is in the frame; `seitenBreite` in the same unit, cm.
+    Rahmenort InRahmen(double x, double y, double seitenBreite) const;
 
     /// Scrolls by nearly a frame: -1 up or to the left, 1 down or to the right.
     void Blättern(int richtung, bool seitwärts);
@@ -99,6 +130,8 @@ class Arbeitsbereich {
     void BildlaufleistenSetzen();
     void ArbeitsbereichAnordnen();
     void SchattenSetzen();
+    int SichtBreite() const; ///< of the frame what isn't covered, and what shows behind it
+    int SichtHöhe() const;
 
     Zeichenfläche &canvas_;
     Ansicht &ansicht_;
@@ -106,8 +139,11 @@ class Arbeitsbereich {
     int bildschirmHöhe_;
     int breite_ = 0; ///< the main window's inner size
     int höhe_ = 0;
+    std::optional<int> leistendicke_;
     int canvasLinks_;
     int canvasOben_;
+    Rahmenort hand_;  ///< where the page was taken
+    Rahmenort stand_; ///< how far it was scrolled then
     Rückrufe rückrufe_;
 };
 

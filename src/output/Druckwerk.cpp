@@ -99,8 +99,7 @@ void Druckwerk::DruckrandBericht() {
 
 /// The page's orientation overrules the printer's own; its paper stays what the printer is set to.
 bool Druckwerk::GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen, const std::string &projektdatei) {
-    const std::string name = NameOhneKennung(DateiName(projektdatei));
-    const std::string titel = name.empty() ? "Kinwright" : name;
+    const std::string titel = Drucktitel(projektdatei);
     std::string ziel;
     const auto zielWählen = [&] {
         const Dateiwahl wahl{std::string(Zieltitel.In(ansicht_.Sprache)), titel, "PDF  (*.pdf)|*.pdf",

@@ -26,4 +26,9 @@ std::string Ausgabeordner(const Benutzer &benutzer, const std::string &projektda
     return ordner.empty() ? benutzer.Desktopordner() : ordner;
 }
 
+std::string Drucktitel(const std::string &projektdatei) {
+    const std::string name = NameOhneKennung(DateiName(projektdatei));
+    return name.empty() ? "Kinwright" : name;
+}
+
 } // namespace kw

@@ -26,4 +26,7 @@ std::string Dateisatz(Sprache sprache, std::string_view name, const Zweisprachig
 /// none.
 std::string Ausgabeordner(const Benutzer &benutzer, const std::string &projektdatei);
 
+/// What a page that goes out is called: as its project, or as the program.
+std::string Drucktitel(const std::string &projektdatei);
+
 } // namespace kw

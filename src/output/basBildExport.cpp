@@ -6,6 +6,7 @@
 #include "output/Zieldatei.h"
 #include "platform/Benutzer.h"
 #include "platform/Bilder.h"
+#include "platform/Drucker.h"
 #include "rendering/Ansicht.h"
 #include "rendering/Zeichenflaeche.h"
 
@@ -24,30 +25,58 @@ constexpr Zweisprachig Kopiert{"Der gewählte Bildausschnitt wurde in die Zwisch
 constexpr Zweisprachig NichtKopiert{"Der Bildausschnitt konnte nicht in die Zwischenablage kopiert werden",
                                     "The image section could not be copied to the clipboard"};
 
+/// Beside the bitmap.
+constexpr std::string_view Seitenfilter = "JPEG  (*.jpg)|*.jpg|PNG  (*.png)|*.png|SVG  (*.svg)|*.svg";
+constexpr std::string_view Auswahlfilter = "PNG  (*.png)|*.png";
+
+/// In letters of any case.
+bool HatKennung(const std::string &datei, std::string_view kennung) {
+    return MitKennung(datei, kennung, false) == datei;
+}
+
+/// What is no copy of the canvas.
+bool WirdGedruckt(const std::string &datei) { return HatKennung(datei, "png") || HatKennung(datei, "svg"); }
+
 } // namespace
 
-std::optional<std::string> Bildexport::DateiWählen(const Zweisprachig &titel, const std::string &projektdatei) {
-    const Dateiwahl wahl{std::string(titel.In(ansicht_.Sprache)), NameOhneKennung(DateiName(projektdatei)),
-                         "Bitmap  (*.bmp)|*.bmp", Ausgabeordner(benutzer_, projektdatei), Dateiwahl::Kennungen::Alle};
+std::optional<std::string> Bildexport::DateiWählen(const Zweisprachig &titel, std::string_view weitere,
+                                                   const std::string &projektdatei) {
+    const Dateiwahl wahl{std::string(titel.In(ansicht_.Sprache)),
+                         NameOhneKennung(DateiName(projektdatei)),
+                         "Bitmap  (*.bmp)|*.bmp",
+                         Ausgabeordner(benutzer_, projektdatei),
+                         Dateiwahl::Kennungen::Alle,
+                         std::string(weitere)};
     return ZieldateiWählen(benutzer_, wahl, ansicht_.Sprache);
 }
 
-void Bildexport::SeiteExportieren(const std::string &projektdatei) {
-    const auto datei = DateiWählen(Seitentitel, projektdatei);
-    if (!datei) return;
-    abwählen_();
-    const int zoom = bereich_.cboBildGröße.ListIndex;
-    const auto grund = Fehlgrund([&] {
-        bereich_.ZoomWählen(bereich_.cboBildGröße.Anzahl() - 1);
-        return SeiteSchreiben(*datei);
-    });
-    bereich_.ZoomWählen(zoom);
-    if (grund) NichtGeschriebenMelden(benutzer_, ansicht_.Sprache, *datei, *grund);
+void Bildexport::Melden(const std::string &datei, const std::function<Ursache()> &schreiben) {
+    if (const auto grund = Fehlgrund(schreiben)) NichtGeschriebenMelden(benutzer_, ansicht_.Sprache, datei, *grund);
 }
 
-Ursache Bildexport::SeiteSchreiben(const std::string &datei) {
-    if (Kennung(DateiName(datei)) == "bmp") return bilder_.SavePicture(datei, std::nullopt);
-    return bilder_.AlsJpeg(datei, BesteQualität);
+void Bildexport::SeiteExportieren(const std::string &projektdatei) {
+    const auto datei = DateiWählen(Seitentitel, Seitenfilter, projektdatei);
+    if (!datei) return;
+    if (WirdGedruckt(*datei)) Melden(*datei, [&] { return SeiteDrucken(*datei, projektdatei); });
+    else SeiteFotografieren(*datei);
+}
+
+Ursache Bildexport::SeiteDrucken(const std::string &datei, const std::string &projektdatei) {
+    return bilder_.SeiteAls(
+        datei, {Drucktitel(projektdatei), true, ansicht_.SeitenBreite, ansicht_.SeitenHöhe, rückrufe_.AufPapier, {}});
+}
+
+void Bildexport::SeiteFotografieren(const std::string &datei) {
+    rückrufe_.Abwählen();
+    const int zoom = bereich_.cboBildGröße.ListIndex;
+    const auto schreiben = [&] {
+        bereich_.ZoomWählen(bereich_.cboBildGröße.Anzahl() - 1);
+        if (Kennung(DateiName(datei)) == "bmp") return bilder_.SavePicture(datei, std::nullopt);
+        return bilder_.AlsJpeg(datei, BesteQualität);
+    };
+    const auto grund = Fehlgrund(schreiben);
+    bereich_.ZoomWählen(zoom);
+    if (grund) NichtGeschriebenMelden(benutzer_, ansicht_.Sprache, datei, *grund);
 }
 
 Bildausschnitt Bildexport::InTwips(const Bildausschnitt &cm) const {
@@ -56,10 +85,12 @@ Bildausschnitt Bildexport::InTwips(const Bildausschnitt &cm) const {
 }
 
 void Bildexport::AuswahlAlsBildSpeichern(const Bildausschnitt &cm, const std::string &projektdatei) {
-    const auto datei = DateiWählen(Auswahltitel, projektdatei);
+    const auto datei = DateiWählen(Auswahltitel, Auswahlfilter, projektdatei);
     if (!datei) return;
-    const auto grund = Fehlgrund([&] { return bilder_.SavePicture(*datei, InTwips(cm)); });
-    if (grund) NichtGeschriebenMelden(benutzer_, ansicht_.Sprache, *datei, *grund);
+    Melden(*datei, [&] {
+        if (HatKennung(*datei, "png")) return bilder_.AlsPng(*datei, InTwips(cm));
+        return bilder_.SavePicture(*datei, InTwips(cm));
+    });
 }
 
 void Bildexport::AusschnittKopieren(const Bildausschnitt &cm) {

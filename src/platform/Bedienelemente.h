@@ -11,7 +11,8 @@ namespace kw {
 /// State of one menu entry, toolbar item, palette button or panel.
 struct Bedienelement {
     std::string Caption;
-    std::string Tipp = {}; ///< of a toolbar item: its name, where the caption may be a state
+    std::string Tipp = {}; ///< of a toolbar item: its name, where the caption may be a state; of the palette's panel
+                           ///< how a sign looks; of a recent file its path
     bool Enabled = true;
     bool Visible = true;
     bool Checked = false; ///< ticked, or for a button pressed

@@ -212,6 +212,8 @@ inline constexpr Befehlsname cmdredo{"cmdredo"};
 // What else stands in the window.
 inline constexpr Befehlsname lblTool{"lblTool"};
 inline constexpr Befehlsname lblHinweis{"lblHinweis"};
+inline constexpr Befehlsname lblStatus{"lblStatus"};
+inline constexpr Befehlsname lblEinstieg{"lblEinstieg"};
 inline constexpr Befehlsname picToolTipp{"picToolTipp"};
 inline constexpr Befehlsname imgVariable{"imgVariable"};
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Fensterlage.h"
+
 #include <functional>
 #include <optional>
 #include <string>
@@ -20,7 +22,8 @@ struct Nachfrage {
     Zeichen Bild = Zeichen::Keins;
 };
 
-/// A file dialog. `Filter` is a caption and a pattern joined by "|". The box for reading only never shows.
+/// A file dialog. `Filter` is a caption and a pattern joined by "|", and what can be chosen beside it are more of such
+/// pairs. A name to save under that has no ending gets that of the chosen one. The box for reading only never shows.
 struct Dateiwahl {
     enum class Kennungen { Eine, Alle };
 
@@ -29,6 +32,10 @@ struct Dateiwahl {
     std::string Filter;
     std::string Ordner;
     Kennungen Erlaubt = Kennungen::Eine; ///< whether a name to save under may end otherwise than the filter says
+    std::string WeitereFilter = {};
+
+    /// All of them.
+    std::string AlleFilter() const { return WeitereFilter.empty() ? Filter : Filter + "|" + WeitereFilter; }
 };
 
 class Formular;
@@ -58,15 +65,19 @@ class Benutzer {
     virtual void AnzeigeAuffrischen() = 0;
     /// Requests the main window's closing, as its close box does.
     virtual void FensterSchließen() = 0;
-    /// Opens a file or a web page in the default browser. Without one nothing shows.
-    virtual void AdresseÖffnen(const std::string &adresse) = 0;
+    /// Opens a file or a web page in the default browser. False when it is known that nothing shows.
+    virtual bool AdresseÖffnen(const std::string &adresse) = 0;
     /// Starts the program of that name from the program's own folder with the rights of the system's keeper, and goes
-    /// on. When it isn't there nothing happens.
-    virtual void ProgrammStarten(const std::string &name) = 0;
+    /// on. False, and nothing done, when it isn't there.
+    virtual bool ProgrammStarten(const std::string &name) = 0;
     /// Gives the canvas the keyboard again.
     virtual void FokusAufLeinwand() = 0;
+    /// Where the main window stands; nothing where there is none to see.
+    virtual std::optional<Fensterlage> Fensterstand() const = 0;
     /// Gives the keyboard to the next part of the window, or to the one before: canvas, palette, toolbar, status row.
     virtual void FokusWeitergeben(bool zurück) = 0;
+    /// Whether the desktop's clipboard holds anything, whoever has put it there.
+    virtual bool AblageBelegt() const = 0;
     virtual std::string Desktopordner() const = 0;
     virtual std::vector<std::string> Schriftarten() const = 0;
 };

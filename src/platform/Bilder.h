@@ -6,6 +6,7 @@
 namespace kw {
 
 enum class Ursache;
+struct Druckauftrag;
 
 /// A part of the canvas's picture, in twips from its corner.
 struct Bildausschnitt {
@@ -15,7 +16,8 @@ struct Bildausschnitt {
     double Height = 0;
 };
 
-/// What the program does with the picture that the canvas keeps, in the resolution in which it is kept. No file and no
+/// Pictures of the page. But for those of the page as it is printed, they are the one that the canvas keeps, in the
+/// resolution in which it is kept. No file and no
 /// clipboard is touched unless the whole picture could be made. Files are answered by why they couldn't be written,
 /// `Keine` on success; where the memory doesn't suffice std::bad_alloc is thrown.
 class Bilder {
@@ -25,6 +27,11 @@ class Bilder {
     virtual Ursache SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) = 0;
     /// Writes the picture as JPEG. `quality` is 0 to 100.
     virtual Ursache AlsJpeg(const std::string &datei, unsigned char quality) = 0;
+    /// Writes a part of the picture as PNG.
+    virtual Ursache AlsPng(const std::string &datei, const Bildausschnitt &ausschnitt) = 0;
+    /// Writes the page as the job draws it, by the ending of the name, in letters of any case: as PNG of 300 dots an
+    /// inch, or as SVG.
+    virtual Ursache SeiteAls(const std::string &datei, const Druckauftrag &seite) = 0;
     /// Replaces what is on the clipboard by that part of the picture.
     virtual void InZwischenablage(const Bildausschnitt &ausschnitt) = 0;
 };

@@ -39,4 +39,10 @@ constexpr bool IstLink(Aktion aktion) {
     return aktion == Aktion::BeziehungZiehen || aktion == Aktion::PartnerschaftZiehen || aktion == Aktion::KindZiehen;
 }
 
+/// Whether a tool waits for the page, or is used there just now.
+constexpr bool IstWerkzeug(Aktion aktion) {
+    return aktion == Aktion::PersonSetzen || aktion == Aktion::TextGesetzt || aktion == Aktion::KreisZeichnen ||
+           aktion == Aktion::ElternSetzen || aktion == Aktion::PfeilZeichnen;
+}
+
 } // namespace kw

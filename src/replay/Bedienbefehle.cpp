@@ -134,13 +134,28 @@ void Ablegen(Wiedergabe &lauf, const Wörter &w) {
     p.haupt->ImportzeileAblegen(zeile, Dezimalzahl(Wort(w, 2)), Dezimalzahl(Wort(w, 3)));
 }
 
-/// What the next output that goes there meets with: `memory` of pictures and print jobs, the rest of print jobs.
+/// What the next output that goes there meets with: `memory` of pictures and print jobs, `program` of another program
+/// that is to start, the rest of print jobs.
 void Stören(Programm &p, const std::string &wort) {
-    constexpr std::string_view Bekannt[] = {"memory", "printer", "job", "pdf"};
+    constexpr std::string_view Bekannt[] = {"memory", "printer", "job", "pdf", "program"};
     if (std::find(std::begin(Bekannt), std::end(Bekannt), wort) == std::end(Bekannt))
         throw Skriptfehler("unknown failure: " + wort);
+    p.benutzer.OhneProgramm = wort == "program";
+    if (p.benutzer.OhneProgramm) return;
     p.drucker.Störung = wort;
     p.bilder.OhneSpeicher = wort == "memory";
+}
+
+/// What other programs have put on the desktop's clipboard.
+void AblageFüllen(Programm &p, const std::string &wort) {
+    if (wort != "text" && wort != "picture" && wort != "empty") throw Skriptfehler("unknown word: " + wort);
+    p.benutzer.Ablage = wort != "empty";
+}
+
+/// Moves the window: its left and upper edge, width and height, in pixels; and `maximized`.
+void FensterStellen(Programm &p, const Wörter &w) {
+    if (w.size() > 5 && w[5] != "maximized") throw Skriptfehler("unknown word: " + w[5]);
+    p.benutzer.Fenster = {{Zahl(Wort(w, 1)), Zahl(Wort(w, 2)), Zahl(Wort(w, 3)), Zahl(Wort(w, 4))}, w.size() > 5};
 }
 
 constexpr Skriptbefehl Tabelle[] = {
@@ -159,6 +174,8 @@ constexpr Skriptbefehl Tabelle[] = {
     {"fail", [](auto &lauf, auto &w, auto &) { Stören(lauf.Läuft(), Wort(w, 1)); }},
     {"resize",
      [](auto &lauf, auto &w, auto &) { lauf.Läuft().innen.bereich.GrößeÄndern(Zahl(Wort(w, 1)), Zahl(Wort(w, 2))); }},
+    {"clipboard", [](auto &lauf, auto &w, auto &) { AblageFüllen(lauf.Läuft(), Wort(w, 1)); }},
+    {"window", [](auto &lauf, auto &w, auto &) { FensterStellen(lauf.Läuft(), w); }},
     {"close",
      [](auto &lauf, auto &, auto &) { lauf.aus << (lauf.Läuft().haupt->Schließen() ? "closed\n" : "open\n"); }},
     {"logout",

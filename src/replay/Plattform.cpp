@@ -64,6 +64,7 @@ Antwort DrehbuchBenutzer::Fragen(const Nachfrage &n) {
 
 std::optional<std::string> DrehbuchBenutzer::DateiWählen(const Dateiwahl &w) {
     Kästen += "file " + w.Titel + " | " + w.Vorschlag + " | " + w.Filter + " | " + w.Ordner + "\n";
+    Filter = w.AlleFilter();
     const auto antwort = Nächste(w.Titel, [](const Vorbereitet &v) { return v.Wofür == Vorbereitet::Art::Datei; });
     if (!antwort || antwort->Abgebrochen) return std::nullopt;
     return antwort->Wert;
@@ -142,10 +143,14 @@ Druckbefund DrehbuchDrucker::Drucken(const Druckauftrag &auftrag) {
 
 Ursache DrehbuchBilder::Schreiben(const std::string &datei, const std::string &art,
                                   const std::optional<Bildausschnitt> &ausschnitt) {
-    if (std::exchange(OhneSpeicher, false)) throw std::bad_alloc();
     const auto pixel = [](double twips) { return std::to_string(std::lround(twips / TwipsJePixel)); };
     const std::string größe = pixel(ausschnitt ? ausschnitt->Width : canvas_.Width()) + "x" +
                               pixel(ausschnitt ? ausschnitt->Height : canvas_.Height());
+    return Ausgeben(datei, art, größe);
+}
+
+Ursache DrehbuchBilder::Ausgeben(const std::string &datei, const std::string &art, const std::string &größe) {
+    if (std::exchange(OhneSpeicher, false)) throw std::bad_alloc();
     if (datei != "clipboard")
         if (const Ursache grund = DateiSchreiben(datei, art + " " + größe).Grund; grund != Ursache::Keine) return grund;
     wirkungen_ += "image " + datei + " | " + art + " | " + größe + "\n";
@@ -158,6 +163,17 @@ Ursache DrehbuchBilder::SavePicture(const std::string &datei, const std::optiona
 
 Ursache DrehbuchBilder::AlsJpeg(const std::string &datei, unsigned char quality) {
     return Schreiben(datei, "jpeg " + std::to_string(quality), std::nullopt);
+}
+
+Ursache DrehbuchBilder::AlsPng(const std::string &datei, const Bildausschnitt &ausschnitt) {
+    return Schreiben(datei, "png", ausschnitt);
+}
+
+Ursache DrehbuchBilder::SeiteAls(const std::string &datei, const Druckauftrag &seite) {
+    Aufzeichnung papier;
+    seite.Zeichnen(papier);
+    return Ausgeben(datei, "page " + Kennung(datei),
+                    ZahlSchreiben(seite.SeitenBreite) + "x" + ZahlSchreiben(seite.SeitenHöhe) + " cm | " + seite.Titel);
 }
 
 void DrehbuchBilder::InZwischenablage(const Bildausschnitt &ausschnitt) { Schreiben("clipboard", "bmp", ausschnitt); }

@@ -14,6 +14,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kw {
@@ -39,9 +40,14 @@ class DrehbuchBenutzer : public Benutzer {
     std::deque<Vorbereitet> Antworten;
     std::deque<std::string> Menüwahlen; ///< entries to pick in the next context menus
     std::string Kästen;                 ///< boxes and dialogs since they were last asked for, a line each
+    std::string Filter;                 ///< of the last file dialog
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
+    bool OhneProgramm = false;                         ///< the next other program can't be started
+    bool Ablage = false;                               ///< something lies on the desktop's clipboard
+    std::optional<Fensterlage> Fenster;                ///< where the window was put
+    Schirmfläche Schirm;                               ///< the only screen
     std::deque<Formularskript> Formulare;              ///< what to do in the next forms, each waiting for its name
     std::map<std::string, std::string> Formularwerte_; ///< of the forms that have closed, each as it was last
     /// Plays the user in front of a form.
@@ -57,16 +63,23 @@ class DrehbuchBenutzer : public Benutzer {
     void NachErstemBild(std::function<void()> arbeit) override { arbeit(); }
     void AnzeigeAuffrischen() override {}
     void FensterSchließen() override { SchließenVerlangt = true; }
-    void AdresseÖffnen(const std::string &adresse) override { wirkungen_ += "address " + adresse + "\n"; }
-    void ProgrammStarten(const std::string &name) override { wirkungen_ += "program " + name + "\n"; }
+    bool AdresseÖffnen(const std::string &adresse) override { return Starten("address " + adresse); }
+    bool ProgrammStarten(const std::string &name) override { return Starten("program " + name); }
     void FokusAufLeinwand() override {}
+    std::optional<Fensterlage> Fensterstand() const override { return Fenster; }
     void FokusWeitergeben(bool zurück) override { wirkungen_ += zurück ? "focus back\n" : "focus on\n"; }
+    bool AblageBelegt() const override { return Ablage; }
     std::string Desktopordner() const override { return "/home/user/Desktop/"; }
     std::vector<std::string> Schriftarten() const override { return {"Arial", "Courier New", "Times New Roman"}; }
 
   private:
     /// Whether a user finds entry `name` in `menü` or in a menu below it, and can choose it.
     bool IstWählbar(const std::string &name, std::string_view menü) const;
+    bool Starten(const std::string &wirkung) {
+        if (std::exchange(OhneProgramm, false)) return false;
+        wirkungen_ += wirkung + "\n";
+        return true;
+    }
     std::optional<std::string> DateiWählen(const Dateiwahl &wahl);
     /// The next answer when `passt` says that it fits the prompt; else the prompt shows as unanswered.
     template <typename Passt> std::optional<Vorbereitet> Nächste(const std::string &titel, Passt passt);
@@ -118,9 +131,13 @@ class DrehbuchBilder : public Bilder {
 
     Ursache SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) override;
     Ursache AlsJpeg(const std::string &datei, unsigned char quality) override;
+    Ursache AlsPng(const std::string &datei, const Bildausschnitt &ausschnitt) override;
+    Ursache SeiteAls(const std::string &datei, const Druckauftrag &seite) override;
     void InZwischenablage(const Bildausschnitt &ausschnitt) override;
 
   private:
+    /// Of that size, in the words of an effect.
+    Ursache Ausgeben(const std::string &datei, const std::string &art, const std::string &größe);
     Ursache Schreiben(const std::string &datei, const std::string &art,
                       const std::optional<Bildausschnitt> &ausschnitt);
 

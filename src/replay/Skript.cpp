@@ -151,6 +151,7 @@ void Wiedergabe::Starten(const Wörter &w) {
     programm_->benutzer.FormularSpielen = [this](Formular &form, const std::vector<std::string> &zeilen) {
         Formularspiel(*this, form).Spielen(zeilen);
     };
+    programm_->benutzer.Schirm = {0, 0, Zahl(Wort(bild, 0)), Zahl(Wort(bild, 1))};
     PlattformEinrichten(*programm_, angaben);
     programm_->Laden();
 }

@@ -1,5 +1,6 @@
 #include "app/frmMain.h"
 #include "commands/Menuetafel.h"
+#include "document/Fensterplatz.h"
 #include "document/Sicherheitsnetz.h"
 #include "document/Texte.h"
 #include "replay/Namen.h"
@@ -43,6 +44,7 @@ std::string Zustand(const Programm &p, const std::string &frage, const std::stri
     const Bedienelement *element = p.innen.bedienung.Finden(name);
     if (!element) throw Skriptfehler("unknown element: " + name);
     if (frage == "caption") return element->Caption;
+    if (frage == "tip") return element->Tipp;
     if (frage == "enabled") return std::to_string(element->Enabled);
     if (frage == "visible") return std::to_string(element->Visible);
     if (frage == "checked") return std::to_string(element->Checked);
@@ -77,6 +79,15 @@ std::string NetzText(const Sicherheitsnetz &netz) {
     return text;
 }
 
+/// Where the window comes up.
+std::string FensterText(const Programm &p) {
+    const auto &zuletzt = p.haupt->DerAnblick().Fenster;
+    if (!zuletzt) return "window none";
+    const auto [f, maximiert] = AufSchirmen(*zuletzt, {&p.benutzer.Schirm, 1});
+    return "window " + std::to_string(f.Left) + " " + std::to_string(f.Top) + " " + std::to_string(f.Width) + " " +
+           std::to_string(f.Height) + (maximiert ? " maximized" : "");
+}
+
 void Drucken(Wiedergabe &lauf, const Wörter &w) {
     Programm &p = lauf.Läuft();
     const std::string &name = Wort(w, 1);
@@ -88,8 +99,16 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
         lauf.aus << std::exchange(p.wirkungen, {});
         return;
     }
+    if (name == "filters") {
+        lauf.aus << "filters " << p.benutzer.Filter << "\n";
+        return;
+    }
     if (name == "net") {
         lauf.aus << NetzText(p.innen.netz);
+        return;
+    }
+    if (name == "window") {
+        lauf.aus << FensterText(p) << "\n";
         return;
     }
     if (name == "cursor") {
@@ -100,7 +119,7 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
         lauf.aus << FormText(p, Wort(w, 2)) << "\n";
         return;
     }
-    if (w.size() > 2) { // caption|enabled|visible|checked NAME
+    if (w.size() > 2) { // caption|tip|enabled|visible|checked NAME
         const std::string zustand = Zustand(p, name, w[2]);
         lauf.aus << name << " " << w[2] << " = " << zustand << "\n";
         return;

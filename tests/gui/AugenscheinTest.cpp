@@ -4,6 +4,7 @@
 #include "qt/fenster/Hauptfenster.h"
 #include "qt/formulare/Formularfenster.h"
 #include "replay/Aufzeichnung.h"
+#include "replay/Einblick.h"
 #include "replay/Programm.h"
 #include "replay/Skript.h"
 
@@ -18,6 +19,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -254,13 +256,28 @@ TEST_F(Augenschein, BilderFolgenDerWahl) {
     for (const auto &[form, bilder] : soll) EXPECT_EQ(anzahl[form], bilder) << form;
 }
 
+/// The title bar says whether there is something to save; what the program calls the window stays as it is.
+void ÄnderungenZeigen(Hauptfenster &fenster) {
+    bool &geändert = Einblick(fenster.Modell()).projekt.Geändert;
+    for (const bool soll : {true, false}) {
+        geändert = soll;
+        fenster.AnzeigeAuffrischen();
+        QApplication::processEvents();
+        EXPECT_EQ(fenster.isWindowModified(), soll);
+        EXPECT_EQ(fenster.windowTitle(), "[*]" + QString::fromStdString(fenster.Modell().DerAnblick().Titel));
+    }
+}
+
 /// The only test that starts the window: its settings are those beside the program that runs the tests.
 TEST_F(Augenschein, FensterZeigtAllesGanz) {
     const std::string einstellungen = QCoreApplication::applicationDirPath().toStdString() + "/prog.ini";
     Überall([&](const std::string &sprache, const std::string &wo) {
-        ASSERT_TRUE(DateiSchreiben(einstellungen, "[DEFAULT]\r\nlanguage=" + sprache + "\r\n").Gelungen());
+        const std::string inhalt = "[DEFAULT]\r\nlanguage=" + sprache + "\r\nwindow=-9000,60,700,600,0\r\n";
+        ASSERT_TRUE(DateiSchreiben(einstellungen, inhalt).Gelungen());
         Hauptfenster fenster("\"" KW_TESTDATEN "/../samples/familie.kwp\"");
-        fenster.resize(1400, 900);
+        const QRect schirm = fenster.screen()->availableGeometry();
+        EXPECT_TRUE(schirm.contains(fenster.geometry())) << "left on a screen that has gone";
+        fenster.setGeometry(40, 60, 1400, 900);
         fenster.show();
         while (!fenster.findChild<QMenuBar *>()) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
         for (QTimer *zeitgeber : fenster.findChildren<QTimer *>()) { // the project is opened a moment later
@@ -269,15 +286,18 @@ TEST_F(Augenschein, FensterZeigtAllesGanz) {
         }
         QApplication::processEvents();
         Ansehen(fenster, wo);
-        EXPECT_EQ(fenster.menuBar()->actions().front()->text(), sprache == "de" ? "Datei" : "File");
+        EXPECT_EQ(fenster.menuBar()->actions().front()->text(), sprache == "de" ? "&Datei" : "&File");
         EXPECT_TRUE(fenster.windowTitle().contains(QStringLiteral("familie"))) << fenster.windowTitle().toStdString();
         for (QWidget *teil : {static_cast<QWidget *>(fenster.menuBar()), fenster.centralWidget()})
             EXPECT_TRUE(ZeigtEtwas(*teil)) << wo;
         Fallenlassen(fenster);
+        ÄnderungenZeigen(fenster);
+        EXPECT_FALSE(QMessageBox(&fenster).windowIcon().isNull()) << "not installed";
         fenster.showMinimized();
         fenster.NachVorn();
         EXPECT_FALSE(fenster.isMinimized());
         EXPECT_TRUE(fenster.close()) << "nothing has changed, nothing is asked";
+        EXPECT_EQ(ProfilLesen(einstellungen, "DEFAULT", "window"), "40,60,1400,900,0");
         QFile::remove(QString::fromStdString(einstellungen));
     });
 }

@@ -1,12 +1,16 @@
 // What the hand does: pointer on the canvas, palette, toolbar, menus. Events go to the real widgets, what came of them
 // is read in the records and in the pixels that show.
 #include "app/Befehle.h"
+#include "app/Einzelbild.h"
 #include "app/frmMain.h"
 #include "commands/Bildertafel.h"
 #include "commands/Menuetafel.h"
 #include "document/Dateien.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Person.h"
+#include "editing/Personen.h"
+#include "output/basBildExport.h"
+#include "qt/drucken/Ausgabe.h"
 #include "qt/drucken/QtBilder.h"
 #include "qt/fenster/Arbeitsflaeche.h"
 #include "qt/fenster/Bandknopf.h"
@@ -26,6 +30,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QDropEvent>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMainWindow>
@@ -33,6 +38,8 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <QWheelEvent>
 
 #include <gtest/gtest.h>
 
@@ -198,6 +205,140 @@ TEST_F(Bedienung, NurEineTasteZählt) {
     EXPECT_EQ(PersonX(), neu);
 }
 
+class Weg : public Bedienung {
+  protected:
+    Weg() {
+        innen.bereich.ZoomWählen(5);
+        innen.bereich.MausradIndex = 5;
+        Zeigen();
+    }
+    void Rad(QPoint ort, QPoint drehung, Qt::KeyboardModifiers dazu = Qt::NoModifier, QPoint finger = {}) {
+        QWheelEvent ereignis(ort, fläche.mapToGlobal(ort), finger, drehung, Qt::NoButton, dazu, Qt::NoScrollPhase,
+                             false);
+        QApplication::sendEvent(&fläche, &ereignis);
+        QApplication::processEvents();
+    }
+    void Leertaste(QEvent::Type art) {
+        QKeyEvent ereignis(art, Qt::Key_Space, Qt::NoModifier);
+        QApplication::sendEvent(&fläche, &ereignis);
+    }
+    /// What of the page is under that pixel, cm.
+    QPointF Dort(QPoint ort) {
+        const Rahmenort null = innen.bereich.InRahmen(0, 0, innen.ansicht.SeitenBreite);
+        const QPointF twips = QPointF(ort) * 15 - QPointF(innen.bereich.picBack.Left + null.X, null.Y);
+        return twips * (innen.ansicht.SeitenBreite / innen.bereich.picVorschau().Width);
+    }
+    static void Warten(int ms) {
+        QEventLoop schleife;
+        QTimer::singleShot(ms, &schleife, &QEventLoop::quit);
+        schleife.exec();
+    }
+    QPoint Stand() { return {innen.bereich.HScroll1.Value, innen.bereich.VScroll1.Value}; }
+};
+
+TEST_F(Weg, RadZoomtWoDerZeigerIst) {
+    const QPoint ort(800, 450);
+    innen.bereich.Scrollen(2000, 1500);
+    const QPointF vorher = Dort(ort);
+    for (int i = 0; i < 3; ++i) Rad(ort, {0, 120});
+    EXPECT_EQ(innen.bereich.cboBildGröße.ListIndex, 8);
+    EXPECT_NEAR(Dort(ort).x(), vorher.x(), 0.01);
+    EXPECT_NEAR(Dort(ort).y(), vorher.y(), 0.01);
+    Rad(ort, {0, -360}); // three notches in one event
+    EXPECT_EQ(innen.bereich.cboBildGröße.ListIndex, 5);
+    EXPECT_NEAR(Dort(ort).x(), vorher.x(), 0.01);
+}
+
+TEST_F(Weg, ZweiFingerUndUmschaltScrollen) {
+    const QPoint ort(500, 300);
+    Rad(ort, {-40, -60}, Qt::NoModifier, {-20, -30}); // a pad counts pixels
+    EXPECT_EQ(Stand(), QPoint(300, 450));
+    Rad(ort, {0, -120}, Qt::ShiftModifier);
+    EXPECT_EQ(Stand(), QPoint(300, 1350));
+    for (const auto &[drehung, dazu] : {std::pair(QPoint(0, -120), Qt::AltModifier), {{-120, 0}, Qt::NoModifier}}) {
+        const int vorher = Stand().x();
+        Rad(ort, drehung, dazu);
+        EXPECT_EQ(Stand(), QPoint(vorher + 900, 1350));
+    }
+    EXPECT_EQ(innen.bereich.cboBildGröße.ListIndex, 5);
+    Rad(ort, {0, -120}, Qt::ControlModifier, {0, -30});
+    EXPECT_EQ(innen.bereich.cboBildGröße.ListIndex, 4);
+}
+
+/// With the middle button or with Space; nothing of the page is touched, and Space alone stays what it is.
+TEST_F(Weg, HandVerschiebtDieSeite) {
+    innen.bereich.Scrollen(3000, 3000);
+    haupt.BefehlAusführen("cmdSymb(1)");
+    const QPointF vorher = Dort({500, 300});
+    Maus(QEvent::MouseButtonPress, {500, 300}, Qt::MiddleButton, Qt::MiddleButton);
+    Bewegen({520, 290}, Qt::MiddleButton);
+    EXPECT_EQ(fläche.cursor().shape(), Qt::ClosedHandCursor);
+    Bewegen({450, 340}, Qt::MiddleButton);
+    Maus(QEvent::MouseButtonRelease, {450, 340}, Qt::MiddleButton, Qt::NoButton);
+    EXPECT_NEAR(Dort({450, 340}).x(), vorher.x(), 0.01);
+    EXPECT_NEAR(Dort({450, 340}).y(), vorher.y(), 0.01);
+
+    Leertaste(QEvent::KeyPress);
+    EXPECT_FALSE(fläche.LeertasteVerbraucht());
+    EXPECT_EQ(fläche.cursor().shape(), Qt::OpenHandCursor);
+    const QPoint stand = Stand();
+    Drücken({500, 300});
+    Bewegen({500, 280}, Qt::LeftButton);
+    Lassen({500, 280});
+    Leertaste(QEvent::KeyRelease);
+    EXPECT_EQ(Stand(), stand + QPoint(0, 300));
+    EXPECT_TRUE(fläche.LeertasteVerbraucht());
+    EXPECT_EQ(innen.dokument.cboPersonen.Anzahl(), 0);
+    EXPECT_EQ(innen.lage.Aktion, Aktion::PersonSetzen);
+    EXPECT_NE(fläche.cursor().shape(), Qt::OpenHandCursor);
+}
+
+TEST_F(Weg, ZugAmRandScrolltUndNimmtMit) {
+    PersonSetzen({500, 300});
+    Drücken({500, 300});
+    Bewegen({fläche.width() - 20, 300}, Qt::LeftButton); // held there, and nothing more
+    for (int i = 0; i < 200 && Stand().x() == 0; ++i) Warten(10);
+    EXPECT_GT(Stand().x(), 0);
+    const QPoint ende(fläche.width() - 20, 300);
+    Lassen(ende);
+    const int stand = Stand().x();
+    EXPECT_NEAR(PersonX(), Dort(ende).x(), innen.ansicht.Rasterweite);
+    Warten(100);
+    EXPECT_EQ(Stand().x(), stand);
+}
+
+/// How to begin shows on the page, and in no picture of it; the right button beside the page ends a tool too.
+TEST_F(Weg, EinstiegStehtNurAufDemSchirm) {
+    innen.bereich.ZoomWählen(Zoom100);
+    Zeigen();
+    const auto grau = [](const QImage &bild) { return !Fleck(bild, qRgb(112, 112, 112)).isNull(); };
+    EXPECT_TRUE(grau(Bild()));
+    EXPECT_FALSE(grau(leinwand.Bild().convertToFormat(QImage::Format_RGB32)));
+    haupt.BefehlAusführen("cmdSymb(1)");
+    Maus(QEvent::MouseButtonPress, {69, 3}, Qt::RightButton, Qt::RightButton);
+    Maus(QEvent::MouseButtonRelease, {69, 3}, Qt::RightButton, Qt::NoButton);
+    EXPECT_EQ(innen.lage.Aktion, Aktion::Nichts);
+    PersonSetzen({400, 300});
+    EXPECT_FALSE(grau(Bild()));
+}
+
+/// A page that fits stands in the middle of what shows, whether the palette does or not.
+TEST_F(Weg, WasPasstStehtInDerMitte) {
+    innen.bereich.ZoomWählen(0);
+    for (const QSize größe : {QSize(1900, 1000), QSize(1500, 700)}) {
+        fläche.resize(größe);
+        for (const bool palette : {true, false}) {
+            palette ? innen.bereich.WerkzeugleisteZeigen() : innen.bereich.WerkzeugleisteVerbergen();
+            Zeigen();
+            ASSERT_FALSE(innen.bereich.HScroll1.Visible);
+            const QRect weiß = Fleck(Bild(), qRgb(255, 255, 255));
+            const int links = palette ? innen.bereich.picBack.Left / 15 : 0;
+            const int rechts = innen.bereich.VScroll1.Visible ? innen.bereich.VScroll1.Left / 15 : größe.width();
+            EXPECT_NEAR(weiß.left() - links, rechts - 1 - weiß.right(), 2) << größe.width() << palette;
+        }
+    }
+}
+
 class Palettentest : public Bedienung {
   protected:
     Palettentest() : palette(&fläche, haupt, [this](std::string_view name) { haupt.BefehlAusführen(name); }) {
@@ -354,6 +495,31 @@ TEST_F(Bedienung, BildIstDieLeinwandOhneAuflösung) {
     EXPECT_EQ(QImage(datei).size(), leinwand.Bild().size());
 }
 
+/// Whatever is selected and however it is zoomed: to the byte what an export without a window writes.
+TEST_F(Bedienung, PngUndSvgGleichenDenenDerBefehlszeile) {
+    const std::string projekt = KW_TESTDATEN "/../samples/familie.kwp";
+    const QTemporaryDir ordner;
+    QtBilder kamera(leinwand);
+    Bildexport bildexport(benutzer, kamera, innen.bereich, innen.ansicht,
+                          {[] {}, [this](Zeichenfläche &papier) { innen.AufPapier(papier); }});
+    ASSERT_TRUE(innen.projekt.Öffnen(projekt));
+    ASSERT_TRUE(haupt.BefehlAusführen("mnuFarbig"));
+    ASSERT_TRUE(haupt.BefehlAusführen("mnuRasterAnzeigen"));
+    PersonAuswählen(innen, 0);
+    Einzelbild allein(uhr, "");
+    ASSERT_EQ(allein.Laden(projekt), "");
+    for (const char *endung : {"png", "SVG"}) {
+        const std::string hier = ordner.filePath(QStringLiteral("hier.")).toStdString() + endung;
+        const std::string dort = ordner.filePath(QStringLiteral("dort.")).toStdString() + endung;
+        benutzer.Antworten.push_back({DrehbuchBenutzer::Vorbereitet::Art::Datei, false, Antwort::Ok, hier});
+        bildexport.SeiteExportieren(projekt);
+        EXPECT_EQ(Exportieren(allein, dort, ÜblicheDpi, "familie"), "");
+        std::string einer, anderer;
+        EXPECT_TRUE(DateiLesen(hier, einer).Gelungen() && DateiLesen(dort, anderer).Gelungen());
+        EXPECT_TRUE(einer == anderer) << endung;
+    }
+}
+
 #ifndef __SANITIZE_ADDRESS__ // it would end the program itself
 /// The page that is too large isn't drawn, and nothing is written; with the next one all is as before.
 TEST_F(Bedienung, OhneSpeicherGehtNurDasGroßeBildNicht) {
@@ -391,7 +557,7 @@ TEST_F(Bedienung, MenüsZeigenNurWasGeht) {
     ASSERT_TRUE(löschen);
     PersonSetzen({400, 300});
     menüs.Auffrischen();
-    EXPECT_EQ(löschen->text(), QStringLiteral("Delete")); // the key stands beside it already
+    EXPECT_EQ(löschen->text(), QStringLiteral("&Delete")); // the key stands beside it already
     EXPECT_FALSE(löschen->isEnabled());
     Klicken({400, 300});
     menüs.Auffrischen();

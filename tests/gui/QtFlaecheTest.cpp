@@ -167,6 +167,27 @@ TEST(QtFläche, GeradeLinienSindScharfUndTreffenFlächen) {
         }
 }
 
+/// The page is as large on the screen whatever its scale: a line must not become thicker beside the same texts. On a
+/// screen of more pixels the texts grow too.
+TEST(QtFläche, LinienSindNebenTextenSoSchwerWieOhneSkalierung) {
+    const std::tuple<QSize, double, int> fälle[] = {
+        {{1920, 1080}, 1, 1}, {{1280, 720}, 1.5, 1}, {{960, 540}, 2, 1},     {{640, 360}, 3, 1},
+        {{3840, 2160}, 1, 1}, {{1920, 1080}, 2, 2},  {{1280, 720}, 3, 2},    {{1920, 1080}, 3, 3},
+        {{1366, 768}, 1, 1},  {{911, 512}, 1.5, 1},  {{1536, 864}, 1.25, 1}, {{1536, 864}, 2.5, 2}};
+    for (const auto &[bildschirm, verhältnis, pixel] : fälle) {
+        Leinwand f(verhältnis);
+        f.BildschirmSetzen(bildschirm);
+        f.Cls();
+        for (const int breite : {1, 2}) {
+            f.DrawWidth = breite;
+            f.Line(LinieFarbig, 3, breite * 2, 3, breite * 2 + 1, Schwarz);
+            const double zeile = (breite * 2 + 0.5) * f.PixelJeCm();
+            const auto [links, rechts] = Tinte(f.Bild(), zeile, zeile + 1);
+            EXPECT_EQ(rechts - links, breite * pixel) << bildschirm.width() << " " << verhältnis;
+        }
+    }
+}
+
 TEST(QtFläche, GedruckteLinienHabenBreiteUndOrt) {
     for (const double k : {DruckPixel, 96 / 2.54}) {
         QImage bild = LeeresBild(k);

@@ -163,6 +163,11 @@ bool SeiteDrucken(const Druckauftrag &seite, QPaintDevice &gerät, double gerät
     return papier.Beenden();
 }
 
+Ursache SeiteSchreiben(const Druckauftrag &seite, const std::string &ziel) {
+    const Format *format = FormatFür(ziel);
+    return format ? Schreiben(*format, {seite, ÜblicheDpi, {}}, ziel).Grund : Ursache::Sonstiges;
+}
+
 Ursache PdfSchreiben(const Druckauftrag &seite, const std::string &ziel) {
     return Schreiben({"pdf", AlsPdf}, {seite, VektorDpi, {}}, ziel).Grund;
 }

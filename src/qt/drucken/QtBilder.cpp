@@ -1,6 +1,7 @@
 #include "qt/drucken/QtBilder.h"
 
 #include "document/Dateien.h"
+#include "qt/drucken/Ausgabe.h"
 #include "qt/malen/LeinwandFlaeche.h"
 #include "qt/malen/Spielraum.h"
 
@@ -74,6 +75,12 @@ Ursache QtBilder::SavePicture(const std::string &datei, const std::optional<Bild
 Ursache QtBilder::AlsJpeg(const std::string &datei, unsigned char quality) {
     return Schreiben(datei, Kodiert(leinwand_.Bild(), "jpeg", quality));
 }
+
+Ursache QtBilder::AlsPng(const std::string &datei, const Bildausschnitt &ausschnitt) {
+    return Schreiben(datei, Kodiert(Ausschnitt(ausschnitt), "png"));
+}
+
+Ursache QtBilder::SeiteAls(const std::string &datei, const Druckauftrag &seite) { return SeiteSchreiben(seite, datei); }
 
 void QtBilder::InZwischenablage(const Bildausschnitt &ausschnitt) {
     const QImage bild = Ausschnitt(ausschnitt);

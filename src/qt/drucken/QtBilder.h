@@ -15,6 +15,8 @@ class QtBilder : public Bilder {
 
     Ursache SavePicture(const std::string &datei, const std::optional<Bildausschnitt> &ausschnitt) override;
     Ursache AlsJpeg(const std::string &datei, unsigned char quality) override;
+    Ursache AlsPng(const std::string &datei, const Bildausschnitt &ausschnitt) override;
+    Ursache SeiteAls(const std::string &datei, const Druckauftrag &seite) override;
     /// Offered as PNG and as bitmap.
     void InZwischenablage(const Bildausschnitt &ausschnitt) override;
 

@@ -2,12 +2,14 @@
 
 #include "app/frmMain.h"
 #include "editing/Leinwandlage.h"
+#include "platform/Befehlsnamen.h"
 #include "qt/fenster/Importliste.h"
 #include "qt/fenster/Suchfeld.h"
 #include "qt/fenster/Tasten.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "qt/malen/LeinwandFlaeche.h"
+#include "qt/malen/Seitenhinweis.h"
 #include "qt/malen/Zeigerbild.h"
 
 #include <QDropEvent>
@@ -19,8 +21,6 @@
 #include <QPointer>
 #include <QResizeEvent>
 #include <QSignalBlocker>
-#include <QTimer>
-#include <QWheelEvent>
 
 #include <cmath>
 #include <utility>
@@ -34,7 +34,6 @@ constexpr QColor Hintergrund{35, 35, 35};
 constexpr QColor Schatten{15, 15, 15};
 constexpr int FrameOben = Arbeitsbereich::FrameOben; ///< the model's inner area begins that far above the widget
 constexpr int Zeile = 20 * TwipsJePixel;
-constexpr int Raste = 120; ///< eighths of a degree of one wheel notch
 
 double Pixel(int twips) { return static_cast<double>(twips) / TwipsJePixel; }
 
@@ -66,6 +65,8 @@ Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand),
         leiste->hide();
         connect(leiste, &QScrollBar::valueChanged, this, [this] { Scrollen(); });
     }
+    rand_.setInterval(Arbeitsbereich::RandTakt);
+    connect(&rand_, &QTimer::timeout, this, [this] { AmRandScrollen(); });
     // Below the model's least size frame and bars would stand outside.
     const QSize fehlt = QSize(Arbeitsbereich::KleinsteBreite, Arbeitsbereich::KleinsteHöhe) - Innengröße();
     setMinimumSize(size() + (fehlt + QSize(TwipsJePixel - 1, TwipsJePixel - 1)) / TwipsJePixel);
@@ -74,6 +75,7 @@ Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand),
 void Arbeitsflaeche::Verbinden(frmMain &haupt, std::function<void()> erstesBild) {
     haupt_ = &haupt;
     anblick_ = &haupt.DerAnblick();
+    haupt.LeistenSetzen(vScroll_.sizeHint().width() * TwipsJePixel);
     erstesBild_ = std::move(erstesBild);
 }
 
@@ -146,7 +148,9 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     // The page shows up to the scroll bars, which stand a little outside the frame that it is laid out in.
     const QRectF rahmen = Fläche(b.picBack).translated(0, -Pixel(FrameOben));
     const double unten = b.HScroll1.Visible ? Pixel(b.HScroll1.Top - FrameOben) : height();
-    p.setClipRect(QRectF(rahmen.left(), 0, width() - rahmen.left(), unten));
+    const double rechts = b.VScroll1.Visible ? Pixel(b.VScroll1.Left) : width();
+    const QRectF sicht(rahmen.left(), 0, rechts - rahmen.left(), unten);
+    p.setClipRect(sicht);
     p.fillRect(Fläche(b.shpSchatten).translated(rahmen.topLeft()), Schatten);
     const QRectF seite = Seite();
     AufPixelRücken(p, seite.topLeft());
@@ -155,20 +159,23 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     const double pixelJeCm = seite.width() / anblick_->ansicht.SeitenBreite;
     AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, pixelJeCm);
     if (hasFocus()) CursorMalen(p, anblick_->auflagen, pixelJeCm);
+    if (!erstesBild_) EinstiegMalen(p, (seite & sicht).translated(-seite.topLeft()));
     if (auto erstesBild = std::exchange(erstesBild_, nullptr)) QTimer::singleShot(0, this, erstesBild);
 }
 
-void Arbeitsflaeche::wheelEvent(QWheelEvent *ereignis) {
-    ereignis->accept();
-    radrest_ += ereignis->angleDelta().y();
-    if (std::abs(radrest_) < Raste) return; // part of a notch, or none
-    for (; std::abs(radrest_) >= Raste; radrest_ -= radrest_ > 0 ? Raste : -Raste) haupt_->MausradZählen(radrest_ > 0);
-    // The page is drawn when no more notches wait.
-    if (!std::exchange(zoomSteht_, true))
-        QTimer::singleShot(0, this, [this] {
-            zoomSteht_ = false;
-            haupt_->MausradFolgen();
-        });
+/// How to begin, in grey, where the page shows. Only here: no picture and no print has it. `feld` is what shows of the
+/// page, in the painter's units.
+void Arbeitsflaeche::EinstiegMalen(QPainter &p, const QRectF &feld) const {
+    const Bedienelement &einstieg = anblick_->bedienung[Name::lblEinstieg];
+    if (einstieg.Visible) HinweisAufSeite(p, feld, Text(einstieg.Caption), font());
+}
+
+/// The page has moved under a pointer that rests: what is dragged, and rubber lines, follow it.
+void Arbeitsflaeche::SeiteUnterZeigerMelden() {
+    Auffrischen();
+    if (imModell_) return;
+    const QPointF cm = InCm(ort_);
+    Melden([&] { haupt_->MouseMove(Tastencode(taste_), cm.x(), cm.y()); });
 }
 
 /// Hands the model an event. What it opens then (a popup, a box) runs a loop of its own, which can outlive this
@@ -189,16 +196,21 @@ bool Arbeitsflaeche::Melden(const std::function<void()> &ereignis) {
 /// A press and a double click.
 void Arbeitsflaeche::Drücken(QMouseEvent &ereignis, const std::function<void(QPointF)> &melden) {
     ereignis.accept();
+    if (SchiebenBeginnen(ereignis)) return setFocus(Qt::MouseFocusReason);
     if (!haupt_ || imModell_ || Tastencode(ereignis.button()) == TasteKeine) return;
     if (taste_ != Qt::NoButton && ereignis.buttons() & taste_) return;
     if (!Loslassen()) return;
     setFocus(Qt::MouseFocusReason);
-    if (!Seite().contains(ereignis.position())) return; // a gesture may leave the page, but begins on it
+    if (!Seite().contains(ereignis.position())) { // a gesture may leave the page, but begins on it
+        Melden([&] { haupt_->DanebenGedrückt(Tastencode(ereignis.button())); });
+        return;
+    }
     const QPointF cm = InCm(ereignis.position());
     // The model also judges by the last move, which a popup or a box over the page may have kept from us.
     if (std::exchange(ort_, ereignis.position()) != ereignis.position())
         Melden([&] { haupt_->MouseMove(TasteKeine, cm.x(), cm.y()); });
     taste_ = ereignis.button();
+    if (taste_ == Qt::LeftButton) rand_.start();
     const bool unten = QGuiApplication::mouseButtons() & taste_;
     if (!Melden([&] { melden(cm); })) return;
     if (unten && !(QGuiApplication::mouseButtons() & taste_)) Loslassen(); // the popup has swallowed the release
@@ -216,6 +228,12 @@ void Arbeitsflaeche::mouseDoubleClickEvent(QMouseEvent *ereignis) {
 
 void Arbeitsflaeche::mouseMoveEvent(QMouseEvent *ereignis) {
     if (!haupt_ || imModell_) return;
+    if (schiebt_ != Qt::NoButton) {
+        if (!(ereignis->buttons() & schiebt_)) return SchiebenBeenden();
+        ort_ = ereignis->position();
+        haupt_->SeiteSchieben(ImRahmen(ort_));
+        return SeiteUnterZeigerMelden();
+    }
     if (!(ereignis->buttons() & taste_) && !Loslassen()) return; // it went up where nobody told
     ort_ = ereignis->position();
     const QPointF cm = InCm(ort_);
@@ -223,6 +241,7 @@ void Arbeitsflaeche::mouseMoveEvent(QMouseEvent *ereignis) {
 }
 
 void Arbeitsflaeche::mouseReleaseEvent(QMouseEvent *ereignis) {
+    if (schiebt_ != Qt::NoButton && ereignis->button() == schiebt_) return SchiebenBeenden();
     if (!haupt_ || imModell_ || taste_ == Qt::NoButton || ereignis->button() != taste_) return;
     ort_ = ereignis->position();
     Loslassen();
@@ -230,6 +249,7 @@ void Arbeitsflaeche::mouseReleaseEvent(QMouseEvent *ereignis) {
 
 /// The button of the gesture is up, at the place of the last event. False when this widget is gone.
 bool Arbeitsflaeche::Loslassen() {
+    rand_.stop();
     const Qt::MouseButton taste = std::exchange(taste_, Qt::NoButton);
     if (taste == Qt::NoButton) return true;
     const QPointF cm = InCm(ort_);
@@ -245,20 +265,29 @@ bool Arbeitsflaeche::TasteMelden(const Tastendruck &taste) {
 }
 
 void Arbeitsflaeche::keyPressEvent(QKeyEvent *ereignis) {
+    if (ereignis->key() == Qt::Key_Space && !ereignis->isAutoRepeat()) LeertasteHalten(true);
     const auto taste = hasFocus() ? TasteVon(*ereignis) : std::nullopt; // the palette's come by here too
     if (taste && taste->Ist(Taste::F, true)) return SucheÖffnen();
-    if (!taste || !TasteMelden(*taste)) ereignis->ignore();
+    if (taste && TasteMelden(*taste)) return;
+    ereignis->ignore();
+    const std::string_view befehl = hasFocus() ? BefehlMitKürzel(*ereignis) : std::string_view();
+    if (!befehl.empty() && haupt_ && !imModell_)
+        Melden([&] { haupt_->BefehlAusführen(befehl); }); // which tells why not
 }
 
 void Arbeitsflaeche::keyReleaseEvent(QKeyEvent *ereignis) {
-    if (ereignis->key() != Qt::Key_Space || ereignis->isAutoRepeat() || !hasFocus() || !haupt_ || imModell_)
-        return QWidget::keyReleaseEvent(ereignis);
+    if (ereignis->key() != Qt::Key_Space || ereignis->isAutoRepeat()) return QWidget::keyReleaseEvent(ereignis);
+    LeertasteHalten(false);
+    if (leerVerbraucht_ || !hasFocus() || !haupt_ || imModell_) return;
     Melden([this] { haupt_->LeertasteLoslassen(); });
 }
 
 /// Where the keyboard is shows only while it works here.
 void Arbeitsflaeche::focusInEvent(QFocusEvent *) { update(); }
-void Arbeitsflaeche::focusOutEvent(QFocusEvent *) { update(); }
+void Arbeitsflaeche::focusOutEvent(QFocusEvent *) {
+    LeertasteHalten(false);
+    update();
+}
 
 /// Tab walks round the page, and on from its ends.
 bool Arbeitsflaeche::focusNextPrevChild(bool nächstes) {
@@ -284,15 +313,25 @@ std::optional<QPoint> Arbeitsflaeche::Cursorort() const {
 
 /// Every place is asked for anew, so that the pointer tells where a row of the import list can be dropped.
 void Arbeitsflaeche::dragEnterEvent(QDragEnterEvent *ereignis) {
-    if (haupt_ && GezogeneZeile(*ereignis->mimeData())) ereignis->accept();
+    if (!haupt_ || !GezogeneZeile(*ereignis->mimeData())) return;
+    ereignis->accept();
+    importzeile_ = true;
+    ort_ = ereignis->position();
+    rand_.start();
+}
+
+void Arbeitsflaeche::dragLeaveEvent(QDragLeaveEvent *) {
+    importzeile_ = false;
+    rand_.stop();
 }
 
 void Arbeitsflaeche::dragMoveEvent(QDragMoveEvent *ereignis) {
-    const QPointF ort = ereignis->position();
+    const QPointF ort = ort_ = ereignis->position();
     ereignis->setAccepted(haupt_ && AufSeite(ort) && !childAt(ort.toPoint()));
 }
 
 void Arbeitsflaeche::dropEvent(QDropEvent *ereignis) {
+    dragLeaveEvent(nullptr);
     const auto zeile = GezogeneZeile(*ereignis->mimeData());
     if (!zeile || imModell_) return;
     ereignis->accept();
@@ -301,8 +340,15 @@ void Arbeitsflaeche::dropEvent(QDropEvent *ereignis) {
     Melden([&] { haupt_->ImportzeileAblegen(*zeile, cm.x(), cm.y()); });
 }
 
+Mauszeiger Arbeitsflaeche::Zeiger() const {
+    if (schiebt_ != Qt::NoButton) return Mauszeiger::Griff;
+    if (leer_) return Mauszeiger::Hand;
+    return AufSeite(ort_) ? anblick_->lage.Zeiger : Mauszeiger::Pfeil;
+}
+
 void Arbeitsflaeche::ZeigerSetzen() {
-    const Mauszeiger zeiger = AufSeite(ort_) ? anblick_->lage.Zeiger : Mauszeiger::Pfeil;
+    if (!anblick_) return;
+    const Mauszeiger zeiger = Zeiger();
     if (zeiger == zeiger_ && zeigerverhältnis_ == devicePixelRatioF()) return;
     zeiger_ = zeiger;
     zeigerverhältnis_ = devicePixelRatioF();

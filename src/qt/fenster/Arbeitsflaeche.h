@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QScrollBar>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -13,6 +14,7 @@ class Suchfeld;
 class frmMain;
 enum class Mauszeiger;
 struct Anblick;
+struct Rahmenort;
 struct Tastendruck;
 
 /// The inside of the main window: the dark frame, the page with its shadow, the overlay shapes, the scroll bars.
@@ -32,6 +34,8 @@ class Arbeitsflaeche : public QWidget {
     std::optional<QPoint> Cursorort() const;
     /// The model's inner size for this widget's size, in twips.
     QSize Innengröße() const;
+    /// Whether the left button was pressed since Space went down: its release then means nothing else.
+    bool LeertasteVerbraucht() const { return leerVerbraucht_; }
 
   protected:
     void paintEvent(QPaintEvent *) override;
@@ -48,6 +52,7 @@ class Arbeitsflaeche : public QWidget {
     bool focusNextPrevChild(bool nächstes) override;
     void dragEnterEvent(QDragEnterEvent *ereignis) override;
     void dragMoveEvent(QDragMoveEvent *ereignis) override;
+    void dragLeaveEvent(QDragLeaveEvent *ereignis) override;
     void dropEvent(QDropEvent *ereignis) override;
 
   private:
@@ -60,7 +65,16 @@ class Arbeitsflaeche : public QWidget {
     bool Loslassen();
     bool TasteMelden(const Tastendruck &taste);
     bool Melden(const std::function<void()> &ereignis);
+    void EinstiegMalen(QPainter &p, const QRectF &feld) const;
     void ZeigerSetzen();
+    Mauszeiger Zeiger() const;
+    Rahmenort ImRahmen(QPointF ort) const;
+    void SeiteUnterZeigerMelden();
+    void LeertasteHalten(bool unten);
+    bool SchiebenBeginnen(const QMouseEvent &ereignis);
+    void SchiebenBeenden();
+    void ZoomVormerken(int drehung);
+    void AmRandScrollen();
     void LeisteStellen(QScrollBar &leiste, const struct Bildlaufleiste &modell);
     void Scrollen();
 
@@ -71,11 +85,16 @@ class Arbeitsflaeche : public QWidget {
     Suchfeld *suche_ = nullptr; ///< from its first use on
     QScrollBar vScroll_{Qt::Vertical, this};
     QScrollBar hScroll_{Qt::Horizontal, this};
-    bool zoomSteht_ = false;               ///< notches of the wheel wait to be followed
-    int radrest_ = 0;                      ///< eighths of a degree that make no notch yet
-    Qt::MouseButton taste_ = Qt::NoButton; ///< the button that is down on the canvas; another one doesn't count
-    QPointF ort_;                          ///< of the last event, pixels
-    bool imModell_ = false;                ///< an event is being worked on, perhaps in a popup's loop
+    bool zoomSteht_ = false;                 ///< notches of the wheel wait to be followed
+    int radrest_ = 0;                        ///< eighths of a degree that make no notch yet
+    Qt::MouseButton taste_ = Qt::NoButton;   ///< the button that is down on the canvas; another one doesn't count
+    QPointF ort_;                            ///< of the last event, pixels
+    Qt::MouseButton schiebt_ = Qt::NoButton; ///< the button that draws the page
+    bool leer_ = false;                      ///< Space is held down
+    bool leerVerbraucht_ = false;
+    QTimer rand_;              ///< runs while something is dragged
+    bool importzeile_ = false; ///< and that is a line of the import list
+    bool imModell_ = false;    ///< an event is being worked on, perhaps in a popup's loop
     Mauszeiger zeiger_;
     double zeigerverhältnis_ = 0; ///< resolution of the pointer's picture
 };

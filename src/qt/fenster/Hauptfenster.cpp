@@ -2,6 +2,9 @@
 
 #include "app/Fenstertasten.h"
 #include "document/Dateien.h"
+#include "document/Fensterplatz.h"
+#include "platform/Befehlsnamen.h"
+#include "qt/fenster/Dateidialog.h"
 #include "qt/fenster/Importliste.h"
 #include "qt/fenster/Statuszeile.h"
 #include "qt/fenster/Symbolleiste.h"
@@ -9,13 +12,14 @@
 #include "qt/fenster/Werkzeugpalette.h"
 #include "qt/formulare/Formularfenster.h"
 #include "qt/grund/Text.h"
+#include "qt/malen/Svgsinnbild.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QKeyEvent>
@@ -25,7 +29,6 @@
 #include <QMimeData>
 #include <QProcess>
 #include <QScreen>
-#include <QSettings>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
@@ -76,23 +79,6 @@ QMessageBox::Icon Bild(Zeichen zeichen) {
     }
 }
 
-/// The caption of a filter carries its pattern in parentheses, as the toolkit wants it.
-QString Filter(const Dateiwahl &wahl) { return Text(wahl.Filter.substr(0, wahl.Filter.find('|'))); }
-
-/// A file dialog as the model asks for it; it doesn't ask about existing files itself.
-std::optional<std::string> DialogZeigen(QWidget *fenster, const Dateiwahl &wahl, QFileDialog::AcceptMode art) {
-    QFileDialog dialog(fenster, Text(wahl.Titel), Text(wahl.Ordner), Filter(wahl));
-    dialog.setAcceptMode(art);
-    dialog.setFileMode(art == QFileDialog::AcceptSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    if (!wahl.Vorschlag.empty()) dialog.selectFile(Text(wahl.Vorschlag));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-    const std::string datei = dialog.selectedFiles().first().toStdString();
-    if (art == QFileDialog::AcceptOpen) return datei;
-    // As the platform's dialogs do; the question about replacing then names it whole.
-    return MitKennung(datei, Kennung(wahl.Filter), wahl.Erlaubt == Dateiwahl::Kennungen::Alle);
-}
-
 /// The path that the address of a local file means, in the bytes of its name; empty for any other.
 std::string LokalerPfad(const QByteArray &adresse) {
     for (const char *anfang : {"file://localhost/", "file:///", "file:/"})
@@ -111,11 +97,6 @@ std::string GezogenesProjekt(const QMimeData &inhalt) {
         if (istName && MitKennung(datei, "kwp", false) == datei) return datei;
     }
     return {};
-}
-
-/// The toolkit's file dialog would write the folders of clients into a file that all its programs share.
-void OhneDateiverlauf() {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, QStringLiteral("/dev/null"));
 }
 
 /// What of a part of the window takes the keyboard by Tab; nothing when it is hidden or has nothing to press.
@@ -140,22 +121,44 @@ Hauptfenster::Hauptfenster(const std::string &kommandozeile)
     : leinwand_(devicePixelRatioF()), haupt_({*this, drucker_, bilder_, uhr_}, leinwand_, Angaben(kommandozeile)),
       fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     OhneDateiverlauf();
+    leinwand_.BildschirmSetzen(QGuiApplication::primaryScreen()->size());
     setCentralWidget(fläche_);
     setAnimated(false);
     setAcceptDrops(true);
     setContextMenuPolicy(Qt::NoContextMenu); // it would offer to hide toolbar and panels
     // Until these come, so that the page doesn't jump.
     setContentsMargins(0, Menüs::Höhe() + Symbolleiste::Höhe(), 0, Statuszeile::Höhe());
-    resize(QGuiApplication::primaryScreen()->availableSize() * 0.9);
     fläche_->Verbinden(haupt_, [this] {
         // Not before: the first word on the window costs the loading of the system's fonts.
         LeistenBauen();
+        QApplication::setWindowIcon(Programmsinnbild()); // of boxes and forms too, installed or not
         palette_ = new Werkzeugpalette(fläche_, haupt_, [this](std::string_view name) { Ausführen(name); });
         Anzeigen();
         for (const auto &arbeit : std::exchange(nachErstemBild_, {})) arbeit();
     });
     haupt_.Laden();
+    Aufstellen();
     Anzeigen();
+}
+
+void Hauptfenster::Aufstellen() {
+    const auto &zuletzt = haupt_.DerAnblick().Fenster;
+    const QScreen *üblich = QGuiApplication::primaryScreen();
+    if (!zuletzt) return resize(üblich->availableSize() * 0.9);
+    std::vector<Schirmfläche> schirme;
+    for (const QScreen *schirm : üblich->virtualSiblings()) {
+        const QRect r = schirm->availableGeometry();
+        schirme.insert(schirm == üblich ? schirme.begin() : schirme.end(), {r.x(), r.y(), r.width(), r.height()});
+    }
+    const auto [f, maximiert] = AufSchirmen(*zuletzt, schirme);
+    setGeometry(f.Left, f.Top, f.Width, f.Height);
+    if (maximiert) setWindowState(Qt::WindowMaximized);
+}
+
+std::optional<Fensterlage> Hauptfenster::Fensterstand() const {
+    const QRect r = normalGeometry();
+    if (!r.isValid()) return std::nullopt;
+    return Fensterlage{{r.x(), r.y(), r.width(), r.height()}, isMaximized()};
 }
 
 void Hauptfenster::LeistenBauen() {
@@ -186,8 +189,10 @@ void Hauptfenster::AnzeigeAuffrischen() {
 
 void Hauptfenster::Anzeigen() {
     auffrischungSteht_ = false;
-    // The toolkit has a use of its own for this mark.
-    setWindowTitle(Text(haupt_.DerAnblick().Titel).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
+    // The toolkit's place for its sign of changes, where a long path can't push it out; elsewhere it is none.
+    const QLatin1String zeichen("[*]");
+    setWindowTitle(zeichen + Text(haupt_.DerAnblick().Titel).replace(zeichen, QLatin1String("[*][*]")));
+    setWindowModified(haupt_.DerAnblick().Geändert);
     menüs_.Auffrischen();
     if (band_) band_->Auffrischen();
     fläche_->Auffrischen();
@@ -274,11 +279,11 @@ Antwort Hauptfenster::Fragen(const Nachfrage &nachfrage) {
 }
 
 std::optional<std::string> Hauptfenster::DateiÖffnen(const Dateiwahl &wahl) {
-    return DialogZeigen(Vordergrund(), wahl, QFileDialog::AcceptOpen);
+    return DateiErfragen(Vordergrund(), wahl, QFileDialog::AcceptOpen);
 }
 
 std::optional<std::string> Hauptfenster::DateiSpeichern(const Dateiwahl &wahl) {
-    return DialogZeigen(Vordergrund(), wahl, QFileDialog::AcceptSave);
+    return DateiErfragen(Vordergrund(), wahl, QFileDialog::AcceptSave);
 }
 
 std::optional<std::string> Hauptfenster::PopupZeigen(std::string_view menü) {
@@ -314,18 +319,18 @@ void Hauptfenster::ZeitgeberStarten(std::string_view name, int ms) {
 void Hauptfenster::NachErstemBild(std::function<void()> arbeit) { nachErstemBild_.push_back(std::move(arbeit)); }
 
 /// A file's name may hold what an address would be cut at ("#", "?").
-void Hauptfenster::AdresseÖffnen(const std::string &adresse) {
+bool Hauptfenster::AdresseÖffnen(const std::string &adresse) {
     const QString ziel = Text(adresse);
     const QString datei = QStringLiteral("file://");
-    QDesktopServices::openUrl(ziel.startsWith(datei) ? QUrl::fromLocalFile(ziel.mid(datei.size())) : QUrl(ziel));
+    return QDesktopServices::openUrl(ziel.startsWith(datei) ? QUrl::fromLocalFile(ziel.mid(datei.size())) : QUrl(ziel));
 }
 
 /// Run as the system's keeper, it must be one that nobody else can have put there.
-void Hauptfenster::ProgrammStarten(const std::string &name) {
+bool Hauptfenster::ProgrammStarten(const std::string &name) {
     const QString programm = QCoreApplication::applicationDirPath() + u'/' + Text(name);
     const QString eigentlich = QFileInfo(programm).canonicalFilePath();
-    if (QFileInfo(eigentlich).isExecutable() && GehörtDemSystem(eigentlich.toStdString()))
-        QProcess::startDetached(QStringLiteral("pkexec"), {eigentlich});
+    return QFileInfo(eigentlich).isExecutable() && GehörtDemSystem(eigentlich.toStdString()) &&
+           QProcess::startDetached(QStringLiteral("pkexec"), {eigentlich});
 }
 
 void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }
@@ -344,12 +349,19 @@ void Hauptfenster::FokusWeitergeben(bool zurück) {
     }
 }
 
-/// What no part of the window wants: zooming and the rest work wherever the keyboard is.
+/// What no part of the window wants: zooming and the rest work wherever the keyboard is. A paste comes here only where
+/// it can't be, else it is the menu's; the model knows why.
 void Hauptfenster::keyPressEvent(QKeyEvent *ereignis) {
+    if (ereignis->matches(QKeySequence::Paste)) return Ausführen(std::string_view(Name::mnuEinfügen));
     const auto taste = TasteVon(*ereignis);
     if (taste && taste->Ist(Taste::F, true)) return fläche_->SucheÖffnen();
     if (taste && FenstertasteFinden(*taste)) haupt_.TasteDrücken(*taste);
     else QMainWindow::keyPressEvent(ereignis);
+}
+
+bool Hauptfenster::AblageBelegt() const {
+    const QMimeData *inhalt = QGuiApplication::clipboard()->mimeData();
+    return inhalt && !inhalt->formats().isEmpty();
 }
 
 std::string Hauptfenster::Desktopordner() const {

@@ -41,10 +41,12 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void NachErstemBild(std::function<void()> arbeit) override;
     void AnzeigeAuffrischen() override;
     void FensterSchließen() override { close(); }
-    void AdresseÖffnen(const std::string &adresse) override;
-    void ProgrammStarten(const std::string &name) override;
+    bool AdresseÖffnen(const std::string &adresse) override;
+    bool ProgrammStarten(const std::string &name) override;
     void FokusAufLeinwand() override;
+    std::optional<Fensterlage> Fensterstand() const override;
     void FokusWeitergeben(bool zurück) override;
+    bool AblageBelegt() const override;
     std::string Desktopordner() const override;
     std::vector<std::string> Schriftarten() const override;
 
@@ -70,6 +72,8 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     /// A command that the user has chosen, wherever it stands.
     void Ausführen(std::string_view befehl);
     void Anzeigen();
+    /// Where it stood when it was closed last, or large on the usual screen.
+    void Aufstellen();
     void ÜbernahmeFolgen();
     /// Whether a form, a box or a menu is open, or the start isn't done.
     bool IstBeschäftigt() const;

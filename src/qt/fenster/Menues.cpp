@@ -2,8 +2,10 @@
 
 #include "app/frmMain.h"
 #include "commands/Menuetafel.h"
+#include "document/Texte.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Zeilenbild.h"
+#include "rendering/Ansicht.h"
 
 #include <QAction>
 #include <QApplication>
@@ -24,16 +26,13 @@ namespace {
 
 bool IstTrennstrich(const Menüzeile &zeile) { return zeile.Caption.Englisch == Trennstrich; }
 
-/// The caption without the blanks that once aligned columns, and without the key's name behind it: the menu
-/// shows the shortcut itself. What isn't from the table (a file's name) has no mnemonics.
-QString Beschriftung(const Menüzeile &zeile, const std::string &caption) {
-    QString text = Text(caption);
-    if (!zeile.Kürzel.empty())
-        if (const auto lücke = text.trimmed().indexOf(QLatin1String("  ")); lücke > 0)
-            text = text.trimmed().left(lücke);
-    text = text.trimmed();
-    if (caption != zeile.Caption.Deutsch && caption != zeile.Caption.Englisch) text.replace(u'&', QLatin1String("&&"));
-    return text;
+/// The toolkit takes a single "&" for its own.
+QString OhneMarken(const std::string &text) { return Text(text).replace(u'&', QLatin1String("&&")); }
+
+/// Menus show none unless they are told to.
+void TippZeigen(QAction &aktion, const std::string &tipp) {
+    aktion.setToolTip(Tipptext(tipp));
+    if (auto *menü = qobject_cast<QMenu *>(aktion.parent())) menü->setToolTipsVisible(true);
 }
 
 /// Sees to a press that dismisses a popup: it is a click on what lies there, as a popup's press is nobody's else.
@@ -69,6 +68,16 @@ class Danebenklick : public QObject {
 };
 
 } // namespace
+
+/// Without the blanks that once aligned columns, and without the key's name behind it: the menu shows the shortcut
+/// itself.
+QString Menütext(const Menüzeile &zeile, const std::string &caption, Sprache sprache) {
+    std::string_view text = Getrimmt(caption);
+    if (!zeile.Kürzel.empty()) text = text.substr(0, text.find("  "));
+    const Kennstelle stelle = KennstelleIn(zeile, text, sprache);
+    if (stelle.Ab.empty()) return OhneMarken(stelle.Davor);
+    return OhneMarken(stelle.Davor) + u'&' + OhneMarken(stelle.Ab);
+}
 
 int Zeilenhöhe() {
     constexpr double Zeile = 1.4; // of the font's size: enough for the usual fonts
@@ -113,7 +122,7 @@ void Menüs::Bauen(QMenuBar &leiste) {
         Füllen(*menü, zeile.Name, einträge_);
         QObject::connect(menü, &QMenu::aboutToShow, menü, [this] { Auffrischen(); });
     }
-    // The captions of the bar have no mnemonics, so this is the keyboard's way in.
+    // The keyboard's way in without a letter.
     const auto *öffnen = new QShortcut(QKeySequence(Qt::Key_F10), &leiste);
     QObject::connect(öffnen, &QShortcut::activated, &leiste,
                      [&leiste] { leiste.setActiveAction(leiste.actions().constFirst()); });
@@ -129,7 +138,8 @@ void Menüs::Zeigen(const Eintrag &eintrag) {
     if (!element) return;
     eintrag.Aktion->setVisible(element->Visible);
     if (eintrag.Aktion->isSeparator()) return;
-    eintrag.Aktion->setText(Beschriftung(*eintrag.Zeile, element->Caption));
+    eintrag.Aktion->setText(Menütext(*eintrag.Zeile, element->Caption, anblick_.ansicht.Sprache));
+    if (!element->Tipp.empty()) TippZeigen(*eintrag.Aktion, element->Tipp);
     eintrag.Aktion->setEnabled(element->Enabled);
     eintrag.Aktion->setCheckable(element->Checked);
     eintrag.Aktion->setChecked(element->Checked);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Sprache.h"
+
 #include <QPoint>
 
 #include <functional>
@@ -22,6 +24,9 @@ struct Menüzeile;
 /// A line of text in the program's font with room to spare, pixels. Reckoned, for to measure a font is to load the
 /// fonts of the system.
 int Zeilenhöhe();
+
+/// What a menu says of that row, whose caption is `caption` now: trimmed, its letter marked for the toolkit.
+QString Menütext(const Menüzeile &zeile, const std::string &caption, Sprache sprache);
 
 /// The menus of the table. Captions and states are the model's.
 class Menüs {

@@ -15,15 +15,31 @@ namespace kw {
 
 namespace {
 
-constexpr QColor Seitenfarbe{255, 255, 255};
-constexpr QColor Gesperrt{236, 236, 236};
-constexpr QColor Überfahren{232, 241, 253};
-constexpr QColor Gedrückt{190, 214, 248};
-constexpr QColor Rand{150, 150, 150};
-constexpr QColor Akzent{25, 95, 200}; ///< reads on the face as on light and dark themes around it
+/// The faces of a button. The symbols are drawn for a light one on every theme.
+struct Knopffarben {
+    QColor Frei, Gesperrt, Überfahren, Gedrückt, Rand;
+    QColor Akzent; ///< reads on the face as on what is around it
+};
+constexpr Knopffarben AufHell{{255, 255, 255}, {236, 236, 236}, {232, 241, 253},
+                              {190, 214, 248}, {150, 150, 150}, {25, 95, 200}};
+/// Softer than the page, so that what the pointer is on can be brighter; what can't be pressed goes back into the dark.
+constexpr Knopffarben AufDunkel{{208, 208, 212}, {96, 96, 100},   {250, 252, 255},
+                                {140, 188, 248}, {120, 120, 124}, {40, 120, 230}};
 constexpr double Blass = 0.3;
+constexpr double BlassAufDunkel = 0.55; ///< dark lines on a dark face
+
+bool IstDunkel(const QWidget &feld) {
+    constexpr int Mitte = 128;
+    return qGray(feld.palette().color(QPalette::Window).rgb()) < Mitte;
+}
+
+const Knopffarben &FarbenFür(const QWidget &feld) { return IstDunkel(feld) ? AufDunkel : AufHell; }
+
+double BlässeFür(const QWidget &feld) { return IstDunkel(feld) ? BlassAufDunkel : Blass; }
+
 constexpr double Rundung = 4;
-constexpr int Luft = 3; ///< between edge and icon
+constexpr int Luft = 3;         ///< between edge and icon
+constexpr int Hinweisbild = 40; ///< the picture beside a name
 
 /// Makes the icon anew only when its size on the screen has changed.
 void BildHolen(QPixmap &pixmap, const Bildmacher &bild, const QWidget &feld) {
@@ -42,9 +58,10 @@ void BildMalen(QPainter &p, const QPixmap &pixmap, QSize feld) {
 }
 
 QColor Grund(const QAbstractButton &knopf) {
-    if (!knopf.isEnabled()) return Gesperrt;
-    if (knopf.isChecked() || knopf.isDown()) return Gedrückt;
-    return knopf.underMouse() ? Überfahren : Seitenfarbe;
+    const Knopffarben &farben = FarbenFür(knopf);
+    if (!knopf.isEnabled()) return farben.Gesperrt;
+    if (knopf.isChecked() || knopf.isDown()) return farben.Gedrückt;
+    return knopf.underMouse() ? farben.Überfahren : farben.Frei;
 }
 
 } // namespace
@@ -62,16 +79,17 @@ void Palettenknopf::paintEvent(QPaintEvent *) {
     const bool gedrückt = isChecked() || isDown();
     const bool betont = isEnabled() && (hasFocus() || gedrückt || underMouse());
     const double strich = hasFocus() || gedrückt ? 2 : 1;
-    p.setPen(QPen(betont ? Akzent : Rand, strich));
+    const Knopffarben &farben = FarbenFür(*this);
+    p.setPen(QPen(betont ? farben.Akzent : farben.Rand, strich));
     p.setBrush(Grund(*this));
     const QRectF außen = QRectF(rect()).adjusted(strich / 2, strich / 2, -strich / 2, -strich / 2);
     p.drawRoundedRect(außen, Rundung, Rundung);
     if (hasFocus() && gedrückt) { // else the ring of the focus would be that of the pressed button
-        p.setPen(QPen(Seitenfarbe, 1));
+        p.setPen(QPen(AufHell.Frei, 1));
         p.setBrush(Qt::NoBrush);
         p.drawRoundedRect(außen.adjusted(strich, strich, -strich, -strich), Rundung / 2, Rundung / 2);
     }
-    if (!isEnabled()) p.setOpacity(Blass);
+    if (!isEnabled()) p.setOpacity(BlässeFür(*this));
     BildMalen(p, pixmap_, size());
 }
 
@@ -101,7 +119,7 @@ void Merkmalfeld::paintEvent(QPaintEvent *) {
     p.setRenderHint(QPainter::Antialiasing);
     if (!gilt_) p.setOpacity(Blass);
     p.setPen(Qt::NoPen); // a plate, but no button's
-    p.setBrush(Seitenfarbe);
+    p.setBrush(FarbenFür(*this).Frei);
     p.drawRoundedRect(rect(), Rundung, Rundung);
     BildMalen(p, pixmap_, size());
 }
@@ -115,7 +133,32 @@ Palettenhinweis::Palettenhinweis(QWidget *fläche) : QLabel(fläche) {
     setBackgroundRole(QPalette::ToolTipBase);
     setAutoFillBackground(true);
     setFrameStyle(QFrame::Box);
-    setMargin(Luft);
+}
+
+void Palettenhinweis::Zeigen(const QString &name, const QString &aussehen, Bildmacher bild) {
+    setText(name);
+    aussehen_ = aussehen;
+    bild_ = std::move(bild);
+    update();
+}
+
+QSize Palettenhinweis::sizeHint() const {
+    const QFontMetrics maß = fontMetrics();
+    const int breite = std::max(maß.horizontalAdvance(text()), maß.horizontalAdvance(aussehen_));
+    const int höhe = maß.height() * (aussehen_.isEmpty() ? 1 : 2);
+    return {Hinweisbild + breite + 5 * Luft, std::max(Hinweisbild, höhe) + 2 * Luft};
+}
+
+void Palettenhinweis::paintEvent(QPaintEvent *) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    drawFrame(&p);
+    const QRect bild(Luft, (height() - Hinweisbild) / 2, Hinweisbild, Hinweisbild);
+    p.fillRect(bild, FarbenFür(*this).Frei);
+    if (bild_) p.drawPixmap(bild.topLeft(), bild_(Hinweisbild, devicePixelRatioF()));
+    p.setPen(palette().color(foregroundRole()));
+    const QRect rest = rect().adjusted(Hinweisbild + 3 * Luft, 0, -Luft, 0);
+    p.drawText(rest, Qt::AlignVCenter, aussehen_.isEmpty() ? text() : text() + u'\n' + aussehen_);
 }
 
 QPixmap Papierkorb(int kante, double pixelverhältnis) {

@@ -11,8 +11,8 @@ namespace kw {
 /// Draws an icon of `kante` logical pixels for a screen of that resolution.
 using Bildmacher = std::function<QPixmap(int kante, double pixelverhältnis)>;
 
-/// A button of the palette: an icon on a face of the page's colour on every theme, since that is what the
-/// symbols are drawn for. Takes the focus by keyboard only: a press by mouse leaves it on the canvas.
+/// A button of the palette: an icon on a face that is light on every theme, since the symbols are drawn for the page.
+/// Takes the focus by keyboard only: a press by mouse leaves it on the canvas.
 class Palettenknopf : public QAbstractButton {
   public:
     Palettenknopf(Bildmacher bild, QWidget *palette);
@@ -60,10 +60,20 @@ class Merkmalfeld : public QLabel {
     bool gilt_ = false;
 };
 
-/// The name of the button under the pointer. Looks like a tool tip, but stands still and lets presses through.
+/// The name of the button under the pointer, its picture in large, and how a sign looks that could be taken for another
+/// one. Looks like a tool tip, but stands still and lets presses through.
 class Palettenhinweis : public QLabel {
   public:
     explicit Palettenhinweis(QWidget *fläche);
+    void Zeigen(const QString &name, const QString &aussehen, Bildmacher bild);
+    QSize sizeHint() const override;
+
+  protected:
+    void paintEvent(QPaintEvent *ereignis) override;
+
+  private:
+    QString aussehen_;
+    Bildmacher bild_;
 };
 
 /// A bin.

@@ -19,6 +19,36 @@ namespace {
 constexpr std::string_view Rändername = Name::cmdRänder;
 constexpr int Einzug = 6;
 
+/// A line of text that ends in dots where the room does, and then tells all as its tip.
+class Textzeile : public QLabel {
+  public:
+    explicit Textzeile(QWidget *zeile) : QLabel(zeile) {
+        setTextFormat(Qt::PlainText);
+        setIndent(Einzug);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // no word widens the window
+    }
+    void Zeigen(const QString &text) {
+        if (text == ganz_) return;
+        ganz_ = text;
+        setAccessibleName(ganz_);
+        Kürzen();
+    }
+
+  protected:
+    void resizeEvent(QResizeEvent *ereignis) override {
+        QLabel::resizeEvent(ereignis);
+        Kürzen();
+    }
+
+  private:
+    void Kürzen() {
+        const QString kurz = fontMetrics().elidedText(ganz_, Qt::ElideRight, width() - 2 * Einzug);
+        setText(kurz);
+        setToolTip(kurz == ganz_ ? QString() : ganz_);
+    }
+    QString ganz_;
+};
+
 } // namespace
 
 int Statuszeile::Höhe() {
@@ -29,23 +59,20 @@ int Statuszeile::Höhe() {
 Statuszeile::Statuszeile(std::function<void(std::string_view)> ausführen) {
     setSizeGripEnabled(false);
     setFixedHeight(Höhe());
-    lblTool_ = new QLabel(this);
-    lblTool_->setTextFormat(Qt::PlainText);
-    lblTool_->setIndent(Einzug);
-    lblTool_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // no word widens the window
+    auto *text = new Textzeile(this);
+    zeigen_ = [text](const QString &zeile) { text->Zeigen(zeile); };
     cmdRänder_ = new QToolButton(this);
     cmdRänder_->setAutoRaise(true);
     // A press by mouse leaves the focus on the canvas.
     cmdRänder_->setFocusPolicy(Qt::TabFocus);
     EnterDrückt(*cmdRänder_);
     connect(cmdRänder_, &QToolButton::clicked, this, [befehl = std::move(ausführen)] { befehl(Rändername); });
-    addWidget(lblTool_, 1);
+    addWidget(text, 1);
     addPermanentWidget(cmdRänder_);
 }
 
 void Statuszeile::Auffrischen(const Anblick &anblick) {
-    const std::string &werkzeug = anblick.bedienung[Name::lblTool].Caption;
-    lblTool_->setText(Text(werkzeug.empty() ? anblick.bedienung[Name::lblHinweis].Caption : werkzeug));
+    zeigen_(Text(anblick.bedienung[Name::lblStatus].Caption));
     const Bedienelement &knopf = *anblick.bedienung.Finden(Rändername);
     cmdRänder_->setText(Text(knopf.Caption));
     cmdRänder_->setEnabled(knopf.Enabled);

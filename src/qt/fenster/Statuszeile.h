@@ -5,14 +5,14 @@
 #include <functional>
 #include <string_view>
 
-class QLabel;
 class QToolButton;
 
 namespace kw {
 
 struct Anblick;
 
-/// The row below the page: what the pointer is over at the left, the printer's margins at the right.
+/// The row below the page: what comes next, or what the pointer is over, at the left, the printer's margins at the
+/// right.
 class Statuszeile : public QStatusBar {
   public:
     /// `ausführen` runs the command of the button.
@@ -24,7 +24,7 @@ class Statuszeile : public QStatusBar {
     void Auffrischen(const Anblick &anblick);
 
   private:
-    QLabel *lblTool_ = nullptr;
+    std::function<void(const QString &)> zeigen_; ///< the text
     QToolButton *cmdRänder_ = nullptr;
 };
 

@@ -159,7 +159,7 @@ void Symbolleiste::AuswahlZeigen(Knopf &knopf) {
     for (const Wahl &wahl : knopf.Auswahl) {
         const Bedienelement *element = anblick_.bedienung.Finden(wahl.Zeile->Name);
         if (!element) continue;
-        wahl.Aktion->setText(Text(element->Caption));
+        wahl.Aktion->setText(Menütext(*wahl.Zeile, element->Caption, anblick_.ansicht.Sprache));
         wahl.Aktion->setVisible(element->Visible);
         wahl.Aktion->setEnabled(element->Enabled);
         wahl.Aktion->setChecked(element->Checked);

@@ -1,6 +1,10 @@
 #include "qt/fenster/Tasten.h"
 
+#include "commands/Menuetafel.h"
+#include "qt/grund/Text.h"
+
 #include <QKeyEvent>
+#include <QKeySequence>
 
 #include <algorithm>
 #include <iterator>
@@ -52,6 +56,15 @@ std::optional<Tastendruck> TasteVon(const QKeyEvent &ereignis) {
     const auto mit = [&](Qt::KeyboardModifier m) { return ereignis.modifiers().testFlag(m); };
     return Tastendruck{zeile->Taste, mit(Qt::ControlModifier), mit(Qt::AltModifier),
                        mit(Qt::ShiftModifier) && !IstZeichen(zeile->Taste), ereignis.isAutoRepeat()};
+}
+
+std::string_view BefehlMitKürzel(const QKeyEvent &ereignis) {
+    const QKeySequence taste(ereignis.keyCombination());
+    const auto tafel = Menütafel();
+    const auto zeile = std::find_if(tafel.begin(), tafel.end(), [&](const Menüzeile &z) {
+        return !z.Kürzel.empty() && QKeySequence(Text(z.Kürzel)) == taste;
+    });
+    return zeile == tafel.end() ? std::string_view() : zeile->Name;
 }
 
 } // namespace kw

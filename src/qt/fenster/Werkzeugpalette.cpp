@@ -127,7 +127,10 @@ void Werkzeugpalette::HinweisZeigen() {
     if (!hinweis_ && element.Visible) hinweis_ = new Palettenhinweis(parentWidget());
     if (!hinweis_) return;
     hinweis_->setVisible(element.Visible && isVisible());
-    hinweis_->setText(Text(element.Caption).trimmed());
+    const int werkzeug = Werkzeuge[static_cast<size_t>(berührt_)];
+    if (element.Visible)
+        hinweis_->Zeigen(Text(element.Caption).trimmed(), Text(element.Tipp),
+                         BildVon(WerkzeugSinnbild(werkzeug), anblick_.uhr));
     hinweis_->adjustSize();
     const QRect knopf = knöpfe_[static_cast<size_t>(berührt_)]->geometry();
     hinweis_->move(width() + Lücke, knopf.center().y() - hinweis_->height() / 2);

@@ -1,5 +1,7 @@
 #include "qt/grund/Text.h"
 
+#include <QTextDocument>
+
 namespace kw {
 
 namespace {
@@ -22,5 +24,11 @@ QString Lesbar(std::string_view utf8) {
 }
 
 QString FürXml(std::string_view utf8) { return Lesbar(utf8).toHtmlEscaped(); }
+
+QString Tipptext(std::string_view utf8) {
+    const QString text = Lesbar(utf8);
+    return Qt::mightBeRichText(text) ? QStringLiteral("<p style='white-space:pre'>%1</p>").arg(text.toHtmlEscaped())
+                                     : text;
+}
 
 } // namespace kw

@@ -17,4 +17,8 @@ QString Lesbar(std::string_view utf8);
 /// The same as it may stand between the tags and in the attributes of an XML file.
 QString FürXml(std::string_view utf8);
 
+/// The same as a tool tip that shows every character as it is; the toolkit takes what looks like a page of the web for
+/// one.
+QString Tipptext(std::string_view utf8);
+
 } // namespace kw

@@ -26,6 +26,16 @@ QImage Bildspeicher(QSize größe) {
 
 LeinwandFläche::LeinwandFläche(double pixelverhältnis) : pixelverhältnis_(pixelverhältnis) { AnPixelnAusrichten(); }
 
+/// How many physical pixels a line of width 1 has. Without a scale it is one. The page is a part of the screen, so a
+/// scale makes the screen's logical pixels larger and nothing on the page: lines of whole logical pixels would cover
+/// texts as small as before. Only on a screen with more pixels than usual the texts have more of them too.
+double LeinwandFläche::Linienpixel() const {
+    constexpr QSizeF Üblich(1920, 1080);
+    if (bildschirm_.isEmpty()) return pixelverhältnis_;
+    const double texte = std::min(bildschirm_.width() / Üblich.width(), bildschirm_.height() / Üblich.height());
+    return std::clamp(texte * pixelverhältnis_, 1.0, std::max(1.0, pixelverhältnis_));
+}
+
 void LeinwandFläche::Cls() {
     const auto pixel = [&](int twips) {
         return std::clamp(static_cast<int>(std::lround(twips * pixelverhältnis_ / TwipsJePixel)), 1, GrößteSeite);
@@ -37,6 +47,7 @@ void LeinwandFläche::Cls() {
     bild_.fill(Qt::white);
     // Not by the picture's own size, which is rounded: polygons count in exactly these pixels.
     const double pixelJeCm = BildschirmPixelJeCm * Faktor();
+    StrichmaßSetzen(Linienpixel() / pixelverhältnis_);
     Beginnen(bild_, pixelJeCm * pixelverhältnis_, pixelJeCm);
     bild_.setDevicePixelRatio(pixelverhältnis_);
 }

@@ -14,6 +14,9 @@ class LeinwandFläche : public QtFläche {
 
     const QImage &Bild() const { return bild_; }
     double Pixelverhältnis() const { return pixelverhältnis_; }
+    /// The screen that the page's size comes from, in logical pixels: lines are then as heavy beside the texts as on a
+    /// screen without a scale.
+    void BildschirmSetzen(QSize größe) { bildschirm_ = größe; }
     /// Physical by logical pixels of the screen; the next redraw has the new resolution.
     void PixelverhältnisSetzen(double verhältnis) { pixelverhältnis_ = verhältnis; }
 
@@ -21,7 +24,10 @@ class LeinwandFläche : public QtFläche {
     void Cls() override;
 
   private:
+    double Linienpixel() const;
+
     QImage bild_;
+    QSize bildschirm_;
     double pixelverhältnis_;
 };
 

@@ -84,7 +84,7 @@ bool QtFläche::Sichtbar(double links, double oben, double rechts, double unten)
 /// In device units. A width is a real length: a cosmetic pen would have another one on every device. Only
 /// what a picture can't show is made thicker.
 double QtFläche::Strichbreite() const {
-    const double breite = DrawWidth / pixelJeCm_ * JeCm * geräteJeEinheit_;
+    const double breite = DrawWidth * strichmaß_ / pixelJeCm_ * JeCm * geräteJeEinheit_;
     if (!gerastert_) return breite;
     return std::max(1.0, ausrichten_ ? std::round(breite) : breite);
 }

@@ -46,6 +46,8 @@ class QtFläche : public Zeichenfläche {
   protected:
     void TextZeichnen(std::string_view text) override;
     QPainter &Maler() { return maler_; }
+    /// Of the widths that are asked for this part is drawn, from the next `Beginnen` on.
+    void StrichmaßSetzen(double maß) { strichmaß_ = maß; }
 
   private:
     Schriftsatz &Satz();
@@ -70,6 +72,7 @@ class QtFläche : public Zeichenfläche {
     Textvorrat vorrat_;
     double geräteJeEinheit_ = 1;
     double pixelJeCm_ = 1;
+    double strichmaß_ = 1;
     bool ausrichten_ = false;
     bool grau_ = false;
     bool gerastert_ = false; ///< the device is made of pixels

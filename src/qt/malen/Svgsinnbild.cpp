@@ -77,6 +77,14 @@ QIcon Laden(std::string_view name, bool imMenü) {
 
 } // namespace
 
+/// As pictures: the desktop takes them from the window as they are, and knows no sizes of others.
+QIcon Programmsinnbild() {
+    QIcon sinnbild;
+    const QIcon zeichnung = Svgsinnbild("kinwright");
+    for (const int kante : {16, 24, 32, 48, 64, 128}) sinnbild.addPixmap(zeichnung.pixmap(kante));
+    return sinnbild;
+}
+
 QIcon Svgsinnbild(std::string_view name) { return Laden(name, false); }
 
 QIcon SvgsinnbildImMenü(std::string_view name) { return Laden(name, true); }

@@ -12,4 +12,7 @@ QIcon Svgsinnbild(std::string_view name);
 /// The same for a menu, whose highlight would swallow accents.
 QIcon SvgsinnbildImMenü(std::string_view name);
 
+/// The program's own, in the colours and sizes that desktops ask windows for.
+QIcon Programmsinnbild();
+
 } // namespace kw

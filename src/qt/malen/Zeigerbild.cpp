@@ -72,6 +72,8 @@ QCursor Zeigerbild(Mauszeiger zeiger, double pixelverhältnis) {
     case Mauszeiger::Person: return Gezeichnet(Büste(), pixelverhältnis);
     case Mauszeiger::Textfeld: return Gezeichnet(Textkasten(), pixelverhältnis);
     case Mauszeiger::Kreuz: return Qt::CrossCursor;
+    case Mauszeiger::Hand: return Qt::OpenHandCursor;
+    case Mauszeiger::Griff: return Qt::ClosedHandCursor;
     default: return Qt::ArrowCursor;
     }
 }

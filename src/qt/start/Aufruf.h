@@ -1,5 +1,7 @@
 #pragma once
 
+#include "qt/drucken/Ausgabe.h"
+
 #include <string>
 #include <vector>
 
@@ -9,12 +11,12 @@ namespace kw {
 struct Aufruf {
     enum class Art { Fenster, Export, Vorschaubild, Hilfe, Version, Falsch };
     Art Was = Art::Fenster;
-    std::string Datei;  ///< the project; empty for none
-    std::string Import; ///< the whole command line of an import, as the model takes it; empty for none
-    std::string Ziel;   ///< the file to write
-    int Dpi = 300;      ///< of pictures
-    int Kante = 0;      ///< of a thumbnail, in pixels
-    std::string Fehler; ///< why it is wrong, one plain line
+    std::string Datei;    ///< the project; empty for none
+    std::string Import;   ///< the whole command line of an import, as the model takes it; empty for none
+    std::string Ziel;     ///< the file to write
+    int Dpi = ÜblicheDpi; ///< of pictures
+    int Kante = 0;        ///< of a thumbnail, in pixels
+    std::string Fehler;   ///< why it is wrong, one plain line
 };
 
 /// `worte` are the arguments behind the program's name. A "--" ends the options. Behind the switch of an import no

@@ -119,7 +119,7 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     }
     const QApplication anwendung(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kinwright"));
-    QApplication::setDesktopFileName(QStringLiteral("kinwright")); // gives the window its icon
+    QApplication::setDesktopFileName(QStringLiteral("kinwright")); // by it desktops know whose window it is
     QTranslator plattformtexte;
     PlattformtexteLaden(plattformtexte);
     Hauptfenster fenster(Kommandozeile(aufruf));
