@@ -10,7 +10,7 @@ trap 'rm -rf "$folder"' EXIT
 cd "$folder" || exit 1
 failed=0
 fault() { echo "FAILED: $*"; failed=1; }
-calls=open,openat,creat,mkdir,mkdirat,rename,renameat,renameat2,unlink,connect
+calls=open,openat,creat,mkdir,mkdirat,rename,renameat,renameat2,unlink,connect,prlimit64,setrlimit
 # "thumbnail IN": into out/picture, a file that is there already, as desktops name one; its home is a file.
 touch home && mkdir out
 thumbnail() {
@@ -26,6 +26,8 @@ for sample in "$KW_SRC"/samples/*.kwp; do
     [ "$(ls -A out)" = picture ] || fault "$sample: it left $(ls -A out)"
     grep -E 'O_WRONLY|O_RDWR|O_CREAT|mkdir|rename|unlink' trace | grep -vE "\"$folder/out/|\"/dev/|\"/proc/self/|\"/var/cache/fontconfig/|= -1 " &&
         fault "$sample: written elsewhere"
+    [ "${KW_BUILD:-}${KW_SANITIZE:-OFF}" != ReleaseOFF ] || grep -q 'RLIMIT_CORE, {rlim_cur=1,\|RLIMIT_CORE, {rlim_cur=0,' trace ||
+        fault "$sample: a crash would leave a dump of it"
     grep 'connect(' trace | grep -v /nscd/socket && fault "$sample: somebody was called"
 done
 

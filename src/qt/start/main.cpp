@@ -110,7 +110,6 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
         qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         return Melden("no display to open a window on; see kinwright --help for exports without one", 1);
-    OhneSpeicherabbild();
     Einzelinstanz instanz; // before the application object: a later start has no use for one
     switch (instanz.Starten(Projektpfad(aufruf))) {
     case Einzelinstanz::Stand::Übergeben: return 0;
@@ -134,6 +133,7 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
 int main(int argc, char **argv) try {
     std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow so large is told as any that can't be written
     qInstallMessageHandler(Meldung);
+    OhneSpeicherabbild();
     const Aufruf aufruf = AufrufLesen({argv + std::min(argc, 1), argv + argc});
     switch (aufruf.Was) {
     case Aufruf::Art::Hilfe: return Ausgegeben(Hilfetext());
