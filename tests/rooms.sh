@@ -11,9 +11,9 @@ below() {
     platform | document) ;;
     rendering) echo document ;;
     editing) echo document rendering ;;
-    dialogs | output | commands | keyboard) echo document rendering editing ;;
-    app) echo document rendering editing dialogs output commands keyboard ;;
-    qt | replay) echo document rendering editing dialogs output commands keyboard app ;;
+    dialogs | description | output | commands | keyboard) echo document rendering editing ;;
+    app) echo document rendering editing dialogs description output commands keyboard ;;
+    qt | replay) echo document rendering editing dialogs description output commands keyboard app ;;
     *) return 1 ;;
     esac
 }
@@ -29,7 +29,7 @@ floors_within() {
         printf '%s\n' Linien+Linienzug Kinder+Zwillinge 'Personen+Symbolgroesse Pfeile Kreislinien Texte Legende Bildausschnitt'
         printf '%s\n' 'Gruppe Elemente' Zwischenablage Werkzeuge Leinwand
         ;;
-    qt) printf '%s\n' grund/ malen/ 'drucken/ formulare/' fenster/ start/ ;;
+    qt) printf '%s\n' grund/ malen/ 'drucken/ formulare/ zugang/' fenster/ start/ ;;
     esac
 }
 

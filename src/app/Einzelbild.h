@@ -1,6 +1,8 @@
 #pragma once
 
+#include "description/Seitentext.h"
 #include "document/Dokument.h"
+#include "editing/Leinwandlage.h"
 #include "platform/Uhr.h"
 #include "rendering/Zeichnung.h"
 
@@ -8,7 +10,7 @@
 
 namespace kw {
 
-/// A project that is loaded to be exported once, without a window: what the command line works with. It
+/// A project that is loaded to be exported or described once, without a window: what the command line works with. It
 /// looks as it would in the window after a start with the same settings; where there are none yet, it is
 /// in full colour, though the window's very first start still has the lines of black and white.
 class Einzelbild {
@@ -24,15 +26,17 @@ class Einzelbild {
     Dokument dokument;
     Ansicht ansicht; ///< its page must be set up again when that of the document changes
 
-    Zeichnung DasBild() const { return {dokument, ansicht, auswahl_, geste_, legende_, uhr_}; }
-    void Übernehmen(const Zeichenbefund &befund) { Anwenden(befund, dokument, ansicht, geste_, legende_); }
+    /// The page in plain sentences.
+    std::string InWorten() const { return Seitentext({dokument, ansicht, auswahl_, lage_, legende_, uhr_}); }
+    Zeichnung DasBild() const { return {dokument, ansicht, auswahl_, lage_, legende_, uhr_}; }
+    void Übernehmen(const Zeichenbefund &befund) { Anwenden(befund, dokument, ansicht, lage_, legende_); }
     /// One print run on a surface whose scale is set.
     void AufPapier(Zeichenfläche &papier) { Übernehmen(DruckZeichnen(papier, DasBild())); }
 
   private:
     const Uhr &uhr_;
     Auswahl auswahl_;
-    Gestenlage geste_;
+    Leinwandlage lage_;
     Legendenblatt legende_;
     bool gelesen_ = false;
 };

@@ -12,6 +12,7 @@
 namespace kw {
 
 void frmMain::MouseDown(int taste, double x, double y) {
+    vorgelesen_ = nullptr;
     tastatur.MausGedrückt();
     gedrückt_ = bereich.InRahmen(x, y, ansicht.SeitenBreite);
     leinwand.MouseDown(taste, x, y);
@@ -117,6 +118,7 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     const Befehl befehl = BefehlFinden(name);
     if (!befehl) return false;
     if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
+    vorgelesen_ = nullptr;
     if (!IstFrei(name)) {
         Absagen(name);
         return false;
@@ -133,6 +135,7 @@ bool frmMain::BefehlAusführen(std::string_view name) {
 }
 
 bool frmMain::TasteDrücken(const Tastendruck &taste) {
+    vorgelesen_ = nullptr;
     const auto vorher = tastatur.Cursor().Text(dokument);
     const bool unterwegs = tastatur.IstUnterwegs();
     const Fenstertaste *fenstertaste = FenstertasteFinden(taste);
@@ -150,6 +153,13 @@ void frmMain::LeertasteLoslassen() {
     NachEreignis();
 }
 
+void frmMain::ElementFokussieren(Element element) {
+    vorgelesen_ = nullptr;
+    tastatur.Hinstellen(element);
+    NachEreignis();
+    CursorInsBild();
+}
+
 /// The page scrolls as far as it must for where the keyboard is to be seen.
 void frmMain::CursorInsBild() {
     const auto &cursor = tastatur.Cursor();
@@ -161,6 +171,7 @@ void frmMain::CursorInsBild() {
 }
 
 bool frmMain::PersonSuchen(std::string_view text) {
+    vorgelesen_ = nullptr;
     const bool gefunden = tastatur.Suchen(text);
     NachEreignis();
     CursorInsBild();

@@ -8,6 +8,7 @@
 #include "app/Startangaben.h"
 #include "app/Wegweiser.h"
 #include "app/Werkzeughinweis.h"
+#include "description/Vorleser.h"
 #include "dialogs/Dialogumgebung.h"
 #include "document/Auswahlliste.h"
 #include "document/Dokument.h"
@@ -70,6 +71,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
 
     /// What a face shows.
     const Anblick &DerAnblick() const { return anblick; }
+    /// The page in words, for a face that has it read out.
+    Vorleser &DerVorleser() { return vorleser; }
     /// Redraws the whole canvas from the stores.
     void Vorschau() override;
 
@@ -85,6 +88,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     /// A key on the page, or in the window where nothing else wants it. False when it has no meaning here now: Tab then
     /// leads on.
     bool TasteDrücken(const Tastendruck &taste);
+    /// Puts the keyboard's cursor on an element, wherever it is.
+    void ElementFokussieren(Element element);
     /// Space has been let go.
     void LeertasteLoslassen();
     /// Goes to the next person of that name. False when there is none.
@@ -138,6 +143,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void Absagen(std::string_view name);
     void NachEreignis();
     void Festhalten();
+    void Vorlesen();
     void CursorInsBild();
     void KommandozeileÖffnen();
     void ZweiteStufe();
@@ -184,10 +190,14 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Werkbank werkbank;
     Leinwand leinwand;
     Tastatur tastatur{werkbank};
-    Rahmenort gedrückt_;        ///< where in the frame the last press was
-    bool aufgegeben_ = false;   ///< the closing question was answered with No
-    bool netzGemeldet_ = false; ///< that the safety net can't be written
-    std::string Kommandozeile;  ///< trimmed and unquoted
+    Vorleser vorleser{{dokument, ansicht, auswahl, lage, legende, plattform.uhr}};
+    std::optional<Seitenort> vorgelesenerOrt_;
+    std::string vorgelesenerSchritt_;
+    const Zweisprachig *vorgelesen_ = nullptr; ///< why nothing came of the event, when that has been told
+    Rahmenort gedrückt_;                       ///< where in the frame the last press was
+    bool aufgegeben_ = false;                  ///< the closing question was answered with No
+    bool netzGemeldet_ = false;                ///< that the safety net can't be written
+    std::string Kommandozeile;                 ///< trimmed and unquoted
     const Anblick anblick{
         projekt.Titel, projekt.Geändert,    einstellungen.Fenster, ansicht,  bedienung, bereich,          auflagen,
         lage,          import.Listenzeilen, plattform.uhr,         dokument, legende,   tastatur.Cursor()};

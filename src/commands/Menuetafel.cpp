@@ -312,6 +312,14 @@ constexpr Paar Gleiche[] = {
     {Name::keyFarbig, Name::mnuFarbig},
 };
 
+/// Beside the choices of the toolbar's lists.
+constexpr std::string_view Ankreuzbare[] = {
+    Name::mnuLegendeAnzeigen, Name::mnuSchwarzWeiß,    Name::mnuGraustufen,     Name::mnuFarbig,
+    Name::mnuRasterGroß,      Name::mnuRasterKlein,    Name::btnHochformat,     Name::btnQuerformat,
+    Name::btnBlattränder,     Name::btnGitterZeichnen, Name::btnWerkzeugleiste, Name::btnLegende,
+    Name::btnAuswahlZuBild,   Name::btnImport,
+};
+
 } // namespace
 
 std::span<const Menüzeile> Menütafel() { return Tafel; }
@@ -344,6 +352,10 @@ Kennstelle KennstelleIn(const Menüzeile &zeile, std::string_view caption, Sprac
         }
     if (stelle == std::string::npos) return {text, ""};
     return {text.substr(0, stelle), text.substr(stelle)};
+}
+
+bool IstAnkreuzbar(std::string_view name) {
+    return std::find(std::begin(Ankreuzbare), std::end(Ankreuzbare), name) != std::end(Ankreuzbare);
 }
 
 std::string_view Menügleich(std::string_view name) {

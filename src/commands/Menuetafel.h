@@ -42,6 +42,9 @@ bool IstMenü(const Menüzeile &zeile);
 /// Whether the row `name` stands in `menü` or in a menu below it.
 bool GehörtZu(std::string_view name, std::string_view menü);
 
+/// Whether the row can be ticked, or a button pressed, and let go again.
+bool IstAnkreuzbar(std::string_view name);
+
 /// A caption in two pieces, with the letter that picks it at the beginning of the second one.
 struct Kennstelle {
     std::string Davor; ///< all of it when the letter isn't in it

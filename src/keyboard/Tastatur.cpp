@@ -172,6 +172,13 @@ bool Tastatur::Hingehen(std::optional<Element> ziel, const Zweisprachig &sonst) 
     return true;
 }
 
+void Tastatur::Hinstellen(Element element) {
+    lauf_.Beenden();
+    sichtbar_ = true;
+    w_.lage.Hinweis = nullptr;
+    if (GibtEs(w_.dokument, element)) cursor_.Setzen(w_.dokument, element);
+}
+
 bool Tastatur::Handeln(const Tastendruck &t) {
     if (t.Ist(Taste::Leer)) leertaste_ = leertaste_ || !t.Wiederholt;
     else if (t.Ist(Taste::Eingabe) || t.Ist(Taste::F2)) Eingeben();

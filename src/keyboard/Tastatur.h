@@ -25,6 +25,9 @@ class Tastatur {
     /// The cursor goes to the next person of that name. False when there is none.
     bool Suchen(std::string_view text);
 
+    /// The cursor goes to that element, whatever is in hand.
+    void Hinstellen(Element element);
+
     /// What moves by keys comes to its end: before a press, a command, after a while.
     void LaufBeenden() { lauf_.Beenden(); }
     /// Whether such a run has moved something that no snapshot holds yet.

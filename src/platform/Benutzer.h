@@ -70,6 +70,8 @@ class Benutzer {
     /// Starts the program of that name from the program's own folder with the rights of the system's keeper, and goes
     /// on. False, and nothing done, when it isn't there.
     virtual bool ProgrammStarten(const std::string &name) = 0;
+    /// Tells those who listen what an event came to; for all others nothing shows.
+    virtual void Ansagen(std::string_view text) = 0;
     /// Gives the canvas the keyboard again.
     virtual void FokusAufLeinwand() = 0;
     /// Where the main window stands; nothing where there is none to see.

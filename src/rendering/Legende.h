@@ -1,6 +1,9 @@
 #pragma once
 
 #include "document/Dokument.h"
+#include "platform/Sprache.h"
+
+#include <string_view>
 
 namespace kw {
 
@@ -15,5 +18,8 @@ struct Legendenblatt {
 /// Fills the list afresh from the stores. An edit of the diagram doesn't do this by itself. A record
 /// with too few fields adds what it has.
 void LegendeAufbauen(const Dokument &dokument, Legendenblatt &blatt);
+
+/// What stands at the entry with that code; nothing at an unknown one.
+std::string_view Legendeneintrag(std::string_view code, Sprache sprache);
 
 } // namespace kw

@@ -1,5 +1,6 @@
 #include "document/Zahlen.h"
 #include "rendering/Ebenen.h"
+#include "rendering/Legende.h"
 #include "rendering/Symbole.h"
 
 #include <algorithm>
@@ -154,6 +155,11 @@ constexpr std::array<Eintrag, 32> Einträge{{
     {"61", Kind, {"Pflegekind", "Foster Child"}},
 }};
 
+const Eintrag *EintragMit(std::string_view code) {
+    const auto *e = std::find_if(Einträge.begin(), Einträge.end(), [&](const Eintrag &x) { return x.Code == code; });
+    return e == Einträge.end() ? nullptr : e;
+}
+
 /// Symbols and marks of persons have their labels close by, lines leave room for a sample.
 bool IstPersonEintrag(std::string_view code) { return code < "30"; }
 
@@ -199,6 +205,11 @@ void SchriftSetzen(Zeichenfläche &f, double faktor) {
 
 } // namespace
 
+std::string_view Legendeneintrag(std::string_view code, Sprache sprache) {
+    const Eintrag *eintrag = EintragMit(code);
+    return eintrag ? eintrag->Text.In(sprache) : std::string_view();
+}
+
 Legendenkasten LegendenEbene(Zeichenfläche &f, const Zeichnung &z, double faktor) {
     f.Ebene("legende");
     const Satzliste &codes = z.legende.lstLegende;
@@ -212,9 +223,8 @@ Legendenkasten LegendenEbene(Zeichenfläche &f, const Zeichnung &z, double fakto
     const Miniaturen miniaturen{f, z, faktor};
     for (int i = 0; i < codes.Anzahl(); ++i) {
         const std::string &code = codes.Satz(i);
-        const auto *eintrag =
-            std::find_if(Einträge.begin(), Einträge.end(), [&](const Eintrag &e) { return e.Code == code; });
-        if (eintrag == Einträge.end()) continue;
+        const Eintrag *eintrag = EintragMit(code);
+        if (!eintrag) continue;
         const Zelle zelle = ZelleFür(kasten, z.dokument.LegendeQuer, i);
         f.ForeColor = Schwarz;
         eintrag->Zeichnen(miniaturen, zelle, code);

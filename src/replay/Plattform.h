@@ -41,6 +41,7 @@ class DrehbuchBenutzer : public Benutzer {
     std::deque<std::string> Menüwahlen; ///< entries to pick in the next context menus
     std::string Kästen;                 ///< boxes and dialogs since they were last asked for, a line each
     std::string Filter;                 ///< of the last file dialog
+    std::string Angesagtes;             ///< what was told since it was last asked for, a line each
     std::vector<Zeitgeber> ZeitgeberListe;
     int Jetzt = 0; ///< ms since the start
     bool SchließenVerlangt = false;
@@ -65,6 +66,7 @@ class DrehbuchBenutzer : public Benutzer {
     void FensterSchließen() override { SchließenVerlangt = true; }
     bool AdresseÖffnen(const std::string &adresse) override { return Starten("address " + adresse); }
     bool ProgrammStarten(const std::string &name) override { return Starten("program " + name); }
+    void Ansagen(std::string_view text) override { Angesagtes += "  " + std::string(text) + "\n"; }
     void FokusAufLeinwand() override {}
     std::optional<Fensterlage> Fensterstand() const override { return Fenster; }
     void FokusWeitergeben(bool zurück) override { wirkungen_ += zurück ? "focus back\n" : "focus on\n"; }

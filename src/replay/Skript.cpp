@@ -22,7 +22,7 @@ using Befehlsverzeichnis = std::map<std::string_view, decltype(Skriptbefehl::Aus
 
 Befehlsverzeichnis AlleBefehle() {
     Befehlsverzeichnis alle{{"start", [](Wiedergabe &lauf, const Wörter &w, const std::string &) { lauf.Starten(w); }}};
-    for (const auto &gruppe : {Zeigerbefehle(), Bedienbefehle(), Zustandsbefehle(), Einzelaufrufe()})
+    for (const auto &gruppe : {Zeigerbefehle(), Bedienbefehle(), Zustandsbefehle(), Einzelaufrufe(), Dateibefehle()})
         for (const Skriptbefehl &befehl : gruppe) alle[befehl.Name] = befehl.Ausführen;
     return alle;
 }

@@ -22,5 +22,7 @@ std::span<const Skriptbefehl> Bedienbefehle();
 std::span<const Skriptbefehl> Zustandsbefehle();
 /// Calls of single routines, without the program around them.
 std::span<const Skriptbefehl> Einzelaufrufe();
+/// What somebody else does to files while the program runs.
+std::span<const Skriptbefehl> Dateibefehle();
 
 } // namespace kw

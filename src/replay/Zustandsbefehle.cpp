@@ -1,8 +1,10 @@
 #include "app/frmMain.h"
 #include "commands/Menuetafel.h"
+#include "description/Seitentext.h"
 #include "document/Fensterplatz.h"
 #include "document/Sicherheitsnetz.h"
 #include "document/Texte.h"
+#include "document/Zahlen.h"
 #include "replay/Namen.h"
 #include "replay/Programm.h"
 #include "replay/Skriptbefehle.h"
@@ -88,6 +90,30 @@ std::string FensterText(const Programm &p) {
            std::to_string(f.Height) + (maximiert ? " maximized" : "");
 }
 
+/// The page in words, a row an element: kind, key, name, description, place in cm, whether it is selected.
+std::string ElementeText(Programm &p) {
+    Vorleser &vorleser = p.haupt->DerVorleser();
+    vorleser.Zuhören();
+    vorleser.Auffrischen();
+    const Sprache sprache = p.innen.ansicht.Sprache;
+    std::string text = "elements " + std::to_string(vorleser.Zeilen().size()) + "\n";
+    for (const Elementzeile &z : vorleser.Zeilen()) {
+        text += "  " + std::string(Artname(z.Element.Art)) + (z.Schlüssel.empty() ? "" : " ") + z.Schlüssel + " | ";
+        text += z.Name + " | ";
+        text += z.Zusatz(sprache) + " |";
+        const Umgebung &u = z.Rahmen;
+        for (const double maß : {u.Links, u.Oben, u.Rechts - u.Links, u.Unten - u.Oben})
+            text += " " + ZahlSchreiben(OhneRauschen(maß));
+        text += std::string(" | ") + (z.Gewählt ? "1" : "0") + "\n";
+    }
+    return text;
+}
+
+std::string SeiteInWorten(const Programm &p) {
+    const Einblick &i = p.innen;
+    return Seitentext({i.dokument, i.ansicht, i.auswahl, i.lage, i.legende, i.uhr});
+}
+
 void Drucken(Wiedergabe &lauf, const Wörter &w) {
     Programm &p = lauf.Läuft();
     const std::string &name = Wort(w, 1);
@@ -97,6 +123,14 @@ void Drucken(Wiedergabe &lauf, const Wörter &w) {
     }
     if (name == "effects") {
         lauf.aus << std::exchange(p.wirkungen, {});
+        return;
+    }
+    if (name == "elements") {
+        lauf.aus << ElementeText(p);
+        return;
+    }
+    if (name == "announcements") {
+        lauf.aus << std::exchange(p.benutzer.Angesagtes, {});
         return;
     }
     if (name == "filters") {
@@ -174,6 +208,8 @@ constexpr Skriptbefehl Tabelle[] = {
     {"set", [](auto &lauf, auto &w, auto &) { Setzen(lauf.Läuft(), w); }},
     {"print", [](auto &lauf, auto &w, auto &) { Drucken(lauf, w); }},
     {"expect", [](auto &lauf, auto &, auto &zeile) { Erwarten(lauf, zeile); }},
+    {"listen", [](auto &lauf, auto &, auto &) { lauf.Läuft().haupt->DerVorleser().Zuhören(); }},
+    {"describe", [](auto &lauf, auto &, auto &) { lauf.aus << SeiteInWorten(lauf.Läuft()); }},
     {"draw", [](auto &lauf, auto &w, auto &) { Zeichnen(lauf, w); }},
     {"crash", [](auto &lauf, auto &, auto &) { lauf.Abstürzen(); }},
     {"say", [](auto &lauf, auto &w, auto &) { lauf.aus << Ab(w, 1) << "\n"; }},

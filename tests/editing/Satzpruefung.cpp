@@ -29,6 +29,7 @@ Stand StandVon(const Einblick &h) {
             h.bedienung,
             h.projekt.Projektdatei,
             h.start.IniDatei,
+            {},
             std::max(breite / h.start.BildschirmBreite, höhe / h.start.BildschirmHöhe),
             breite < höhe,
             h.bereich.cboBildGröße.ListIndex,
@@ -75,10 +76,11 @@ struct Verlangt {
 
     bool Zurück() const { return Zeile == "key Ctrl+Z" || Ist("mnuRückgängig", "btnUndo"); }
     bool Vor() const { return Zeile == "key Ctrl+Y" || Ist("mnuWiederholen", "btnRedo"); }
-    bool Startet() const { return Beginnt("start", "profil"); }
+    bool Startet() const { return Zeile.find("start ") != Zeile.npos; }
     bool Neu() const { return Ist("mnuNeu", "btnNeuesProjekt"); }
     bool WähltDatei() const { return Ist("mnuÖffnen", "btnÖffnen"); }
     bool Öffnet() const { return Neu() || WähltDatei() || Befehl.starts_with("mnuRecent"); }
+    bool Wartet() const { return Zeile.find("wait ") != Zeile.npos; } ///< for the file of the command line
     bool Zoomt() const { return Beginnt("wheel") || In("btnZoom") || Ist("btnBildGrößer", "btnBildKleiner"); }
     /// Chosen where all shows, saves or prints, and none of those that do something all the same.
     bool ZeigtNur() const {
@@ -90,11 +92,33 @@ struct Verlangt {
     std::string Befehl;
 };
 
+/// A file that was to be opened or saved wasn't, which a box said.
+bool IstMisslungen(const Stand &neu) {
+    constexpr std::string_view Worte[] = {"could not be opened", "konnte nicht geöffnet werden", "could not be saved",
+                                          "konnte nicht gespeichert werden"};
+    return std::any_of(std::begin(Worte), std::end(Worte),
+                       [&](auto wort) { return neu.kästen.find(wort) != neu.kästen.npos; });
+}
+
+/// What was opened is known to be damaged.
+bool IstBeschädigt(const Stand &neu) {
+    return neu.kästen.find("file is damaged") != neu.kästen.npos ||
+           neu.kästen.find("Datei ist beschädigt") != neu.kästen.npos;
+}
+
+/// Whether a kept version may stand there now.
+bool HoltZurück(const Schritt &s, const Verlangt &v) {
+    const bool leer = s.Neu.ring.UndoSchritte() + s.Neu.ring.RedoSchritte() == 0;
+    return v.Zeile.find("press cmdÖffnen") != v.Zeile.npos && leer && s.Neu.geändert;
+}
+
 /// Whether another project may stand there now: its snapshots have gone.
 bool WechseltProjekt(const Schritt &s, const Verlangt &v) {
+    if (v.Beginnt("save", "load") && IstMisslungen(s.Neu)) return false;
     const bool leer = s.Neu.ring.UndoSchritte() + s.Neu.ring.RedoSchritte() == 0 && !s.Neu.geändert;
     const bool anders = s.Alt.ring.UndoPos() != s.Neu.ring.UndoPos() || !Unterschied(s.Alt, s.Neu).empty();
-    return v.Beginnt("save", "load") || v.Startet() || (leer && v.Öffnet() && anders);
+    return v.Beginnt("save", "load") || v.Startet() || HoltZurück(s, v) ||
+           (leer && (v.Öffnet() || v.Wartet()) && anders);
 }
 
 /// A rule of how one state comes from another.
@@ -191,14 +215,17 @@ std::string Prüfung::Zeile(const std::string &zeile) {
     verworfen_.clear();
     aus_.str({});
     std::istringstream zeilen(zeile);
-    if (wiedergabe_.Ausführen(zeilen) == 2) return "script " + aus_.str();
+    verlust_.Vorher(zeile, Innen());
+    if (wiedergabe_.Ausführen(zeilen) == 2) return "script: " + aus_.str();
     Programm &p = wiedergabe_.Läuft();
     p.benutzer.Formulare.clear();
     p.benutzer.Antworten.clear();
     p.benutzer.Menüwahlen.clear();
     if (zeile.find("start") != zeile.npos) BeiFormularenZusehen();
     alt_ = std::exchange(jetzt_, StandVon(p.innen));
-    std::string fehler = Satzfehler();
+    jetzt_.kästen = std::exchange(p.benutzer.Kästen, {});
+    std::string fehler = verlust_.Nachher(zeile, alt_, jetzt_, p.Taste != TasteKeine, p.innen);
+    if (fehler.empty()) fehler = Satzfehler();
     if (fehler.empty()) fehler = verworfen_;
     if (fehler.empty()) fehler = Schrittfehler();
     return fehler.empty() ? Anzeigefehler(jetzt_) : fehler;
@@ -209,7 +236,7 @@ std::string Prüfung::Satzfehler() {
     const Schritt schritt{alt_, jetzt_, zeile_, entschuldigt_};
     for (const auto &verstoß : Verstöße(jetzt_)) {
         if (entschuldigt_.contains(verstoß.Text())) continue;
-        if (!IstMacke(schritt, verstoß)) return verstoß.Text();
+        if (!IstMacke(schritt, verstoß) && !IstBeschädigt(jetzt_)) return verstoß.Text();
         entschuldigt_.insert(verstoß.Text());
     }
     return "";
@@ -223,7 +250,7 @@ std::string Prüfung::Schrittfehler() {
         if (!regel.Gilt(schritt, v)) return std::string(regel.Name) + Unterschied(alt_, jetzt_) + ": " + v.Befehl;
     if (WechseltProjekt(schritt, v)) {
         plätze_ = {{jetzt_.ring.UndoPos(), jetzt_.dokument}};
-        return v.Startet() ? "" : Projektfehler(v.Neu());
+        return v.Startet() || HoltZurück(schritt, v) ? "" : Projektfehler(v.Neu());
     }
     return v.Zurück() || v.Vor() ? Rückschrittfehler(v.Zurück()) : Sicherungsfehler();
 }

@@ -18,6 +18,7 @@ struct Stand {
     Ansicht ansicht;
     Bedienelemente bedienung;
     std::string projektdatei, einstellungsdatei;
+    std::string kästen;  ///< boxes and dialogs of the step that led here, a line each
     double leinwand = 0; ///< the larger of the canvas's sides, by the screen's
     bool hochkant = false;
     int zoom = 0;

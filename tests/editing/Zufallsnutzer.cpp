@@ -16,6 +16,7 @@
 #include "document/Zahlen.h"
 
 #include <algorithm>
+#include <array>
 
 namespace kw {
 
@@ -25,7 +26,8 @@ namespace {
 /// %= the same place again, %m an entry of the menu of what stands at a place, %z one of the twins' menu, %t a tool,
 /// %F a frame round one element or two, %C one round a couple, %T, %B and %f what he does in the form of a text, a
 /// relationship, what stood at the last place, %o the entry that opens the last one, %d a form and the menu that opens
-/// it, %c any command, %A an answer, %s a start. What happens more often stands here twice.
+/// it, %c any command, %A an answer, %s and %S a start, %k a project file, %n a name that is too long, %a what he does
+/// when he is offered kept versions. What happens more often stands here twice.
 // clang-format off
 constexpr std::string_view Anfang =
     "profil muster.txt\nW\tK\t1;Eva;Öz;W;1.1.90;J;N;J;N;\t\nW\tK\t2;Jo_;;M;;N;J;N;J;\t\nend\nprofil zufall.xyz\nW\tINFO"
@@ -49,9 +51,24 @@ constexpr std::string_view Handlungen[] = {
     "press btnAuswahlZuBild|%A%Adrag %e %e", "press btnClipboard|%Adrag %x %e", "%A%Apress mnuExportieren", "hover %t",
     "press btnClipboard|down left %x|move %x|%c|move %x|up %=", "press btnClipboard|%A%c|%Adrag %x %e",
 };
-constexpr std::string_view Starts[] = {"start cmd=\"/dataimport zufall\"\nwait 200", "start cmd=zufall.kwp\nwait 200",
-    "start printers=\"Laser;Microsoft Print to PDF\" margins=0.4,0.5,1,0"};
-constexpr std::string_view Worte[] = {"yes", "no", "cancel", "file cancel", "file 1.kwp", "file 2.kwp", "file 1.bmp"};
+/// Of a user who is out of luck.
+constexpr std::string_view Störungen[] = {
+    "crash\n%S|%await 100", "crash\n%S cmd=%k|%await 100|%Await 100", "down left %x|move %x|crash\n%S|%await 100",
+    "crash\n%s", "%S|%await 100", "%A%A%apress mnuFassungen", "key Ctrl+S", "answer yes\nkey Ctrl+S",
+    "answer no\nanswer file %k\nkey Ctrl+S", "%Akey Ctrl+S", "answer file fehlt/1.kwp\npress mnuSichernUnter",
+    "answer file %n\npress mnuSichernUnter", "answer file %k/1.kwp\npress mnuSichernUnter",
+    "disk folder ordner.kwp|answer file ordner.kwp\npress mnuSichernUnter", "disk remove %k|%Akey Ctrl+S", "disk copy %k %k",
+    "disk cut %k 0|answer yes\nkey Ctrl+S", "disk cut %k 30", "disk cut %k 75", "disk remove %k", "disk copy %k %k",
+    "disk folder 3|answer file 3/1.kwp\npress mnuSichernUnter|%c|disk remove 3|key Ctrl+S",
+    "answer yes\nanswer file fehlt/1.kwp\nanswer ok\npress mnuNeu", "disk copy %k %k|%A%Apress mnuSichernUnter",
+    "answer yes\nanswer file %n\nanswer ok\npress mnuBeenden", "profil %k\nW\tINFO\ttitle\t%t\nend|%Akey Ctrl+S",
+    "profil %k\nW\tINFO\ttitle\t%t\nend|answer yes\nkey Ctrl+S", "profil %k\nW\tINFO\ttitle\t%t\nend",
+};
+constexpr std::string_view Starts[] = {" cmd=\"/dataimport zufall\"\nwait 200", " cmd=zufall.kwp\nwait 200",
+    " printers=\"Laser;Microsoft Print to PDF\" margins=0.4,0.5,1,0"};
+constexpr std::string_view Worte[] = {"yes", "no", "cancel", "file cancel", "file 1.kwp", "file 2.kwp", "file 1.bmp",
+    "file fehlt/1.kwp"};
+constexpr std::string_view Projekte[] = {"1.kwp", "2.kwp", "zufall.kwp", "3/1.kwp"};
 constexpr std::string_view Gruppen[] = {Menüleiste, "mnuDatei", Werkzeugband, Palette, Fensterteile};
 
 /// What opens forms: an entry of the menu of such a place, or of the menu bar.
@@ -72,15 +89,23 @@ constexpr std::string_view Texte[] = {
 };
 // clang-format on
 
+std::string ZuLangerName() {
+    std::string name;
+    for (int i = 0; i < 60; ++i) name += "lang-";
+    return name + ".kwp";
+}
+
 } // namespace
 
 template <typename Satz>
 void Zufallsnutzer::Merken(std::vector<Ort> &orte, const Satzliste &speicher, std::string_view menü,
                            std::pair<double, double> (*ort)(const Satz &)) {
-    for (const auto &satz : speicher) {
-        const auto [x, y] = ort(Satz(satz));
-        orte.push_back({x, y, menü});
-    }
+    for (const auto &satz : speicher) try {
+            const auto [x, y] = ort(Satz(satz));
+            orte.push_back({x, y, menü});
+        } catch (const FeldFehlt &) {
+            continue; // of a damaged file: it can't be seen
+        }
 }
 
 void Zufallsnutzer::Umsehen() {
@@ -148,6 +173,21 @@ std::string Zufallsnutzer::Formularzeilen(std::string_view name) {
     return zeilen + "end\n" + danach;
 }
 
+/// He opens, keeps or deletes one of those that are offered, or closes the form.
+std::string Zufallsnutzer::Angebotszeilen() {
+    constexpr std::array Taten{"press cmdÖffnen\n", "press cmdÖffnen\n", "press cmdBehalten\n", "press cmdLöschen\n",
+                               ""};
+    std::string zeilen = "form frmFassungen\n";
+    if (Würfel(2)) zeilen += "pick lstFassungen " + std::to_string(Würfel(4)) + "\n";
+    return zeilen + Taten[zufall_() % Taten.size()] + "end\n";
+}
+
+std::string Zufallsnutzer::Start(std::string_view worte) const {
+    std::string zeile = "start";
+    if (!netz_.empty()) zeile.append(" state=").append(netz_);
+    return zeile.append(worte);
+}
+
 std::string Zufallsnutzer::Eingesetzt(char platzhalter) {
     const auto text = [](double x, double y) {
         return ZahlSchreiben(Gerundet(x, 2)) + " " + ZahlSchreiben(Gerundet(y, 2));
@@ -170,7 +210,11 @@ std::string Zufallsnutzer::Eingesetzt(char platzhalter) {
     case 'm': return Eintrag(Wählen(alle_).Menü);
     case 'z': return Eintrag("mnuZwillinge");
     case 't': return std::to_string(1 + Würfel(20));
-    case 's': return std::string(Starts[zufall_() % std::size(Starts)]);
+    case 's': return Start(Starts[zufall_() % std::size(Starts)]);
+    case 'S': return Start("");
+    case 'k': return std::string(Projekte[zufall_() % std::size(Projekte)]);
+    case 'n': return ZuLangerName();
+    case 'a': return Würfel(6) ? Angebotszeilen() : "";
     case 'A': return "answer " + std::string(Worte[zufall_() % std::size(Worte)]) + "\n";
     case 'c': return "press " + Eintrag(Gruppen[zufall_() % std::size(Gruppen)]);
     case 'C':
@@ -190,16 +234,25 @@ std::string Zufallsnutzer::Eingesetzt(char platzhalter) {
     return text(letzter_.X, letzter_.Y);
 }
 
+std::string_view Zufallsnutzer::Handlung(const Einblick &innen) {
+    constexpr size_t Selten = 10;
+    if (std::exchange(neu_, false)) return Anfang;
+    while (true) {
+        const bool gestört = !netz_.empty() && Würfel(Selten) == 0;
+        const std::string_view handlung =
+            gestört ? Störungen[zufall_() % std::size(Störungen)] : Handlungen[zufall_() % std::size(Handlungen)];
+        const auto hat = [&](std::string_view wort) { return handlung.find(wort) != std::string_view::npos; };
+        if (alle_.size() > 60 && (handlung.starts_with("tool") || hat("Ctrl+V"))) return "drag %F|key Del";
+        const bool ohneZiel = hat("drop") && innen.import.Listenzeilen.empty();
+        const bool ungenau = hat("load") || hat("Ctrl+V") || hat("Ctrl+Z") || hat("ffnen") || hat("Recent");
+        if (!ohneZiel && !(genau_ && ungenau)) return handlung;
+    }
+}
+
 std::vector<std::string> Zufallsnutzer::Nächstes(const Einblick &innen) {
     innen_ = &innen;
     Umsehen();
-    std::string_view handlung = Anfang;
-    const auto hat = [&](std::string_view wort) { return handlung.find(wort) != std::string_view::npos; };
-    while (!neu_ && (handlung == Anfang || (hat("drop") && innen.import.Listenzeilen.empty()) ||
-                     (genau_ && (hat("load") || hat("Ctrl+V") || hat("Ctrl+Z") || hat("ffnen") || hat("Recent")))))
-        handlung = Handlungen[zufall_() % std::size(Handlungen)];
-    if (alle_.size() > 60 && (handlung.starts_with("tool") || hat("Ctrl+V"))) handlung = "drag %F|key Del";
-    neu_ = false;
+    const std::string_view handlung = Handlung(innen);
     std::vector<std::string> schritte(1);
     for (size_t i = 0; i < handlung.size(); ++i) {
         if (handlung[i] == '|') schritte.emplace_back();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Satzregeln.h"
+#include "Verlustpruefung.h"
 
 #include "document/Dokument.h"
 #include "document/UndoRing.h"
@@ -44,12 +45,15 @@ class Prüfung {
     std::map<int, Dokument> plätze_;     ///< what the undo ring should hold
     std::set<std::string> entschuldigt_; ///< texts of faults
     std::string verworfen_;              ///< what forms did in this step without being confirmed
+    Verlustprüfung verlust_;
 };
 
-/// A user who draws families at random, in lines of the replay language. The same seed gives the same user.
+/// A user who draws families at random, in lines of the replay language. The same seed gives the same user. With a
+/// folder for the safety net he is also one who is out of luck: his saves fail, somebody else writes his files, his
+/// programs are killed.
 class Zufallsnutzer {
   public:
-    explicit Zufallsnutzer(unsigned saat) : zufall_(saat) {}
+    explicit Zufallsnutzer(unsigned saat, std::string netz = "") : netz_(std::move(netz)), zufall_(saat) {}
     /// What he does next, a few steps that belong together. A step is a line, or lines that only work as one.
     std::vector<std::string> Nächstes(const Einblick &innen);
 
@@ -67,8 +71,12 @@ class Zufallsnutzer {
     const Ort &Wählen(const std::vector<Ort> &orte);
     std::string Eintrag(std::string_view menü);
     std::string Formularzeilen(std::string_view name);
+    std::string Angebotszeilen();
+    std::string Start(std::string_view worte) const;
+    std::string_view Handlung(const Einblick &innen);
     std::string Eingesetzt(char platzhalter);
 
+    std::string netz_;
     std::mt19937_64 zufall_;
     const Einblick *innen_ = nullptr;
     const bool genau_ = Würfel(2) == 0; ///< leaves out what can give a number twice, so that all rules are kept

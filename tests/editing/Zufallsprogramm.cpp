@@ -1,4 +1,5 @@
-// Runs random users from one seed to the next. For each kind of fault it prints the shortest script that shows it.
+// Runs random users from one seed to the next. For each kind of fault it prints the shortest script that shows it, or
+// with "--whole 1" the script as it was.
 #include "Zufallsnutzer.h"
 
 #include <cstdlib>
@@ -98,12 +99,12 @@ int main(int argc, char **argv) {
     std::map<std::string, int> fehler;
     size_t zeilen = 0;
     for (int saat = angaben["--seed"]; saat < angaben["--seed"] + angaben["--scripts"]; ++saat) {
-        kw::Zufallsnutzer nutzer(static_cast<unsigned>(saat));
+        kw::Zufallsnutzer nutzer(static_cast<unsigned>(saat), "netz");
         const Lauf lauf =
             Laufen([&](kw::Prüfung &p) { return nutzer.Nächstes(p.Innen()); }, static_cast<size_t>(angaben["--steps"]));
         zeilen += lauf.Zeilen.size();
         if (lauf.Fehler.empty() || ++fehler[lauf.Art()] > 1) continue;
-        const Lauf kurz = Gekürzt(lauf);
+        const Lauf kurz = angaben["--whole"] ? lauf : Gekürzt(lauf);
         std::cout << "# seed " << saat << ", " << kurz.Fehler << "\n";
         for (const auto &zeile : kurz.Zeilen) std::cout << zeile << (zeile.ends_with('\n') ? "" : "\n");
         std::cout << std::endl;

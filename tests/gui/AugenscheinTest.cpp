@@ -27,6 +27,7 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <functional>
 #include <map>
 #include <optional>
@@ -209,6 +210,24 @@ void Fallenlassen(Hauptfenster &fenster) {
     EXPECT_TRUE(fenster.windowTitle().endsWith(QStringLiteral("zeichen.kwp")));
 }
 
+/// What is handed over while the window asks about its changes waits: for the page when it stays, else for another
+/// start.
+void ImSchließenÜbergeben(Hauptfenster &fenster) {
+    const std::string datei = KW_TESTDATEN "/../samples/familie.kwp";
+    fenster.Modell().BefehlAusführen("btnHochformat");
+    QTimer::singleShot(0, &fenster, [&] {
+        auto *frage = dynamic_cast<QMessageBox *>(QApplication::activeModalWidget());
+        ASSERT_TRUE(frage);
+        fenster.Übernehmen(datei);
+        QApplication::processEvents();
+        frage->button(QMessageBox::No)->click();
+    });
+    EXPECT_TRUE(fenster.close());
+    EXPECT_EQ(fenster.Wartende(), std::deque{datei});
+    fenster.Beenden(); // the session's end opens nothing
+    EXPECT_TRUE(fenster.Wartende().empty());
+}
+
 /// What the pictures of a form show: what is drawn, and the labels in them.
 std::string Gezeigt(Formular &form) {
     Aufzeichnung fläche;
@@ -298,6 +317,8 @@ TEST_F(Augenschein, FensterZeigtAllesGanz) {
         EXPECT_FALSE(fenster.isMinimized());
         EXPECT_TRUE(fenster.close()) << "nothing has changed, nothing is asked";
         EXPECT_EQ(ProfilLesen(einstellungen, "DEFAULT", "window"), "40,60,1400,900,0");
+        fenster.show();
+        ImSchließenÜbergeben(fenster);
         QFile::remove(QString::fromStdString(einstellungen));
     });
 }

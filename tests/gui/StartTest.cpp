@@ -31,6 +31,10 @@ TEST(Aufruf, SagtWasVerlangtIst) {
         {{"--export", "o.pdf", "--export", "o.png", "a.kwp"}, Art::Falsch},
         {{"--export", "o.png", "--dpi", "9", "a.kwp"}, Art::Falsch},
         {{"--export", "o.png", "--dpi", "72x", "a.kwp"}, Art::Falsch}, {{"--export", projekt, projekt}, Art::Falsch},
+        {{"--describe", "a.kwp"}, Art::Beschreibung}, {{"a.kwp", "--language", "de", "--describe"}, Art::Beschreibung},
+        {{"--describe"}, Art::Falsch}, {{"--describe", "--language", "fr", "a.kwp"}, Art::Falsch},
+        {{"--language", "de", "a.kwp"}, Art::Falsch}, {{"--describe", "--export", "o.png", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.png", "--describe", "a.kwp"}, Art::Falsch},
         {{"--thumbnail", "128", "-a b.kwp", "--o"}, Art::Vorschaubild}, {{"--thumbnail", "128", "a.kwp"}, Art::Falsch},
         {{"--thumbnail", "15", "a.kwp", "o"}, Art::Falsch}, {{"--thumbnail", "128", projekt, projekt}, Art::Falsch},
         {{"--thumbnail", "128", "a.kwp", ""}, Art::Falsch}, {{"a.kwp", "--thumbnail", "128", "o"}, Art::Falsch}};

@@ -1,5 +1,6 @@
 #!/bin/sh
-# Every sample is a file as the program writes it, and its PDF has every name on it as text.
+# Every sample is a file as the program writes it, and its PDF has every name on it as text, as its
+# description has.
 set -eu
 command -v pdftotext >/dev/null || exit 77
 samples=$KW_SRC/samples
@@ -20,12 +21,14 @@ for sample in "$samples"/*.kwp; do
     printf 'load "%s"\nsave "%s"\n' "$sample" "$copy" | "$KW_REPLAY" || fault "the replay failed"
     cmp "$sample" "$copy" || fault "load and save changes it"
 
+    env -u DISPLAY "$KW_KINWRIGHT" --describe --language de "$sample" >"$folder/words" || fault "no description"
     "$KW_KINWRIGHT" --export "$pdf" "$sample" || { fault "no export"; continue; }
     pdftotext -layout "$pdf" "$folder/text"
     names "$sample" >"$folder/names"
     [ -s "$folder/names" ] || fault "no names found in it"
     while read -r wanted; do
         grep -qF -- "$wanted" "$folder/text" || fault "$wanted is not in the PDF's text"
+        grep -qF -- "$wanted" "$folder/words" || fault "$wanted is not in the description"
     done <"$folder/names"
 done
 exit $failed

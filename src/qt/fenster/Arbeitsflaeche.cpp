@@ -7,6 +7,7 @@
 #include "qt/fenster/Suchfeld.h"
 #include "qt/fenster/Tasten.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
 #include "qt/malen/Auflagenmaler.h"
 #include "qt/malen/LeinwandFlaeche.h"
 #include "qt/malen/Seitenhinweis.h"
@@ -55,6 +56,7 @@ int Tastencode(Qt::MouseButton taste) {
 } // namespace
 
 Arbeitsflaeche::Arbeitsflaeche(LeinwandFläche &leinwand) : leinwand_(leinwand), zeiger_(Mauszeiger::Pfeil) {
+    baum_ = std::make_unique<Seitenbaum>(*this, FürVorleser());
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true); // rubber lines follow the pointer without a button
@@ -100,7 +102,11 @@ void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &mod
 
 void Arbeitsflaeche::Auffrischen() {
     if (!haupt_) return;
-    setAccessibleName(Text(Zweisprachig{"Genogramm", "Genogram"}.In(anblick_->ansicht.Sprache)));
+    VorlesenAls(*this, Text(Zweisprachig{"Genogramm", "Genogram"}.In(anblick_->ansicht.Sprache)));
+    VorlesenAls(vScroll_,
+                Text(Zweisprachig{"Senkrechter Bildlauf", "Vertical Scrolling"}.In(anblick_->ansicht.Sprache)));
+    VorlesenAls(hScroll_,
+                Text(Zweisprachig{"Waagrechter Bildlauf", "Horizontal Scrolling"}.In(anblick_->ansicht.Sprache)));
     const Arbeitsbereich &b = anblick_->bereich;
     const int breite = vScroll_.sizeHint().width();
     const int höhe = hScroll_.sizeHint().height();
@@ -114,6 +120,7 @@ void Arbeitsflaeche::Auffrischen() {
     LeisteStellen(hScroll_, b.HScroll1);
     ZeigerSetzen();
     update();
+    baum_->Auffrischen();
 }
 
 QRectF Arbeitsflaeche::Seite() const {
@@ -283,10 +290,15 @@ void Arbeitsflaeche::keyReleaseEvent(QKeyEvent *ereignis) {
 }
 
 /// Where the keyboard is shows only while it works here.
-void Arbeitsflaeche::focusInEvent(QFocusEvent *) { update(); }
+void Arbeitsflaeche::focusInEvent(QFocusEvent *) {
+    update();
+    baum_->FokusKam();
+}
+
 void Arbeitsflaeche::focusOutEvent(QFocusEvent *) {
     LeertasteHalten(false);
     update();
+    baum_->FokusGing();
 }
 
 /// Tab walks round the page, and on from its ends.

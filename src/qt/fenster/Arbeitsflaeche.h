@@ -1,10 +1,13 @@
 #pragma once
 
+#include "qt/zugang/Seitenbaum.h"
+
 #include <QScrollBar>
 #include <QTimer>
 #include <QWidget>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace kw {
@@ -20,7 +23,7 @@ struct Tastendruck;
 /// The inside of the main window: the dark frame, the page with its shadow, the overlay shapes, the scroll bars.
 /// Shows what the model's work area says, in pixels; the model's inner area begins above and ends below it, so
 /// that frame and bars meet the edges. Hands the model what the pointer does, in centimetres of the page.
-class Arbeitsflaeche : public QWidget {
+class Arbeitsflaeche : public QWidget, public MitSeitenbaum {
   public:
     explicit Arbeitsflaeche(LeinwandFläche &leinwand);
 
@@ -34,6 +37,7 @@ class Arbeitsflaeche : public QWidget {
     std::optional<QPoint> Cursorort() const;
     /// The model's inner size for this widget's size, in twips.
     QSize Innengröße() const;
+    Seitenbaum &Baum() override { return *baum_; }
     /// Whether the left button was pressed since Space went down: its release then means nothing else.
     bool LeertasteVerbraucht() const { return leerVerbraucht_; }
 
@@ -47,13 +51,13 @@ class Arbeitsflaeche : public QWidget {
     void mouseDoubleClickEvent(QMouseEvent *ereignis) override;
     void keyPressEvent(QKeyEvent *ereignis) override;
     void keyReleaseEvent(QKeyEvent *ereignis) override;
-    void focusInEvent(QFocusEvent *ereignis) override;
-    void focusOutEvent(QFocusEvent *ereignis) override;
     bool focusNextPrevChild(bool nächstes) override;
     void dragEnterEvent(QDragEnterEvent *ereignis) override;
     void dragMoveEvent(QDragMoveEvent *ereignis) override;
     void dragLeaveEvent(QDragLeaveEvent *ereignis) override;
     void dropEvent(QDropEvent *ereignis) override;
+    void focusInEvent(QFocusEvent *ereignis) override;
+    void focusOutEvent(QFocusEvent *ereignis) override;
 
   private:
     /// The page on this widget, logical pixels.
@@ -78,7 +82,13 @@ class Arbeitsflaeche : public QWidget {
     void LeisteStellen(QScrollBar &leiste, const struct Bildlaufleiste &modell);
     void Scrollen();
 
+    Seitenquelle FürVorleser();
+    QRect Sicht() const;
+    QRect OrtVon(const Umgebung &cm) const;
+    void Machen(Element element, Elementtat tat);
+
     LeinwandFläche &leinwand_;
+    std::unique_ptr<Seitenbaum> baum_;
     frmMain *haupt_ = nullptr;
     const Anblick *anblick_ = nullptr; ///< what it shows
     std::function<void()> erstesBild_;

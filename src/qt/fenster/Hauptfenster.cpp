@@ -13,6 +13,7 @@
 #include "qt/formulare/Formularfenster.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/Svgsinnbild.h"
+#include "qt/zugang/Seitenzugang.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -122,6 +123,7 @@ Hauptfenster::Hauptfenster(const std::string &kommandozeile)
       fläche_(new Arbeitsflaeche(leinwand_)), menüs_(haupt_, [this](std::string_view name) { Ausführen(name); }) {
     OhneDateiverlauf();
     leinwand_.BildschirmSetzen(QGuiApplication::primaryScreen()->size());
+    SeitenzugangEinrichten();
     setCentralWidget(fläche_);
     setAnimated(false);
     setAcceptDrops(true);
@@ -214,6 +216,12 @@ bool Hauptfenster::SitzungBeenden() {
     return haupt_.SitzungBeenden();
 }
 
+/// Nothing is opened when the session has ended.
+void Hauptfenster::Beenden() {
+    übergeben_.clear();
+    haupt_.Beenden();
+}
+
 void Hauptfenster::NachVorn() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
@@ -231,9 +239,11 @@ void Hauptfenster::Übernehmen(const std::string &datei) {
 /// One after the other; each can ask.
 void Hauptfenster::ÜbernahmeFolgen() {
     constexpr int Später = 200; // ms
+    if (übergeben_.empty()) return;
     if (IstBeschäftigt()) return QTimer::singleShot(Später, this, [this] { ÜbernahmeFolgen(); });
-    haupt_.DateiÜbernehmen(übergeben_.front());
-    übergeben_.pop_front();
+    const std::string datei = std::move(übergeben_.front());
+    übergeben_.pop_front(); // before the question, in which more can come, and the session's end
+    haupt_.DateiÜbernehmen(datei);
     if (!übergeben_.empty()) QTimer::singleShot(0, this, [this] { ÜbernahmeFolgen(); });
 }
 
@@ -332,6 +342,8 @@ bool Hauptfenster::ProgrammStarten(const std::string &name) {
     return QFileInfo(eigentlich).isExecutable() && GehörtDemSystem(eigentlich.toStdString()) &&
            QProcess::startDetached(QStringLiteral("pkexec"), {eigentlich});
 }
+
+void Hauptfenster::Ansagen(std::string_view text) { fläche_->Baum().Ansagen(Text(text)); }
 
 void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }
 

@@ -43,6 +43,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void FensterSchließen() override { close(); }
     bool AdresseÖffnen(const std::string &adresse) override;
     bool ProgrammStarten(const std::string &name) override;
+    void Ansagen(std::string_view text) override;
     void FokusAufLeinwand() override;
     std::optional<Fensterlage> Fensterstand() const override;
     void FokusWeitergeben(bool zurück) override;
@@ -57,7 +58,10 @@ class Hauptfenster : public QMainWindow, public Benutzer {
     void Übernehmen(const std::string &datei);
     /// The session's end, as the model has it; the question stands before all else.
     bool SitzungBeenden();
-    void Beenden() { haupt_.Beenden(); }
+    void Beenden();
+    /// Projects that were handed over and found no time before the user closed the window: a start of their own is
+    /// theirs.
+    const std::deque<std::string> &Wartende() const { return übergeben_; }
 
     /// What this window shows, for those who look into the program from outside.
     frmMain &Modell() { return haupt_; }

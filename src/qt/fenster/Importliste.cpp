@@ -5,6 +5,7 @@
 #include "platform/Bedienelemente.h"
 #include "platform/Befehlsnamen.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
 #include "qt/malen/Zeilenbild.h"
 #include "rendering/Sinnbilder.h"
 
@@ -142,7 +143,7 @@ bool Importliste::IstVerlangt(const Anblick &anblick) { return anblick.bedienung
 
 void Importliste::Auffrischen() {
     modell_->Auffrischen();
-    widget()->setAccessibleName(Text(anblick_.bedienung[Name::btnImport].Caption));
+    VorlesenAls(*widget(), Text(anblick_.bedienung[Name::btnImport].Caption));
     setVisible(IstVerlangt(anblick_));
 }
 

@@ -4,11 +4,13 @@
 #include "commands/Menuetafel.h"
 #include "document/Texte.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
 #include "qt/malen/Zeilenbild.h"
 #include "rendering/Ansicht.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
@@ -33,6 +35,14 @@ QString OhneMarken(const std::string &text) { return Text(text).replace(u'&', QL
 void TippZeigen(QAction &aktion, const std::string &tipp) {
     aktion.setToolTip(Tipptext(tipp));
     if (auto *menü = qobject_cast<QMenu *>(aktion.parent())) menü->setToolTipsVisible(true);
+}
+
+/// As the key does it: when the bar is given the first menu instead, readers don't speak those that follow.
+void AltTippen(QWidget &fenster) {
+    QWidget *ziel = QApplication::focusWidget() ? QApplication::focusWidget() : &fenster;
+    for (const auto art : {QEvent::KeyPress, QEvent::KeyRelease})
+        QCoreApplication::postEvent(
+            ziel, new QKeyEvent(art, Qt::Key_Alt, art == QEvent::KeyPress ? Qt::AltModifier : Qt::NoModifier));
 }
 
 /// Sees to a press that dismisses a popup: it is a click on what lies there, as a popup's press is nobody's else.
@@ -114,6 +124,7 @@ int Menüs::Höhe() {
 }
 
 void Menüs::Bauen(QMenuBar &leiste) {
+    leiste_ = &leiste;
     leiste.setMinimumHeight(Höhe());
     for (const Menüzeile &zeile : Menütafel()) {
         if (zeile.Menü != Menüleiste) continue;
@@ -124,8 +135,7 @@ void Menüs::Bauen(QMenuBar &leiste) {
     }
     // The keyboard's way in without a letter.
     const auto *öffnen = new QShortcut(QKeySequence(Qt::Key_F10), &leiste);
-    QObject::connect(öffnen, &QShortcut::activated, &leiste,
-                     [&leiste] { leiste.setActiveAction(leiste.actions().constFirst()); });
+    QObject::connect(öffnen, &QShortcut::activated, &leiste, [&leiste] { AltTippen(*leiste.window()); });
     for (const auto &[zeile, aktion] : einträge_) {
         if (!zeile->Kürzel.empty()) aktion->setShortcut(QKeySequence(Text(zeile->Kürzel), QKeySequence::PortableText));
         if (!aktion->menu() && !aktion->isSeparator())
@@ -140,19 +150,22 @@ void Menüs::Zeigen(const Eintrag &eintrag) {
     if (eintrag.Aktion->isSeparator()) return;
     eintrag.Aktion->setText(Menütext(*eintrag.Zeile, element->Caption, anblick_.ansicht.Sprache));
     if (!element->Tipp.empty()) TippZeigen(*eintrag.Aktion, element->Tipp);
+    if (QMenu *unter = eintrag.Aktion->menu()) VorlesenAls(*unter, eintrag.Aktion->text());
     eintrag.Aktion->setEnabled(element->Enabled);
-    eintrag.Aktion->setCheckable(element->Checked);
+    eintrag.Aktion->setCheckable(IstAnkreuzbar(eintrag.Zeile->Name));
     eintrag.Aktion->setChecked(element->Checked);
 }
 
 void Menüs::Auffrischen() {
     if (einträge_.empty()) return;
+    VorlesenAls(*leiste_, Text(Zweisprachig{"Menüs", "Menus"}.In(anblick_.ansicht.Sprache)));
     haupt_.mnuBearbeiten_Öffnen();
     for (const Eintrag &eintrag : einträge_) Zeigen(eintrag);
 }
 
 std::optional<std::string> Menüs::Popup(std::string_view menü, QPoint ort, QWidget &fenster) {
     const QPointer<QMenu> popup = new QMenu(&fenster);
+    VorlesenAls(*popup, Text(Zweisprachig{"Kontextmenü", "Context Menu"}.In(anblick_.ansicht.Sprache)));
     std::vector<Eintrag> einträge;
     Füllen(*popup, menü, einträge);
     for (const Eintrag &eintrag : einträge) Zeigen(eintrag);

@@ -55,6 +55,7 @@ class Menüs {
     frmMain &haupt_;
     const Anblick &anblick_;
     std::function<void(std::string_view)> ausführen_;
+    QMenuBar *leiste_ = nullptr;
     std::vector<Eintrag> einträge_; ///< of the menu bar
 };
 

@@ -109,7 +109,6 @@ Merkmalfeld::Merkmalfeld(Bildmacher bild, QWidget *palette) : QLabel(palette), b
 void Merkmalfeld::Zeigen(const QString &name, bool gilt) {
     gilt_ = gilt;
     setToolTip(name);
-    setAccessibleName(name);
     update();
 }
 

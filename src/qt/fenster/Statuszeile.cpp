@@ -6,6 +6,8 @@
 #include "qt/fenster/Menues.h"
 #include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
+#include "rendering/Ansicht.h"
 
 #include <QLabel>
 #include <QToolButton>
@@ -72,6 +74,7 @@ Statuszeile::Statuszeile(std::function<void(std::string_view)> ausführen) {
 }
 
 void Statuszeile::Auffrischen(const Anblick &anblick) {
+    VorlesenAls(*this, Text(Zweisprachig{"Statuszeile", "Status Bar"}.In(anblick.ansicht.Sprache)));
     zeigen_(Text(anblick.bedienung[Name::lblStatus].Caption));
     const Bedienelement &knopf = *anblick.bedienung.Finden(Rändername);
     cmdRänder_->setText(Text(knopf.Caption));

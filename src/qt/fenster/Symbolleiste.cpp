@@ -8,6 +8,7 @@
 #include "qt/fenster/Bandknopf.h"
 #include "qt/fenster/Menues.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
 #include "qt/malen/Svgsinnbild.h"
 #include "rendering/Ansicht.h"
 
@@ -78,6 +79,7 @@ void Symbolleiste::MehrAnlegen() {
 
 void Symbolleiste::KnopfAnlegen(const Menüzeile &zeile) {
     auto *aktion = new QAction(this);
+    aktion->setCheckable(IstAnkreuzbar(zeile.Name));
     Knopf knopf{&zeile, aktion};
     if (IstMenü(zeile)) AuswahlAnlegen(knopf);
     else connect(aktion, &QAction::triggered, this, [this, name = zeile.Name] { ausführen_(name); });
@@ -128,10 +130,11 @@ void Symbolleiste::Auffrischen() {
     for (Knopf &knopf : knöpfe_) Zeigen(knopf);
     TrennerZeigen();
     TabstoppSetzen();
+    VorlesenAls(*this, Text(Zweisprachig{"Symbolleiste", "Toolbar"}.In(anblick_.ansicht.Sprache)));
     if (!mehr_) return;
     const QString name = Text(Zweisprachig{"Mehr", "More"}.In(anblick_.ansicht.Sprache));
     mehr_->setToolTip(name);
-    mehr_->setAccessibleName(name);
+    VorlesenAls(*mehr_, name);
 }
 
 void Symbolleiste::Zeigen(Knopf &knopf) {
@@ -139,7 +142,6 @@ void Symbolleiste::Zeigen(Knopf &knopf) {
     if (!element) return;
     knopf.Platz->setVisible(element->Visible);
     knopf.Aktion->setEnabled(element->Enabled);
-    if (element->Checked) knopf.Aktion->setCheckable(true); // that it can be pressed shows when it first is
     knopf.Aktion->setChecked(element->Checked);
     NameZeigen(knopf, *element);
     AuswahlZeigen(knopf);
@@ -150,7 +152,8 @@ void Symbolleiste::NameZeigen(const Knopf &knopf, const Bedienelement &element) 
     const QString name = Text(element.Tipp).simplified();
     knopf.Aktion->setText(text);
     knopf.Aktion->setToolTip(name + Kürzel(knopf.Zeile->Name));
-    knopf.Feld->setAccessibleName(name == text ? name : name + QStringLiteral(": ") + text);
+    VorlesenAls(*knopf.Feld, name == text ? name : name + QStringLiteral(": ") + text);
+    if (QMenu *menü = knopf.Aktion->menu()) VorlesenAls(*menü, name);
 }
 
 /// The ticks of a drop-down. When the ticked row has a picture, the button wears that.

@@ -5,6 +5,7 @@
 #include "platform/Befehlsnamen.h"
 #include "qt/fenster/Palettenknopf.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
 #include "qt/malen/Zeilenbild.h"
 #include "rendering/Sinnbilder.h"
 
@@ -50,6 +51,9 @@ constexpr std::array<Merkmalname, MerkmalAnzahl> Merkmalnamen{{
     {{"Sucht", "Addiction"}, &Personeninfo::Sucht},
     {{"Erkrankung", "Illness"}, &Personeninfo::Erkrankung},
 }};
+
+constexpr Zweisprachig Ja{": ja", ": yes"};
+constexpr Zweisprachig Nein{": nein", ": no"};
 
 /// The row of the table that has the button's state and caption.
 std::string Elementname(int werkzeug) {
@@ -97,19 +101,23 @@ void Werkzeugpalette::Auffrischen() {
     const int breite = anblick_.bereich.picBack.Left / TwipsJePixel;
     setGeometry(0, 0, std::max(breite, 1), parentWidget()->height());
     setVisible(breite > 0);
+    VorlesenAls(*this, Text(Zweisprachig{"Werkzeuge", "Tools"}.In(anblick_.ansicht.Sprache)));
     for (int i = 0; i < Anzahl; ++i) {
         const Bedienelement *element = anblick_.bedienung.Finden(Elementname(Werkzeuge[static_cast<size_t>(i)]));
         if (!element) continue;
         const QString name = Text(element->Caption).trimmed();
         Palettenknopf &knopf = *knöpfe_[static_cast<size_t>(i)];
-        knopf.setAccessibleName(name);
+        VorlesenAls(knopf, name);
         if (!knopf.Berührt) knopf.setToolTip(name); // no other place shows it
         knopf.setEnabled(element->Enabled);
         knopf.setChecked(element->Checked);
     }
     for (size_t i = 0; i < merkmale_.size(); ++i) {
         const Merkmalname &m = Merkmalnamen[i];
-        merkmale_[i]->Zeigen(Text(m.Name.In(anblick_.ansicht.Sprache)), anblick_.lage.Info.*m.Gilt);
+        const QString name = Text(m.Name.In(anblick_.ansicht.Sprache));
+        const bool gilt = anblick_.lage.Info.*m.Gilt;
+        merkmale_[i]->Zeigen(name, gilt);
+        VorlesenAls(*merkmale_[i], name + Text((gilt ? Ja : Nein).In(anblick_.ansicht.Sprache)));
         merkmale_[i]->setVisible(anblick_.lage.Info.Visible);
     }
     fokus_.StoppSetzen();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qt/grund/Tastatur.h"
+#include "qt/zugang/Seitenbaum.h"
 
 #include <QWidget>
 
@@ -19,13 +20,14 @@ class Palettenknopf;
 
 /// The tool palette at the left of the page: the tools in two columns, the delete button, and below them what
 /// holds for the selected person. One stop of the tab order; the arrow keys go from button to button.
-class Werkzeugpalette : public QWidget {
+class Werkzeugpalette : public QWidget, public MitRolle {
   public:
     /// `ausführen` runs the command that a pressed button stands for.
     Werkzeugpalette(QWidget *fläche, frmMain &haupt, std::function<void(std::string_view)> ausführen);
 
     /// Copies the model's states, and the strip beside the frame that the palette has; without one it hides.
     void Auffrischen();
+    QAccessible::Role Rolle() const override { return QAccessible::ToolBar; }
     /// Where a popup opens that was asked for by keyboard: beside the button with the focus, on the screen.
     std::optional<QPoint> Popuport() const;
 

@@ -2,6 +2,7 @@
 
 #include "dialogs/Formular.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
 #include "qt/malen/QtFlaeche.h"
 
 #include <QFontMetricsF>
@@ -61,7 +62,7 @@ void Formularbild::Auffrischen() {
         const Steuerelement &element = *form_.Finden(name);
         if (element.Bei == name_ && element.Visible && !element.Caption.empty()) texte += Text(element.Caption);
     }
-    setAccessibleDescription(texte.join(QStringLiteral(", ")));
+    DazuVorlesen(*this, texte.join(QStringLiteral(", ")));
     updateGeometry();
     update();
 }

@@ -3,6 +3,7 @@
 #include "qt/formulare/Formularteile.h"
 #include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
+#include "qt/grund/Vorlesename.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -14,6 +15,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTimer>
 
 #include <algorithm>
@@ -50,6 +52,13 @@ QString Vorlesbar(QString aufschrift) {
     aufschrift.remove(QLatin1Char('&'));
     while (aufschrift.endsWith(QLatin1Char(':'))) aufschrift.chop(1);
     return aufschrift;
+}
+
+/// Tab comes to the chosen one of a group. The toolkit sees to that itself only once one of them has had the focus.
+void TabstoppSetzen(const QButtonGroup &gruppe) {
+    if (!gruppe.checkedButton()) return;
+    for (QAbstractButton *knopf : gruppe.buttons())
+        knopf->setFocusPolicy(knopf == gruppe.checkedButton() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 } // namespace
@@ -151,22 +160,34 @@ void Formularfenster::Auffrischen() {
     for (QButtonGroup *gruppe : gruppen) gruppe->setExclusive(false);
     for (const auto &name : form_.Reihenfolge())
         if (const auto teil = teile_.find(name); teil != teile_.end()) TeilZeigen(*teil->second, form_[name]);
-    for (QButtonGroup *gruppe : gruppen) gruppe->setExclusive(true);
+    for (QButtonGroup *gruppe : gruppen) {
+        gruppe->setExclusive(true);
+        TabstoppSetzen(*gruppe);
+    }
     Benennen();
     RahmenErklären();
 }
 
-/// A box is called what its label says, without one what its frame does; what has no caption as its tool tip says.
+/// A box is called what its label says, without one what its frame does; what has no caption as its tool tip says, and
+/// a plate of colour besides by that.
 void Formularfenster::Benennen() {
+    std::map<QWidget *, QString> namen;
     for (const auto &[name, teil] : teile_) {
         const Steuerelement &element = form_[name];
         const auto *rahmen = dynamic_cast<QGroupBox *>(teil->parentWidget());
-        if (!element.Tip.empty()) teil->setAccessibleName(Text(element.Tip));
+        if (!element.Tip.empty()) namen[teil] = Text(element.Tip);
         else if (IstBox(element.Kind) || element.Kind == Art::Liste || element.Kind == Art::Listenfeld)
-            teil->setAccessibleName(Vorlesbar(rahmen ? rahmen->title() : windowTitle()));
+            namen[teil] = Vorlesbar(rahmen ? rahmen->title() : windowTitle());
+        if (const auto *platte = dynamic_cast<Farbplatte *>(teil)) namen[teil] += QStringLiteral(": ") + platte->Name();
     }
+    for (auto *blatt : findChildren<QScrollArea *>()) namen[blatt] = windowTitle();
     for (const auto *schild : findChildren<QLabel *>())
-        if (schild->buddy()) schild->buddy()->setAccessibleName(Vorlesbar(schild->text()));
+        if (schild->buddy()) namen[schild->buddy()] = Vorlesbar(schild->text());
+    for (const auto &[teil, name] : namen) {
+        VorlesenAls(*teil, name);
+        // Of a box with a list it is the line in it that gets the focus.
+        if (QLineEdit *zeile = Eingabezeile(*teil); zeile && zeile != teil) VorlesenAls(*zeile, name);
+    }
 }
 
 /// A frame lets the pointer through: the box within it says in its place what it has to say.
@@ -177,7 +198,7 @@ void Formularfenster::RahmenErklären() {
         QWidget &box = *teile_.find(rahmen.Bei)->second;
         const QString warum = rahmen.Visible ? Text(rahmen.Tip) : QString();
         if (rahmen.Visible) box.setToolTip(warum);
-        if (box.accessibleDescription() != warum) box.setAccessibleDescription(warum);
+        DazuVorlesen(box, warum);
     }
 }
 

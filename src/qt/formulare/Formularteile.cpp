@@ -6,6 +6,7 @@
 #include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
@@ -143,6 +144,18 @@ void ListeZeigen(QComboBox &liste, const Steuerelement &element) {
     else if (zeile.hasFocus()) zeile.selectAll(); // the form has put it there itself: the next key replaces it
 }
 
+/// Readers don't speak what is chosen in a list: it is told as its description, and a new choice as another list that
+/// gets the focus.
+void WertVorlesen(QComboBox &liste) {
+    const QString wert = liste.isEditable() ? QString() : liste.currentText();
+    if (liste.accessibleDescription() == wert) return;
+    liste.setAccessibleDescription(wert);
+    if (!liste.hasFocus() || !QAccessible::isActive()) return;
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&liste)));
+    QAccessibleEvent ereignis(&liste, QAccessible::Focus);
+    QAccessible::updateAccessibility(&ereignis);
+}
+
 QFont SchriftVon(const Steuerelement &element) {
     QFont schrift;
     if (!element.FontName.empty()) schrift.setFamily(Text(element.FontName));
@@ -222,7 +235,10 @@ void TeilZeigen(QWidget &teil, const Steuerelement &element) {
     if (auto *rahmen = dynamic_cast<QGroupBox *>(&teil)) rahmen->setTitle(Text(element.Caption));
     if (auto *zeile = dynamic_cast<QLineEdit *>(&teil)) TextZeigen(*zeile, Text(element.Text));
     if (auto *block = dynamic_cast<QTextEdit *>(&teil)) BlockZeigen(*block, element);
-    if (auto *liste = dynamic_cast<QComboBox *>(&teil)) ListeZeigen(*liste, element);
+    if (auto *liste = dynamic_cast<QComboBox *>(&teil)) {
+        ListeZeigen(*liste, element);
+        WertVorlesen(*liste);
+    }
     if (auto *liste = dynamic_cast<QListWidget *>(&teil)) ListenfeldZeigen(*liste, element);
     if (auto *platte = dynamic_cast<Farbplatte *>(&teil)) platte->FarbeZeigen(AlsFarbe(element.Farbwert));
     if (auto *bild = dynamic_cast<Formularbild *>(&teil)) bild->Auffrischen();
@@ -242,7 +258,6 @@ Farbplatte::Farbplatte(QWidget *eltern) : QAbstractButton(eltern) {
 
 void Farbplatte::FarbeZeigen(const QColor &farbe) {
     farbe_ = farbe;
-    setAccessibleDescription(farbe.name());
     update();
 }
 

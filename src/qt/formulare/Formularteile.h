@@ -35,6 +35,7 @@ class Farbplatte : public QAbstractButton {
   public:
     explicit Farbplatte(QWidget *eltern);
     void FarbeZeigen(const QColor &farbe);
+    QString Name() const { return farbe_.name(); } ///< "#c0d1e2"
     QSize sizeHint() const override;
 
   protected:

@@ -42,6 +42,11 @@ Aufruf VorschaubildLesen(const std::vector<std::string> &worte) {
     return a;
 }
 
+bool SpracheLesen(const std::string &text, std::optional<Sprache> &sprache) {
+    if (text == "de" || text == "en") sprache = SpracheAus(text);
+    return sprache && Kürzel(*sprache) == text;
+}
+
 /// Every call that is understood is checked as a whole at its end.
 Aufruf Geprüft(Aufruf a, bool mitDpi) {
     std::error_code fehler; // a file that isn't there yet is no other
@@ -53,6 +58,9 @@ Aufruf Geprüft(Aufruf a, bool mitDpi) {
     } else if (mitDpi) {
         return Falsch("--dpi goes with --export");
     }
+    const bool beschreibt = a.Was == Aufruf::Art::Beschreibung;
+    if (beschreibt && a.Datei.empty()) return Falsch("--describe needs a project file");
+    if (a.InSprache && !beschreibt) return Falsch("--language goes with --describe");
     return a;
 }
 
@@ -83,9 +91,15 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
             a.Was = Aufruf::Art::Version;
             return a;
         } else if (wort == "--export") {
+            if (a.Was == Aufruf::Art::Beschreibung) return Falsch("either --export or --describe");
             if (!hatWert || !a.Ziel.empty()) return Falsch("--export needs one file to write");
             a.Was = Aufruf::Art::Export;
             a.Ziel = worte[++i];
+        } else if (wort == "--describe") {
+            if (a.Was == Aufruf::Art::Export) return Falsch("either --export or --describe");
+            a.Was = Aufruf::Art::Beschreibung;
+        } else if (wort == "--language") {
+            if (!hatWert || !SpracheLesen(worte[++i], a.InSprache)) return Falsch("--language is de or en");
         } else if (wort == "--dpi") {
             if (!hatWert || mitDpi || !DpiLesen(worte[++i], a.Dpi))
                 return Falsch("--dpi needs one whole number from " + std::to_string(KleinsteDpi) + " to " +
@@ -103,6 +117,7 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
 const char *Hilfetext() {
     return "Usage: kinwright [FILE]\n"
            "       kinwright --export OUT [--dpi N] FILE\n"
+           "       kinwright --describe [--language de|en] FILE\n"
            "       kinwright --thumbnail SIZE IN OUT\n"
            "       kinwright /dataimport NAME\n"
            "\n"
@@ -112,16 +127,17 @@ const char *Hilfetext() {
            "  --export OUT  write the page of FILE to OUT and end; the ending of OUT says as what:\n"
            "                .pdf, .svg, .png, .jpg or .bmp. Needs no display.\n"
            "  --dpi N       dots per inch of a picture, 300 if not given\n"
-           "  --thumbnail   write the page of IN into the file OUT, as a .png of at most SIZE x SIZE pixels, and end: "
-           "what\n"
-           "                a file manager shows. Needs no display; writes nothing when IN is damaged.\n"
+           "  --describe    print what the page of FILE shows in plain sentences and end. Needs no display.\n"
+           "  --language L  de or en, what it is described in; if not given, as the program's settings say\n"
+           "  --thumbnail   write the page of IN into the file OUT and end, as a .png of at most SIZE x SIZE pixels:\n"
+           "                what a file manager shows. Needs no display; writes nothing when IN is damaged.\n"
            "  /dataimport   lay out the case of the file NAME.xyz and list the persons of muster.txt, both in the\n"
            "                program's folder; \\dataimport is the same\n"
            "  --help        show this text\n"
            "  --version     show the version\n"
            "\n"
            "Exit status: 0 when all went well; 1 when FILE can't be read, or only in part (what was read is\n"
-           "exported all the same), or OUT can't be written; 2 when the call is wrong.\n";
+           "exported or described all the same), or OUT can't be written; 2 when the call is wrong.\n";
 }
 
 } // namespace kw

@@ -19,10 +19,13 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <deque>
 #include <filesystem>
 #include <new>
 
+#include <spawn.h>
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace {
 
@@ -57,6 +60,18 @@ int Exportieren(const Aufruf &aufruf, int &argc, char **argv) {
     const std::string titel = NameOhneKennung(DateiName(aufruf.Datei));
     const std::string fehler = kw::Exportieren(bild, aufruf.Ziel, aufruf.Dpi, titel);
     if (!fehler.empty()) return Melden(aufruf.Ziel + ": " + fehler, 1);
+    return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
+}
+
+/// The page in words, as the window would tell it.
+int Beschreiben(const Aufruf &aufruf, int &argc, char **argv) {
+    const QCoreApplication anwendung(argc, argv);
+    const QtUhr uhr;
+    Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
+    if (aufruf.InSprache) bild.ansicht.Sprache = *aufruf.InSprache;
+    const std::string schaden = bild.Laden(aufruf.Datei);
+    if (bild.IstGelesen())
+        if (const int ergebnis = Ausgegeben(bild.InWorten())) return ergebnis;
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
 }
 
@@ -95,6 +110,22 @@ std::string Kommandozeile(const Aufruf &aufruf) {
     return pfad.empty() ? aufruf.Import : '"' + pfad + '"';
 }
 
+/// A start of its own for each of these files, beside this one, which is ending: the first that comes behind its end
+/// takes the others. In the bytes of their names, which the toolkit's own way of starting would change.
+void NeuStarten(const std::deque<std::string> &dateien) {
+    posix_spawnattr_t art;
+    if (::posix_spawnattr_init(&art) != 0) return;
+    ::posix_spawnattr_setflags(&art, POSIX_SPAWN_SETSID); // the terminal's end isn't theirs
+    for (std::string datei : dateien) {
+        std::string name = "kinwright";
+        char *worte[] = {name.data(), datei.data(), nullptr};
+        pid_t kind = 0;
+        if (::posix_spawn(&kind, "/proc/self/exe", nullptr, &art, worte, environ) != 0)
+            Melden("cannot open " + datei + ", which was handed over", 1);
+    }
+    ::posix_spawnattr_destroy(&art);
+}
+
 /// A released program leaves no dump of what it held: clients' data. A limit of one byte also keeps the system from
 /// handing the dump to a program that collects them, which none of zero does.
 void OhneSpeicherabbild() {
@@ -116,6 +147,9 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     case Einzelinstanz::Stand::Allein: Melden(instanz.Grund() + "; this window stands alone", 0); break;
     case Einzelinstanz::Stand::Erste: break;
     }
+    // Without it a screen reader that is started later is never heard of.
+    if (!qEnvironmentVariableIsSet("QT_LINUX_ACCESSIBILITY_ALWAYS_ON"))
+        qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
     const QApplication anwendung(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Kinwright"));
     QApplication::setDesktopFileName(QStringLiteral("kinwright")); // by it desktops know whose window it is
@@ -125,7 +159,9 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     instanz.BeiWeiteremStart([&fenster](const std::string &datei) { fenster.Übernehmen(datei); });
     const Sitzungsende ende({[&fenster] { return fenster.SitzungBeenden(); }, [&fenster] { fenster.Beenden(); }});
     fenster.show();
-    return QApplication::exec();
+    const int ergebnis = QApplication::exec();
+    NeuStarten(fenster.Wartende());
+    return ergebnis;
 }
 
 } // namespace
@@ -140,6 +176,7 @@ int main(int argc, char **argv) try {
     case Aufruf::Art::Version: return Ausgegeben("kinwright " + std::string(Programmversion) + "\n");
     case Aufruf::Art::Falsch: return Melden(aufruf.Fehler + "; see kinwright --help", 2);
     case Aufruf::Art::Export: return Exportieren(aufruf, argc, argv);
+    case Aufruf::Art::Beschreibung: return Beschreiben(aufruf, argc, argv);
     case Aufruf::Art::Vorschaubild: return VorschaubildMachen(aufruf, argc, argv);
     case Aufruf::Art::Fenster: break;
     }
