@@ -81,7 +81,18 @@ struct Verlangt {
     bool WähltDatei() const { return Ist("mnuÖffnen", "btnÖffnen"); }
     bool Öffnet() const { return Neu() || WähltDatei() || Befehl.starts_with("mnuRecent"); }
     bool Wartet() const { return Zeile.find("wait ") != Zeile.npos; } ///< for the file of the command line
-    bool Zoomt() const { return Beginnt("wheel") || In("btnZoom") || Ist("btnBildGrößer", "btnBildKleiner"); }
+    bool Zoomt() const {
+        return Beginnt("wheel", "key Ctrl++", "key Ctrl+-", "key Ctrl+0", "key Ctrl+J") || In("btnZoom") ||
+               Ist("btnBildGrößer", "btnBildKleiner");
+    }
+    /// Goes about on the page by keys.
+    bool Wandert() const {
+        constexpr std::string_view Tasten[] = {"Tab",       "Shift+Tab",  "Up",   "Down",      "Left",    "Right",
+                                               "Ctrl+Down", "Ctrl+Right", "Home", "Ctrl+Left", "Ctrl+Up", "End"};
+        return Beginnt("key Ctrl+F") || std::any_of(std::begin(Tasten), std::end(Tasten), [this](auto taste) {
+                   return Zeile == "key " + std::string(taste);
+               });
+    }
     /// Chosen where all shows, saves or prints, and none of those that do something all the same.
     bool ZeigtNur() const {
         return (Beginnt("wheel", "pick") || In("mnuDatei", "mnuAnsicht", "mnuHelp", Werkzeugband, Fensterteile)) &&
@@ -135,6 +146,10 @@ constexpr Schrittregel Schrittregeln[] = {
          return !abgebrochen || (s.Alt.geändert == s.Neu.geändert && Unterschied(s.Alt, s.Neu).empty()); }},
     {"changed by showing", [](const Schritt &s, const Verlangt &v) {
          return !v.ZeigtNur() || WechseltProjekt(s, v) || Unterschied(s.Alt, s.Neu).empty(); }},
+    {"changed by going about", [](const Schritt &s, const Verlangt &v) {
+         const bool inHand = IstLink(s.Alt.lage.Aktion) || s.Alt.lage.Gedrückt;
+         const bool selbe = s.Alt.lage.Aktion == s.Neu.lage.Aktion && s.Alt.auswahl.lstMovedPers == s.Neu.auswahl.lstMovedPers;
+         return !v.Wandert() || inHand || (Unterschied(s.Alt, s.Neu).empty() && selbe); }},
     {"zoom", [](const Schritt &s, const Verlangt &v) {
          const bool darf = v.Zoomt() && s.Neu.ansicht.StrichFaktor == 1 + (s.Neu.zoom > 7);
          return s.Alt.zoom == s.Neu.zoom || darf || WechseltProjekt(s, v); }},

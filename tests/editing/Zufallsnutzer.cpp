@@ -27,7 +27,8 @@ namespace {
 /// %F a frame round one element or two, %C one round a couple, %T, %B and %f what he does in the form of a text, a
 /// relationship, what stood at the last place, %o the entry that opens the last one, %d a form and the menu that opens
 /// it, %c any command, %A an answer, %s and %S a start, %k a project file, %n a name that is too long, %a what he does
-/// when he is offered kept versions. What happens more often stands here twice.
+/// when he is offered kept versions, %K a key, %V one that leads or moves somewhere. What happens more often stands
+/// here twice.
 // clang-format off
 constexpr std::string_view Anfang =
     "profil muster.txt\nW\tK\t1;Eva;Öz;W;1.1.90;J;N;J;N;\t\nW\tK\t2;Jo_;;M;;N;J;N;J;\t\nend\nprofil zufall.xyz\nW\tINFO"
@@ -50,7 +51,17 @@ constexpr std::string_view Handlungen[] = {
     "%A%A%Apress mnuÖffnen", "%Apress mnuRecent(1)", "%Apress mnuRecent(2)", "%A%Apress mnuSichernUnter", "drop 1 %e",
     "press btnAuswahlZuBild|%A%Adrag %e %e", "press btnClipboard|%Adrag %x %e", "%A%Apress mnuExportieren", "hover %t",
     "press btnClipboard|down left %x|move %x|%c|move %x|up %=", "press btnClipboard|%A%c|%Adrag %x %e",
+    "key %K|key %K|key Space|key %K", "key %K|key Space|key %K|key Space", "key %K|key Alt+%V\nkey Alt+%V\nkey Enter",
+    "key %K|key Alt+%V\nkey Alt+%V\nkey Escape", "key Space|key Alt+%V\nkey Alt+%V\nwait 1000", "key %K|key Enter",
+    "tool %t|key %V|key Enter|key Shift+%V|key Enter", "tool %t|key %V|key %K|key Enter", "key Home|key %K|key Space",
+    "key Tab|key Space|tool 13|key %K|key Enter", "key Tab|key Space|tool 14|key %K|key Enter", "key %K|popup %m\nkey Menu",
+    "key Ctrl+A|key Alt+%V\nkey Alt+%V\nkey Enter", "down left %x|move %x|key %K|move %x|up %=", "key %K|key %K|key Del",
 };
+constexpr std::string_view Tasten[] = {"Tab", "Shift+Tab", "Up", "Down", "Left", "Right", "Ctrl+Up", "Ctrl+Down",
+    "Ctrl+Left", "Ctrl+Right", "Shift+Up", "Shift+Down", "Shift+Left", "Shift+Right", "Home", "End", "Ctrl+A", "Escape",
+    "Escape", "F2", "Shift+F10", "PageUp", "Shift+PageDown", "Ctrl++", "Ctrl+-", "Ctrl+0", "Ctrl+J", "F1", "F6",
+    "Ctrl+F a", "Ctrl+F öz"};
+constexpr std::string_view Wege[] = {"Up", "Down", "Left", "Right", "PageUp", "PageDown", "Home", "End"};
 /// Of a user who is out of luck.
 constexpr std::string_view Störungen[] = {
     "crash\n%S|%await 100", "crash\n%S cmd=%k|%await 100|%Await 100", "down left %x|move %x|crash\n%S|%await 100",
@@ -209,6 +220,8 @@ std::string Zufallsnutzer::Eingesetzt(char platzhalter) {
     }
     case 'm': return Eintrag(Wählen(alle_).Menü);
     case 'z': return Eintrag("mnuZwillinge");
+    case 'K': return std::string(Tasten[zufall_() % std::size(Tasten)]);
+    case 'V': return std::string(Wege[zufall_() % std::size(Wege)]);
     case 't': return std::to_string(1 + Würfel(20));
     case 's': return Start(Starts[zufall_() % std::size(Starts)]);
     case 'S': return Start("");
