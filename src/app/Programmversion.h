@@ -4,7 +4,7 @@
 
 namespace kw {
 
-/// As users and settings know it.
-constexpr std::string_view Programmversion = "1.3.015";
+/// As users and settings know it: the build's version, its last part with three digits.
+extern const std::string_view Programmversion;
 
 } // namespace kw

@@ -70,6 +70,12 @@ void PlattformEinrichten(Programm &p, Angaben &angaben) {
 
 } // namespace
 
+std::vector<std::string> Befehlsnamen() {
+    std::vector<std::string> namen;
+    for (const auto &[name, befehl] : AlleBefehle()) namen.emplace_back(name);
+    return namen;
+}
+
 Wiedergabe::Wiedergabe(std::ostream &aus_) : aus(aus_) {
     std::error_code fehler;
     std::string muster = (std::filesystem::temp_directory_path(fehler) / "kinwright-replay-XXXXXX").string();

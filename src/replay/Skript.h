@@ -6,6 +6,7 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <vector>
 
 namespace kw {
 
@@ -51,5 +52,8 @@ class Wiedergabe {
     int starts_ = 0;
     bool gescheitert_ = false;
 };
+
+/// The name of every command of the language, in order.
+std::vector<std::string> Befehlsnamen();
 
 } // namespace kw

@@ -3,6 +3,7 @@
 #include "app/Einzelbild.h"
 #include "document/Dateien.h"
 #include "gui/Programmaufruf.h"
+#include "qt/drucken/Vorschaubild.h"
 #include "qt/grund/QtPlattform.h"
 
 #include <QColor>
@@ -53,6 +54,24 @@ TEST_F(Ausgabe, BilderHabenDieGrößeDerSeiteUndIhreAuflösung) {
             EXPECT_EQ(gelesen.pixelColor(leer), QColor(Qt::white)) << name;
         EXPECT_NEAR(gelesen.pixelColor(272, 272).blue(), 226, 4) << "inside the person, " << name;
     }
+}
+
+/// The file manager names the file that is to be written: by no ending of ours.
+TEST_F(Ausgabe, VorschaubildIstDieGanzeSeiteImQuadrat) {
+    const std::string ziel = Ort("vorschau").toStdString();
+    bild.dokument.cboPersonen.Anhängen("002_1_28.4_19.7_1.2_0__0_0_Eck_Person_1950__");
+    for (const auto &[lage, größe] : {std::pair(1, QSize(181, 256)), std::pair(2, QSize(256, 181))}) {
+        bild.dokument.Seitenlage = lage;
+        EXPECT_EQ(VorschaubildSchreiben(bild, ziel, 256), "");
+        const QImage gelesen(Ort("vorschau"), "png");
+        EXPECT_EQ(gelesen.size(), größe);
+        EXPECT_EQ(gelesen.pixelColor(1, 1), QColor(Qt::white));
+        EXPECT_NEAR(gelesen.pixelColor(40, 40).blue(), 226, 4) << "inside the person, " << lage;
+    }
+    EXPECT_NEAR(QImage(Ort("vorschau"), "png").pixelColor(242, 167).blue(), 226, 4) << "the page's other end";
+    EXPECT_NE(VorschaubildSchreiben(bild, Ort("nirgends/x").toStdString(), 256), "");
+    EXPECT_NE(VorschaubildSchreiben(bild, Ort("x").toStdString(), GrößteKante + 1), "");
+    EXPECT_FALSE(QFile::exists(Ort("x")));
 }
 
 TEST_F(Ausgabe, PdfHatPapierSchriftenUndText) {

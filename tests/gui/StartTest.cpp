@@ -34,7 +34,10 @@ TEST(Aufruf, SagtWasVerlangtIst) {
         {{"--describe", "a.kwp"}, Art::Beschreibung}, {{"a.kwp", "--language", "de", "--describe"}, Art::Beschreibung},
         {{"--describe"}, Art::Falsch}, {{"--describe", "--language", "fr", "a.kwp"}, Art::Falsch},
         {{"--language", "de", "a.kwp"}, Art::Falsch}, {{"--describe", "--export", "o.png", "a.kwp"}, Art::Falsch},
-        {{"--export", "o.png", "--describe", "a.kwp"}, Art::Falsch}};
+        {{"--export", "o.png", "--describe", "a.kwp"}, Art::Falsch},
+        {{"--thumbnail", "128", "-a b.kwp", "--o"}, Art::Vorschaubild}, {{"--thumbnail", "128", "a.kwp"}, Art::Falsch},
+        {{"--thumbnail", "15", "a.kwp", "o"}, Art::Falsch}, {{"--thumbnail", "128", projekt, projekt}, Art::Falsch},
+        {{"--thumbnail", "128", "a.kwp", ""}, Art::Falsch}, {{"a.kwp", "--thumbnail", "128", "o"}, Art::Falsch}};
     // clang-format on
     for (const auto &[worte, art] : fälle) {
         const Aufruf a = AufrufLesen(worte);

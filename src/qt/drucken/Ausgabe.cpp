@@ -123,22 +123,27 @@ Dateibefund Schreiben(const Format &format, Auftrag auftrag, const std::string &
 
 bool IstAusgabeformat(std::string_view ziel) { return FormatFür(ziel) != nullptr; }
 
+Druckauftrag GanzeSeite(Einzelbild &bild, const std::string &titel) {
+    SeiteBestimmen(bild.dokument, bild.ansicht);
+    Druckauftrag seite{titel,
+                       true,
+                       bild.ansicht.SeitenBreite,
+                       bild.ansicht.SeitenHöhe,
+                       [&bild](Zeichenfläche &papier) { bild.AufPapier(papier); },
+                       {}};
+    if (HatUngemesseneTextboxen(bild.dokument)) {
+        QImage probe(1, 1, QImage::Format_RGB32);
+        SeiteDrucken(seite, probe, 1);
+    }
+    return seite;
+}
+
 std::string Exportieren(Einzelbild &bild, const std::string &ziel, int dpi, const std::string &titel) {
     const Format *format = FormatFür(ziel);
     if (!format) return "unknown kind of file";
     if (dpi < KleinsteDpi || dpi > GrößteDpi) return "the resolution is out of range";
-    SeiteBestimmen(bild.dokument, bild.ansicht);
-    const Druckauftrag seite{titel,
-                             true,
-                             bild.ansicht.SeitenBreite,
-                             bild.ansicht.SeitenHöhe,
-                             [&](Zeichenfläche &papier) { bild.AufPapier(papier); },
-                             {}};
     try {
-        if (HatUngemesseneTextboxen(bild.dokument)) {
-            QImage probe(1, 1, QImage::Format_RGB32);
-            SeiteDrucken(seite, probe, 1);
-        }
+        const Druckauftrag seite = GanzeSeite(bild, titel);
         return Schreiben(*format, {seite, dpi, {}}, ziel).Meldung;
     } catch (const std::bad_alloc &) {
         return "not enough memory for the page";

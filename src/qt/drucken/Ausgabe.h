@@ -27,6 +27,10 @@ bool IstAusgabeformat(std::string_view ziel);
 /// Needs a QGuiApplication, no display.
 std::string Exportieren(Einzelbild &bild, const std::string &ziel, int dpi, const std::string &titel);
 
+/// The page of `bild`, which must outlive it, as a print run draws it: set up for its document, its text boxes
+/// measured. Needs a QGuiApplication. Throws std::bad_alloc.
+Druckauftrag GanzeSeite(Einzelbild &bild, const std::string &titel);
+
 /// Draws a job on `gerät`, `geräteJeCm` of whose units are a centimetre, as `aufGerät` puts it there. False when the
 /// device can't be painted or reports a failure.
 bool SeiteDrucken(const Druckauftrag &seite, QPaintDevice &gerät, double geräteJeCm, const QTransform &aufGerät = {});

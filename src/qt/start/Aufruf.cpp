@@ -2,6 +2,7 @@
 
 #include "app/Datenimport.h"
 #include "qt/drucken/Ausgabe.h"
+#include "qt/drucken/Vorschaubild.h"
 
 #include <charconv>
 #include <filesystem>
@@ -18,9 +19,27 @@ Aufruf Falsch(const std::string &fehler) {
     return a;
 }
 
-bool DpiLesen(const std::string &text, int &dpi) {
-    const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), dpi);
-    return fehler == std::errc() && ende == text.data() + text.size() && dpi >= KleinsteDpi && dpi <= GrößteDpi;
+bool ZahlLesen(const std::string &text, int kleinste, int größte, int &zahl) {
+    const auto [ende, fehler] = std::from_chars(text.data(), text.data() + text.size(), zahl);
+    return fehler == std::errc() && ende == text.data() + text.size() && zahl >= kleinste && zahl <= größte;
+}
+
+bool DpiLesen(const std::string &text, int &dpi) { return ZahlLesen(text, KleinsteDpi, GrößteDpi, dpi); }
+
+/// A file manager gives names of any kind: no word behind the option is one itself.
+Aufruf VorschaubildLesen(const std::vector<std::string> &worte) {
+    if (worte.size() != 4) return Falsch("--thumbnail needs SIZE IN OUT, and nothing else");
+    Aufruf a;
+    a.Was = Aufruf::Art::Vorschaubild;
+    a.Datei = worte[2];
+    a.Ziel = worte[3];
+    std::error_code fehler; // a file that isn't there yet is no other
+    if (!ZahlLesen(worte[1], KleinsteKante, GrößteKante, a.Kante))
+        return Falsch("the size of a thumbnail is a whole number from " + std::to_string(KleinsteKante) + " to " +
+                      std::to_string(GrößteKante));
+    if (a.Datei.empty() || a.Ziel.empty()) return Falsch("the name of a file is empty");
+    if (std::filesystem::equivalent(a.Datei, a.Ziel, fehler)) return Falsch("the thumbnail would replace the project");
+    return a;
 }
 
 bool SpracheLesen(const std::string &text, std::optional<Sprache> &sprache) {
@@ -53,6 +72,7 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
         for (const std::string &wort : worte) a.Import += (a.Import.empty() ? "" : " ") + wort;
         return a;
     }
+    if (!worte.empty() && worte.front() == "--thumbnail") return VorschaubildLesen(worte);
     bool optionen = true;
     bool mitDpi = false;
     for (size_t i = 0; i < worte.size(); ++i) {
@@ -85,6 +105,8 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
                 return Falsch("--dpi needs one whole number from " + std::to_string(KleinsteDpi) + " to " +
                               std::to_string(GrößteDpi));
             mitDpi = true;
+        } else if (wort == "--thumbnail") {
+            return Falsch("--thumbnail goes with no other option");
         } else {
             return Falsch("unknown option " + wort);
         }
@@ -96,6 +118,7 @@ const char *Hilfetext() {
     return "Usage: kinwright [FILE]\n"
            "       kinwright --export OUT [--dpi N] FILE\n"
            "       kinwright --describe [--language de|en] FILE\n"
+           "       kinwright --thumbnail SIZE IN OUT\n"
            "       kinwright /dataimport NAME\n"
            "\n"
            "Opens the genogram editor, with the project FILE (.kwp) if one is given. A window that is open already\n"
@@ -106,6 +129,8 @@ const char *Hilfetext() {
            "  --dpi N       dots per inch of a picture, 300 if not given\n"
            "  --describe    print what the page of FILE shows in plain sentences and end. Needs no display.\n"
            "  --language L  de or en, what it is described in; if not given, as the program's settings say\n"
+           "  --thumbnail   write the page of IN into the file OUT and end, as a .png of at most SIZE x SIZE pixels:\n"
+           "                what a file manager shows. Needs no display; writes nothing when IN is damaged.\n"
            "  /dataimport   lay out the case of the file NAME.xyz and list the persons of muster.txt, both in the\n"
            "                program's folder; \\dataimport is the same\n"
            "  --help        show this text\n"

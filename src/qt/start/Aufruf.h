@@ -11,12 +11,13 @@ namespace kw {
 
 /// What the command line asks for.
 struct Aufruf {
-    enum class Art { Fenster, Export, Beschreibung, Hilfe, Version, Falsch };
+    enum class Art { Fenster, Export, Beschreibung, Vorschaubild, Hilfe, Version, Falsch };
     Art Was = Art::Fenster;
     std::string Datei;                ///< the project; empty for none
     std::string Import;               ///< the whole command line of an import, as the model takes it; empty for none
-    std::string Ziel;                 ///< the file to export to
+    std::string Ziel;                 ///< the file to write
     int Dpi = ÜblicheDpi;             ///< of pictures
+    int Kante = 0;                    ///< of a thumbnail, in pixels
     std::optional<Sprache> InSprache; ///< of the description; none for that of the settings
     std::string Fehler;               ///< why it is wrong, one plain line
 };

@@ -3,6 +3,7 @@
 #include "document/Dateien.h"
 #include "document/Texte.h"
 #include "qt/drucken/Ausgabe.h"
+#include "qt/drucken/Vorschaubild.h"
 #include "qt/fenster/Hauptfenster.h"
 #include "qt/grund/QtPlattform.h"
 #include "qt/start/Aufruf.h"
@@ -74,6 +75,18 @@ int Beschreiben(const Aufruf &aufruf, int &argc, char **argv) {
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
 }
 
+/// A page that isn't whole gets no picture, so that nobody takes it for the whole.
+int VorschaubildMachen(const Aufruf &aufruf, int &argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication anwendung(argc, argv);
+    const QtUhr uhr;
+    Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
+    if (const std::string schaden = bild.Laden(aufruf.Datei); !schaden.empty())
+        return Melden(aufruf.Datei + ": " + schaden, 1);
+    const std::string fehler = VorschaubildSchreiben(bild, aufruf.Ziel, aufruf.Kante);
+    return fehler.empty() ? 0 : Melden(aufruf.Ziel + ": " + fehler, 1);
+}
+
 /// The texts of the platform's own dialogs and buttons, which follow the platform's language and not the program's.
 /// The program itself is written from left to right in all its languages.
 void PlattformtexteLaden(QTranslator &texte) {
@@ -128,7 +141,6 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
         qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         return Melden("no display to open a window on; see kinwright --help for exports without one", 1);
-    OhneSpeicherabbild();
     Einzelinstanz instanz; // before the application object: a later start has no use for one
     switch (instanz.Starten(Projektpfad(aufruf))) {
     case Einzelinstanz::Stand::Übergeben: return 0;
@@ -157,6 +169,7 @@ int FensterZeigen(const Aufruf &aufruf, int &argc, char **argv) {
 int main(int argc, char **argv) try {
     std::signal(SIGXFSZ, SIG_IGN); // a file that may not grow so large is told as any that can't be written
     qInstallMessageHandler(Meldung);
+    OhneSpeicherabbild();
     const Aufruf aufruf = AufrufLesen({argv + std::min(argc, 1), argv + argc});
     switch (aufruf.Was) {
     case Aufruf::Art::Hilfe: return Ausgegeben(Hilfetext());
@@ -164,6 +177,7 @@ int main(int argc, char **argv) try {
     case Aufruf::Art::Falsch: return Melden(aufruf.Fehler + "; see kinwright --help", 2);
     case Aufruf::Art::Export: return Exportieren(aufruf, argc, argv);
     case Aufruf::Art::Beschreibung: return Beschreiben(aufruf, argc, argv);
+    case Aufruf::Art::Vorschaubild: return VorschaubildMachen(aufruf, argc, argv);
     case Aufruf::Art::Fenster: break;
     }
     return FensterZeigen(aufruf, argc, argv);
