@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStyle>
 
 #include <set>
@@ -21,6 +22,17 @@
 namespace kw {
 
 namespace {
+
+/// Tab comes to a sheet only when its keys do something there.
+void TabstoppWennEsRollt(QScrollArea &rolle) {
+    const auto setzen = [&rolle] {
+        const bool rollt = rolle.verticalScrollBar()->maximum() > 0 || rolle.horizontalScrollBar()->maximum() > 0;
+        rolle.setFocusPolicy(rollt ? Qt::StrongFocus : Qt::NoFocus);
+    };
+    for (const QScrollBar *leiste : {rolle.verticalScrollBar(), rolle.horizontalScrollBar()})
+        QObject::connect(leiste, &QScrollBar::rangeChanged, &rolle, setzen);
+    setzen();
+}
 
 /// Builds layouts from a plan's rows, and remembers which of the form's widgets have found a place.
 class Baumeister {
@@ -164,6 +176,7 @@ void Baumeister::BlattÖffnen(const Baustein &b) {
     blatt->setAutoFillBackground(true);
     Einfügen(b, rolle);
     offen_.push_back(new QVBoxLayout(blatt));
+    TabstoppWennEsRollt(*rolle);
 }
 
 /// Two columns: a label in front of the box that follows it; what needs no label goes through both.
