@@ -134,13 +134,25 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     return true;
 }
 
+void frmMain::ImportzeileEinsetzen(int zeile) {
+    const int vorher = dokument.cboPersonen.Anzahl();
+    const Seitenort ort = tastatur.FreierOrt();
+    ImportzeileAblegen(zeile, ort.X, ort.Y);
+    if (dokument.cboPersonen.Anzahl() == vorher) return;
+    tastatur.ZurLetztenPerson();
+    NachEreignis();
+    CursorInsBild();
+}
+
 bool frmMain::TasteDrücken(const Tastendruck &taste) {
     vorgelesen_ = nullptr;
     const auto vorher = tastatur.Cursor().Text(dokument);
     const bool unterwegs = tastatur.IstUnterwegs();
     const Fenstertaste *fenstertaste = FenstertasteFinden(taste);
     Befehlsumgebung umgebung = FürBefehle();
+    tastatur.Benutzt();
     if (fenstertaste) tastatur.LaufBeenden();
+    else if (!taste.Ist(Taste::Escape) && !lage.Gedrückt) CursorInsBild(); // a menu opens where the keyboard is
     const bool gemeint = fenstertaste ? (fenstertaste->Ausführen(umgebung), true) : tastatur.Drücken(taste);
     if (unterwegs || tastatur.IstUnterwegs()) anzeige.UndoKnöpfeZeigen(tastatur.IstUnterwegs());
     NachEreignis();

@@ -8,6 +8,7 @@
 #include "editing/Absagen.h"
 #include "editing/Leinwandlage.h"
 #include "editing/Werkzeuge.h"
+#include "keyboard/Tastatur.h"
 #include "platform/Bedienelemente.h"
 #include "rendering/Ansicht.h"
 
@@ -92,6 +93,27 @@ constexpr Zweisprachig Geschwister{"Rechte Taste im Rahmen: als Zwillinge darste
                                    "Right button within the frame: represent as twins, menu; Del deletes"};
 constexpr Zweisprachig ZweiPersonen{"Im Rahmen ziehen verschiebt beide; Zwillinge der beiden: Werkzeug links",
                                     "Drag within the frame to move both; twins of the two: tool at the left"};
+// With keys.
+constexpr Zweisprachig MitKreuzSetzen{"Pfeiltasten bewegen das Kreuz, Enter setzt; Esc bricht ab",
+                                      "arrow keys move the cross, Enter places; Esc cancels"};
+constexpr Zweisprachig AnfangSetzen{"Pfeiltasten bewegen das Kreuz, Enter setzt den Anfang; Esc bricht ab",
+                                    "arrow keys move the cross, Enter sets the start; Esc cancels"};
+constexpr Zweisprachig EndeSetzen{"Enter setzt das Ende; Esc nimmt den Anfang zurück",
+                                  "Enter sets the end; Esc takes the start back"};
+constexpr Zweisprachig ErstenPunktSetzen{"Pfeiltasten bewegen das Kreuz, Enter setzt den ersten Punkt; Esc bricht ab",
+                                         "arrow keys move the cross, Enter sets the first point; Esc cancels"};
+constexpr Zweisprachig PunktSetzen{"Enter setzt den nächsten Punkt, am ersten schließt er die Linie; Esc verwirft",
+                                   "Enter sets the next point, at the first one it closes the line; Esc discards"};
+constexpr Zweisprachig LinieUmlegen{"Enter legt die Linie um die Auswahl; Esc bricht ab",
+                                    "Enter lays the line round the selection; Esc cancels"};
+constexpr Zweisprachig ZielMitTasten{"Tab geht zum nächsten Ziel, Enter verknüpft; Esc bricht ab",
+                                     "Tab goes to the next target, Enter links; Esc cancels"};
+constexpr Zweisprachig AmElement{
+    "Leertaste wählt aus; Enter: Formular; Menütaste: Menü; Alt und Pfeiltasten verschieben",
+    "Space selects; Enter: form; menu key: menu; Alt and arrow keys move"};
+constexpr Zweisprachig MitAuswahl{"Alt und Pfeiltasten verschieben; Menütaste: Menü; Entf löscht; Esc hebt auf",
+                                  "Alt and arrow keys move; menu key: menu; Del deletes; Esc ends the selection"};
+
 constexpr Zweisprachig LeereSeite{"Links ein Symbol anklicken, dann auf die Seite klicken",
                                   "Click a symbol at the left, then click the page"};
 constexpr Zweisprachig Untätig{"Ein Klick wählt aus, ein Rahmen mehrere; rechte Taste: Menü",
@@ -193,15 +215,34 @@ std::string_view Wegweiser::Aussehen() const {
     return zeichen == std::end(AussehenUngeborener) ? std::string_view() : zeichen->Aussehen.In(z_.ansicht.Sprache);
 }
 
+/// With the name of the tool in hand before it, if one is.
+std::string Wegweiser::MitWerkzeugnamen(std::string schritt) const {
+    for (int nummer = 1; nummer <= WerkzeugAnzahl; ++nummer)
+        if (!IstLink(z_.lage.Aktion) && WerkzeugGedrückt(nummer, z_.lage))
+            return std::string(Getrimmt(bedienung_.Mit(WerkzeugName(nummer)).Caption)) + ": " + schritt;
+    return schritt;
+}
+
+/// The same for who works with keys: what the cursor, the cross or a link does next. None where keys do nothing else.
+const Zweisprachig *Wegweiser::NächsteTaste() const {
+    const Leinwandlage &lage = z_.lage;
+    const bool zeichnet = z_.tastatur.MitKreuz().Zeichnet();
+    if (!z_.tastatur.Sichtbar()) return nullptr;
+    if (lage.BildAuswahl || lage.Aktion == Aktion::PfeilZeichnen) return zeichnet ? &EndeSetzen : &AnfangSetzen;
+    if (lage.Aktion == Aktion::KreisZeichnen)
+        return zeichnet ? &PunktSetzen : z_.tastatur.MitKreuz().UmrisstAuswahl() ? &LinieUmlegen : &ErstenPunktSetzen;
+    if (IstBereit(lage)) return &MitKreuzSetzen;
+    if (IstLink(lage.Aktion)) return &ZielMitTasten;
+    if (lage.Gedrückt || !z_.tastatur.Cursor().Element()) return nullptr;
+    return z_.auswahl.Leer() && lage.Aktion == Aktion::Nichts ? &AmElement : &MitAuswahl;
+}
+
 std::string Wegweiser::NächsterSchritt() const {
     const Leinwandlage &lage = z_.lage;
     const auto text = [&](const Zweisprachig &t) { return std::string(t.In(z_.ansicht.Sprache)); };
+    if (const Zweisprachig *taste = NächsteTaste()) return MitWerkzeugnamen(text(*taste));
     if (lage.BildAuswahl) return text(lage.bAuswahlInDatei ? BildInDatei : BildInAblage);
-    if (const Zweisprachig *schritt = Suchen(Werkzeugschritte, lage.Aktion)) {
-        for (int nummer = 1; nummer <= WerkzeugAnzahl; ++nummer)
-            if (WerkzeugGedrückt(nummer, lage))
-                return std::string(Getrimmt(bedienung_.Mit(WerkzeugName(nummer)).Caption)) + ": " + text(*schritt);
-    }
+    if (const Zweisprachig *schritt = Suchen(Werkzeugschritte, lage.Aktion)) return MitWerkzeugnamen(text(*schritt));
     if (const Zweisprachig *zug = Suchen(Züge, lage.Aktion)) return text(*zug);
     const bool gruppe = lage.Aktion == Aktion::GruppeGewählt;
     if (gruppe && lage.Angebot.Zwillinge) return text(Geschwister);

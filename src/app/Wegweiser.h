@@ -6,6 +6,7 @@
 namespace kw {
 
 class Bedienelemente;
+class Tastatur;
 class UndoRing;
 struct Ansicht;
 struct Auswahl;
@@ -25,6 +26,7 @@ class Wegweiser {
         const Auswahl &auswahl;
         const Leinwandlage &lage;
         const UndoRing &ring;
+        const Tastatur &tastatur;
     };
     Wegweiser(Bedienelemente &bedienung, Zustand zustand) : bedienung_(bedienung), z_(zustand) {}
 
@@ -41,6 +43,8 @@ class Wegweiser {
     std::string KnopfZeile() const;
     std::string_view Aussehen() const;
     std::string NächsterSchritt() const;
+    std::string MitWerkzeugnamen(std::string schritt) const;
+    const Zweisprachig *NächsteTaste() const;
 
     Bedienelemente &bedienung_;
     const Zustand z_;

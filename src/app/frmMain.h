@@ -116,6 +116,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void DateiÜbernehmen(const std::string &pfad);
     /// A line of the import list, from 0, has been dragged onto the page.
     void ImportzeileAblegen(int zeile, double x, double y);
+    /// The same without a pointer: beside where the keyboard is on the page.
+    void ImportzeileEinsetzen(int zeile);
     /// The pointer has come over the palette's button `werkzeug`, or is over none (0).
     void PaletteBerührt(int werkzeug);
 

@@ -77,6 +77,8 @@ constexpr Zweisprachig Genogramm{"Genogramm: %", "Genogram: %"};
 constexpr Zweisprachig Verknüpft{"verknüpft: %", "linked: %"};
 constexpr Zweisprachig Eingefügt{"eingefügt: %", "inserted: %"};
 constexpr Zweisprachig Gelöscht{"gelöscht: %", "deleted: %"};
+constexpr Zweisprachig LegendeEin{"Legende eingeblendet", "legend shown"};
+constexpr Zweisprachig LegendeAus{"Legende ausgeblendet", "legend hidden"};
 constexpr Zweisprachig Ort{"% und % cm", "% and % cm"};
 constexpr Zweisprachig EinesVerschoben{"verschoben, Mitte bei %", "moved, centre at %"};
 constexpr Zweisprachig MehrereVerschoben{"% Elemente verschoben", "% elements moved"};
@@ -104,14 +106,21 @@ Zeilen Nur(const Zeilen &zeilen, bool verknüpfungen) {
     return davon;
 }
 
+/// The legend is neither made nor deleted, and nothing of it comes with anything else.
+bool NurLegende(const Zeilen &zeilen) {
+    return zeilen.size() == 1 && zeilen.front().Element.Art == Elementart::Legende;
+}
+
 /// Lines come and go with their persons: they are named only when they are all.
 std::string Gelöschtes(const Zeilen &zeilen, Sprache sprache) {
+    if (NurLegende(zeilen)) return std::string(LegendeAus.In(sprache));
     const Zeilen dinge = Nur(zeilen, false);
     return zeilen.empty() ? std::string()
                           : Eingesetzt(Gelöscht, sprache, {Genannt(dinge.empty() ? zeilen : dinge, sprache)});
 }
 
 std::string Eingefügtes(const Zeilen &zeilen, Sprache sprache) {
+    if (NurLegende(zeilen)) return std::string(LegendeEin.In(sprache));
     const Zeilen dinge = Nur(zeilen, false);
     const Zeilen linien = Nur(zeilen, true);
     return Verbunden({dinge.empty() ? std::string() : Eingesetzt(Eingefügt, sprache, {Genannt(dinge, sprache)}),

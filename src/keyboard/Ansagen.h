@@ -10,6 +10,14 @@ namespace kw {
 inline constexpr Zweisprachig AmSeitenrand{"Hier endet die Seite.", "The page ends here."};
 inline constexpr Zweisprachig HierLiegtEinPunkt{"Hier liegt der letzte Punkt; der erste schließt die Linie.",
                                                 "The last point is here; the first one closes the line."};
+inline constexpr Zweisprachig PunktGesetzt{"Punkt gesetzt; der erste schließt die Linie.",
+                                           "Point set; the first one closes the line."};
+inline constexpr Zweisprachig GanzerPfeil{"Der ganze Pfeil: Alt und Pfeiltasten verschieben ihn.",
+                                          "The whole arrow: Alt and arrow keys move it."};
+inline constexpr Zweisprachig ErstesEnde{"Anfang des Pfeils: Alt und Pfeiltasten verschieben ihn.",
+                                         "Start of the arrow: Alt and arrow keys move it."};
+inline constexpr Zweisprachig ZweitesEnde{"Ende des Pfeils: Alt und Pfeiltasten verschieben es.",
+                                          "End of the arrow: Alt and arrow keys move it."};
 inline constexpr Zweisprachig NichtsDort{"Dort ist nichts.", "Nothing there."};
 inline constexpr Zweisprachig NichtsGewählt{"Zuerst mit Tab zu einem Element gehen.",
                                             "Go to an element first, with Tab."};

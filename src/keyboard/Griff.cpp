@@ -13,6 +13,7 @@
 #include "editing/Personen.h"
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
+#include "keyboard/Ansagen.h"
 #include "platform/Befehlsnamen.h"
 
 #include <algorithm>
@@ -68,6 +69,7 @@ void FormÖffnen(Werkbank &w, Element element, Formularname form) {
 }
 
 void TextÖffnen(Werkbank &w, int position) {
+    NichtsAuswählen(w);
     TextboxAuswählen(w, position);
     w.lage.Aktion = Aktion::TextDialog;
     w.fenster.Vorschau();
@@ -76,9 +78,12 @@ void TextÖffnen(Werkbank &w, int position) {
 
 /// The whole, its second end, its first, and so on.
 void PfeilWeiterreichen(Werkbank &w, int position) {
-    const bool gewählt = IstGewählt(w.dokument, w.auswahl, w.lage, {Elementart::Pfeil, position});
-    const int ende = EndeInHand(w.lage, position);
-    PfeilFassen(w, position, !gewählt || ende == 1 ? 0 : ende == 2 ? 1 : 2);
+    const Element pfeil{Elementart::Pfeil, position};
+    const bool allein = w.lage.Aktion != Aktion::GruppeGewählt && IstGewählt(w.dokument, w.auswahl, w.lage, pfeil);
+    const int ende = !allein || EndeInHand(w.lage, position) == 1 ? 0 : EndeInHand(w.lage, position) == 2 ? 1 : 2;
+    if (!allein) NichtsAuswählen(w);
+    PfeilFassen(w, position, ende);
+    w.lage.Hinweis = ende == 0 ? &GanzerPfeil : ende == 1 ? &ErstesEnde : &ZweitesEnde;
 }
 
 /// Enters an element of a group in the list of its kind.

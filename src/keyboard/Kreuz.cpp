@@ -92,7 +92,7 @@ Seitenort Kreuz::Bewegt(Seitenort ort, int schritteX, int schritteY) {
 std::optional<Element> Kreuz::Ansetzen(Seitenort ort) {
     const auto vorher = Bestand(w_.dokument);
     Leinwand leinwand(w_);
-    if (w_.lage.Gedrückt) {
+    if (Zeichnet()) {
         Weiterführen(ort);
     } else if (w_.lage.Aktion == Aktion::KreisZeichnen && umriss_) {
         KreislinieUm(*std::exchange(umriss_, std::nullopt));
@@ -100,6 +100,7 @@ std::optional<Element> Kreuz::Ansetzen(Seitenort ort) {
         const bool zweiEnden = HatZweiEnden(w_.lage);
         leinwand.WerkzeugAnsetzen(ort.X, ort.Y);
         anfang_ = letzter_ = ort;
+        zeichnet_ = zweiEnden;
         if (!zweiEnden) leinwand.MouseUp(TasteLinks, ort.X, ort.Y);
     }
     return Neues(w_.dokument, vorher);
@@ -119,6 +120,7 @@ void Kreuz::Weiterführen(Seitenort ort) {
     } else {
         KreisPunktSetzen(w_, {ort.X, ort.Y});
         letzter_ = ort;
+        w_.lage.Hinweis = &PunktGesetzt;
     }
 }
 

@@ -20,6 +20,12 @@ class Kreuz {
 
     /// What was selected when the tool was taken: the circle line is laid round that by the first Enter.
     void UmrissMerken(const std::optional<Umgebung> &umriss) { umriss_ = umriss; }
+    /// Whether something is being drawn by keys: begun by an Enter and not ended.
+    bool Zeichnet() const { return zeichnet_ && w_.lage.Gedrückt; }
+    /// The pointer takes over.
+    void Ablegen() { zeichnet_ = false; }
+    /// Whether the first Enter lays a circle line round what was selected.
+    bool UmrisstAuswahl() const { return umriss_.has_value() && !Zeichnet(); }
     /// Enter: places, begins or ends. What has been made, if something has.
     std::optional<Element> Ansetzen(Seitenort ort);
 
@@ -29,6 +35,7 @@ class Kreuz {
 
     Werkbank &w_;
     std::optional<Umgebung> umriss_;
+    bool zeichnet_ = false;
     Seitenort anfang_; ///< of the stroke in the making
     Seitenort letzter_;
 };

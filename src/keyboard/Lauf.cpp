@@ -1,5 +1,6 @@
 #include "keyboard/Lauf.h"
 
+#include "document/Zahlen.h"
 #include "editing/Gruppe.h"
 #include "editing/Kreislinien.h"
 #include "editing/Leinwand.h"
@@ -60,7 +61,8 @@ void Lauf::Ziehen(double dx, double dy) {
                w_.ablage,   w_.legende, w_.picVorschau, w_.benutzer, still};
     Leinwand leinwand(w);
     const auto &element = anfang_->element;
-    const Seitenort von = element ? Greifort(w, *element) : Seitenort{w.auflagen.shpBox.Left, w.auflagen.shpBox.Top};
+    const Seitenort mitte = element ? Greifort(w, *element) : Seitenort{w.auflagen.shpBox.Left, w.auflagen.shpBox.Top};
+    const Seitenort von{Gerundet(mitte.X, 2), Gerundet(mitte.Y, 2)}; // as gestures remember a press
     const Ereignis bis{TasteLinks, von.X + dx, von.Y + dy};
     if (element) {
         Fassen(w, *element, {TasteLinks, von.X, von.Y});

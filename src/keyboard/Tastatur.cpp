@@ -42,12 +42,19 @@ template <size_t N> const Pfeiltaste *Finden(const Pfeiltaste (&tasten)[N], Tast
     return zeile == std::end(tasten) ? nullptr : zeile;
 }
 
+/// What a held key mustn't do again: it would go on in the form or the menu that it has opened.
+bool WirktEinmal(const Tastendruck &t) {
+    constexpr Taste Einmalige[] = {Taste::Eingabe, Taste::F2, Taste::Escape, Taste::Menü, Taste::F10};
+    return t.Wiederholt && std::find(std::begin(Einmalige), std::end(Einmalige), t.Taste) != std::end(Einmalige);
+}
+
 bool Jedes(Element) { return true; }
 bool IstPerson(Element e) { return e.Art == Elementart::Person; }
 
 } // namespace
 
 bool Tastatur::Drücken(const Tastendruck &t) {
+    if (GehörtDerMaus(t) || WirktEinmal(t)) return true;
     sichtbar_ = true;
     w_.lage.Hinweis = nullptr;
     if (t.Taste != Taste::Leer) leertaste_ = false;
@@ -56,6 +63,11 @@ bool Tastatur::Drücken(const Tastendruck &t) {
     if (IstBereit(w_.lage)) return MitWerkzeug(t);
     if (IstLink(w_.lage.Aktion)) return MitLink(t);
     return Verschieben(t) || Gehen(t) || Handeln(t);
+}
+
+/// While a button drags something only Escape counts: another key would make another gesture of it.
+bool Tastatur::GehörtDerMaus(const Tastendruck &t) const {
+    return w_.lage.Gedrückt && !kreuz_.Zeichnet() && !t.Ist(Taste::Escape);
 }
 
 /// Enter and Escape end a run and do nothing else; every other key ends it first.
@@ -109,7 +121,12 @@ bool Tastatur::MitLink(const Tastendruck &t) {
         Verknüpfen();
         return true;
     }
-    if (t.Strg || t.Alt || !Wandern(t, Ziele())) return false;
+    if (t.Strg || t.Alt) return false;
+    if (!Äußerstes(w_.dokument, false, Ziele())) { // the keyboard doesn't leave without a word
+        w_.lage.Hinweis = &KeinZiel;
+        return true;
+    }
+    if (!Wandern(t, Ziele())) return false;
     ZielZeigen();
     return true;
 }
@@ -254,6 +271,7 @@ bool Tastatur::Suchen(std::string_view text) {
 
 void Tastatur::MausGedrückt() {
     lauf_.Beenden();
+    kreuz_.Ablegen();
     sichtbar_ = leertaste_ = false;
 }
 
@@ -282,6 +300,18 @@ void Tastatur::NachEreignis() {
     if (!sichtbar_ && !link_ && w_.lage.Aktion != Aktion::GruppeGewählt)
         if (const auto gewählte = Gewählte(w_); gewählte.size() == 1) cursor_.Setzen(w_.dokument, gewählte.front());
     Zeigen();
+}
+
+Seitenort Tastatur::FreierOrt() const {
+    constexpr double Daneben = 1.8; // cm, between the centres of two persons
+    auto rahmen = Rahmen();
+    if (rahmen) rahmen->Links = rahmen->Rechts = rahmen->MitteX() + Daneben;
+    return kreuz_.Anfang(rahmen);
+}
+
+void Tastatur::ZurLetztenPerson() {
+    sichtbar_ = true;
+    cursor_.Setzen(w_.dokument, {Elementart::Person, w_.dokument.cboPersonen.Anzahl() - 1});
 }
 
 std::optional<Umgebung> Tastatur::Rahmen() const {

@@ -32,6 +32,8 @@ class Tastatur {
     void LaufBeenden() { lauf_.Beenden(); }
     /// Whether such a run has moved something that no snapshot holds yet.
     bool IstUnterwegs() const { return lauf_.HatWeg(); }
+    /// The keyboard is used, wherever: where it is on the page shows.
+    void Benutzt() { sichtbar_ = true; }
     /// The pointer is used: the cursor goes with what it selects, and doesn't show.
     void MausGedrückt();
     void MausBewegt();
@@ -45,8 +47,15 @@ class Tastatur {
     const Seitencursor &Cursor() const { return cursor_; }
     /// Whether the keyboard is what was used last, so that the cursor shows.
     bool Sichtbar() const { return sichtbar_; }
+    /// What the tool in hand is doing without the pointer.
+    const Kreuz &MitKreuz() const { return kreuz_; }
+    /// A place for something new: beside the cursor's element, else in the page's middle; cm, on the raster.
+    Seitenort FreierOrt() const;
+    /// What has come last among the persons has the cursor.
+    void ZurLetztenPerson();
 
   private:
+    bool GehörtDerMaus(const Tastendruck &t) const;
     bool ImLauf(const Tastendruck &t);
     bool Verschieben(const Tastendruck &t);
     bool MitWerkzeug(const Tastendruck &t);

@@ -131,6 +131,7 @@ void Ablegen(Wiedergabe &lauf, const Wörter &w) {
     const int zeile = Zahl(Wort(w, 1));
     if (zeile < 0 || zeile >= static_cast<int>(p.innen.import.Listenzeilen.size()))
         throw Skriptfehler("no such row: " + w[1]);
+    if (w.size() == 2) return p.haupt->ImportzeileEinsetzen(zeile); // by Enter
     p.haupt->ImportzeileAblegen(zeile, Dezimalzahl(Wort(w, 2)), Dezimalzahl(Wort(w, 3)));
 }
 

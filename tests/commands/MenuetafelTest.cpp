@@ -5,6 +5,8 @@
 #include "replay/Programm.h"
 #include "replay/Skript.h"
 
+#include <gtest/gtest.h>
+
 #include <filesystem>
 #include <set>
 #include <sstream>

@@ -448,7 +448,7 @@ TEST_F(Bedienung, ImportzeileFälltNurAufDieSeite) {
     for (const char *zeile : {"1;Jörg;Öz;M;;N;N;N;J", "2;Eva;;W;1.2.1980;J", "3;Kim;Ude;X"})
         innen.import.Listenzeilen.push_back(ImportpersonAus(zeile));
     Zeigen();
-    Importliste liste(haupt.DerAnblick());
+    Importliste liste(haupt.DerAnblick(), [](int) {});
     QAbstractItemModel &modell = *liste.findChild<QAbstractItemView *>()->model();
     ASSERT_EQ(modell.rowCount(), 3);
     EXPECT_EQ(modell.index(0, 0).data(), QStringLiteral("Jörg Öz"));

@@ -165,7 +165,7 @@ void Arbeitsflaeche::paintEvent(QPaintEvent *ereignis) {
     p.drawImage(QPointF(), leinwand_.Bild());
     const double pixelJeCm = seite.width() / anblick_->ansicht.SeitenBreite;
     AuflagenMalen(p, anblick_->auflagen, anblick_->lage.PfeilArt, pixelJeCm);
-    if (hasFocus()) CursorMalen(p, anblick_->auflagen, pixelJeCm);
+    if (hasFocus() || (suche_ && suche_->hasFocus())) CursorMalen(p, anblick_->auflagen, pixelJeCm);
     if (!erstesBild_) EinstiegMalen(p, (seite & sicht).translated(-seite.topLeft()));
     if (auto erstesBild = std::exchange(erstesBild_, nullptr)) QTimer::singleShot(0, this, erstesBild);
 }

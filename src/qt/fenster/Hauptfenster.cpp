@@ -105,7 +105,7 @@ QWidget *ErsterStopp(QWidget *teil) {
     const auto nimmt = [](const QWidget *w) {
         return w->isVisible() && w->isEnabled() && w->focusPolicy() & Qt::TabFocus;
     };
-    if (!teil || nimmt(teil)) return teil;
+    if (!teil || !teil->isVisible() || nimmt(teil)) return teil && teil->isVisible() ? teil : nullptr;
     for (QWidget *kind : teil->findChildren<QWidget *>())
         if (nimmt(kind)) return kind;
     return nullptr;
@@ -201,7 +201,9 @@ void Hauptfenster::Anzeigen() {
     if (palette_) palette_->Auffrischen();
     if (status_) status_->Auffrischen(haupt_.DerAnblick());
     if (!importliste_ && Importliste::IstVerlangt(haupt_.DerAnblick()))
-        addDockWidget(Qt::RightDockWidgetArea, importliste_ = new Importliste(haupt_.DerAnblick()));
+        addDockWidget(Qt::RightDockWidgetArea, importliste_ = new Importliste(haupt_.DerAnblick(), [this](int zeile) {
+                                                   haupt_.ImportzeileEinsetzen(zeile);
+                                               }));
     if (importliste_) importliste_->Auffrischen();
 }
 
@@ -348,7 +350,7 @@ void Hauptfenster::Ansagen(std::string_view text) { fläche_->Baum().Ansagen(Tex
 void Hauptfenster::FokusAufLeinwand() { fläche_->setFocus(Qt::OtherFocusReason); }
 
 void Hauptfenster::FokusWeitergeben(bool zurück) {
-    const std::array<QWidget *, 4> teile{fläche_, palette_, band_, status_};
+    const std::array<QWidget *, 5> teile{fläche_, palette_, importliste_, band_, status_};
     const auto anzahl = static_cast<int>(teile.size());
     const QWidget *jetzt = QApplication::focusWidget();
     const auto hier = std::find_if(teile.begin(), teile.end(), [&](const QWidget *teil) {

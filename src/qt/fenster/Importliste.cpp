@@ -4,6 +4,7 @@
 #include "document/Importdaten.h"
 #include "platform/Bedienelemente.h"
 #include "platform/Befehlsnamen.h"
+#include "qt/grund/Tastatur.h"
 #include "qt/grund/Text.h"
 #include "qt/grund/Vorlesename.h"
 #include "qt/malen/Zeilenbild.h"
@@ -18,6 +19,7 @@
 
 #include <map>
 #include <tuple>
+#include <utility>
 
 namespace kw {
 
@@ -99,7 +101,8 @@ namespace {
 
 class Listenfeld : public QListView {
   public:
-    Listenfeld(Importmodell &modell, QWidget *eltern) : QListView(eltern), modell_(modell) {
+    Listenfeld(Importmodell &modell, std::function<void(int)> einsetzen, QWidget *eltern)
+        : QListView(eltern), modell_(modell), einsetzen_(std::move(einsetzen)) {
         setModel(&modell);
         setUniformItemSizes(true);
         setIconSize({Bildkante, Bildkante});
@@ -111,6 +114,7 @@ class Listenfeld : public QListView {
     /// Copying and the like are commands of the page.
     void keyPressEvent(QKeyEvent *ereignis) override {
         if (ereignis->matches(QKeySequence::Copy)) ereignis->ignore();
+        else if (IstEnter(ereignis->key()) && currentIndex().isValid()) einsetzen_(currentIndex().row());
         else QListView::keyPressEvent(ereignis);
     }
     void startDrag(Qt::DropActions) override {
@@ -125,17 +129,19 @@ class Listenfeld : public QListView {
 
   private:
     Importmodell &modell_;
+    std::function<void(int)> einsetzen_;
 };
 
 } // namespace
 
-Importliste::Importliste(const Anblick &anblick) : anblick_(anblick), modell_(new Importmodell(anblick, this)) {
+Importliste::Importliste(const Anblick &anblick, std::function<void(int)> einsetzen)
+    : anblick_(anblick), modell_(new Importmodell(anblick, this)) {
     constexpr int KleinsteBreite = 160;
     setObjectName(QStringLiteral("imgVariable"));
     setFeatures(NoDockWidgetFeatures);
     setTitleBarWidget(new QWidget(this)); // none
     setMinimumWidth(KleinsteBreite);
-    setWidget(new Listenfeld(*modell_, this));
+    setWidget(new Listenfeld(*modell_, std::move(einsetzen), this));
     Auffrischen();
 }
 

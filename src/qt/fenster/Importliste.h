@@ -2,6 +2,7 @@
 
 #include <QDockWidget>
 
+#include <functional>
 #include <optional>
 
 class QMimeData;
@@ -14,7 +15,8 @@ struct Anblick;
 /// The persons of the import, to be dragged onto the page. Stands at the window's right while the model says so.
 class Importliste : public QDockWidget {
   public:
-    explicit Importliste(const Anblick &anblick);
+    /// `einsetzen` puts a row, from 0, on the page without the pointer.
+    Importliste(const Anblick &anblick, std::function<void(int)> einsetzen);
 
     /// Whether the model wants the list seen: until then none needs to be made.
     static bool IstVerlangt(const Anblick &anblick);

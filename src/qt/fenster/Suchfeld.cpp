@@ -58,6 +58,12 @@ void Suchfeld::keyPressEvent(QKeyEvent *ereignis) {
     }
 }
 
+/// There is nothing else to go to than the page.
+bool Suchfeld::focusNextPrevChild(bool) {
+    zurück_();
+    return true;
+}
+
 void Suchfeld::focusOutEvent(QFocusEvent *ereignis) {
     QLineEdit::focusOutEvent(ereignis);
     if (ereignis->reason() != Qt::PopupFocusReason && ereignis->reason() != Qt::ActiveWindowFocusReason) hide();

@@ -22,6 +22,7 @@ class Suchfeld : public QLineEdit {
   protected:
     bool event(QEvent *ereignis) override;
     void keyPressEvent(QKeyEvent *ereignis) override;
+    bool focusNextPrevChild(bool nächstes) override;
     void focusOutEvent(QFocusEvent *ereignis) override;
 
   private:
