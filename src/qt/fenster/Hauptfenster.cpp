@@ -163,6 +163,9 @@ std::optional<Fensterlage> Hauptfenster::Fensterstand() const {
     return Fensterlage{{r.x(), r.y(), r.width(), r.height()}, isMaximized()};
 }
 
+/// While the model still lives: the page loses the keyboard as the window goes, and looks at it.
+Hauptfenster::~Hauptfenster() { hide(); }
+
 void Hauptfenster::LeistenBauen() {
     layout()->setEnabled(false); // else the page is laid out anew for each of the following
     setContentsMargins(0, 0, 0, 0);

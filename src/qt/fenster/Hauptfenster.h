@@ -30,6 +30,7 @@ class Hauptfenster : public QMainWindow, public Benutzer {
   public:
     /// `kommandozeile` is raw, as the model takes it.
     explicit Hauptfenster(const std::string &kommandozeile);
+    ~Hauptfenster() override;
 
     Antwort Fragen(const Nachfrage &nachfrage) override;
     std::optional<std::string> DateiÖffnen(const Dateiwahl &wahl) override;
