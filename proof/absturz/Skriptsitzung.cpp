@@ -1,7 +1,7 @@
 #include "absturz/Protokoll.h"
 #include "absturz/Sitzungen.h"
 
-#include "editing/Zufallsnutzer.h"
+#include "zufallsnutzer/Zufallsnutzer.h"
 #include "replay/Programm.h"
 #include "replay/Skript.h"
 
