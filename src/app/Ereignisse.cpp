@@ -55,7 +55,7 @@ void frmMain::GrößeÄndern(int breite, int höhe) {
 }
 
 void frmMain::SeiteFassen(Rahmenort hand) {
-    tastatur.MausGedrückt();
+    tastatur.LaufBeenden(); // what keys are drawing goes on: only the page moves
     bereich.SeiteFassen(hand);
     NachEreignis();
 }

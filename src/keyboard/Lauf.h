@@ -24,6 +24,8 @@ class Lauf {
     bool Schritt(std::optional<Element> ersatz, int schritteX, int schritteY);
     /// The way stays, as one snapshot; nothing without a way.
     void Beenden();
+    /// Another document has come: there is nothing to go back to.
+    void Verwerfen() { anfang_.reset(); }
     /// Everything is as before the run.
     void Zurücknehmen();
 

@@ -54,8 +54,8 @@ bool IstPerson(Element e) { return e.Art == Elementart::Person; }
 } // namespace
 
 bool Tastatur::Drücken(const Tastendruck &t) {
-    if (GehörtDerMaus(t) || WirktEinmal(t)) return true;
-    sichtbar_ = true;
+    // A key during a drag would make another gesture of it.
+    if ((MausZieht() && !t.Ist(Taste::Escape)) || WirktEinmal(t)) return true;
     w_.lage.Hinweis = nullptr;
     if (t.Taste != Taste::Leer) leertaste_ = false;
     if (ImLauf(t)) return true;
@@ -65,10 +65,7 @@ bool Tastatur::Drücken(const Tastendruck &t) {
     return Verschieben(t) || Gehen(t) || Handeln(t);
 }
 
-/// While a button drags something only Escape counts: another key would make another gesture of it.
-bool Tastatur::GehörtDerMaus(const Tastendruck &t) const {
-    return w_.lage.Gedrückt && !kreuz_.Zeichnet() && !t.Ist(Taste::Escape);
-}
+bool Tastatur::MausZieht() const { return w_.lage.Gedrückt && !kreuz_.Zeichnet(); }
 
 /// Enter and Escape end a run and do nothing else; every other key ends it first.
 bool Tastatur::ImLauf(const Tastendruck &t) {

@@ -32,8 +32,8 @@ class Tastatur {
     void LaufBeenden() { lauf_.Beenden(); }
     /// Whether such a run has moved something that no snapshot holds yet.
     bool IstUnterwegs() const { return lauf_.HatWeg(); }
-    /// The keyboard is used, wherever: where it is on the page shows.
-    void Benutzt() { sichtbar_ = true; }
+    /// The keyboard is used, wherever: where it is on the page shows, but while the pointer drags something.
+    void Benutzt() { sichtbar_ = sichtbar_ || !MausZieht(); }
     /// The pointer is used: the cursor goes with what it selects, and doesn't show.
     void MausGedrückt();
     void MausBewegt();
@@ -42,7 +42,10 @@ class Tastatur {
     /// After every event: records, tool and selection may be others.
     void NachEreignis();
     /// Another document.
-    void Vergessen() { cursor_.Vergessen(); }
+    void Vergessen() {
+        lauf_.Verwerfen();
+        cursor_.Vergessen();
+    }
 
     const Seitencursor &Cursor() const { return cursor_; }
     /// Whether the keyboard is what was used last, so that the cursor shows.
@@ -55,7 +58,7 @@ class Tastatur {
     void ZurLetztenPerson();
 
   private:
-    bool GehörtDerMaus(const Tastendruck &t) const;
+    bool MausZieht() const;
     bool ImLauf(const Tastendruck &t);
     bool Verschieben(const Tastendruck &t);
     bool MitWerkzeug(const Tastendruck &t);
