@@ -14,8 +14,6 @@ namespace {
 constexpr int Ruhelage = 100;  ///< of the canvas in its frame when it doesn't fit
 constexpr int Überlauf = 1000; ///< how far one can scroll beyond the page
 constexpr int Schattenversatz = 80;
-constexpr int LuftBreite = 200; ///< a canvas fits when this is left over
-constexpr int LuftHöhe = 600;
 constexpr int PaletteUndRand = 2620; ///< what of the inner width isn't the frame's
 constexpr int PalettenBreite = 960;
 constexpr int Radschritt = 900;         ///< that a notch of the wheel scrolls
@@ -74,8 +72,7 @@ void Arbeitsbereich::ZoomEinpassen() {
     const double jetzt = prozent(cboBildGröße.ListIndex);
     const auto passt = [&](int i) {
         const double faktor = prozent(i) / jetzt;
-        return canvas_.Width() * faktor + LuftBreite <= picBack.Width &&
-               canvas_.Height() * faktor + LuftHöhe <= picBack.Height;
+        return PasstBreite(canvas_.Width() * faktor) && PasstHöhe(canvas_.Height() * faktor);
     };
     int größter = cboBildGröße.Anzahl() - 1;
     while (größter > 0 && !passt(größter)) --größter;
@@ -84,7 +81,7 @@ void Arbeitsbereich::ZoomEinpassen() {
 
 void Arbeitsbereich::Blättern(int richtung, bool seitwärts) {
     constexpr int Rest = 10; // a tenth of the frame stays in sight
-    const int weite = seitwärts ? picBack.Width : picBack.Height;
+    const int weite = seitwärts ? SichtBreite() : SichtHöhe();
     const int weg = richtung * (weite - weite / Rest);
     Scrollen(HScroll1.Value + (seitwärts ? weg : 0), VScroll1.Value + (seitwärts ? 0 : weg));
 }
@@ -98,8 +95,8 @@ void Arbeitsbereich::InsBild(const Seitenkasten &cm) {
         if (anfang < 0) return alt + anfang;
         return ende > rahmen ? alt + std::min(ende - rahmen, anfang) : alt;
     };
-    Scrollen(wert(cm.Links, cm.Rechts, canvasLinks_, picBack.Width, HScroll1.Value),
-             wert(cm.Oben, cm.Unten, canvasOben_, picBack.Height, VScroll1.Value));
+    Scrollen(wert(cm.Links, cm.Rechts, canvasLinks_, SichtBreite(), HScroll1.Value),
+             wert(cm.Oben, cm.Unten, canvasOben_, SichtHöhe(), VScroll1.Value));
 }
 
 void Arbeitsbereich::Mausrad(bool hoch) {
@@ -182,9 +179,8 @@ void Arbeitsbereich::BildlaufleistenSetzen() {
 
 /// A canvas that fits is centred in what shows and has no scroll bar; one that doesn't goes back to its resting place.
 void Arbeitsbereich::ArbeitsbereichAnordnen() {
-    VScroll1.Visible = HScroll1.Visible = true; // what shows beside the bars
-    VScroll1.Visible = canvas_.Height() + LuftHöhe > SichtHöhe();
-    HScroll1.Visible = canvas_.Width() + LuftBreite > SichtBreite();
+    VScroll1.Visible = !PasstHöhe(canvas_.Height());
+    HScroll1.Visible = !PasstBreite(canvas_.Width());
     const auto anfang = [](int canvas, int sicht, Bildlaufleiste &leiste) {
         leiste.Value = 0;
         return leiste.Visible ? Ruhelage : (sicht - canvas) / 2;
@@ -233,14 +229,14 @@ void Arbeitsbereich::LeistenSetzen(int dicke) {
     ArbeitsbereichAnordnen();
 }
 
-int Arbeitsbereich::SichtBreite() const {
+int Arbeitsbereich::SichtBreite(bool mitLeiste) const {
     if (!leistendicke_) return picBack.Width;
-    return VScroll1.Left + (VScroll1.Visible ? 0 : *leistendicke_) - picBack.Left;
+    return VScroll1.Left + (mitLeiste ? 0 : *leistendicke_) - picBack.Left;
 }
 
-int Arbeitsbereich::SichtHöhe() const {
+int Arbeitsbereich::SichtHöhe(bool mitLeiste) const {
     if (!leistendicke_) return picBack.Height;
-    return HScroll1.Top + (HScroll1.Visible ? 0 : *leistendicke_) - picBack.Top;
+    return HScroll1.Top + (mitLeiste ? 0 : *leistendicke_) - picBack.Top;
 }
 
 Rahmenort Arbeitsbereich::InRahmen(double x, double y, double seitenBreite) const {

@@ -126,12 +126,20 @@ class Arbeitsbereich {
     static constexpr int KleinsteBreite = 9000;
 
   private:
+    static constexpr int LuftBreite = 200; ///< a canvas fits when this is left over
+    static constexpr int LuftHöhe = 600;
+
     void LeinwandGroesseSetzen();
     void BildlaufleistenSetzen();
     void ArbeitsbereichAnordnen();
     void SchattenSetzen();
-    int SichtBreite() const; ///< of the frame what isn't covered, and what shows behind it
-    int SichtHöhe() const;
+    int SichtBreite(bool mitLeiste) const;
+    int SichtBreite() const { return SichtBreite(VScroll1.Visible); } ///< of the frame what isn't covered, and what shows behind it
+    int SichtHöhe(bool mitLeiste) const;
+    int SichtHöhe() const { return SichtHöhe(HScroll1.Visible); }
+    /// Whether a canvas of that size needs no scroll bar, measured beside both.
+    bool PasstBreite(double canvas) const { return canvas + LuftBreite <= SichtBreite(true); }
+    bool PasstHöhe(double canvas) const { return canvas + LuftHöhe <= SichtHöhe(true); }
 
     Zeichenfläche &canvas_;
     Ansicht &ansicht_;
