@@ -331,7 +331,7 @@ std::optional<Umgebung> Tastatur::Rahmen() const {
 
 /// The frame round the element, or the cross.
 void Tastatur::Zeigen() {
-    constexpr double Luft = 0.15; // cm between an element and the frame
+    constexpr double Luft = 0.07; // cm between an element and the frame, which leaves a name below to be read
     constexpr double Arm = 0.5;   // cm, of the cross
     auto &[waagrecht, senkrecht] = w_.auflagen.Kreuz;
     w_.auflagen.shpCursor.Visible = waagrecht.Visible = senkrecht.Visible = false;
