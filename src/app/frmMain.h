@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Anblick.h"
+#include "app/Ansager.h"
 #include "app/Anzeige.h"
 #include "app/Darstellung.h"
 #include "app/Datenimport.h"
@@ -145,7 +146,6 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void Absagen(std::string_view name);
     void NachEreignis();
     void Festhalten();
-    void Vorlesen();
     void CursorInsBild();
     void KommandozeileÖffnen();
     void ZweiteStufe();
@@ -193,13 +193,11 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Leinwand leinwand;
     Tastatur tastatur{werkbank};
     Vorleser vorleser{{dokument, ansicht, auswahl, lage, legende, plattform.uhr}};
-    std::optional<Seitenort> vorgelesenerOrt_;
-    std::string vorgelesenerSchritt_;
-    const Zweisprachig *vorgelesen_ = nullptr; ///< why nothing came of the event, when that has been told
-    Rahmenort gedrückt_;                       ///< where in the frame the last press was
-    bool aufgegeben_ = false;                  ///< the closing question was answered with No
-    bool netzGemeldet_ = false;                ///< that the safety net can't be written
-    std::string Kommandozeile;                 ///< trimmed and unquoted
+    Ansager ansager{plattform.benutzer, {vorleser, tastatur, bereich, bedienung, lage, ansicht}};
+    Rahmenort gedrückt_;        ///< where in the frame the last press was
+    bool aufgegeben_ = false;   ///< the closing question was answered with No
+    bool netzGemeldet_ = false; ///< that the safety net can't be written
+    std::string Kommandozeile;  ///< trimmed and unquoted
     const Anblick anblick{
         projekt.Titel, projekt.Geändert,    einstellungen.Fenster, ansicht,  bedienung, bereich,          auflagen,
         lage,          import.Listenzeilen, plattform.uhr,         dokument, legende,   tastatur.Cursor()};
