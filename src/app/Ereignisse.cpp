@@ -111,6 +111,7 @@ void frmMain::Absagen(std::string_view name) {
     lage.Hinweis = grund;
     anzeige.MöglichesZeigen();
     wegweiser.Zeigen();
+    ansager.NachEreignis();
     plattform.benutzer.AnzeigeAuffrischen();
 }
 

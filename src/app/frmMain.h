@@ -89,6 +89,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     /// A key on the page, or in the window where nothing else wants it. False when it has no meaning here now: Tab then
     /// leads on.
     bool TasteDrücken(const Tastendruck &taste);
+    /// A key has opened something beside the page.
+    void TastaturBenutzt() { tastatur.Benutzt(); }
     /// Puts the keyboard's cursor on an element, wherever it is.
     void ElementFokussieren(Element element);
     /// Space has been let go.
