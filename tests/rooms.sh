@@ -11,9 +11,11 @@ below() {
     platform | document) ;;
     rendering) echo document ;;
     editing) echo document rendering ;;
-    dialogs | description | output | commands | keyboard) echo document rendering editing ;;
-    app) echo document rendering editing dialogs description output commands keyboard ;;
-    qt | replay) echo document rendering editing dialogs description output commands keyboard app ;;
+    familytree) echo document ;;
+    dialogs) echo document rendering editing familytree ;;
+    description | output | commands | keyboard) echo document rendering editing ;;
+    app) echo document rendering editing familytree dialogs description output commands keyboard ;;
+    qt | replay) echo document rendering editing familytree dialogs description output commands keyboard app ;;
     *) return 1 ;;
     esac
 }

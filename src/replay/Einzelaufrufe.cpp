@@ -1,7 +1,9 @@
+#include "app/Stammbaumdatei.h"
 #include "document/Codepage.h"
 #include "document/Profil.h"
 #include "replay/Programm.h"
 #include "replay/Skriptbefehle.h"
+#include "replay/Stammbaumausgabe.h"
 
 #include <algorithm>
 
@@ -42,8 +44,16 @@ void Profilaufrufe(Wiedergabe &lauf, const std::string &datei) {
     throw Skriptfehler("profil without end");
 }
 
+void Stammbaumaufruf(std::ostream &aus, const std::string &pfad) {
+    std::string bytes;
+    const auto befund = StammbaumdateiLesen(pfad, bytes);
+    if (!befund.Gelungen()) throw Skriptfehler(pfad + ": " + befund.Text(Sprache::Englisch));
+    StammbaumZeigen(aus, StammbaumLesen(std::move(bytes)));
+}
+
 constexpr Skriptbefehl Tabelle[] = {
     {"age", [](auto &lauf, auto &w, auto &) { AlterBerechnen(lauf, w.size() > 1 ? Ab(w, 1) : ""); }},
+    {"familytree", [](auto &lauf, auto &w, auto &) { Wort(w, 1), Stammbaumaufruf(lauf.aus, Ab(w, 1)); }},
     {"profil", [](auto &lauf, auto &w, auto &) { Profilaufrufe(lauf, Ab(w, 1)); }},
 };
 
