@@ -15,6 +15,9 @@
 // The facts of a family tree's file, as they stand there. What becomes of them on a page tells `Uebernahme`.
 namespace kw {
 
+/// Stands for the place of what isn't in the file.
+constexpr std::uint32_t Keine = 0xFFFFFFFFU;
+
 /// A family that a person says to come from.
 struct Herkunft {
     std::string_view Familie;
@@ -54,6 +57,7 @@ struct Stammkind {
     std::string_view Kennung;
     std::string_view ZumMann, ZurFrau; ///< _FREL and _MREL, in small letters
     std::uint32_t Zeile = 0;
+    std::uint32_t Nummer = Keine; ///< its place among the persons
 };
 
 struct Stammfamilie {

@@ -8,6 +8,9 @@
 #include <algorithm>
 #include <array>
 #include <functional>
+#include <map>
+#include <numeric>
+#include <set>
 #include <utility>
 
 namespace kw {
@@ -22,6 +25,9 @@ constexpr std::array Paarereignisse{"MARR"sv, "DIV"sv,  "ANUL"sv, "ENGA"sv, "DIV
 constexpr std::array Beziehungsmarken{"ASSO"sv, "_ASSO"sv};
 /// The head's line that names the person whose tree it is, by the programs that write one.
 constexpr std::array Hauptmarken{"_ROOT"sv, "_HME"sv};
+
+/// Bytes that hardly a person of a large file goes below.
+constexpr std::size_t SatzlängeMindestens = 400;
 
 template <class Liste> bool Enthält(const Liste &liste, std::string_view text) {
     return std::find(liste.begin(), liste.end(), text) != liste.end();
@@ -41,6 +47,32 @@ bool IstTotgeburt(const Satz &satz, const Knoten &ereignis) {
     return InGroßbuchstaben(worte).find("STILLB") != std::string::npos;
 }
 
+/// Who is a child of which family, by their places. A family may have a hundred thousand children, and a child as many
+/// families: neither list is searched from its start.
+class Nennungen {
+  public:
+    explicit Nennungen(const Stammbaum &baum) : anfänge_(baum.Personen.size() + 1) {
+        const auto fürAlle = [&](auto tun) {
+            for (std::uint32_t familie = 0; familie < baum.Familien.size(); ++familie)
+                for (const auto &kind : baum.Familien[familie].Kinder)
+                    if (kind.Nummer != Keine) tun(kind.Nummer, familie);
+        };
+        fürAlle([&](auto kind, auto) { ++anfänge_[kind + 1]; });
+        std::partial_sum(anfänge_.begin(), anfänge_.end(), anfänge_.begin());
+        familien_.resize(anfänge_.back());
+        auto frei = anfänge_;
+        fürAlle([&](auto kind, auto familie) { familien_[frei[kind]++] = familie; });
+    }
+    bool Nennt(std::uint32_t familie, std::uint32_t kind) const {
+        const auto ort = [&](std::uint32_t i) { return familien_.begin() + static_cast<std::ptrdiff_t>(i); };
+        return std::binary_search(ort(anfänge_[kind]), ort(anfänge_[kind + 1]), familie);
+    }
+
+  private:
+    std::vector<std::uint32_t> anfänge_;  ///< where each person's families begin
+    std::vector<std::uint32_t> familien_; ///< those that name it, rising
+};
+
 } // namespace
 
 Stammbaum StammbaumLesen(std::string bytes) { return Stammbaumleser().Lesen(std::move(bytes)); }
@@ -51,6 +83,7 @@ Stammbaum Stammbaumleser::Lesen(std::string bytes) {
     baum_.Kopf.Benutzt = datei.Benutzt;
     baum_.Kopf.Zeilenenden = Zeilenenden(datei.Text);
     baum_.text_ = std::make_unique<std::string>(std::move(datei.Text));
+    baum_.personen_.reserve(baum_.text_->size() / SatzlängeMindestens);
     Satzleser leser(*baum_.text_);
     for (Satz satz; leser.Nächster(satz, baum_.Warnliste);) Aufnehmen(satz);
     for (const auto &befund : befunde_.Liste()) baum_.Warnliste.Hinzu(befund);
@@ -72,9 +105,8 @@ void Stammbaumleser::KopfLesen(const Satz &satz) {
         if (baum_.Kopf.Hauptperson.empty()) baum_.Kopf.Hauptperson = Zeiger(satz.Text(satz.Wurzel(), marke));
 }
 
-void Stammbaumleser::DoppelteMelden(const Satz &satz, std::unordered_set<std::string_view> &gesehen) {
-    if (!gesehen.insert(satz.Wurzel().Kennung).second)
-        befunde_.Hinzu({Warnungsart::DoppelteKennung, satz.Ort.Zeile, satz.Wurzel().Kennung, {}});
+void Stammbaumleser::DoppelteMelden(const Satz &satz) {
+    befunde_.Hinzu({Warnungsart::DoppelteKennung, satz.Ort.Zeile, satz.Wurzel().Kennung, {}});
 }
 
 std::string_view Stammbaumleser::Behalten(std::string_view text) {
@@ -111,7 +143,8 @@ Ereignis Stammbaumleser::EreignisLesen(const Satz &satz, std::string_view marke,
 }
 
 void Stammbaumleser::PersonLesen(const Satz &satz) {
-    DoppelteMelden(satz, gesehenePersonen_);
+    const auto nummer = static_cast<std::uint32_t>(baum_.Personen.size());
+    if (!baum_.personen_.insert_or_assign(satz.Wurzel().Kennung, nummer).second) DoppelteMelden(satz);
     auto &person = baum_.Personen.emplace_back();
     person.Kennung = satz.Wurzel().Kennung;
     person.Ort = satz.Ort;
@@ -175,7 +208,8 @@ void Stammbaumleser::BeziehungenLesen(const Satz &satz) {
 }
 
 void Stammbaumleser::FamilieLesen(const Satz &satz) {
-    DoppelteMelden(satz, geseheneFamilien_);
+    const auto nummer = static_cast<std::uint32_t>(baum_.Familien.size());
+    if (!baum_.familien_.emplace(satz.Wurzel().Kennung, nummer).second) DoppelteMelden(satz);
     auto &familie = baum_.Familien.emplace_back();
     familie.Kennung = satz.Wurzel().Kennung;
     familie.Ort = satz.Ort;
@@ -206,17 +240,17 @@ void Stammbaumleser::KinderLesen(const Satz &satz, Stammfamilie &familie) {
         if (!genannt.insert(kind).second)
             return befunde_.Hinzu({Warnungsart::KindDoppelt, knoten.Zeile, familie.Kennung, kind});
         familie.Kinder.push_back(
-            {kind, Klein(satz.Text(knoten, "_FREL")), Klein(satz.Text(knoten, "_MREL")), knoten.Zeile});
+            {kind, Klein(satz.Text(knoten, "_FREL")), Klein(satz.Text(knoten, "_MREL")), knoten.Zeile, Keine});
     });
 }
 
 void Stammbaumleser::Verknüpfen() {
-    for (std::uint32_t i = 0; i < baum_.Personen.size(); ++i) baum_.personen_[baum_.Personen[i].Kennung] = i;
-    for (std::uint32_t i = 0; i < baum_.Familien.size(); ++i) baum_.familien_.emplace(baum_.Familien[i].Kennung, i);
     for (auto &familie : baum_.Familien) {
-        for (const auto &kind : familie.Kinder)
-            if (!baum_.Person(kind.Kennung))
-                baum_.Warnliste.Hinzu({Warnungsart::KindFehlt, kind.Zeile, kind.Kennung, {}});
+        for (auto &kind : familie.Kinder) {
+            const auto *const person = baum_.Person(kind.Kennung);
+            if (person) kind.Nummer = static_cast<std::uint32_t>(baum_.Nummer(*person));
+            else baum_.Warnliste.Hinzu({Warnungsart::KindFehlt, kind.Zeile, kind.Kennung, {}});
+        }
         GleichaltrigeSuchen(familie);
     }
     EinseitigeSuchen();
@@ -224,12 +258,12 @@ void Stammbaumleser::Verknüpfen() {
 
 void Stammbaumleser::GleichaltrigeSuchen(Stammfamilie &familie) {
     if (familie.Kinder.size() < 2) return;
-    std::unordered_map<std::string_view, std::size_t> nummern;
+    std::map<std::string_view, std::size_t> nummern;
     std::vector<std::vector<std::string_view>> gruppen;
     for (const auto &kind : familie.Kinder) {
-        const auto *const person = baum_.Person(kind.Kennung);
-        if (!person || !IstTagesdatum(person->Geburt)) continue;
-        const auto nummer = nummern.emplace(person->Geburt, gruppen.size()).first->second;
+        const auto geburt = kind.Nummer == Keine ? Ereignis() : baum_.Personen[kind.Nummer].Geburt;
+        if (!IstTagesdatum(geburt)) continue;
+        const auto nummer = nummern.emplace(geburt, gruppen.size()).first->second;
         if (nummer == gruppen.size()) gruppen.emplace_back();
         gruppen[nummer].push_back(kind.Kennung);
     }
@@ -238,21 +272,16 @@ void Stammbaumleser::GleichaltrigeSuchen(Stammfamilie &familie) {
 }
 
 void Stammbaumleser::EinseitigeSuchen() {
-    // Who is a child of which family, by their places: a family of a hundred thousand mustn't be searched by each.
-    const auto paar = [](std::size_t familie, std::size_t person) { return std::uint64_t{familie} << 32U | person; };
-    std::vector<std::uint64_t> beiderseits;
-    for (const auto &familie : baum_.Familien)
-        for (const auto &kind : familie.Kinder)
-            if (const auto *const person = baum_.Person(kind.Kennung))
-                beiderseits.push_back(paar(baum_.Nummer(familie), baum_.Nummer(*person)));
-    std::sort(beiderseits.begin(), beiderseits.end());
+    const auto nennungen = Nennungen(baum_);
+    const bool eindeutig = baum_.personen_.size() == baum_.Personen.size();
     for (const auto &person : baum_.Personen) {
-        const auto nummer = baum_.personen_.at(person.Kennung); // of several persons of one name all are meant
+        if (person.Eltern.empty()) continue;
+        // Of several persons of one name all are meant.
+        const auto nummer =
+            eindeutig ? static_cast<std::uint32_t>(baum_.Nummer(person)) : baum_.personen_.at(person.Kennung);
         for (const auto &herkunft : person.Eltern) {
             const auto *const familie = baum_.Familie(herkunft.Familie);
-            const bool genannt = familie && std::binary_search(beiderseits.begin(), beiderseits.end(),
-                                                               paar(baum_.Nummer(*familie), nummer));
-            if (!genannt)
+            if (!familie || !nennungen.Nennt(static_cast<std::uint32_t>(baum_.Nummer(*familie)), nummer))
                 baum_.Einseitige.push_back({herkunft.Familie, person.Kennung, person.Kindschaft(herkunft.Familie)});
         }
     }

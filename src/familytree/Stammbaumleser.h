@@ -2,10 +2,8 @@
 
 #include "familytree/Stammbaum.h"
 
-#include <set>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 
 namespace kw {
 
@@ -33,11 +31,10 @@ class Stammbaumleser {
     std::string_view Behalten(std::string_view text);
     std::string_view Glatt(std::string_view text);
     std::string_view Klein(std::string_view text);
-    void DoppelteMelden(const Satz &satz, std::unordered_set<std::string_view> &gesehen);
+    void DoppelteMelden(const Satz &satz);
 
     Stammbaum baum_;
     Warnungen befunde_; ///< of what records say
-    std::unordered_set<std::string_view> gesehenePersonen_, geseheneFamilien_;
     bool kopfGelesen_ = false;
 };
 

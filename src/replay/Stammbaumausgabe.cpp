@@ -51,7 +51,7 @@ Zuordnungen Zugeordnete(const Stammfamilie &familie) {
 void KinderZeigen(std::ostream &aus, const Stammbaum &baum, const Stammfamilie &familie,
                   const Zuordnungen &zugeordnet) {
     for (const auto &kind : familie.Kinder) {
-        const auto *const person = baum.Person(kind.Kennung);
+        const auto *const person = kind.Nummer == Keine ? nullptr : &baum.Personen[kind.Nummer];
         const auto zuordnung = zugeordnet.find(kind.Kennung);
         Zeile(aus,
               {"C", familie.Kennung, kind.Kennung, person ? person->Kindschaft(familie.Kennung) : std::string_view(),
