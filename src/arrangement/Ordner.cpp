@@ -94,11 +94,13 @@ bool Ordner::EinzelneMitnehmen(Umzug &umzug) const {
                                                [&](const auto &a, const auto &b) { return ferne(a) < ferne(b); });
         const Ort dort = Stelle(nächster->first);
         const Ort soll{alt.X + nächster->second.X - dort.X, alt.Y + nächster->second.Y - dort.Y};
-        wunsch.Kästen = {MitLuft(Kasten(i, alt, umzug.Größe), Einzelluft)};
-        wunsch.Ziel = {wunsch.Kästen[0].MitteX() + soll.X - alt.X, wunsch.Kästen[0].MitteY() + soll.Y - alt.Y};
+        const Ort von{Gerastert(alt.X, wunsch.Raster), Gerastert(alt.Y, wunsch.Raster)};
+        const Umgebung kasten = Kasten(i, von, umzug.Größe);
+        wunsch.Kästen = {MitLuft(kasten, Einzelluft)};
+        wunsch.Ziel = {kasten.MitteX() + soll.X - von.X, kasten.MitteY() + soll.Y - von.Y};
         const auto weg = PlatzFinden(wunsch);
         if (!weg) return false;
-        umzug.Personen[i] = {alt.X + weg->X, alt.Y + weg->Y};
+        umzug.Personen[i] = {von.X + weg->X, von.Y + weg->Y};
         wunsch.Hindernisse.push_back(Kasten(i, umzug.Personen[i], umzug.Größe));
     }
     return true;

@@ -6,6 +6,7 @@
 #include "document/saetze/Kreislinie.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
+#include "editing/Elemente.h"
 #include "editing/Gruppenart.h"
 #include "editing/Kinder.h"
 #include "editing/Kreislinien.h"
@@ -19,6 +20,7 @@
 #include <cmath>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kw {
@@ -109,21 +111,26 @@ class Umzugswagen {
     std::vector<Ort> alte_, neue_; ///< of all persons
 };
 
+bool Anders(double a, double b) { return Kleiner(a, b) || Kleiner(b, a); }
+
 void PersonenSetzen(Dokument &d, const Ansicht &ansicht, const Umzug &umzug) {
     const Bezüge bezüge(d);
+    std::map<std::string, Ort, std::less<>> gegangene; // a record that says nothing new stays as it was written
     for (const auto &[i, ort] : umzug.Personen) {
+        const Ort neu{Gerundet(ort.X, 2), Gerundet(ort.Y, 2)};
         PersonBau person(d.cboPersonen.Satz(i));
-        if (person.Stand().Groesse() > umzug.Größe) person.Groesse(umzug.Größe);
-        d.cboPersonen.Ersetzen(i, person.Ort(Gerundet(ort.X, 2), Gerundet(ort.Y, 2)).Text());
+        const bool schrumpft = Kleiner(umzug.Größe, person.Stand().Groesse());
+        const bool geht = Anders(person.Stand().PosX(), neu.X) || Anders(person.Stand().PosY(), neu.Y);
+        if (schrumpft) person.Groesse(umzug.Größe);
+        if (geht) gegangene[std::string(person.Stand().Nr())] = neu;
+        if (schrumpft || geht) d.cboPersonen.Ersetzen(i, person.Ort(neu.X, neu.Y).Text());
     }
     // When everybody stands where they will: twins' lines meet in the middle of both.
-    for (const auto &[i, ort] : umzug.Personen) {
-        const std::string nr(PersonSatz(d.cboPersonen.Satz(i)).Nr());
-        LinienDerPersonNachziehen(d, bezüge, nr, Gerundet(ort.X, 2), Gerundet(ort.Y, 2), ansicht.Rasterweite);
-    }
+    for (const auto &[nr, ort] : gegangene) LinienDerPersonNachziehen(d, bezüge, nr, ort.X, ort.Y, ansicht.Rasterweite);
     for (const auto &[i, y] : umzug.Balken) {
         PartnerschaftBau linie(d.cboPartnerschaftsLinien.Satz(i));
-        d.cboPartnerschaftsLinien.Ersetzen(i, linie.BalkenY(Gerundet(y, 2)).Text());
+        if (Anders(linie.Stand().BalkenY1(), Gerundet(y, 2)) || Anders(linie.Stand().BalkenY2(), Gerundet(y, 2)))
+            d.cboPartnerschaftsLinien.Ersetzen(i, linie.BalkenY(Gerundet(y, 2)).Text());
         KinderAnpassen(d, bezüge, d.cboPartnerschaftsLinien.Satz(i));
     }
 }
@@ -154,14 +161,17 @@ std::optional<int> NächstePerson(const Dokument &d, Ort ort) {
 bool Umziehen(Dokument &d, const Ansicht &ansicht, const Umzug &umzug) {
     const Umzugswagen wagen(d, ansicht, umzug);
     std::vector<std::string> kreise;
-    for (const std::string &satz : d.cboFreehandlines) {
-        auto neu = wagen.Kreis(satz);
+    for (int i = 0; i < d.cboFreehandlines.Anzahl(); ++i) {
+        const std::string &satz = d.cboFreehandlines.Satz(i);
+        auto neu = GibtEs(d, {Elementart::Kreis, i}) ? wagen.Kreis(satz) : std::optional(satz);
         if (!neu) return false;
         kreise.push_back(std::move(*neu));
     }
-    for (const Gruppenart *art : {&TexteInGruppen, &PfeileInGruppen}) {
-        Satzliste &speicher = d.*art->Speicher;
-        for (int i = 0; i < speicher.Anzahl(); ++i) speicher.Ersetzen(i, wagen.Mitgenommen(*art, speicher.Satz(i)));
+    for (const auto &[art, gruppe] :
+         {std::pair(Elementart::Text, &TexteInGruppen), std::pair(Elementart::Pfeil, &PfeileInGruppen)}) {
+        Satzliste &speicher = d.*gruppe->Speicher;
+        for (int i = 0; i < speicher.Anzahl(); ++i) // a damaged one stays as it is
+            if (GibtEs(d, {art, i})) speicher.Ersetzen(i, wagen.Mitgenommen(*gruppe, speicher.Satz(i)));
     }
     for (size_t i = 0; i < kreise.size(); ++i) d.cboFreehandlines.Ersetzen(static_cast<int>(i), kreise[i]);
     PersonenSetzen(d, ansicht, umzug);
