@@ -97,7 +97,7 @@ void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &mod
     leiste.setRange(0, std::max(modell.Max, 0));
     leiste.setPageStep(leiste.orientation() == Qt::Vertical ? modell.Height : modell.Width);
     leiste.setValue(modell.Value);
-    leiste.setVisible(modell.Visible);
+    leiste.setVisible(modell.Visible && !erstesBild_); // the first one that is painted has the style set itself up
 }
 
 void Arbeitsflaeche::Auffrischen() {
