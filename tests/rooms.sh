@@ -8,12 +8,13 @@ set -eu
 # What each room may include besides itself, platform/ and libraries.
 below() {
     case $1 in
-    platform | document) ;;
+    platform | document | layout) ;;
     rendering) echo document ;;
-    editing) echo document rendering ;;
+    editing) echo layout document rendering ;;
     dialogs | description | output | commands | keyboard) echo document rendering editing ;;
     app) echo document rendering editing dialogs description output commands keyboard ;;
-    qt | replay) echo document rendering editing dialogs description output commands keyboard app ;;
+    qt) echo document rendering editing dialogs description output commands keyboard app ;;
+    replay) echo layout document rendering editing dialogs description output commands keyboard app ;;
     *) return 1 ;;
     esac
 }

@@ -1,9 +1,13 @@
 #include "document/Codepage.h"
+#include "document/Dateien.h"
 #include "document/Profil.h"
+#include "layout/Familienlage.h"
+#include "replay/Familiendatei.h"
 #include "replay/Programm.h"
 #include "replay/Skriptbefehle.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace kw {
 
@@ -42,8 +46,30 @@ void Profilaufrufe(Wiedergabe &lauf, const std::string &datei) {
     throw Skriptfehler("profil without end");
 }
 
+/// Centimetres to the thousandth, the same in every locale.
+std::string Zentimeter(double wert) {
+    const auto tausendstel = static_cast<long>(std::lround(wert * 1000));
+    const std::string bruch = std::to_string(1000 + tausendstel % 1000).substr(1);
+    return std::to_string(tausendstel / 1000) + "." + bruch;
+}
+
+void Familienaufruf(std::ostream &aus, const std::string &datei) {
+    std::string text;
+    const Dateibefund gelesen = DateiLesen(datei, text);
+    if (!gelesen.Gelungen()) throw Skriptfehler(datei + ": " + gelesen.Meldung);
+    const Familiendatei familie = FamilieLesen(text);
+    const Familienlage lage = FamilieAnordnen(familie.Graph);
+    for (size_t i = 0; i < familie.Personen.size(); i++)
+        aus << familie.Personen[i] << " " << Zentimeter(lage.Personen[i].X) << " " << Zentimeter(lage.Personen[i].Y)
+            << "\n";
+    for (size_t i = 0; i < familie.Familien.size(); i++)
+        if (!familie.Graph.Familien[i].Partner.empty())
+            aus << familie.Familien[i] << " = " << Zentimeter(lage.Balken[i]) << "\n";
+}
+
 constexpr Skriptbefehl Tabelle[] = {
     {"age", [](auto &lauf, auto &w, auto &) { AlterBerechnen(lauf, w.size() > 1 ? Ab(w, 1) : ""); }},
+    {"layout", [](auto &lauf, auto &w, auto &) { Wort(w, 1), Familienaufruf(lauf.aus, Ab(w, 1)); }},
     {"profil", [](auto &lauf, auto &w, auto &) { Profilaufrufe(lauf, Ab(w, 1)); }},
 };
 

@@ -32,7 +32,6 @@ void Suchfeld::Öffnen(Sprache sprache) {
 }
 
 void Suchfeld::Suchen() {
-    if (text().trimmed().isEmpty()) return;
     suchen_(text().toStdString());
 }
 

@@ -44,7 +44,7 @@ class Maler {
         if (!Zeigt(l)) return;
         const QLineF linie(l.X1 * k_, l.Y1 * k_, l.X2 * k_, l.Y2 * k_);
         if (spur_) return Merken(linie);
-        MitHof(Stift(farbe, breite), [&] { p_->drawLine(linie); });
+        MitHof(Stift(farbe, breite), Hofbreite, [&] { p_->drawLine(linie); });
     }
 
     void Pfeil(const Auflagenlinie &l, int art) {
@@ -55,9 +55,10 @@ class Maler {
         if (art == 2) PfeilspitzeMalen({schaft.p2(), schaft.p1()});
     }
 
-    /// `luft` is what the stroke keeps away from what the shape is round, logical pixels.
+    /// `luft` is what the stroke keeps away from what the shape is round, `hof` what is bright beside it, logical
+    /// pixels.
     void Form(const Auflagenform &f, const QColor &farbe, double breite, Qt::PenStyle stil = Qt::SolidLine,
-              double luft = 0) {
+              double luft = 0, double hof = Hofbreite) {
         if (!Zeigt(f)) return;
         QRectF r(f.Left * k_, f.Top * k_, f.Width * k_, f.Height * k_);
         r = r.normalized().adjusted(-luft, -luft, luft, luft);
@@ -68,7 +69,7 @@ class Maler {
         const bool rund = f.Shape == Umriss::Kreis || f.Shape == Umriss::Oval;
         if (spur_) return rund ? Merken(r) : RandMerken(r);
         p_->setBrush(Qt::NoBrush);
-        MitHof(Stift(farbe, breite, stil), [&] { rund ? p_->drawEllipse(r) : p_->drawRect(r); });
+        MitHof(Stift(farbe, breite, stil), hof, [&] { rund ? p_->drawEllipse(r) : p_->drawRect(r); });
     }
 
   private:
@@ -83,8 +84,8 @@ class Maler {
         p_->drawPolygon(ecken);
     }
 
-    template <typename Zug> void MitHof(const QPen &stift, Zug zug) {
-        p_->setPen(Stift(Hof, stift.widthF() + 2 * Hofbreite));
+    template <typename Zug> void MitHof(const QPen &stift, double hof, Zug zug) {
+        p_->setPen(Stift(Hof, stift.widthF() + 2 * hof));
         zug();
         p_->setPen(stift);
         zug();
@@ -128,7 +129,7 @@ void Alle(Maler &maler, const Auflagen &a, int pfeilArt) {
 }
 
 void Cursor(Maler &maler, const Auflagen &a) {
-    maler.Form(a.shpCursor, Cursorfarbe, Zielstrich, Qt::DotLine);
+    maler.Form(a.shpCursor, Cursorfarbe, Zielstrich, Qt::DotLine, 0, 0); // a name stands close below
     for (const Auflagenlinie &l : a.Kreuz) maler.Linie(l, Cursorfarbe, Zielstrich);
 }
 

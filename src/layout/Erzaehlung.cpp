@@ -1,0 +1,63 @@
+#include "layout/Reihensuche.h"
+
+namespace kw {
+
+namespace {
+
+/// Visits persons and families from a heap of what is still to be told, the next thing on top.
+class Erzählung {
+  public:
+    explicit Erzählung(const Gerüst &gerüst)
+        : gerüst_(gerüst), zeilen_(Z(gerüst.Zeilen)), genannt_(gerüst.Spalten.size(), 0),
+          erzählt_(gerüst.Familien.size(), 0), eigene_(gerüst.Spalten.size()), herkunft_(gerüst.Spalten.size()) {
+        for (std::size_t f = 0; f < gerüst.Familien.size(); f++) {
+            for (const int partner : gerüst.Familien[f].Partner) eigene_[Z(partner)].push_back(static_cast<int>(f));
+            for (const int kind : gerüst.Familien[f].Kinder) herkunft_[Z(kind)].push_back(static_cast<int>(f));
+        }
+    }
+
+    std::vector<std::vector<int>> Von(int anfang) {
+        const int anzahl = static_cast<int>(genannt_.size());
+        for (int i = 0; i < anzahl; i++) {
+            Person((anfang + i) % anzahl);
+            while (!offen_.empty()) {
+                const int nächstes = offen_.back();
+                offen_.pop_back();
+                if (nächstes >= 0) Person(nächstes);
+                else Familie(-1 - nächstes);
+            }
+        }
+        return std::move(zeilen_);
+    }
+
+  private:
+    void Person(int person) {
+        if (genannt_[Z(person)]) return;
+        genannt_[Z(person)] = 1;
+        const Spalte &spalte = gerüst_.Spalten[Z(person)];
+        for (int z = spalte.Oben; z <= spalte.Unten; z++) zeilen_[Z(z)].push_back(person);
+        for (const int f : herkunft_[Z(person)]) offen_.push_back(-1 - f);
+        for (auto f = eigene_[Z(person)].rbegin(); f != eigene_[Z(person)].rend(); ++f) offen_.push_back(-1 - *f);
+    }
+
+    void Familie(int f) {
+        if (erzählt_[Z(f)]) return;
+        erzählt_[Z(f)] = 1;
+        const kw::Familie &familie = gerüst_.Familien[Z(f)];
+        for (auto kind = familie.Kinder.rbegin(); kind != familie.Kinder.rend(); ++kind) offen_.push_back(*kind);
+        for (auto partner = familie.Partner.rbegin(); partner != familie.Partner.rend(); ++partner)
+            offen_.push_back(*partner);
+    }
+
+    const Gerüst &gerüst_;
+    std::vector<std::vector<int>> zeilen_;
+    std::vector<char> genannt_, erzählt_;
+    std::vector<std::vector<int>> eigene_, herkunft_;
+    std::vector<int> offen_;
+};
+
+} // namespace
+
+std::vector<std::vector<int>> ErzählteReihen(const Gerüst &gerüst, int anfang) { return Erzählung(gerüst).Von(anfang); }
+
+} // namespace kw
