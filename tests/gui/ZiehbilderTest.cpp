@@ -9,6 +9,7 @@
 #include "replay/Einblick.h"
 #include "replay/Plattform.h"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPaintEvent>
 #include <QScreen>
