@@ -10,9 +10,10 @@ below() {
     case $1 in
     platform | document | layout) ;;
     rendering) echo document ;;
-    editing) echo layout document rendering ;;
+    editing) echo document rendering ;;
+    arrangement) echo layout document rendering editing ;;
     dialogs | description | output | commands | keyboard) echo document rendering editing ;;
-    app) echo document rendering editing dialogs description output commands keyboard ;;
+    app) echo document rendering editing arrangement dialogs description output commands keyboard ;;
     qt) echo document rendering editing dialogs description output commands keyboard app ;;
     replay) echo layout document rendering editing dialogs description output commands keyboard app ;;
     *) return 1 ;;
@@ -26,7 +27,7 @@ floors_within() {
     case $1 in
     document) printf '%s\n' 'Felder Texte Zahlen Satzliste' saetze/ Nummernvergabe Dokument Nachschlagen Verweise ;;
     editing)
-        printf '%s\n' 'Ablage Absagen Auflagen Fensterdienste Geometrie' 'Gruppenart Leinwandlage' Werkbank 'Gesten Marker' Abwahl
+        printf '%s\n' 'Ablage Absagen Auflagen Fensterdienste Geometrie' 'Gruppenart Kreisumriss Leinwandlage' Werkbank 'Gesten Marker' Abwahl
         printf '%s\n' Linien+Linienzug Kinder+Zwillinge 'Personen+Symbolgroesse Pfeile Kreislinien Texte Legende Bildausschnitt'
         printf '%s\n' 'Gruppe Elemente' Zwischenablage Werkzeuge Leinwand
         ;;
