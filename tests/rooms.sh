@@ -12,10 +12,12 @@ below() {
     rendering) echo document ;;
     editing) echo document rendering ;;
     arrangement) echo layout document rendering editing ;;
-    dialogs | description | output | commands | keyboard) echo document rendering editing ;;
-    app) echo document rendering editing arrangement dialogs description output commands keyboard ;;
-    qt) echo document rendering editing dialogs description output commands keyboard app ;;
-    replay) echo layout document rendering editing dialogs description output commands keyboard app ;;
+    familytree) echo document ;;
+    dialogs) echo document rendering editing familytree ;;
+    description | output | commands | keyboard) echo document rendering editing ;;
+    app) echo document rendering editing arrangement familytree dialogs description output commands keyboard ;;
+    qt) echo document rendering editing familytree dialogs description output commands keyboard app ;;
+    replay) echo layout document rendering editing familytree dialogs description output commands keyboard app ;;
     *) return 1 ;;
     esac
 }
