@@ -55,7 +55,7 @@ constexpr std::array<Befundwort, Befundarten> Worte{{
     {Weggelassen, {"Notiz", "note"}},
     {Weggelassen, {"Quelle", "source"}},
     {Weggelassen, {"Ort", "place"}},
-    {Weggelassen, {"Ereignisangabe oder Eigenschaft", "event or attribute"}},
+    {Weggelassen, {"Ereignis oder Eigenschaft", "event or attribute"}},
     {Weggelassen, {"Angabe zur Verwaltung", "record keeping"}},
     {Weggelassen, {"eigene Angabe eines Programms", "a program's own fact"}},
     {Weggelassen, {"sonstige Angabe", "other fact"}},
