@@ -18,18 +18,6 @@ namespace {
 constexpr double Linienluft = 0.1; ///< on both sides of a line, cm
 constexpr double Einzelluft = 0.6; ///< round whoever has no bond: a circle line goes between, cm
 
-/// The measures for symbols of that size: those of a page drawn by hand, or what can just be read, cm.
-Abstände MaßeFür(double symbol, double raster, bool eng) {
-    const auto aufRaster = [&](double cm) { return std::ceil(cm / raster - 1e-9) * raster; };
-    Abstände a;
-    a.Symbol = symbol;
-    a.Raster = raster;
-    a.Personen = aufRaster(symbol + (eng ? 0.6 : 0.9));
-    a.Generationen = aufRaster(symbol + (eng ? 1.8 : 2.4));
-    a.Balken = aufRaster(symbol / 2 + (eng ? 0.9 : 1.2));
-    return a;
-}
-
 Umgebung MitLuft(const Umgebung &u, double luft) {
     Umgebung weiter;
     weiter.Aufnehmen(u.Links - luft, u.Oben - luft, u.Rechts - u.Links + 2 * luft, u.Unten - u.Oben + 2 * luft);

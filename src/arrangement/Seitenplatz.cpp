@@ -33,6 +33,17 @@ Spanne Spielraum(double vonCm, double bisCm, double raster) {
 
 } // namespace
 
+Abstände MaßeFür(double symbol, double raster, bool eng) {
+    const auto aufRaster = [&](double cm) { return std::ceil(cm / raster - 1e-9) * raster; };
+    Abstände a;
+    a.Symbol = symbol;
+    a.Raster = raster;
+    a.Personen = aufRaster(symbol + (eng ? 0.6 : 0.9));
+    a.Generationen = aufRaster(symbol + (eng ? 1.8 : 2.4));
+    a.Balken = aufRaster(symbol / 2 + (eng ? 0.9 : 1.2));
+    return a;
+}
+
 Umgebung UmAlle(const std::vector<Umgebung> &kästen) {
     Umgebung alle;
     for (const Umgebung &k : kästen) alle.Aufnehmen(k.Links, k.Oben, k.Rechts - k.Links, k.Unten - k.Oben);

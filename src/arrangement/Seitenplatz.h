@@ -9,6 +9,12 @@
 // A place on the page for what was laid out. cm.
 namespace kw {
 
+/// What two lines of names take below a symbol, cm.
+constexpr double Namenshöhe = 0.68;
+
+/// The measures for symbols of that size: those of a page drawn by hand, or what can just be read, cm.
+Abstände MaßeFür(double symbol, double raster, bool eng);
+
 struct Platzwunsch {
     std::vector<Umgebung> Kästen;      ///< what is to be placed, as it was laid out
     std::vector<Umgebung> Hindernisse; ///< what it mustn't lie on

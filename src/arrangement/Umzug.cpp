@@ -1,5 +1,7 @@
 #include "arrangement/Umzug.h"
 
+#include "arrangement/Seitenplatz.h"
+
 #include "document/Dokument.h"
 #include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
@@ -26,8 +28,6 @@
 namespace kw {
 
 namespace {
-
-constexpr double Namenshöhe = 0.68; ///< of two lines of names below a symbol, cm
 
 class Umzugswagen {
   public:

@@ -34,13 +34,13 @@ struct Adoption {
 };
 
 /// What happened once: "" when it didn't, "Y" when it did without a date, else the date as it stands.
-using Ereignis = std::string_view;
+using Ereignisangabe = std::string_view;
 
 struct Stammperson {
     std::string_view Kennung;
     std::string_view Geschlecht; ///< the first letter of what the file says, a capital; empty when it says nothing
     std::string_view Vorname, Nachname; ///< of the first name that the file gives, each one line
-    Ereignis Geburt, Tod, Taufe;
+    Ereignisangabe Geburt, Tod, Taufe;
     std::string_view Sterbealter; ///< as the death says
     bool Gestorben = false;       ///< died, was buried or cremated, with or without a date
     bool Totgeboren = false;
@@ -66,7 +66,7 @@ struct Stammfamilie {
     std::string_view Kennung;
     std::vector<std::string_view> Partner; ///< HUSB, then WIFE, each in the file's order
     std::size_t Männer = 0;                ///< so many of the partners are HUSB
-    Ereignis Heirat, Scheidung;
+    Ereignisangabe Heirat, Scheidung;
     std::vector<std::string_view> Ereignisse;                 ///< their tags
     std::vector<std::string_view> Arten;                      ///< TYPE of marriages and events that have one
     std::vector<Stammkind> Kinder;                            ///< each once

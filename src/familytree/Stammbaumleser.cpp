@@ -127,8 +127,8 @@ std::string_view Stammbaumleser::Klein(std::string_view text) {
     return klein ? Behalten(text) : baum_.lager_.Aufnehmen(Kleingeschrieben(text));
 }
 
-Ereignis Stammbaumleser::EreignisLesen(const Satz &satz, std::string_view marke, std::string_view andere) {
-    Ereignis ereignis;
+Ereignisangabe Stammbaumleser::EreignisLesen(const Satz &satz, std::string_view marke, std::string_view andere) {
+    Ereignisangabe ereignis;
     bool datiert = false;
     satz.FürKinder(satz.Wurzel(), [&](const Knoten &knoten) {
         if (datiert || (knoten.Marke != marke && knoten.Marke != andere) || IstNein(knoten.Wert)) return;
@@ -270,7 +270,7 @@ void Stammbaumleser::GleichaltrigeSuchen(Stammfamilie &familie) {
     std::map<std::string_view, std::size_t> nummern;
     std::vector<std::vector<std::string_view>> gruppen;
     for (const auto &kind : familie.Kinder) {
-        const auto geburt = kind.Nummer == Keine ? Ereignis() : baum_.Personen[kind.Nummer].Geburt;
+        const auto geburt = kind.Nummer == Keine ? Ereignisangabe() : baum_.Personen[kind.Nummer].Geburt;
         if (!IstTagesdatum(geburt)) continue;
         const auto nummer = nummern.emplace(geburt, gruppen.size()).first->second;
         if (nummer == gruppen.size()) gruppen.emplace_back();

@@ -23,7 +23,7 @@ class Stammbaumleser {
     void FamilieLesen(const Satz &satz);
     void KinderLesen(const Satz &satz, Stammfamilie &familie);
     /// Of the events of these tags the first that has a date, since the first is the preferred one.
-    Ereignis EreignisLesen(const Satz &satz, std::string_view marke, std::string_view andere = {});
+    Ereignisangabe EreignisLesen(const Satz &satz, std::string_view marke, std::string_view andere = {});
     void Verknüpfen();
     void GleichaltrigeSuchen(Stammfamilie &familie);
     void EinseitigeSuchen();
