@@ -7,8 +7,8 @@ namespace {
 /// Visits persons and families from a heap of what is still to be told, the next thing on top.
 class Erzählung {
   public:
-    explicit Erzählung(const Gerüst &gerüst)
-        : gerüst_(gerüst), zeilen_(Z(gerüst.Zeilen)), genannt_(gerüst.Spalten.size(), 0),
+    Erzählung(const Gerüst &gerüst, Zufall &zufall)
+        : gerüst_(gerüst), zufall_(zufall), zeilen_(Z(gerüst.Zeilen)), genannt_(gerüst.Spalten.size(), 0),
           erzählt_(gerüst.Familien.size(), 0), eigene_(gerüst.Spalten.size()), herkunft_(gerüst.Spalten.size()) {
         for (std::size_t f = 0; f < gerüst.Familien.size(); f++) {
             for (const int partner : gerüst.Familien[f].Partner) eigene_[Z(partner)].push_back(static_cast<int>(f));
@@ -36,8 +36,12 @@ class Erzählung {
         genannt_[Z(person)] = 1;
         const Spalte &spalte = gerüst_.Spalten[Z(person)];
         for (int z = spalte.Oben; z <= spalte.Unten; z++) zeilen_[Z(z)].push_back(person);
-        for (const int f : herkunft_[Z(person)]) offen_.push_back(-1 - f);
+        const bool herkunftZuerst = zufall_.Unter(2) == 0;
+        if (!herkunftZuerst)
+            for (const int f : herkunft_[Z(person)]) offen_.push_back(-1 - f);
         for (auto f = eigene_[Z(person)].rbegin(); f != eigene_[Z(person)].rend(); ++f) offen_.push_back(-1 - *f);
+        if (herkunftZuerst)
+            for (const int f : herkunft_[Z(person)]) offen_.push_back(-1 - f);
     }
 
     void Familie(int f) {
@@ -50,6 +54,7 @@ class Erzählung {
     }
 
     const Gerüst &gerüst_;
+    Zufall &zufall_;
     std::vector<std::vector<int>> zeilen_;
     std::vector<char> genannt_, erzählt_;
     std::vector<std::vector<int>> eigene_, herkunft_;
@@ -58,6 +63,8 @@ class Erzählung {
 
 } // namespace
 
-std::vector<std::vector<int>> ErzählteReihen(const Gerüst &gerüst, int anfang) { return Erzählung(gerüst).Von(anfang); }
+Reihen::Folgen ErzählteReihen(const Gerüst &gerüst, Zufall &zufall) {
+    return Erzählung(gerüst, zufall).Von(zufall.Unter(static_cast<int>(gerüst.Spalten.size())));
+}
 
 } // namespace kw

@@ -1,17 +1,19 @@
 #include "layout/Reihen.h"
 
-#include <algorithm>
-
 // What the rows know from the beginning.
 namespace kw {
 
 Reihen::Reihen(const Familiengraph &graph, const Gerüst &gerüst, const Gewichte &gewichte)
-    : gewichte_(gewichte), anzahl_(static_cast<int>(graph.Personen.size())), zeilen_(Z(gerüst.Zeilen)),
-      platz_(Z((gerüst.Zeilen + 1) * anzahl_), -1) {
-    for (const Spalte &spalte : gerüst.Spalten) ebene_.push_back(spalte.Ebene);
-    DingeSammeln(gerüst);
-    VorliebenSammeln(graph, gerüst);
-    dazwischen_.assign(dinge_.size(), 0);
+    : gewichte_(gewichte), zeilen_(Z(gerüst.Zeilen)) {
+    Wissen w;
+    w.Anzahl = static_cast<int>(graph.Personen.size());
+    for (const Spalte &spalte : gerüst.Spalten) w.Ebene.push_back(spalte.Ebene);
+    DingeSammeln(gerüst, w);
+    VorliebenSammeln(graph, gerüst, gewichte, w);
+    platz_.assign(Z((gerüst.Zeilen + 1) * w.Anzahl), -1);
+    verdreht_.assign(w.Dinge.size() * w.Dinge.size(), 0);
+    dazwischen_.assign(w.Dinge.size(), 0);
+    wissen_ = std::make_shared<const Wissen>(std::move(w));
 }
 
 Reihen::Verzeichnis Reihen::Gepackt(const Folgen &listen) {
@@ -24,49 +26,66 @@ Reihen::Verzeichnis Reihen::Gepackt(const Folgen &listen) {
     return v;
 }
 
-void Reihen::DingeSammeln(const Gerüst &gerüst) {
-    Folgen unten(Z(gerüst.Zeilen * anzahl_));
+void Reihen::DingeSammeln(const Gerüst &gerüst, Wissen &w) {
+    Folgen unten(Z(gerüst.Zeilen * w.Anzahl));
     Folgen oben(unten.size());
     const auto aufnehmen = [&](const Gehänge &g, int zeile) {
-        const auto ding = static_cast<int>(dinge_.size());
-        const auto erstes = static_cast<int>(kinder_.size());
-        kinder_.insert(kinder_.end(), g.Kinder.begin(), g.Kinder.end());
-        dinge_.push_back({g.A, g.B, erstes, static_cast<int>(kinder_.size()), zeile, g.Familie < 0, g.Lang});
-        unten[Ort(zeile, g.A)].push_back(ding);
-        if (g.B != g.A) unten[Ort(zeile, g.B)].push_back(ding);
-        for (const int kind : g.Kinder) oben[Ort(zeile + 1, kind)].push_back(ding);
+        const auto ding = static_cast<int>(w.Dinge.size());
+        const auto erstes = static_cast<int>(w.Kinder.size());
+        w.Kinder.insert(w.Kinder.end(), g.Kinder.begin(), g.Kinder.end());
+        w.Dinge.push_back({g.A, g.B, erstes, static_cast<int>(w.Kinder.size()), zeile,
+                           g.Familie < 0 ? Art::Linie : Art::Familie, g.Lang});
+        unten[Z(zeile * w.Anzahl + g.A)].push_back(ding);
+        if (g.B != g.A) unten[Z(zeile * w.Anzahl + g.B)].push_back(ding);
+        for (const int kind : g.Kinder) oben[Z((zeile + 1) * w.Anzahl + kind)].push_back(ding);
     };
+    for (const Familie &familie : gerüst.Familien)
+        for (const std::vector<int> &gruppe : familie.Zwillinge)
+            for (std::size_t i = 1; i < gruppe.size(); i++) {
+                const int a = gruppe[i - 1];
+                const int zeile = w.Ebene[Z(a)];
+                if (w.Ebene[Z(gruppe[i])] != zeile) continue;
+                const auto ding = static_cast<int>(w.Dinge.size());
+                w.Dinge.push_back({a, gruppe[i], 0, 0, zeile, Art::Zwillinge, false});
+                for (const int p : {a, gruppe[i]}) unten[Z(zeile * w.Anzahl + p)].push_back(ding);
+            }
     for (const Gehänge &g : gerüst.Gehängte) aufnehmen(g, gerüst.Balkenzeile[Z(g.Familie)]);
-    for (int person = 0; person < anzahl_; person++) {
+    for (int person = 0; person < w.Anzahl; person++) {
         const Spalte &spalte = gerüst.Spalten[Z(person)];
         for (int zeile = spalte.Oben; zeile < spalte.Unten; zeile++)
             aufnehmen({-1, person, person, {person}, true}, zeile);
     }
-    unten_ = Gepackt(unten);
-    oben_ = Gepackt(oben);
+    w.Unten = Gepackt(unten);
+    w.Oben = Gepackt(oben);
 }
 
 /// What pairs like, wherever they stand in their row: siblings by age, the man left, what the user drew.
-void Reihen::VorliebenSammeln(const Familiengraph &graph, const Gerüst &gerüst) {
-    vorliebe_.assign(Z(anzahl_ * anzahl_), 0);
-    partner_.assign(vorliebe_.size(), 0);
+void Reihen::VorliebenSammeln(const Familiengraph &graph, const Gerüst &gerüst, const Gewichte &g, Wissen &w) {
+    const auto ort = [&](int a, int b) { return Z(a * w.Anzahl + b); };
+    w.Vorliebe.assign(ort(w.Anzahl, 0), 0);
+    w.Partner.assign(w.Vorliebe.size(), 0);
     for (const Familie &familie : gerüst.Familien) {
         for (std::size_t j = 0; j < familie.Kinder.size(); j++)
-            for (std::size_t i = 0; i < j; i++)
-                vorliebe_[Ort(familie.Kinder[j], familie.Kinder[i])] += gewichte_.Verkehrt;
+            for (std::size_t i = 0; i < j; i++) w.Vorliebe[ort(familie.Kinder[j], familie.Kinder[i])] += g.Verkehrt;
         for (const int a : familie.Partner)
             for (const int b : familie.Partner) {
                 if (a == b) continue;
-                partner_[Ort(a, b)] = 1;
+                w.Partner[ort(a, b)] = 1;
                 if (graph.Personen[Z(a)].Art == Geschlecht::Frau && graph.Personen[Z(b)].Art == Geschlecht::Mann)
-                    vorliebe_[Ort(a, b)] += gewichte_.FrauLinks;
+                    w.Vorliebe[ort(a, b)] += g.FrauLinks;
             }
     }
-    for (int a = 0; a < anzahl_; a++)
-        for (int b = 0; b < anzahl_; b++) {
+    for (int a = 0; a < w.Anzahl; a++)
+        for (int b = 0; b < w.Anzahl; b++) {
             const auto &l = graph.Personen[Z(a)].Gezeichnet;
             const auto &r = graph.Personen[Z(b)].Gezeichnet;
-            if (l && r && *l > *r) vorliebe_[Ort(a, b)] += gewichte_.Umgestellt;
+            if (l && r && *l > *r) w.Vorliebe[ort(a, b)] += g.Umgestellt;
+        }
+    for (const Ding &d : w.Dinge)
+        for (int person = 0; person < w.Anzahl; person++) {
+            const bool eigen = d.A == d.B || d.A == person || d.B == person;
+            const bool partner = w.Partner[ort(d.A, person)] || w.Partner[ort(d.B, person)];
+            w.Fremd.push_back(!eigen && (!partner || d.Was == Art::Zwillinge) ? 1 : 0);
         }
 }
 
