@@ -39,25 +39,29 @@ std::int64_t Reihen::Neuberechnet() {
             summe += Paarkosten(i, j);
         }
     }
+    verkehrt_ = 0;
     for (int z = 0; z < Anzahl(); z++)
         for (std::size_t i = 0; i < Zeile(z).size(); i++) {
             summe += Beinkosten(z, Zeile(z)[i]);
-            for (std::size_t j = 0; j < i; j++) summe += wissen_->Vorliebe[Ort(Zeile(z)[j], Zeile(z)[i])];
+            for (std::size_t j = 0; j < i; j++) {
+                summe += wissen_->Vorliebe[Ort(Zeile(z)[j], Zeile(z)[i])];
+                verkehrt_ += wissen_->Verkehrt[Ort(Zeile(z)[j], Zeile(z)[i])];
+            }
         }
-    return summe;
+    return summe + Verkehrtkosten(verkehrt_);
 }
 
 int Reihen::Einzelkosten(int ding) {
     const Ding &d = Das(ding);
     int summe = 0;
-    for (const int kind : Kinder(d)) summe += std::abs(Weite(d, kind)) * gewichte_.Weite;
+    for (int k = d.Erstes; k < d.Ende; k++) summe += std::abs(Weite(d, wissen_->Kinderorte[Z(k)])) * gewichte_.Weite;
     dazwischen_[Z(ding)] = Dazwischen(ding);
     return summe + Getrenntkosten(dazwischen_[Z(ding)]);
 }
 
 Reihen::Spanne Reihen::SpanneVon(const Ding &d) const {
-    const int a = Platz(d.Zeile, d.A);
-    const int b = Platz(d.Zeile, d.B);
+    const int a = platz_[Z(d.OrtA)];
+    const int b = platz_[Z(d.OrtB)];
     return {std::min(a, b), std::max(a, b)};
 }
 
@@ -119,26 +123,24 @@ int Reihen::Beinkosten(int zeile, int person) const {
 }
 
 /// How far a child stands right of the middle of its parents when all rows are centred: halves of a place.
-int Reihen::Weite(const Ding &d, int kind) const {
-    const int hier = static_cast<int>(Zeile(d.Zeile).size());
-    const int dort = static_cast<int>(Zeile(d.Zeile + 1).size());
-    return 2 * Platz(d.Zeile + 1, kind) - dort - Platz(d.Zeile, d.A) - Platz(d.Zeile, d.B) + hier;
+int Reihen::Weite(const Ding &d, int kindort) const {
+    return 2 * platz_[Z(kindort)] - platz_[Z(d.OrtA)] - platz_[Z(d.OrtB)] + d.Versatz;
 }
 
-/// How much further all child lines of a person reach, up and down, when it moves by `weite` places; not of the
-/// families shared with `ohne`, whose middle stays.
-int Reihen::Weiten(int zeile, int person, int ohne, int weite) const {
+/// How much further all child lines of the person at `ort` reach, up and down, when it moves by `weite` places; not of
+/// the families shared with `ohne`, whose middle stays.
+int Reihen::Weiten(std::size_t ort, int ohne, int weite) const {
     int summe = 0;
-    for (const int i : wissen_->Oben[Ort(zeile, person)]) {
-        const int jetzt = Weite(Das(i), person);
+    for (const int i : wissen_->Oben[ort]) {
+        const int jetzt = Weite(Das(i), static_cast<int>(ort));
         summe += std::abs(jetzt + 2 * weite) - std::abs(jetzt);
     }
-    for (const int i : wissen_->Unten[Ort(zeile, person)]) {
+    for (const int i : wissen_->Unten[ort]) {
         const Ding &d = Das(i);
-        if (d.A == ohne || d.B == ohne || d.Erstes == d.Ende) continue;
+        if (d.A == ohne || d.B == ohne) continue;
         const int schritt = d.A == d.B ? 2 * weite : weite;
-        for (const int kind : Kinder(d)) {
-            const int jetzt = Weite(d, kind);
+        for (int k = d.Erstes; k < d.Ende; k++) {
+            const int jetzt = Weite(d, wissen_->Kinderorte[Z(k)]);
             summe += std::abs(jetzt - schritt) - std::abs(jetzt);
         }
     }
@@ -147,6 +149,11 @@ int Reihen::Weiten(int zeile, int person, int ohne, int weite) const {
 
 int Reihen::Getrenntkosten(int dazwischen) const {
     return dazwischen > 0 ? gewichte_.Getrennt + dazwischen * gewichte_.Dazwischen : 0;
+}
+
+int Reihen::Verkehrtkosten(int verkehrt) const {
+    const int zuViele = std::max(verkehrt - wissen_->Wenige, 0);
+    return (verkehrt - zuViele) * gewichte_.Verkehrt + zuViele * gewichte_.ZuVerkehrt;
 }
 
 int Reihen::Dazwischen(int ding) const {
@@ -167,8 +174,8 @@ int Reihen::Trennung(int zeile, int ende, int anderer, bool andererRechts) {
     for (const int i : wissen_->Unten[Ort(zeile, ende)]) {
         if (!wissen_->Fremd[Ort(i, anderer)]) continue;
         const Ding &d = Das(i);
-        const int partner = d.A == ende ? d.B : d.A;
-        const bool partnerRechts = Platz(zeile, partner) > Platz(zeile, ende);
+        const int partner = platz_[Z(d.A == ende ? d.OrtB : d.OrtA)];
+        const bool partnerRechts = partner > Platz(zeile, ende);
         int &dazwischen = dazwischen_[Z(i)];
         summe -= Getrenntkosten(dazwischen);
         dazwischen += partnerRechts == andererRechts ? -1 : 1;
@@ -182,6 +189,7 @@ int Reihen::Untenkosten(int zeile, int links, int rechts) const {
     int summe = 0;
     const auto l = wissen_->Unten[Ort(zeile, links)];
     const auto r = wissen_->Unten[Ort(zeile, rechts)];
+    if (l.empty() || r.empty()) return 0;
     for (const int i : l)
         for (const int j : r) {
             if (i == j) continue;
@@ -209,38 +217,71 @@ int Reihen::Obenkosten(int zeile, int links, int rechts) const {
     return summe;
 }
 
-/// Lines to two neighbours that change places cross now, or no longer; what that costs where they hang side by side.
-int Reihen::Herumdrehen(int zeile, int links, int rechts) {
+/// What lines to two neighbours cost more when these change places, where they hang side by side.
+int Reihen::Nebeneinander(int zeile, int links, int rechts, bool &ineinander) const {
     int summe = 0;
+    for (const int i : wissen_->Oben[Ort(zeile, links)])
+        for (const int j : wissen_->Oben[Ort(zeile, rechts)]) {
+            if (i == j) continue;
+            const Spanne a = SpanneVon(Das(i));
+            const Spanne b = SpanneVon(Das(j));
+            if (a.R <= b.L) summe += Linienkosten(Das(i), links, Das(j), rechts);
+            else if (b.R <= a.L) summe -= Linienkosten(Das(i), links, Das(j), rechts);
+            else ineinander = true;
+        }
+    return summe;
+}
+
+void Reihen::Verdrehen(int zeile, int links, int rechts) {
     for (const int i : wissen_->Oben[Ort(zeile, links)])
         for (const int j : wissen_->Oben[Ort(zeile, rechts)]) {
             if (i == j) continue;
             const int kosten = Linienkosten(Das(i), links, Das(j), rechts);
             Verdreht(j, i) -= kosten;
             Verdreht(i, j) += kosten;
-            const Spanne a = SpanneVon(Das(i));
-            const Spanne b = SpanneVon(Das(j));
-            if (a.R <= b.L) summe += kosten;
-            else if (b.R <= a.L) summe -= kosten;
         }
-    return summe;
+}
+
+/// What is counted of a row, as if two neighbours had changed places; what those counts cost more then.
+int Reihen::Umstellen(int zeile, int links, int rechts) {
+    int mehr = Trennung(zeile, links, rechts, true) + Trennung(zeile, rechts, links, false);
+    if (const int v = wissen_->Verkehrt[Ort(rechts, links)] - wissen_->Verkehrt[Ort(links, rechts)]) {
+        mehr += Verkehrtkosten(verkehrt_ + v) - Verkehrtkosten(verkehrt_);
+        verkehrt_ += v;
+    }
+    Verdrehen(zeile, links, rechts);
+    return mehr;
 }
 
 int Reihen::Tauschen(int zeile, int platz) {
     std::vector<int> &reihe = zeilen_[Z(zeile)];
     const int links = reihe[Z(platz)];
     const int rechts = reihe[Z(platz + 1)];
+    const std::size_t ortL = Ort(zeile, links);
+    const std::size_t ortR = Ort(zeile, rechts);
     int mehr = wissen_->Vorliebe[Ort(rechts, links)] - wissen_->Vorliebe[Ort(links, rechts)];
-    mehr += Trennung(zeile, links, rechts, true) + Trennung(zeile, rechts, links, false);
-    mehr += Weiten(zeile, links, rechts, 1) + Weiten(zeile, rechts, links, -1);
-    mehr -= Obenkosten(zeile, links, rechts) + Untenkosten(zeile, links, rechts);
-    mehr += Herumdrehen(zeile, links, rechts);
+    mehr += Weiten(ortL, rechts, 1) + Weiten(ortR, links, -1);
+    bool ineinander = false;
+    mehr += Nebeneinander(zeile, links, rechts, ineinander);
+    mehr -= Untenkosten(zeile, links, rechts);
+    if (ineinander) mehr -= Obenkosten(zeile, links, rechts);
+    mehr += Umstellen(zeile, links, rechts);
     std::swap(reihe[Z(platz)], reihe[Z(platz + 1)]);
-    std::swap(platz_[Ort(zeile, links)], platz_[Ort(zeile, rechts)]);
-    mehr += Obenkosten(zeile, rechts, links) + Untenkosten(zeile, rechts, links);
+    std::swap(platz_[ortL], platz_[ortR]);
+    mehr += Untenkosten(zeile, rechts, links);
+    if (ineinander) mehr += Obenkosten(zeile, rechts, links);
     kosten_ += mehr;
     arbeit_++;
     return mehr;
+}
+
+void Reihen::Zurücktauschen(int zeile, int platz) {
+    std::vector<int> &reihe = zeilen_[Z(zeile)];
+    const int links = reihe[Z(platz)];
+    const int rechts = reihe[Z(platz + 1)];
+    Umstellen(zeile, links, rechts);
+    std::swap(reihe[Z(platz)], reihe[Z(platz + 1)]);
+    std::swap(platz_[Ort(zeile, links)], platz_[Ort(zeile, rechts)]);
 }
 
 } // namespace kw

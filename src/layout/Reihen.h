@@ -14,7 +14,9 @@ struct Gewichte {
     int Kreuzung = 60;
     int Getrennt = 200;     ///< a couple with strangers between them
     int Dazwischen = 30;    ///< and each of these
-    int Verkehrt = 75;      ///< a pair of siblings in the wrong order
+    int Verkehrt = 40;      ///< a pair of siblings in the wrong order, as long as they are few
+    int ZuVerkehrt = 90;    ///< each one more
+    int Wenige = 60;        ///< how many pairs are few: thousandths of all
     int FrauLinks = 3;      ///< a man on the right of a woman
     int Umgestellt = 6;     ///< a pair that the user drew the other way round
     int Weite = 1;          ///< half a place that a child stands beside the middle of its parents
@@ -37,6 +39,9 @@ class Reihen {
 
     /// Exchanges those at `platz` and `platz` + 1; returns by how much that is dearer.
     int Tauschen(int zeile, int platz);
+    /// The way back: exchanges without asking what it costs, which `KostenGelten` then tells.
+    void Zurücktauschen(int zeile, int platz);
+    void KostenGelten(std::int64_t kosten) { kosten_ = kosten; }
     std::int64_t Kosten() const { return kosten_; }
     /// How often has been exchanged: what work is measured by, since clocks differ.
     std::int64_t Arbeit() const { return arbeit_; }
@@ -45,10 +50,13 @@ class Reihen {
     enum class Art { Familie, Linie, Zwillinge };
     /// What hangs below a row, packed; twins too, who hang on nothing but each other.
     struct Ding {
-        int A, B, Erstes, Ende; ///< partners; children, as positions in `Kinder`
-        int Zeile;
-        Art Was;
-        bool Lang; ///< whether a line that has to be upright is among its children
+        Art Was = Art::Familie;
+        bool Lang = false; ///< whether a line that has to be upright is among its children
+        int Zeile = 0;
+        int A = 0, B = 0;         ///< the partners
+        int OrtA = 0, OrtB = 0;   ///< where their places are kept
+        int Versatz = 0;          ///< by how many places the row is longer than the next one
+        int Erstes = 0, Ende = 0; ///< the children, as positions in `Kinder`
     };
     /// Lists by row and person, packed: those of one lie from `Anfang[i]` to `Anfang[i + 1]`.
     struct Verzeichnis {
@@ -62,11 +70,13 @@ class Reihen {
         int Anzahl = 0;
         std::vector<int> Ebene;
         std::vector<Ding> Dinge;
-        std::vector<int> Kinder;
-        Verzeichnis Unten, Oben;   ///< what hangs on a person in a row; what a person there hangs on
-        std::vector<int> Vorliebe; ///< what it costs that the first of two stands left of the second
-        std::vector<char> Partner; ///< whether two are partners
-        std::vector<char> Fremd;   ///< whether a person may not stand between what hangs there
+        std::vector<int> Kinder, Kinderorte; ///< and where their places are kept
+        Verzeichnis Unten, Oben;             ///< what hangs on a person in a row; what a person there hangs on
+        std::vector<int> Verkehrt;           ///< in how many families the first of two is the younger one
+        int Wenige = 0;                      ///< pairs of siblings in the wrong order that are few
+        std::vector<int> Vorliebe;           ///< what it costs that the first of two stands left of the second
+        std::vector<char> Partner;           ///< whether two are partners
+        std::vector<char> Fremd;             ///< whether a person may not stand between what hangs there
     };
     struct Spanne {
         int L, R;
@@ -91,11 +101,14 @@ class Reihen {
     int Ineinander(const Ding &außen, const Ding &innen) const;
     int Untenkosten(int zeile, int links, int rechts) const;
     int Obenkosten(int zeile, int links, int rechts) const;
-    int Herumdrehen(int zeile, int links, int rechts);
+    int Nebeneinander(int zeile, int links, int rechts, bool &ineinander) const;
+    void Verdrehen(int zeile, int links, int rechts);
+    int Umstellen(int zeile, int links, int rechts);
     int Beinkosten(int zeile, int person) const;
-    int Weite(const Ding &d, int kind) const;
-    int Weiten(int zeile, int person, int ohne, int weite) const;
+    int Weite(const Ding &d, int kindort) const;
+    int Weiten(std::size_t ort, int ohne, int weite) const;
     int Getrenntkosten(int dazwischen) const;
+    int Verkehrtkosten(int verkehrt) const;
     int Trennung(int zeile, int ende, int anderer, bool andererRechts);
     int Dazwischen(int ding) const;
     std::int64_t Neuberechnet();
@@ -107,6 +120,7 @@ class Reihen {
     std::vector<int> platz_;      ///< by row and person
     std::vector<int> verdreht_;   ///< by two things
     std::vector<int> dazwischen_; ///< strangers between the partners, by thing
+    int verkehrt_ = 0;            ///< pairs of siblings in the wrong order
     std::int64_t kosten_ = 0;
     std::int64_t arbeit_ = 0;
 };

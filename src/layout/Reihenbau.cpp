@@ -29,32 +29,35 @@ Reihen::Verzeichnis Reihen::Gepackt(const Folgen &listen) {
 void Reihen::DingeSammeln(const Gerüst &gerüst, Wissen &w) {
     Folgen unten(Z(gerüst.Zeilen * w.Anzahl));
     Folgen oben(unten.size());
-    const auto aufnehmen = [&](const Gehänge &g, int zeile) {
+    std::vector<int> breite(Z(gerüst.Zeilen + 1), 0);
+    for (const Spalte &spalte : gerüst.Spalten)
+        for (int zeile = spalte.Oben; zeile <= spalte.Unten; zeile++) breite[Z(zeile)]++;
+    const auto aufnehmen = [&](Art was, const Gehänge &g, int zeile) {
         const auto ding = static_cast<int>(w.Dinge.size());
-        const auto erstes = static_cast<int>(w.Kinder.size());
-        w.Kinder.insert(w.Kinder.end(), g.Kinder.begin(), g.Kinder.end());
-        w.Dinge.push_back({g.A, g.B, erstes, static_cast<int>(w.Kinder.size()), zeile,
-                           g.Familie < 0 ? Art::Linie : Art::Familie, g.Lang});
-        unten[Z(zeile * w.Anzahl + g.A)].push_back(ding);
-        if (g.B != g.A) unten[Z(zeile * w.Anzahl + g.B)].push_back(ding);
-        for (const int kind : g.Kinder) oben[Z((zeile + 1) * w.Anzahl + kind)].push_back(ding);
+        Ding d{was, g.Lang, zeile, g.A, g.B, zeile * w.Anzahl + g.A, zeile * w.Anzahl + g.B};
+        d.Versatz = breite[Z(zeile)] - breite[Z(zeile + 1)];
+        d.Erstes = static_cast<int>(w.Kinder.size());
+        for (const int kind : g.Kinder) {
+            w.Kinder.push_back(kind);
+            w.Kinderorte.push_back((zeile + 1) * w.Anzahl + kind);
+            oben[Z(w.Kinderorte.back())].push_back(ding);
+        }
+        d.Ende = static_cast<int>(w.Kinder.size());
+        unten[Z(d.OrtA)].push_back(ding);
+        if (d.A != d.B) unten[Z(d.OrtB)].push_back(ding);
+        w.Dinge.push_back(d);
     };
-    for (const Familie &familie : gerüst.Familien)
-        for (const std::vector<int> &gruppe : familie.Zwillinge)
-            for (std::size_t i = 1; i < gruppe.size(); i++) {
-                const int a = gruppe[i - 1];
-                const int zeile = w.Ebene[Z(a)];
-                if (w.Ebene[Z(gruppe[i])] != zeile) continue;
-                const auto ding = static_cast<int>(w.Dinge.size());
-                w.Dinge.push_back({a, gruppe[i], 0, 0, zeile, Art::Zwillinge, false});
-                for (const int p : {a, gruppe[i]}) unten[Z(zeile * w.Anzahl + p)].push_back(ding);
-            }
-    for (const Gehänge &g : gerüst.Gehängte) aufnehmen(g, gerüst.Balkenzeile[Z(g.Familie)]);
+    for (const Gehänge &g : gerüst.Gehängte) aufnehmen(Art::Familie, g, gerüst.Balkenzeile[Z(g.Familie)]);
     for (int person = 0; person < w.Anzahl; person++) {
         const Spalte &spalte = gerüst.Spalten[Z(person)];
         for (int zeile = spalte.Oben; zeile < spalte.Unten; zeile++)
-            aufnehmen({-1, person, person, {person}, true}, zeile);
+            aufnehmen(Art::Linie, {-1, person, person, {person}, true}, zeile);
     }
+    for (const Familie &familie : gerüst.Familien)
+        for (const std::vector<int> &gruppe : familie.Zwillinge)
+            for (std::size_t i = 1; i < gruppe.size(); i++)
+                if (w.Ebene[Z(gruppe[i])] == w.Ebene[Z(gruppe[i - 1])])
+                    aufnehmen(Art::Zwillinge, {-1, gruppe[i - 1], gruppe[i], {}}, w.Ebene[Z(gruppe[i])]);
     w.Unten = Gepackt(unten);
     w.Oben = Gepackt(oben);
 }
@@ -62,11 +65,14 @@ void Reihen::DingeSammeln(const Gerüst &gerüst, Wissen &w) {
 /// What pairs like, wherever they stand in their row: siblings by age, the man left, what the user drew.
 void Reihen::VorliebenSammeln(const Familiengraph &graph, const Gerüst &gerüst, const Gewichte &g, Wissen &w) {
     const auto ort = [&](int a, int b) { return Z(a * w.Anzahl + b); };
-    w.Vorliebe.assign(ort(w.Anzahl, 0), 0);
+    std::size_t paare = 0;
+    w.Verkehrt.assign(ort(w.Anzahl, 0), 0);
+    w.Vorliebe = w.Verkehrt;
     w.Partner.assign(w.Vorliebe.size(), 0);
     for (const Familie &familie : gerüst.Familien) {
-        for (std::size_t j = 0; j < familie.Kinder.size(); j++)
-            for (std::size_t i = 0; i < j; i++) w.Vorliebe[ort(familie.Kinder[j], familie.Kinder[i])] += g.Verkehrt;
+        paare += familie.Kinder.size() * (familie.Kinder.size() + 1) / 2 - familie.Kinder.size();
+        for (std::size_t j = 1; j < familie.Kinder.size(); j++)
+            for (std::size_t i = 0; i < j; i++) w.Verkehrt[ort(familie.Kinder[j], familie.Kinder[i])]++;
         for (const int a : familie.Partner)
             for (const int b : familie.Partner) {
                 if (a == b) continue;
@@ -75,6 +81,7 @@ void Reihen::VorliebenSammeln(const Familiengraph &graph, const Gerüst &gerüst
                     w.Vorliebe[ort(a, b)] += g.FrauLinks;
             }
     }
+    w.Wenige = static_cast<int>((paare * Z(g.Wenige) + 500) / 1000);
     for (int a = 0; a < w.Anzahl; a++)
         for (int b = 0; b < w.Anzahl; b++) {
             const auto &l = graph.Personen[Z(a)].Gezeichnet;

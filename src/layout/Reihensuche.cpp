@@ -6,53 +6,73 @@ namespace kw {
 
 namespace {
 
-constexpr int Weitester = 8; // places that a run is carried in one go
-constexpr int Längster = 4;  // and how many it holds
-constexpr int ZuTeuer = 600; // what lies between may cost
-constexpr int Duldsam = 30;  // how much dearer rows may get on the way to cheaper ones
+constexpr int Weitester = 8;   // places that a run is carried in one go
+constexpr int Längster = 4;    // and how many it holds
+constexpr int Teuerstes = 600; // what lies between may cost
+constexpr int Duldsam = 30;    // how much dearer rows may get on the way to cheaper ones
 
-/// Carries the run of `länge` from `platz` by one; returns what that costs.
-int Rücken(Reihen &reihen, int zeile, int platz, int länge, bool rechts) {
-    int mehr = 0;
-    if (rechts)
-        for (int i = platz + länge - 1; i >= platz; i--) mehr += reihen.Tauschen(zeile, i);
-    else
-        for (int i = platz - 1; i < platz + länge - 1; i++) mehr += reihen.Tauschen(zeile, i);
-    return mehr;
-}
+/// A run of neighbours in hand. It can be carried along its row, and back to where that cost least.
+class Lauf {
+  public:
+    Lauf(Reihen &reihen, int zeile, int platz, int länge)
+        : reihen_(reihen), zeile_(zeile), platz_(platz), länge_(länge), anfang_(reihen.Kosten()), bestPlatz_(platz) {}
 
-int Umdrehen(Reihen &reihen, int zeile, int platz, int länge) {
-    int mehr = 0;
-    for (int ende = platz + länge - 1; ende > platz; ende--)
-        for (int i = platz; i < ende; i++) mehr += reihen.Tauschen(zeile, i);
-    return mehr;
-}
+    int Platz() const { return platz_; }
+    bool ZuTeuer() const { return reihen_.Kosten() >= anfang_ + beste_ + Teuerstes; }
+
+    void Rücken(bool rechts) {
+        Schritt(rechts, [this](int platz) { reihen_.Tauschen(zeile_, platz); });
+        const std::int64_t mehr = reihen_.Kosten() - anfang_;
+        if (mehr >= beste_) return;
+        beste_ = mehr;
+        bestPlatz_ = platz_;
+    }
+    /// Back to a place where it has been, `mehr` dearer than at first.
+    void Zurück(int platz, std::int64_t mehr) {
+        while (platz_ != platz) Schritt(platz_ < platz, [this](int p) { reihen_.Zurücktauschen(zeile_, p); });
+        reihen_.KostenGelten(anfang_ + mehr);
+    }
+    void ZumBesten() { Zurück(bestPlatz_, beste_); }
+
+  private:
+    template <typename Tausch> void Schritt(bool rechts, Tausch tausch) {
+        if (rechts)
+            for (int i = platz_ + länge_ - 1; i >= platz_; i--) tausch(i);
+        else
+            for (int i = platz_ - 1; i < platz_ + länge_ - 1; i++) tausch(i);
+        platz_ += rechts ? 1 : -1;
+    }
+
+    Reihen &reihen_;
+    int zeile_, platz_, länge_;
+    std::int64_t anfang_, beste_ = 0;
+    int bestPlatz_;
+};
 
 /// Carries a run to where it costs least in its row, as far as what lies between isn't too dear; whether that is
 /// elsewhere.
 bool Bestplatz(Reihen &reihen, int zeile, int platz, int länge) {
-    const auto breite = static_cast<int>(reihen.Zeile(zeile).size());
-    int kosten = 0;
-    int beste = 0;
-    int bestWeite = 0;
-    int weite = 0;
-    const auto um = [&](bool rechts) {
-        kosten += Rücken(reihen, zeile, platz + weite, länge, rechts);
-        weite += rechts ? 1 : -1;
+    const int rechts = static_cast<int>(reihen.Zeile(zeile).size()) - länge;
+    Lauf lauf(reihen, zeile, platz, länge);
+    while (lauf.Platz() > std::max(platz - Weitester, 0) && !lauf.ZuTeuer()) lauf.Rücken(false);
+    lauf.Zurück(platz, 0);
+    while (lauf.Platz() < std::min(platz + Weitester, rechts) && !lauf.ZuTeuer()) lauf.Rücken(true);
+    lauf.ZumBesten();
+    return lauf.Platz() != platz;
+}
+
+/// Turns a run round where that pays.
+bool Umgedreht(Reihen &reihen, int zeile, int platz, int länge) {
+    const std::int64_t vorher = reihen.Kosten();
+    const auto umdrehen = [&](auto tausch) {
+        for (int ende = platz + länge - 1; ende > platz; ende--)
+            for (int i = platz; i < ende; i++) tausch(i);
     };
-    const auto suchen = [&](bool rechts, int grenze) {
-        for (int i = 0; i < grenze && kosten < beste + ZuTeuer; i++) {
-            um(rechts);
-            if (kosten >= beste) continue;
-            beste = kosten;
-            bestWeite = weite;
-        }
-    };
-    suchen(false, std::min(platz, Weitester));
-    while (weite < 0) um(true);
-    suchen(true, std::min(breite - länge - platz, Weitester));
-    while (weite != bestWeite) um(weite < bestWeite);
-    return weite != 0;
+    umdrehen([&](int i) { reihen.Tauschen(zeile, i); });
+    if (reihen.Kosten() < vorher) return true;
+    umdrehen([&](int i) { reihen.Zurücktauschen(zeile, i); });
+    reihen.KostenGelten(vorher);
+    return false;
 }
 
 bool ZeileSetzenlassen(Reihen &reihen, int zeile) {
@@ -61,9 +81,7 @@ bool ZeileSetzenlassen(Reihen &reihen, int zeile) {
     for (int länge = 1; länge <= std::min(Längster, breite - 1); länge++)
         for (int platz = 0; platz + länge <= breite; platz++) {
             besser |= Bestplatz(reihen, zeile, platz, länge);
-            if (länge == 1) continue;
-            if (Umdrehen(reihen, zeile, platz, länge) < 0) besser = true;
-            else Umdrehen(reihen, zeile, platz, länge);
+            besser |= länge > 1 && Umgedreht(reihen, zeile, platz, länge);
         }
     return besser;
 }
@@ -89,18 +107,10 @@ class Stückzug {
         const auto breite = static_cast<int>(reihen_.Zeile(zeile).size());
         if (länge == 0) return;
         NachLinks(zeile);
-        int kosten = 0;
-        int beste = 0;
-        int bestPlatz = 0;
+        Lauf lauf(reihen_, zeile, 0, länge);
         const int letzter = zufall ? zufall->Unter(breite - länge + 1) : breite - länge;
-        for (int platz = 0; platz < letzter; platz++) {
-            kosten += Rücken(reihen_, zeile, platz, länge, true);
-            if (kosten >= beste) continue;
-            beste = kosten;
-            bestPlatz = platz + 1;
-        }
-        if (zufall) return;
-        for (int platz = letzter; platz > bestPlatz; platz--) Rücken(reihen_, zeile, platz, länge, false);
+        while (lauf.Platz() < letzter) lauf.Rücken(true);
+        if (!zufall) lauf.ZumBesten();
     }
 
     /// Those of the piece to the left end of the row, in their order or turned round.
@@ -123,7 +133,7 @@ class Stückzug {
 } // namespace
 
 void ReihenSetzenlassen(Reihen &reihen, std::vector<char> &unruhig) {
-    constexpr int Runden = 8;
+    constexpr int Runden = 4;
     const int letzte = reihen.Anzahl() - 1;
     for (int runde = 0; runde < Runden; runde++) {
         bool ruhig = true;
@@ -161,16 +171,18 @@ void ReihenRütteln(Reihen &reihen, const std::vector<Stück> &stücke, Zufall &
 Reihen::Folgen BesteReihen(const Familiengraph &graph, const Gerüst &gerüst) {
     Zufall zufall(1);
     const std::vector<Stück> stücke = StückeFinden(gerüst);
-    Reihen reihen(graph, gerüst, {});
+    Gewichte gewichte;
+    Reihen reihen(graph, gerüst, gewichte);
     Reihen beste = reihen;
-    const std::int64_t grenze = 4000 * static_cast<std::int64_t>(graph.Personen.size());
-    for (int i = 0; i < 40 && (i < 3 || reihen.Arbeit() < grenze); i++) {
+    // Small families are told often enough to find the best there is; the work of large ones grows with their size.
+    const std::int64_t genug = 2200 * static_cast<std::int64_t>(graph.Personen.size());
+    for (int i = 0; i < 40 && (i < 3 || reihen.Arbeit() < genug); i++) {
         reihen.Setzen(ErzählteReihen(gerüst, zufall));
         std::vector<char> unruhig(Z(gerüst.Zeilen), 1);
         ReihenSetzenlassen(reihen, unruhig);
         if (i == 0 || reihen.Kosten() < beste.Kosten()) beste = reihen;
     }
-    ReihenRütteln(beste, stücke, zufall, 10);
+    ReihenRütteln(beste, stücke, zufall, 8);
     return beste.Zeilen();
 }
 
