@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <tuple>
 
 namespace kw {
 
@@ -93,7 +94,8 @@ int Reihen::Paarkosten(int i, int j) const {
     const Ding &g = Das(j);
     const Spanne a = SpanneVon(f);
     const Spanne b = SpanneVon(g);
-    if (a.L > b.L || (a.L == b.L && a.R > b.R)) return Paarkosten(j, i);
+    if (std::tuple(a.L, a.R, i) > std::tuple(b.L, b.R, j)) return Paarkosten(j, i);
+    if (a.L == b.R) return 0; // both hang on one point
     if (a.R <= b.L) return Verdreht(i, j);
     const int kreuzung = gewichte_.Kreuzung;
     if (f.Was == Art::Zwillinge || g.Was == Art::Zwillinge) return 0;
@@ -225,6 +227,7 @@ int Reihen::Nebeneinander(int zeile, int links, int rechts, bool &ineinander) co
             if (i == j) continue;
             const Spanne a = SpanneVon(Das(i));
             const Spanne b = SpanneVon(Das(j));
+            if (a.L == b.R && a.R == b.L) continue; // both hang on one point
             if (a.R <= b.L) summe += Linienkosten(Das(i), links, Das(j), rechts);
             else if (b.R <= a.L) summe -= Linienkosten(Das(i), links, Das(j), rechts);
             else ineinander = true;

@@ -18,7 +18,7 @@ struct Gewichte {
     int ZuVerkehrt = 90;    ///< each one more
     int Wenige = 60;        ///< how many pairs are few: thousandths of all
     int FrauLinks = 3;      ///< a man on the right of a woman
-    int Umgestellt = 6;     ///< a pair that the user drew the other way round
+    int Umgestellt = 2;     ///< a pair that the user drew the other way round
     int Weite = 1;          ///< half a place that a child stands beside the middle of its parents
     int Verschränkt = 2000; ///< two lines that have to be upright, and change sides
 };

@@ -62,36 +62,39 @@ void Reihen::DingeSammeln(const Gerüst &gerüst, Wissen &w) {
     w.Oben = Gepackt(oben);
 }
 
-/// What pairs like, wherever they stand in their row: siblings by age, the man left, what the user drew.
+/// What pairs like, wherever they stand in their row: siblings by age and the man left, or what the user drew.
 void Reihen::VorliebenSammeln(const Familiengraph &graph, const Gerüst &gerüst, const Gewichte &g, Wissen &w) {
     const auto ort = [&](int a, int b) { return Z(a * w.Anzahl + b); };
-    std::size_t paare = 0;
+    const auto person = [&](int a) -> const Familienperson & { return graph.Personen[Z(a)]; };
+    const auto gezeichnet = [&](int a, int b) { return person(a).Gezeichnet && person(b).Gezeichnet; };
     w.Verkehrt.assign(ort(w.Anzahl, 0), 0);
     w.Vorliebe = w.Verkehrt;
     w.Partner.assign(w.Vorliebe.size(), 0);
+    int paare = 0;
     for (const Familie &familie : gerüst.Familien) {
-        paare += familie.Kinder.size() * (familie.Kinder.size() + 1) / 2 - familie.Kinder.size();
         for (std::size_t j = 1; j < familie.Kinder.size(); j++)
-            for (std::size_t i = 0; i < j; i++) w.Verkehrt[ort(familie.Kinder[j], familie.Kinder[i])]++;
+            for (std::size_t i = 0; i < j; i++) {
+                if (gezeichnet(familie.Kinder[i], familie.Kinder[j])) continue;
+                w.Verkehrt[ort(familie.Kinder[j], familie.Kinder[i])]++;
+                paare++;
+            }
         for (const int a : familie.Partner)
             for (const int b : familie.Partner) {
                 if (a == b) continue;
                 w.Partner[ort(a, b)] = 1;
-                if (graph.Personen[Z(a)].Art == Geschlecht::Frau && graph.Personen[Z(b)].Art == Geschlecht::Mann)
+                if (person(a).Art == Geschlecht::Frau && person(b).Art == Geschlecht::Mann && !gezeichnet(a, b))
                     w.Vorliebe[ort(a, b)] += g.FrauLinks;
             }
     }
-    w.Wenige = static_cast<int>((paare * Z(g.Wenige) + 500) / 1000);
+    w.Wenige = (paare * g.Wenige + 500) / 1000;
     for (int a = 0; a < w.Anzahl; a++)
-        for (int b = 0; b < w.Anzahl; b++) {
-            const auto &l = graph.Personen[Z(a)].Gezeichnet;
-            const auto &r = graph.Personen[Z(b)].Gezeichnet;
-            if (l && r && *l > *r) w.Vorliebe[ort(a, b)] += g.Umgestellt;
-        }
+        for (int b = 0; b < w.Anzahl; b++)
+            if (gezeichnet(a, b) && *person(a).Gezeichnet > *person(b).Gezeichnet)
+                w.Vorliebe[ort(a, b)] += g.Umgestellt;
     for (const Ding &d : w.Dinge)
-        for (int person = 0; person < w.Anzahl; person++) {
-            const bool eigen = d.A == d.B || d.A == person || d.B == person;
-            const bool partner = w.Partner[ort(d.A, person)] || w.Partner[ort(d.B, person)];
+        for (int p = 0; p < w.Anzahl; p++) {
+            const bool eigen = d.A == d.B || d.A == p || d.B == p;
+            const bool partner = w.Partner[ort(d.A, p)] || w.Partner[ort(d.B, p)];
             w.Fremd.push_back(!eigen && (!partner || d.Was == Art::Zwillinge) ? 1 : 0);
         }
 }

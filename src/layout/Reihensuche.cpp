@@ -1,6 +1,7 @@
 #include "layout/Reihensuche.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace kw {
 
@@ -168,16 +169,45 @@ void ReihenRütteln(Reihen &reihen, const std::vector<Stück> &stücke, Zufall &
     }
 }
 
+namespace {
+
+/// What is drawn already keeps its order but where lines cross; shorter lines are no reason then.
+Gewichte GewichteFür(const Familiengraph &graph) {
+    Gewichte gewichte;
+    const auto gezeichnet = std::count_if(graph.Personen.begin(), graph.Personen.end(),
+                                          [](const Familienperson &person) { return person.Gezeichnet.has_value(); });
+    if (Z(static_cast<int>(gezeichnet)) * 2 > graph.Personen.size()) gewichte.Weite = 0;
+    return gewichte;
+}
+
+/// Rows as the user drew them; those who are new keep behind whom they were told.
+Reihen::Folgen GezeichneteReihen(const Familiengraph &graph, Reihen::Folgen zeilen) {
+    for (std::vector<int> &zeile : zeilen) {
+        std::vector<std::pair<double, int>> folge;
+        double x = -std::numeric_limits<double>::infinity();
+        for (const int person : zeile) {
+            x = graph.Personen[Z(person)].Gezeichnet.value_or(x);
+            folge.emplace_back(x, person);
+        }
+        std::stable_sort(folge.begin(), folge.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
+        for (std::size_t i = 0; i < zeile.size(); i++) zeile[i] = folge[i].second;
+    }
+    return zeilen;
+}
+
+} // namespace
+
 Reihen::Folgen BesteReihen(const Familiengraph &graph, const Gerüst &gerüst) {
     Zufall zufall(1);
     const std::vector<Stück> stücke = StückeFinden(gerüst);
-    Gewichte gewichte;
+    Gewichte gewichte = GewichteFür(graph);
     Reihen reihen(graph, gerüst, gewichte);
     Reihen beste = reihen;
     // Small families are told often enough to find the best there is; the work of large ones grows with their size.
     const std::int64_t genug = 2200 * static_cast<std::int64_t>(graph.Personen.size());
     for (int i = 0; i < 40 && (i < 3 || reihen.Arbeit() < genug); i++) {
-        reihen.Setzen(ErzählteReihen(gerüst, zufall));
+        const Reihen::Folgen erzählt = ErzählteReihen(gerüst, zufall);
+        reihen.Setzen(i == 0 ? GezeichneteReihen(graph, erzählt) : erzählt);
         std::vector<char> unruhig(Z(gerüst.Zeilen), 1);
         ReihenSetzenlassen(reihen, unruhig);
         if (i == 0 || reihen.Kosten() < beste.Kosten()) beste = reihen;

@@ -43,6 +43,8 @@ std::vector<Teil> TeileFinden(const Familiengraph &graph, const std::vector<Fami
     const std::vector<int> zu = Zugehörigkeit(graph.Personen.size(), familien);
     std::vector<int> größe(zu.size(), 0);
     for (const int teil : zu) größe[Z(teil)]++;
+    for (const Familie &familie : familien) // one alone can have a bar too
+        for (const int partner : familie.Partner) größe[Z(zu[Z(partner)])]++;
     std::vector<Teil> teile;
     std::vector<int> teilVon(zu.size(), -1);
     std::vector<int> neu(zu.size(), -1);

@@ -1,11 +1,13 @@
 #!/bin/sh
-# Runs one scenario in a folder of its own and compares what it prints with the .out file beside it.
+# Runs one scenario in a folder of its own, with what it reads (families) beside it, and compares what it prints with the
+# .out file of its name.
 # KW_UPDATE=1 writes that file anew.
 replay=$1
 script=$2
 expected="${script%.kws}.out"
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
+cp "$(dirname "$script")"/*.fam "$folder"
 cd "$folder" || exit 1
 "$replay" "$script" >printed
 code=$?
