@@ -7,10 +7,11 @@ namespace kw {
 
 namespace {
 
-constexpr int Feinstes = 50;         // thousandths; where the page has no raster
-constexpr double Liniennähe = 0.3;   // between lines that pass a row side by side, cm
-constexpr std::int64_t Länge = 1000; // a step of a line
-constexpr std::int64_t Mitte = 1;    // a step of a child from each of its parents, squared: only what settles ties
+constexpr int Feinstes = 50;          // thousandths; where the page has no raster
+constexpr double Liniennähe = 0.3;    // between lines that pass a row side by side, cm
+constexpr std::int64_t Länge = 1000;  // a step of a line
+constexpr std::int64_t Schiefe = 150; // a step that a child line leans, besides what it gets longer
+constexpr std::int64_t Mitte = 1;     // a step of a child from each of its parents, squared: only what settles ties
 constexpr int WeitesterSchritt = 128;
 
 /// Rows in which columns of several rows keep one order in all of them: by where they stand on average.
@@ -88,9 +89,10 @@ void Orte::Gewichten(const Reihen::Folgen &zeilen, Differenzen &orte, Paare &inn
             }
             orte.Kosten(Kostenart::Schräg, kind, l, 0, Länge, höhe);
             orte.Kosten(Kostenart::Schräg, r, kind, 0, Länge, höhe);
-            // Beyond a partner of several its line would run into those of the other families.
-            if (familien[Z(l)] > 1) orte.Kosten(Kostenart::Über, kind, l, 0, Länge / 2);
-            if (familien[Z(r)] > 1) orte.Kosten(Kostenart::Über, r, kind, 0, Länge / 2);
+            // Upright rather than nearly so; and beyond a partner of several its line would run into those of the
+            // other families.
+            orte.Kosten(Kostenart::Über, kind, l, 0, familien[Z(l)] > 1 ? Länge / 2 : Schiefe);
+            orte.Kosten(Kostenart::Über, r, kind, 0, familien[Z(r)] > 1 ? Länge / 2 : Schiefe);
             orte.Kosten(Kostenart::Quadrat, l, kind, 0, Mitte);
             orte.Kosten(Kostenart::Quadrat, kind, r, 0, Mitte);
         }

@@ -25,6 +25,8 @@ void Reihen::Setzen(const Folgen &zeilen) {
 std::int64_t Reihen::Neuberechnet() {
     const auto dinge = static_cast<int>(wissen_->Dinge.size());
     std::int64_t summe = 0;
+    std::fill(dazwischen_.begin(), dazwischen_.end(), 0);
+    getrennt_ = 0;
     for (int i = 0; i < dinge; i++) {
         summe += Einzelkosten(i);
         for (int j = 0; j < i; j++) {
@@ -56,8 +58,7 @@ int Reihen::Einzelkosten(int ding) {
     const Ding &d = Das(ding);
     int summe = 0;
     for (int k = d.Erstes; k < d.Ende; k++) summe += std::abs(Weite(d, wissen_->Kinderorte[Z(k)])) * gewichte_.Weite;
-    dazwischen_[Z(ding)] = Dazwischen(ding);
-    return summe + Getrenntkosten(dazwischen_[Z(ding)]);
+    return summe + DazwischenGelten(ding, Dazwischen(ding));
 }
 
 Reihen::Spanne Reihen::SpanneVon(const Ding &d) const {
@@ -149,8 +150,17 @@ int Reihen::Weiten(std::size_t ort, int ohne, int weite) const {
     return summe * gewichte_.Weite;
 }
 
-int Reihen::Getrenntkosten(int dazwischen) const {
-    return dazwischen > 0 ? gewichte_.Getrennt + dazwischen * gewichte_.Dazwischen : 0;
+int Reihen::Getrenntkosten(int getrennt) const {
+    return getrennt > 0 ? gewichte_.Getrennt + (getrennt - 1) * gewichte_.NochEinGetrennt : 0;
+}
+
+/// So many strangers stand between the partners now; what that costs more.
+int Reihen::DazwischenGelten(int ding, int anzahl) {
+    int &dazwischen = dazwischen_[Z(ding)];
+    const int mehr = (anzahl - dazwischen) * gewichte_.Dazwischen - Getrenntkosten(getrennt_);
+    getrennt_ += (anzahl > 0 ? 1 : 0) - (dazwischen > 0 ? 1 : 0);
+    dazwischen = anzahl;
+    return mehr + Getrenntkosten(getrennt_);
 }
 
 int Reihen::Verkehrtkosten(int verkehrt) const {
@@ -178,10 +188,7 @@ int Reihen::Trennung(int zeile, int ende, int anderer, bool andererRechts) {
         const Ding &d = Das(i);
         const int partner = platz_[Z(d.A == ende ? d.OrtB : d.OrtA)];
         const bool partnerRechts = partner > Platz(zeile, ende);
-        int &dazwischen = dazwischen_[Z(i)];
-        summe -= Getrenntkosten(dazwischen);
-        dazwischen += partnerRechts == andererRechts ? -1 : 1;
-        summe += Getrenntkosten(dazwischen);
+        summe += DazwischenGelten(i, dazwischen_[Z(i)] + (partnerRechts == andererRechts ? -1 : 1));
     }
     return summe;
 }

@@ -12,15 +12,16 @@ namespace kw {
 /// What counts how much while the order of the rows is sought.
 struct Gewichte {
     int Kreuzung = 60;
-    int Getrennt = 200;     ///< a couple with strangers between them
-    int Dazwischen = 30;    ///< and each of these
-    int Verkehrt = 40;      ///< a pair of siblings in the wrong order, as long as they are few
-    int ZuVerkehrt = 90;    ///< each one more
-    int Wenige = 60;        ///< how many pairs are few: thousandths of all
-    int FrauLinks = 3;      ///< a man on the right of a woman
-    int Umgestellt = 2;     ///< a pair that the user drew the other way round
-    int Weite = 1;          ///< half a place that a child stands beside the middle of its parents
-    int Verschränkt = 2000; ///< two lines that have to be upright, and change sides
+    int Getrennt = 200;        ///< a couple with strangers between them
+    int NochEinGetrennt = 250; ///< each one more
+    int Dazwischen = 30;       ///< and each of these
+    int Verkehrt = 40;         ///< a pair of siblings in the wrong order, as long as they are few
+    int ZuVerkehrt = 90;       ///< each one more
+    int Wenige = 50;           ///< how many pairs are few: thousandths of all
+    int FrauLinks = 3;         ///< a man on the right of a woman
+    int Umgestellt = 2;        ///< a pair that the user drew the other way round
+    int Weite = 1;             ///< half a place that a child stands beside the middle of its parents
+    int Verschränkt = 2000;    ///< two lines that have to be upright, and change sides
 };
 
 /// The order of everybody in each row, and what it costs. Everything is built of one change: two neighbours change
@@ -107,8 +108,9 @@ class Reihen {
     int Beinkosten(int zeile, int person) const;
     int Weite(const Ding &d, int kindort) const;
     int Weiten(std::size_t ort, int ohne, int weite) const;
-    int Getrenntkosten(int dazwischen) const;
+    int Getrenntkosten(int getrennt) const;
     int Verkehrtkosten(int verkehrt) const;
+    int DazwischenGelten(int ding, int anzahl);
     int Trennung(int zeile, int ende, int anderer, bool andererRechts);
     int Dazwischen(int ding) const;
     std::int64_t Neuberechnet();
@@ -120,6 +122,7 @@ class Reihen {
     std::vector<int> platz_;      ///< by row and person
     std::vector<int> verdreht_;   ///< by two things
     std::vector<int> dazwischen_; ///< strangers between the partners, by thing
+    int getrennt_ = 0;            ///< how many couples these stand between
     int verkehrt_ = 0;            ///< pairs of siblings in the wrong order
     std::int64_t kosten_ = 0;
     std::int64_t arbeit_ = 0;

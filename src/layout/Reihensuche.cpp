@@ -204,7 +204,7 @@ Reihen::Folgen BesteReihen(const Familiengraph &graph, const Gerüst &gerüst) {
     Reihen reihen(graph, gerüst, gewichte);
     Reihen beste = reihen;
     // Small families are told often enough to find the best there is; the work of large ones grows with their size.
-    const std::int64_t genug = 2200 * static_cast<std::int64_t>(graph.Personen.size());
+    const std::int64_t genug = 2800 * static_cast<std::int64_t>(graph.Personen.size());
     for (int i = 0; i < 40 && (i < 3 || reihen.Arbeit() < genug); i++) {
         const Reihen::Folgen erzählt = ErzählteReihen(gerüst, zufall);
         reihen.Setzen(i == 0 ? GezeichneteReihen(graph, erzählt) : erzählt);

@@ -28,7 +28,7 @@ class Stückesucher {
     std::vector<Stück> Finden() {
         for (int knoten = 0; knoten < personen_; knoten++)
             if (folge_[Z(knoten)] < 0) Ablaufen(knoten);
-        for (std::size_t f = 0; f < gerüst_.Familien.size(); f++) Nachkommen(gerüst_.Familien[f]);
+        for (const Familie &familie : gerüst_.Familien) Nachkommen(familie);
         return std::move(stücke_);
     }
 
@@ -88,20 +88,25 @@ class Stückesucher {
     void Nachkommen(const Familie &familie) {
         std::vector<char> dabei(Z(personen_), 0);
         std::vector<int> liste;
+        std::vector<int> offen;
         const auto hinzu = [&](int person) {
-            if (!dabei[Z(person)]) liste.push_back(person);
+            if (dabei[Z(person)]) return;
             dabei[Z(person)] = 1;
+            liste.push_back(person);
+            offen.push_back(person);
         };
         for (const int kind : familie.Kinder) hinzu(kind);
-        for (std::size_t i = 0; i < liste.size(); i++)
-            for (const int knoten : nachbarn_[Z(liste[i])]) {
+        while (!offen.empty()) {
+            const int person = offen.back();
+            offen.pop_back();
+            for (const int knoten : nachbarn_[Z(person)]) {
                 const Familie &eigene = gerüst_.Familien[Z(knoten - personen_)];
-                if (std::find(eigene.Partner.begin(), eigene.Partner.end(), liste[i]) == eigene.Partner.end()) continue;
+                if (std::find(eigene.Partner.begin(), eigene.Partner.end(), person) == eigene.Partner.end()) continue;
                 for (const int partner : eigene.Partner)
-                    if (gerüst_.Spalten[Z(partner)].Oben == gerüst_.Spalten[Z(partner)].Ebene && !HatEltern(partner))
-                        hinzu(partner);
+                    if (!HatEltern(partner)) hinzu(partner);
                 for (const int kind : eigene.Kinder) hinzu(kind);
             }
+        }
         if (!familie.Kinder.empty()) Aufnehmen(liste, gerüst_.Spalten[Z(familie.Kinder[0])].Ebene);
     }
 
