@@ -3,9 +3,19 @@
 #include "document/Dokument.h"
 #include "document/Zahlen.h"
 
+#include <benchmark/benchmark.h>
+
 #include <string>
 
 namespace kw {
+
+/// The sizes that everything is measured at.
+inline constexpr int Personenzahlen[] = {10, 100, 200, 400, 900};
+
+inline void AlleGrößen(benchmark::internal::Benchmark *b) {
+    for (const int n : Personenzahlen) b->Arg(n);
+    b->Unit(benchmark::kMicrosecond);
+}
 
 /// A document of `n` persons in families of four, with all that such persons bring along.
 inline Dokument Familien(int n) {

@@ -108,16 +108,11 @@ void UndoUndRedo(benchmark::State &lauf) {
     }
 }
 
-void Personenzahlen(benchmark::internal::Benchmark *b) {
-    for (const int n : {10, 100, 300, 900}) b->Arg(n);
-    b->Unit(benchmark::kMicrosecond);
-}
-
-BENCHMARK(Treffer)->Apply(Personenzahlen);
-BENCHMARK(Rahmen)->Apply(Personenzahlen);
-BENCHMARK(GruppeBewegen)->Apply(Personenzahlen);
-BENCHMARK(Löschen)->Apply(Personenzahlen);
-BENCHMARK(UndoUndRedo)->Apply(Personenzahlen);
+BENCHMARK(Treffer)->Name("HitTest")->Apply(AlleGrößen);
+BENCHMARK(Rahmen)->Name("Marquee")->Apply(AlleGrößen);
+BENCHMARK(GruppeBewegen)->Name("MoveHalf")->Apply(AlleGrößen);
+BENCHMARK(Löschen)->Name("DeleteHalf")->Apply(AlleGrößen);
+BENCHMARK(UndoUndRedo)->Name("UndoAndRedo")->Apply(AlleGrößen);
 
 } // namespace
 } // namespace kw

@@ -22,7 +22,7 @@ add_custom_target(tidy
 find_program(KW_CLANG_FORMAT clang-format)
 if(KW_CLANG_FORMAT)
   file(GLOB_RECURSE ours CONFIGURE_DEPENDS src/*.cpp src/*.h tests/*.cpp tests/*.h benchmarks/*.cpp benchmarks/*.h
-       fuzzing/*.cpp fuzzing/*.h proof/*.cpp proof/*.h packaging/*.cpp)
+       fuzzing/*.cpp fuzzing/*.h proof/*.cpp proof/*.h packaging/*.cpp help/*.cpp)
   add_custom_target(format COMMAND ${KW_CLANG_FORMAT} -i ${ours} VERBATIM)
   add_custom_target(format-check COMMAND ${KW_CLANG_FORMAT} --dry-run --Werror --ferror-limit=1 ${ours} VERBATIM)
 endif()

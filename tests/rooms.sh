@@ -10,11 +10,14 @@ below() {
     case $1 in
     platform | document | layout) ;;
     rendering) echo document ;;
-    editing) echo layout document rendering ;;
-    dialogs | description | output | commands | keyboard) echo document rendering editing ;;
-    app) echo document rendering editing dialogs description output commands keyboard ;;
-    qt) echo document rendering editing dialogs description output commands keyboard app ;;
-    replay) echo layout document rendering editing dialogs description output commands keyboard app ;;
+    editing) echo document rendering ;;
+    arrangement) echo layout document rendering editing ;;
+    familytree) echo document ;;
+    dialogs) echo document rendering editing familytree ;;
+    description | output | commands | keyboard) echo document rendering editing ;;
+    app) echo document rendering editing arrangement familytree dialogs description output commands keyboard ;;
+    qt) echo document rendering editing familytree dialogs description output commands keyboard app ;;
+    replay) echo layout document rendering editing familytree dialogs description output commands keyboard app ;;
     *) return 1 ;;
     esac
 }
@@ -26,7 +29,7 @@ floors_within() {
     case $1 in
     document) printf '%s\n' 'Felder Texte Zahlen Satzliste' saetze/ Nummernvergabe Dokument Nachschlagen Verweise ;;
     editing)
-        printf '%s\n' 'Ablage Absagen Auflagen Fensterdienste Geometrie' 'Gruppenart Leinwandlage' Werkbank 'Gesten Marker' Abwahl
+        printf '%s\n' 'Ablage Absagen Auflagen Fensterdienste Geometrie' 'Gruppenart Kreisumriss Leinwandlage' Werkbank 'Gesten Marker' Abwahl
         printf '%s\n' Linien+Linienzug Kinder+Zwillinge 'Personen+Symbolgroesse Pfeile Kreislinien Texte Legende Bildausschnitt'
         printf '%s\n' 'Gruppe Elemente' Zwischenablage Werkzeuge Leinwand
         ;;

@@ -276,8 +276,9 @@ std::string Prüfung::Sicherungsfehler() {
     const Verlangt v(zeile_);
     const int vorher = alt_.ring.UndoPos(), platz = jetzt_.ring.UndoPos();
     const auto letzte = plätze_.find(vorher);
-    const bool leer =
-        platz != vorher && letzte != plätze_.end() && Unterschied(letzte->second, jetzt_.dokument).empty();
+    // Of two, for a tool's person and for a command that takes it away at once, the second leads back.
+    const bool eine = platz == vorher % UndoRing::UndoTiefe + 1;
+    const bool leer = eine && letzte != plätze_.end() && Unterschied(letzte->second, jetzt_.dokument).empty();
     if (leer && !Entschuldigt(SichertImmer, s, v)) return "snapshot without change";
     for (int p = vorher; p != platz; p = p % UndoRing::UndoTiefe + 1) plätze_.erase(p % UndoRing::UndoTiefe + 1);
     if (zeile_.find("press cmdLöschen") != std::string::npos) return ""; // deletes behind its snapshot

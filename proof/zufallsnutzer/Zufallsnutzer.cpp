@@ -40,7 +40,7 @@ constexpr std::string_view Handlungen[] = {
     "click %p|tool 14|move %b|click %=|click %p|tool 14|move %b|click %=|click %p|tool 12|move %p|%Bclick %=", "%d",
     "click %p|tool 13|move %p|click %=", "tool 1|click %e|click %=|tool 14|move %b|click %=", "drag %F|drag %= %e",
     "drag %C|popup %z\ntool zwillinge", "drag %F|popup mnuTwinsEineiig\nrclick %=", "drag %F|drag %= %e|drag %= %e",
-    "drag %F|popup mnuTwinszweiiig\nrclick %=", "drag %F|press cmdDelete", "drag %F|press mnuSymbolGrößer", "click %x",
+    "drag %F|popup mnuTwinszweiiig\nrclick %=", "drag %F|press cmdDelete", "%Apress mnuAnordnen", "drag %F|%Apress mnuAnordnen4", "drag %F|press mnuSymbolGrößer", "click %x",
     "drag %F|key Ctrl+C|key Ctrl+V", "drag %F|key Ctrl+X|key Ctrl+V", "popup %m\nrclick %=", "drag %x %e", "drag %p %e",
     "popup %m\nrclick %=|rclick %=", "drag %b %e", "drag %x %x", "click %x|drag %= %e", "click %x|key Del", "key Del",
     "key Ctrl+C", "key Ctrl+X", "key Ctrl+Z|key Ctrl+Z|key Ctrl+Y|key Ctrl+Y", "tool 9|drag %e %e", "wheel up", "%A%c",

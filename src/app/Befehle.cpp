@@ -5,6 +5,7 @@
 #include "app/Datenimport.h"
 #include "app/Projekt.h"
 #include "app/Startangaben.h"
+#include "arrangement/Anordnen.h"
 #include "commands/Menuetafel.h"
 #include "dialogs/Dialogumgebung.h"
 #include "document/Chronik.h"
@@ -154,6 +155,9 @@ constexpr Zeile Tabelle[] = {
     {Name::mnuLöschen1, Auf<mnuLöschen1>},
     {Name::mnuLöschen4, AuswahlLöschenImKontext},
     {Name::cmdDelete, Auf<mnuLöschen1>},
+    {Name::mnuAnordnen, Auf<mnuAnordnen>},
+    {Name::mnuAnordnen2, Auf<mnuAnordnen>},
+    {Name::mnuAnordnen4, Auf<mnuAnordnen>},
 
     {Name::mnuEinfügenMännlich, Werkzeug, 1},
     {Name::mnuEinfügenWeiblich, Werkzeug, 2},

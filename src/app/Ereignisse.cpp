@@ -12,7 +12,7 @@
 namespace kw {
 
 void frmMain::MouseDown(int taste, double x, double y) {
-    vorgelesen_ = nullptr;
+    ansager.NeuerVersuch();
     tastatur.MausGedrückt();
     gedrückt_ = bereich.InRahmen(x, y, ansicht.SeitenBreite);
     leinwand.MouseDown(taste, x, y);
@@ -111,6 +111,7 @@ void frmMain::Absagen(std::string_view name) {
     lage.Hinweis = grund;
     anzeige.MöglichesZeigen();
     wegweiser.Zeigen();
+    ansager.NachEreignis();
     plattform.benutzer.AnzeigeAuffrischen();
 }
 
@@ -118,7 +119,7 @@ bool frmMain::BefehlAusführen(std::string_view name) {
     const Befehl befehl = BefehlFinden(name);
     if (!befehl) return false;
     if (GehörtZu(name, Name::mnuBearbeiten)) mnuBearbeiten_Öffnen();
-    vorgelesen_ = nullptr;
+    ansager.NeuerVersuch();
     if (!IstFrei(name)) {
         Absagen(name);
         return false;
@@ -145,7 +146,7 @@ void frmMain::ImportzeileEinsetzen(int zeile) {
 }
 
 bool frmMain::TasteDrücken(const Tastendruck &taste) {
-    vorgelesen_ = nullptr;
+    ansager.NeuerVersuch();
     const auto vorher = tastatur.Cursor().Text(dokument);
     const bool unterwegs = tastatur.IstUnterwegs();
     const Fenstertaste *fenstertaste = FenstertasteFinden(taste);
@@ -166,7 +167,7 @@ void frmMain::LeertasteLoslassen() {
 }
 
 void frmMain::ElementFokussieren(Element element) {
-    vorgelesen_ = nullptr;
+    ansager.NeuerVersuch();
     tastatur.Hinstellen(element);
     NachEreignis();
     CursorInsBild();
@@ -183,7 +184,7 @@ void frmMain::CursorInsBild() {
 }
 
 bool frmMain::PersonSuchen(std::string_view text) {
-    vorgelesen_ = nullptr;
+    ansager.NeuerVersuch();
     const bool gefunden = tastatur.Suchen(text);
     NachEreignis();
     CursorInsBild();

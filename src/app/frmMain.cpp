@@ -3,7 +3,6 @@
 #include "app/Befehle.h"
 #include "app/Formulare.h"
 #include "commands/Menuetafel.h"
-#include "description/Zeilenvergleich.h"
 #include "dialogs/frmEinstellungen.h"
 #include "document/Dateien.h"
 #include "document/Texte.h"
@@ -203,20 +202,6 @@ void frmMain::Festhalten() {
     netzGemeldet_ = !gehalten;
 }
 
-/// Tells a listener what has come of the event, where the cross of a tool is now, and why nothing has come.
-void frmMain::Vorlesen() {
-    if (!vorleser.HörtZu()) return;
-    if (const std::string text = vorleser.NachEreignis(); !text.empty()) plattform.benutzer.Ansagen(text);
-    const auto &ort = tastatur.Cursor().Ort;
-    if (std::exchange(vorgelesenerOrt_, ort) != ort && ort)
-        plattform.benutzer.Ansagen(Ortstext(ort->X, ort->Y, ansicht.Sprache));
-    const Zweisprachig *warum = lage.Hinweis;
-    if (std::exchange(vorgelesen_, warum) != warum && warum) plattform.benutzer.Ansagen(warum->In(ansicht.Sprache));
-    const bool inHand = !warum && (IstBereit(lage) || IstLink(lage.Aktion)); // a tool tells what comes next
-    const std::string schritt = inHand ? bedienung[Name::lblStatus].Caption : std::string();
-    if (std::exchange(vorgelesenerSchritt_, schritt) != schritt && inHand) plattform.benutzer.Ansagen(schritt);
-}
-
 /// What every event ends with: the safety net has its outcome, what can be chosen follows, the face shows it, the
 /// settings file has it.
 void frmMain::NachEreignis() {
@@ -225,7 +210,7 @@ void frmMain::NachEreignis() {
     tastatur.NachEreignis();
     anzeige.MöglichesZeigen();
     wegweiser.Zeigen();
-    Vorlesen();
+    ansager.NachEreignis();
     plattform.benutzer.AnzeigeAuffrischen();
     einstellungsablage.Nachführen(AktuelleEinstellungen());
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Anblick.h"
+#include "app/Ansager.h"
 #include "app/Anzeige.h"
 #include "app/Darstellung.h"
 #include "app/Datenimport.h"
@@ -88,6 +89,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     /// A key on the page, or in the window where nothing else wants it. False when it has no meaning here now: Tab then
     /// leads on.
     bool TasteDrücken(const Tastendruck &taste);
+    /// A key has opened something beside the page.
+    void TastaturBenutzt() { tastatur.Benutzt(); }
     /// Puts the keyboard's cursor on an element, wherever it is.
     void ElementFokussieren(Element element);
     /// Space has been let go.
@@ -145,7 +148,6 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void Absagen(std::string_view name);
     void NachEreignis();
     void Festhalten();
-    void Vorlesen();
     void CursorInsBild();
     void KommandozeileÖffnen();
     void ZweiteStufe();
@@ -193,13 +195,11 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Leinwand leinwand;
     Tastatur tastatur{werkbank};
     Vorleser vorleser{{dokument, ansicht, auswahl, lage, legende, plattform.uhr}};
-    std::optional<Seitenort> vorgelesenerOrt_;
-    std::string vorgelesenerSchritt_;
-    const Zweisprachig *vorgelesen_ = nullptr; ///< why nothing came of the event, when that has been told
-    Rahmenort gedrückt_;                       ///< where in the frame the last press was
-    bool aufgegeben_ = false;                  ///< the closing question was answered with No
-    bool netzGemeldet_ = false;                ///< that the safety net can't be written
-    std::string Kommandozeile;                 ///< trimmed and unquoted
+    Ansager ansager{plattform.benutzer, {vorleser, tastatur, bereich, bedienung, lage, ansicht}};
+    Rahmenort gedrückt_;        ///< where in the frame the last press was
+    bool aufgegeben_ = false;   ///< the closing question was answered with No
+    bool netzGemeldet_ = false; ///< that the safety net can't be written
+    std::string Kommandozeile;  ///< trimmed and unquoted
     const Anblick anblick{
         projekt.Titel, projekt.Geändert,    einstellungen.Fenster, ansicht,  bedienung, bereich,          auflagen,
         lage,          import.Listenzeilen, plattform.uhr,         dokument, legende,   tastatur.Cursor()};

@@ -51,6 +51,7 @@ constexpr Menüzeile Tafel[] = {
     {Name::mnuEinfügen, Name::mnuBearbeiten, {"&Einfügen", "Paste"}, {"E", "P"}, "Ctrl+V", Gesperrt},
     {Name::mnuStr7, Name::mnuBearbeiten, {"-", "-"}},
     {Name::mnuLöschen1, Name::mnuBearbeiten, {"Löschen", "Delete        Del"}, {"L", "D"}, "Del", Gesperrt},
+    {Name::mnuAnordnen, Name::mnuBearbeiten, {"Anordnen", "Arrange"}, {"n", "A"}},
 
     // The menu of tools, also the context menu of the empty page.
     {Name::mnuSymbolEinfügen, Menüleiste, {"Einfügen", "Insert"}, {"E", "I"}},
@@ -93,6 +94,7 @@ constexpr Menüzeile Tafel[] = {
     {Name::mnuDoppelpfeil, Name::mnuSymbolEinfügen, {"Doppelpfeil", "Double Arrow"}, {"o", "D"}},
     {Name::mnuEinfügenTextfeld, Name::mnuSymbolEinfügen, {"Textfeld", "Textbox"}, {"x", "x"}},
     {Name::mnuEinfügenKreislinie, Name::mnuSymbolEinfügen, {"Kreislinie", "Circular Line"}, {"K", "C"}},
+    {Name::mnuAnordnen2, Name::mnuSymbolEinfügen, {"Anordnen", "Arrange"}, {"n", "n"}},
     {Name::mnustr15, Name::mnuSymbolEinfügen, {"-", "-"}, {}, "", true, Versteckt},
     {Name::mnuEinfügen8, Name::mnuSymbolEinfügen, {"Einfügen", "Paste"}, {"f", "s"}, "", Gesperrt, Versteckt},
 
@@ -198,6 +200,7 @@ constexpr Menüzeile Tafel[] = {
     {Name::mnuAusschneiden4, Name::mnuAuswahlBox, {"Ausschneiden", "Cut"}, {"A", "t"}},
     {Name::mnuKopieren4, Name::mnuAuswahlBox, {"Kopieren", "Copy"}, {"K", "C"}},
     {Name::mnuLöschen4, Name::mnuAuswahlBox, {"Löschen", "Delete"}, {"L", "D"}},
+    {Name::mnuAnordnen4, Name::mnuAuswahlBox, {"Anordnen", "Arrange"}, {"n", "A"}},
     {Name::mnuMakeTwins,
      Name::mnuAuswahlBox,
      {"Als Zwillinge darstellen", "Represent As Twins"},

@@ -49,6 +49,12 @@ inline constexpr Zweisprachig OhneFormular{"Pfeile und Kreislinien haben kein Fo
                                            "Arrows and circle lines have no form."};
 
 // Commands.
+inline constexpr Zweisprachig NiemandVerbunden{"Nichts angeordnet: Niemand ist durch Linien verbunden.",
+                                               "Nothing arranged: nobody is joined by lines."};
+inline constexpr Zweisprachig SchonGeordnet{"Es steht schon alles so.", "Everything stands like that already."};
+inline constexpr Zweisprachig KreisImWegDerOrdnung{
+    "Nichts angeordnet: Eine Kreislinie könnte dann nicht mehr dieselben Personen umschließen.",
+    "Nothing arranged: a circle line couldn't go round the same persons any more."};
 inline constexpr Zweisprachig NichtsGewählt{"Es ist nichts ausgewählt.", "Nothing is selected."};
 inline constexpr Zweisprachig KeinePersonGewählt{"Es ist keine Person ausgewählt.", "No person is selected."};
 inline constexpr Zweisprachig GrößtesSymbol{"Größer wird das Symbol nicht.", "The symbol gets no larger."};

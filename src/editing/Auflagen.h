@@ -15,6 +15,7 @@ struct Auflagenlinie {
     double Y2 = Geparkt;
     bool Visible = false;
 
+    bool operator==(const Auflagenlinie &) const = default;
     void Parken() { X1 = Y1 = X2 = Y2 = Geparkt; }
     void Legen(double x1, double y1, double x2, double y2) {
         X1 = x1;
@@ -35,6 +36,7 @@ struct Auflagenform {
     bool Visible = false;
     Umriss Shape = Umriss::Rechteck;
 
+    bool operator==(const Auflagenform &) const = default;
     void Legen(double left, double top, double width, double height) {
         Left = left;
         Top = top;
@@ -56,6 +58,8 @@ struct Auflagen {
     Auflagenform shpPerson;                ///< link target
     Auflagenform shpCursor;                ///< where the keyboard is
     std::array<Auflagenlinie, 2> Kreuz;    ///< the same with a tool in hand
+
+    bool operator==(const Auflagen &) const = default;
 };
 
 } // namespace kw

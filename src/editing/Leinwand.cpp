@@ -339,9 +339,11 @@ bool Leinwand::GesteZurücknehmen() {
     const bool bleibt = w.lage.Aktion == Aktion::PfeilZeichnen || w.lage.Aktion == Aktion::KreisZeichnen;
     const Aktion aktion = pfeil ? Aktion::PfeilGewählt : w.lage.Aktion;
     const bool bild = w.lage.BildAuswahl;
+    const Mauszeiger zeiger = w.lage.Zeiger;
     w.lage.Gedrückt = false;
     ZugAbbrechen(w);
     if (bleibt || pfeil) w.lage.Aktion = aktion;
+    if (bleibt || bild) w.lage.Zeiger = zeiger; // what is in hand still shows
     w.lage.BildAuswahl = bild;
     w.fenster.Vorschau();
     return true;

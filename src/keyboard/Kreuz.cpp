@@ -3,53 +3,17 @@
 #include "document/Zahlen.h"
 #include "editing/Gesten.h"
 #include "editing/Kreislinien.h"
+#include "editing/Kreisumriss.h"
 #include "editing/Leinwand.h"
 #include "keyboard/Ansagen.h"
 
 #include <algorithm>
 #include <array>
-#include <cmath>
-#include <numbers>
 #include <utility>
 
 namespace kw {
 
 namespace {
-
-constexpr double Abstand = 0.6;      ///< of a circle line from what it is laid round, cm
-constexpr double Eckenradius = 1.0;  ///< the same line's
-constexpr double Punktabstand = 1.5; ///< the same line's points are no further apart on a straight side
-
-/// Points round a box, clockwise from the left end of its upper side.
-std::vector<Kreispunkt> Umrisspunkte(const Umgebung &u) {
-    const double links = u.Links - Abstand;
-    const double oben = u.Oben - Abstand;
-    const double rechts = u.Rechts + Abstand;
-    const double unten = u.Unten + Abstand;
-    const double r = std::min({Eckenradius, (rechts - links) / 2, (unten - oben) / 2});
-    const std::array<Kreispunkt, 4> ecken{
-        {{rechts - r, oben + r}, {rechts - r, unten - r}, {links + r, unten - r}, {links + r, oben + r}}};
-    std::vector<Kreispunkt> punkte;
-    const auto dazu = [&](double x, double y) { punkte.push_back({Gerundet(x, 2), Gerundet(y, 2)}); };
-    dazu(links + r, oben);
-    for (size_t i = 0; i < ecken.size(); ++i) {
-        const double winkel = (static_cast<double>(i) - 1) * std::numbers::pi / 2; // the corner begins upwards
-        const auto ort = [&](double w) {
-            return Kreispunkt{ecken[i].X + r * std::cos(w), ecken[i].Y + r * std::sin(w)};
-        };
-        const Kreispunkt von = punkte.back();
-        const Kreispunkt bis = ort(winkel);
-        const int teile = static_cast<int>(std::hypot(bis.X - von.X, bis.Y - von.Y) / Punktabstand);
-        for (int t = 1; t <= teile; ++t)
-            dazu(std::lerp(von.X, bis.X, t / (teile + 1.0)), std::lerp(von.Y, bis.Y, t / (teile + 1.0)));
-        for (int viertel = 0; viertel <= 2; ++viertel) {
-            const Kreispunkt p = ort(winkel + viertel * std::numbers::pi / 4);
-            if (i + 1 < ecken.size() || viertel < 2) dazu(p.X, p.Y); // the last one is the first again
-        }
-    }
-    punkte.erase(std::unique(punkte.begin(), punkte.end()), punkte.end());
-    return punkte;
-}
 
 /// How many there are of what a tool can make.
 std::array<int, 4> Bestand(const Dokument &d) {
@@ -126,7 +90,7 @@ void Kreuz::Weiterführen(Seitenort ort) {
 
 void Kreuz::KreislinieUm(const Umgebung &umriss) {
     Leinwand leinwand(w_);
-    auto punkte = Umrisspunkte(umriss);
+    auto punkte = KreisUm(umriss);
     for (Kreispunkt &p : punkte) {
         p.X = std::clamp(p.X, 0.0, w_.ansicht.SeitenBreite);
         p.Y = std::clamp(p.Y, 0.0, w_.ansicht.SeitenHöhe);

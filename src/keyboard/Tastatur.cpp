@@ -261,6 +261,7 @@ bool Tastatur::Suchen(std::string_view text) {
     w_.lage.Hinweis = nullptr;
     const bool weiter = gesucht_ == text; // the same name again means the next who has it
     gesucht_ = text;
+    if (Getrimmt(text).empty()) return false; // nobody is asked for yet
     const auto gefunden = PersonNamens(w_.dokument, text, weiter ? cursor_.Element() : std::nullopt);
     Hingehen(gefunden, NiemandNamens);
     return gefunden.has_value();
@@ -278,9 +279,10 @@ void Tastatur::MausBewegt() {
 
 void Tastatur::VorBefehl() {
     lauf_.Beenden();
+    gewählteVorher_ = Gewählte(w_);
     if (IstBereit(w_.lage)) return;
     Umgebung umriss;
-    for (const Element &e : Gewählte(w_)) {
+    for (const Element &e : *gewählteVorher_) {
         const Umgebung u = Elementrahmen(w_.dokument, w_.legende, e);
         umriss.Aufnehmen(u.Links, u.Oben, u.Rechts - u.Links, u.Unten - u.Oben);
     }
@@ -294,9 +296,20 @@ void Tastatur::NachEreignis() {
     if (IstLink(w_.lage.Aktion) && !link_ && Gültig(w_.dokument.cboPersonen, w_.lage.PersAuswahl - 1))
         cursor_.Setzen(w_.dokument, {Elementart::Person, w_.lage.PersAuswahl - 1});
     link_ = IstLink(w_.lage.Aktion);
+    ZumNeuGewählten();
     if (!sichtbar_ && !link_ && w_.lage.Aktion != Aktion::GruppeGewählt)
         if (const auto gewählte = Gewählte(w_); gewählte.size() == 1) cursor_.Setzen(w_.dokument, gewählte.front());
     Zeigen();
+}
+
+/// What a command has selected, as pasting does, is where one goes on.
+void Tastatur::ZumNeuGewählten() {
+    const auto vorher = std::exchange(gewählteVorher_, std::nullopt);
+    if (!vorher || !sichtbar_) return;
+    const auto gewählte = Gewählte(w_);
+    const auto hier = cursor_.Element();
+    const bool dabei = hier && std::find(gewählte.begin(), gewählte.end(), *hier) != gewählte.end();
+    if (!gewählte.empty() && !dabei && gewählte != *vorher) cursor_.Setzen(w_.dokument, gewählte.front());
 }
 
 Seitenort Tastatur::FreierOrt() const {
@@ -318,7 +331,7 @@ std::optional<Umgebung> Tastatur::Rahmen() const {
 
 /// The frame round the element, or the cross.
 void Tastatur::Zeigen() {
-    constexpr double Luft = 0.15; // cm between an element and the frame
+    constexpr double Luft = 0.07; // cm between an element and the frame, which leaves a name below to be read
     constexpr double Arm = 0.5;   // cm, of the cross
     auto &[waagrecht, senkrecht] = w_.auflagen.Kreuz;
     w_.auflagen.shpCursor.Visible = waagrecht.Visible = senkrecht.Visible = false;

@@ -76,6 +76,7 @@ class Tastatur {
     std::optional<Umgebung> Rahmen() const;
     Elementfilter Ziele() const;
     void ZielZeigen();
+    void ZumNeuGewählten();
     void Zeigen();
 
     Werkbank &w_;
@@ -85,7 +86,8 @@ class Tastatur {
     bool leertaste_ = false; ///< it is down, and nothing has come between
     bool sichtbar_ = false;
     std::string gesucht_;
-    bool link_ = false; ///< the link in hand is known
+    bool link_ = false;                                  ///< the link in hand is known
+    std::optional<std::vector<Element>> gewählteVorher_; ///< before the command that runs
 };
 
 } // namespace kw

@@ -134,7 +134,9 @@ class Arbeitsbereich {
     void ArbeitsbereichAnordnen();
     void SchattenSetzen();
     int SichtBreite(bool mitLeiste) const;
-    int SichtBreite() const { return SichtBreite(VScroll1.Visible); } ///< of the frame what isn't covered, and what shows behind it
+    int SichtBreite() const {
+        return SichtBreite(VScroll1.Visible);
+    } ///< of the frame what isn't covered, and what shows behind it
     int SichtHöhe(bool mitLeiste) const;
     int SichtHöhe() const { return SichtHöhe(HScroll1.Visible); }
     /// Whether a canvas of that size needs no scroll bar, measured beside both.

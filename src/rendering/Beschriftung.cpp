@@ -2,6 +2,8 @@
 
 #include "document/Dokument.h"
 #include "document/Texte.h"
+#include "document/Zahlen.h"
+#include "rendering/Symbole.h"
 
 #include <algorithm>
 
@@ -49,6 +51,13 @@ void AlterUndJahrZeichnen(Zeichenfläche &f, const Lebensdaten &d, double x, dou
     Zentriert(f, d.GebText, x, y + 0.08);
 }
 
+void NamensschriftSetzen(Zeichenfläche &f, double faktor) {
+    f.FontName = "Arial";
+    f.FontBold = true;
+    f.FontItalic = f.FontUnderline = false;
+    f.FontSize = Klein * faktor;
+}
+
 Lebensdaten Ermittelt(Altersberechnung &alter, const PersonSatz &person) {
     Lebensdaten d;
     alter.strAlterText.clear();
@@ -64,6 +73,18 @@ Lebensdaten Ermittelt(Altersberechnung &alter, const PersonSatz &person) {
 }
 
 } // namespace
+
+bool ZeigtNamen(const PersonSatz &person) {
+    const int kennzahl = SymbolKennzahl(person.Symboltyp());
+    const double typ = kennzahl > 0 ? kennzahl : ZahlLesen(person.Symboltyp());
+    return typ < TypSchwangerschaft || typ >= TypInstitution;
+}
+
+double Namensbreite(Zeichenfläche &f, const PersonSatz &person) {
+    if (!ZeigtNamen(person)) return 0;
+    NamensschriftSetzen(f, f.Faktor());
+    return std::max(f.TextWidth(person.Vorname()), f.TextWidth(person.Nachname()));
+}
 
 void LebensdatenZeichnen(Zeichenfläche &f, int altersanzeige, const Lebensdaten &d, double x, double y, double größe,
                          double faktor) {
@@ -82,10 +103,7 @@ void PersonBeschriften(Zeichenfläche &f, const Ansicht &ansicht, Altersberechnu
 
     // The names blot out the lines that run behind them, and are upright whatever was drawn before.
     f.FontTransparent = false;
-    f.FontName = "Arial";
-    f.FontBold = true;
-    f.FontItalic = f.FontUnderline = false;
-    f.FontSize = Klein * faktor;
+    NamensschriftSetzen(f, faktor);
     f.ForeColor = Schwarz;
     const std::string_view vorname = person.Vorname();
     Zentriert(f, vorname, x, oben + größe + 0.03);

@@ -13,6 +13,12 @@ namespace kw {
 void PersonBeschriften(Zeichenfläche &fläche, const Ansicht &ansicht, Altersberechnung &alter, const PersonSatz &person,
                        double x, double y, double oben, double größe, double faktor);
 
+/// Whether the kind of the person shows names and an age.
+bool ZeigtNamen(const PersonSatz &person);
+
+/// How wide the names under the symbol are, cm; nothing for kinds that show none. The surface's font is another then.
+double Namensbreite(Zeichenfläche &fläche, const PersonSatz &person);
+
 struct Lebensdaten {
     bool Verstorben = false;
     std::string AlterText; ///< completed years

@@ -37,8 +37,7 @@ class Personenzeichner {
         const int kennzahl = SymbolKennzahl(person.Symboltyp());
         f.ForeColor = Schwarz;
         symbol.Zeichnen(kennzahl, MarkenVon(person), Hervorgehoben(person, position));
-        const double typ = kennzahl > 0 ? kennzahl : ZahlLesen(person.Symboltyp());
-        if (typ <= 2 || typ >= 9) PersonBeschriften(f, z_.ansicht, alter_, person, x, y, oben, größe, faktor_);
+        if (ZeigtNamen(person)) PersonBeschriften(f, z_.ansicht, alter_, person, x, y, oben, größe, faktor_);
     }
 
   private:

@@ -21,6 +21,11 @@ void Zeichenfläche::Scale(double breite, double höhe, double faktor) {
     SkalaGeändert();
 }
 
+void Zeichenfläche::Linienzug(std::span<const Zeichenort> orte, Farbe farbe) {
+    for (std::size_t i = 1; i < orte.size(); ++i)
+        Line(LinieFarbig, orte[i - 1].X, orte[i - 1].Y, orte[i].X, orte[i].Y, farbe);
+}
+
 void Zeichenfläche::Diagonalen(int flags, double x1, double y1, double x2, double y2, Farbe farbe) {
     Line(flags, x1, y1, x2, y2, farbe);
     Line(flags, x1, y2, x2, y1, farbe);

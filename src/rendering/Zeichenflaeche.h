@@ -2,6 +2,7 @@
 
 #include "rendering/Farben.h"
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
@@ -12,6 +13,13 @@ namespace kw {
 struct Bildpunkt {
     int X = 0;
     int Y = 0;
+};
+
+/// A place on the page, user units.
+struct Zeichenort {
+    double X = 0;
+    double Y = 0;
+    bool operator==(const Zeichenort &) const = default;
 };
 
 /// Flags of `Line` and `Circle`.
@@ -79,6 +87,8 @@ class Zeichenfläche {
     /// Clears to white.
     virtual void Cls() = 0;
     virtual void Line(int flags, double x1, double y1, double x2, double y2, Farbe farbe = Schwarz) = 0;
+    /// Lines from each place to the next, solid. A surface that keeps its lines as such may join them.
+    virtual void Linienzug(std::span<const Zeichenort> orte, Farbe farbe);
     /// The diagonals of the rectangle that the two points span, as lines. A surface may trim their ends to the outline
     /// that the rectangle has or would have.
     virtual void Diagonalen(int flags, double x1, double y1, double x2, double y2, Farbe farbe = Schwarz);

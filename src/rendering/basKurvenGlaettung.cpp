@@ -61,9 +61,7 @@ std::vector<Kurvenort> KurvenZug(Kurvenpunkte &p, int n, int schritte, bool gesc
 }
 
 void KurveZeichnen(Zeichenfläche &fläche, Kurvenpunkte &p, int n, int schritte, Farbe farbe, bool geschlossen) {
-    const auto zug = KurvenZug(p, n, schritte, geschlossen);
-    for (size_t i = 1; i < zug.size(); ++i)
-        fläche.Line(LinieFarbig, zug[i - 1].X, zug[i - 1].Y, zug[i].X, zug[i].Y, farbe);
+    fläche.Linienzug(KurvenZug(p, n, schritte, geschlossen), farbe);
 }
 
 int KurveBerechnen(Kurvenpunkte &p, int n, int schritte, std::vector<Bildpunkt> &punkte, bool geschlossen) {

@@ -7,11 +7,7 @@
 // Smooth curves through the points of a stroke: the uniform Catmull-Rom spline.
 namespace kw {
 
-struct Kurvenort {
-    double X = 0;
-    double Y = 0;
-    bool operator==(const Kurvenort &) const = default;
-};
+using Kurvenort = Zeichenort;
 
 /// P(0) to P(n + 1): the stroke's points are P(1) to P(n), the two at the ends are working places.
 using Kurvenpunkte = std::vector<Kurvenort>;

@@ -1,3 +1,4 @@
+#include "app/Stammbaumdatei.h"
 #include "document/Codepage.h"
 #include "document/Dateien.h"
 #include "document/Profil.h"
@@ -5,6 +6,7 @@
 #include "replay/Familiendatei.h"
 #include "replay/Programm.h"
 #include "replay/Skriptbefehle.h"
+#include "replay/Stammbaumausgabe.h"
 
 #include <algorithm>
 #include <cmath>
@@ -46,6 +48,13 @@ void Profilaufrufe(Wiedergabe &lauf, const std::string &datei) {
     throw Skriptfehler("profil without end");
 }
 
+void Stammbaumaufruf(std::ostream &aus, const std::string &pfad) {
+    std::string bytes;
+    const auto befund = StammbaumdateiLesen(pfad, bytes);
+    if (!befund.Gelungen()) throw Skriptfehler(pfad + ": " + befund.Text(Sprache::Englisch));
+    StammbaumZeigen(aus, StammbaumLesen(std::move(bytes)));
+}
+
 /// Centimetres to the thousandth, the same in every locale.
 std::string Zentimeter(double wert) {
     const auto tausendstel = static_cast<long>(std::lround(wert * 1000));
@@ -69,6 +78,7 @@ void Familienaufruf(std::ostream &aus, const std::string &datei) {
 
 constexpr Skriptbefehl Tabelle[] = {
     {"age", [](auto &lauf, auto &w, auto &) { AlterBerechnen(lauf, w.size() > 1 ? Ab(w, 1) : ""); }},
+    {"familytree", [](auto &lauf, auto &w, auto &) { Wort(w, 1), Stammbaumaufruf(lauf.aus, Ab(w, 1)); }},
     {"layout", [](auto &lauf, auto &w, auto &) { Wort(w, 1), Familienaufruf(lauf.aus, Ab(w, 1)); }},
     {"profil", [](auto &lauf, auto &w, auto &) { Profilaufrufe(lauf, Ab(w, 1)); }},
 };

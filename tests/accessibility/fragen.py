@@ -134,12 +134,15 @@ def renaming(p, ears):
     check("the old one is gone", [h for h in heard if h[0] == "object:children-changed:remove"], heard)
 
 
-def making(p, ears):
-    """A couple made by keyboard is told as it comes; what is deleted is."""
+def deleting(p, ears):
+    """What is deleted is told, and why nothing is."""
     many = len(p.elements())
     heard = ears.after("Delete", seconds=0.8)
+    check("why nothing is deleted is told", [h for h in heard if h[3] == "notification"], heard)
+    heard = ears.after("space", "Delete", seconds=0.8)
     notes = [h[1] for h in heard if h[3] == "notification"]
-    check("a deletion is told", [n for n in notes if n.startswith("gelöscht: Xy Großmann")] or len(p.elements()) == many, notes)
+    check("a deletion is told", [n for n in notes if n.startswith("gelöscht: Xy Großmann")], notes)
+    check("and has taken it away", len(p.elements()) < many, (many, len(p.elements())))
     key("ctrl+z", pause=0.5)
     check("undone, all are back", len(p.elements()) == many, (many, len(p.elements())))
 
@@ -173,11 +176,21 @@ def menus(p, ears):
     check("back from the menus one element is told", len(told) == 1, heard)
 
 
+def first_words(ears):
+    """Whoever takes a tool out of a menu by keys is told how keys use it, from the first time on."""
+    p = Program("de", f"{source}/samples/familie.kwp")
+    heard = ears.after("F10", "Right", "Right", "Down", "m", seconds=1)
+    notes = [h[1] for h in heard if h[3] == "notification"]
+    check("a tool out of a menu tells of keys", [n for n in notes if "Pfeiltasten" in n], notes)
+    p.end()
+
+
 one_row_each("en").end()
 program = one_row_each("de")
 listening = Ears()
-for scene in (walk, quiet, selection, moving, actions, renaming, making, menus):
+for scene in (walk, quiet, selection, moving, actions, renaming, deleting, menus):
     scene(program, listening)
 program.end()
+first_words(listening)
 many_persons()
 sys.exit(1 if failed else 0)

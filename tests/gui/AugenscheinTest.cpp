@@ -17,10 +17,12 @@
 #include <QDropEvent>
 #include <QGroupBox>
 #include <QLabel>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QScreen>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -80,6 +82,8 @@ std::string Mangel(const QWidget &teil) {
     const QWidget &eltern = *teil.parentWidget();
     if (dynamic_cast<const QComboBox *>(&eltern)) return ""; // its line is of its own make
     if (teil.width() < Bedarf(teil).width() || teil.height() < Bedarf(teil).height()) return "clipped";
+    const auto *liste = dynamic_cast<const QListWidget *>(&teil);
+    if (liste && liste->horizontalScrollBar()->maximum() > 0) return "a line is cut off";
     const bool rollt = dynamic_cast<QAbstractScrollArea *>(eltern.parentWidget());
     if (!rollt && !eltern.rect().contains(teil.geometry())) return "outside";
     if (!Aufschrift(teil)) return "";

@@ -3,6 +3,7 @@
 #include "app/Einzelbild.h"
 #include "document/Dateien.h"
 #include "gui/Programmaufruf.h"
+#include "output/Pngbild.h"
 #include "qt/drucken/Vorschaubild.h"
 #include "qt/grund/QtPlattform.h"
 
@@ -11,6 +12,10 @@
 #include <QImage>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
+
+#include <cstdint>
+#include <random>
+#include <vector>
 
 #include <sys/stat.h>
 
@@ -53,6 +58,37 @@ TEST_F(Ausgabe, BilderHabenDieGrößeDerSeiteUndIhreAuflösung) {
         for (const QPoint leer : {QPoint(0, 0), QPoint(18, 9), QPoint(1753, 1239)})
             EXPECT_EQ(gelesen.pixelColor(leer), QColor(Qt::white)) << name;
         EXPECT_NEAR(gelesen.pixelColor(272, 272).blue(), 226, 4) << "inside the person, " << name;
+    }
+}
+
+/// Our own encoder against the toolkit's decoder. The rows are made in the pixels' memory: what overwrites a pixel that
+/// is still to be read shows in narrow pictures first.
+TEST(Pngbild, WirdPixelFürPixelWiederGelesen) {
+    std::mt19937 zufall(7);
+    const std::pair<unsigned, unsigned> größen[] = {{1, 1}, {1, 9}, {2, 5}, {3, 3}, {9, 1}, {61, 47}, {11000, 3}};
+    for (const auto &[breite, höhe] : größen)
+        for (const std::uint32_t farben : {0xFFFFFFFFU, 0x00010101U, 0U}) { // noise, specks, one colour
+            std::vector<std::uint32_t> pixel(std::size_t{breite} * höhe);
+            for (auto &p : pixel) p = 0xFFFFFFFFU ^ (static_cast<std::uint32_t>(zufall()) & farben);
+            const QImage bild(reinterpret_cast<const uchar *>(pixel.data()), static_cast<int>(breite),
+                              static_cast<int>(höhe), QImage::Format_RGB32);
+            const QImage vorher = bild.copy();
+            const QImage gelesen = QImage::fromData(QByteArray::fromStdString(PngAus(pixel, breite, 11811)), "png");
+            EXPECT_EQ(gelesen.convertToFormat(QImage::Format_RGB32), vorher) << breite << " x " << höhe;
+            EXPECT_EQ(gelesen.dotsPerMeterX(), 11811);
+        }
+}
+
+/// The page's PNG goes by our own encoder, its bitmap by the toolkit's.
+TEST_F(Ausgabe, PngIstDieSeiteUndNichtGrößerAlsDasDerBibliothek) {
+    ASSERT_EQ(bild.Laden(KW_TESTDATEN "/../samples/grossfamilie.kwp"), "");
+    for (const int dpi : {40, 300}) {
+        EXPECT_EQ(Fehler("a.png", dpi), "");
+        EXPECT_EQ(Fehler("a.bmp", dpi), "");
+        const QImage png = QImage(Ort("a.png")).convertToFormat(QImage::Format_RGB32);
+        EXPECT_EQ(png, QImage(Ort("a.bmp")).convertToFormat(QImage::Format_RGB32));
+        ASSERT_TRUE(png.save(Ort("b.png")));
+        EXPECT_LE(QFileInfo(Ort("a.png")).size(), QFileInfo(Ort("b.png")).size());
     }
 }
 

@@ -167,13 +167,13 @@ TEST_F(Bedienung, ZiehenKostetKeinBild) {
     const int bilder = leinwand.Bilder;
     for (int i = 1; i <= 20; ++i) Bewegen(ort + QPoint(6 * i, 3 * i), Qt::LeftButton);
     EXPECT_EQ(leinwand.Bilder, bilder);
-    EXPECT_TRUE(ZeigtAuflagen(innen.auflagen));
+    EXPECT_FALSE(AuflagenSpur(innen.auflagen, 1, 40).isEmpty());
     EXPECT_NE(Bild(), vorher); // the mask follows
     const double x = PersonX();
     Lassen(ort + QPoint(120, 60));
     EXPECT_GT(leinwand.Bilder, bilder);
     EXPECT_GT(PersonX(), x);
-    EXPECT_FALSE(ZeigtAuflagen(innen.auflagen));
+    EXPECT_TRUE(AuflagenSpur(innen.auflagen, 1, 40).isEmpty());
 }
 
 /// What lies beside the page is no canvas: an armed tool would place what nobody sees.

@@ -2,8 +2,10 @@
 #include "gui/Programmaufruf.h"
 #include "qt/malen/LeinwandFlaeche.h"
 
+#include <QBuffer>
 #include <QPdfWriter>
 #include <QRegularExpression>
+#include <QSvgGenerator>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -229,6 +231,42 @@ TEST(QtFläche, DiagonalenBleibenImUmrissUndGleichenEinander) {
             f.DrawWidth = 6;
             zeichnen(f, bild, x);
         }
+    }
+}
+
+/// A hand-drawn line has hundreds of stretches: as lines of their own they make files that nobody can open, and show
+/// wherever they overlap. On a picture they stay what they were.
+TEST(QtFläche, EinLinienzugIstInDateienEineLinieUndAufBildernJedeStrecke) {
+    std::vector<Zeichenort> zug{{2, 2}, {2, 2}, {2.5, 2}, {3, 2}, {2.9, 2}, {4, 3.3}, {5, 4.6}, {3.5, 6}};
+    const auto strecken = [](QtFläche &f, std::span<const Zeichenort> orte) {
+        for (std::size_t i = 1; i < orte.size(); ++i)
+            f.Line(LinieFarbig, orte[i - 1].X, orte[i - 1].Y, orte[i].X, orte[i].Y, Schwarz);
+    };
+    const auto alsSvg = [&] {
+        QByteArray inhalt;
+        QBuffer puffer(&inhalt);
+        QSvgGenerator svg;
+        svg.setOutputDevice(&puffer);
+        Papier f(svg, 1200 / 2.54);
+        f.Linienzug(zug, Schwarz);
+        EXPECT_TRUE(f.Beenden());
+        return inhalt;
+    };
+    const QByteArray svg = alsSvg();
+    EXPECT_EQ(svg.count("<polyline"), 1);
+    EXPECT_TRUE(svg.contains("stroke-linejoin=\"round\"")) << "thorns where the hand turns";
+    const qsizetype punkte = svg.indexOf("points=\"") + 8;
+    EXPECT_EQ(svg.mid(punkte, svg.indexOf('"', punkte) - punkte).trimmed().count(' ') + 1, 6) << svg.toStdString();
+    for (const double fern : {2.0, 1e300, std::nan("")}) {
+        QImage bild = LeeresBild(40);
+        QImage soll = LeeresBild(40);
+        zug[3].X = fern;
+        Papier f(bild, 40);
+        f.Linienzug(zug, Schwarz);
+        Papier s(soll, 40);
+        strecken(s, zug);
+        EXPECT_EQ(bild, soll);
+        EXPECT_EQ(alsSvg().count("nan") + alsSvg().count("e+"), 0);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTimer>
@@ -136,6 +137,35 @@ TEST(Tabfolge, KommtZumBlattDasRollt) {
         });
         fenster.Ausführen();
     });
+}
+
+/// With huge letters a form is larger than the screen: it scrolls to where the keyboard is.
+TEST(Tabfolge, BringtInsBildWasNichtAufDenSchirmPasst) {
+    const QFont vorher = QApplication::font();
+    QFont riesig = vorher;
+    riesig.setPointSize(30);
+    QApplication::setFont(riesig);
+    int rollende = 0;
+    AlleFormulare("de", [&](Formular &form) {
+        Formularfenster fenster(form, nullptr);
+        QTimer::singleShot(0, &fenster, [&] {
+            QApplication::processEvents();
+            const QSize schirm = fenster.screen()->availableSize();
+            EXPECT_TRUE(fenster.width() <= schirm.width() && fenster.height() <= schirm.height()) << form.Name();
+            rollende += fenster.findChild<QScrollArea *>(QString(), Qt::FindDirectChildrenOnly) ? 1 : 0;
+            const Namen soll = Bedienbare(form);
+            for (size_t i = 0; i <= soll.size(); ++i) {
+                EXPECT_FALSE(QApplication::focusWidget()->visibleRegion().isEmpty())
+                    << form.Name() << " " << Fokus(form, fenster);
+                Schicken(Qt::Key_Tab);
+                QApplication::processEvents();
+            }
+            fenster.close();
+        });
+        fenster.Ausführen();
+    });
+    EXPECT_GT(rollende, 0);
+    QApplication::setFont(vorher);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "app/Einzelbild.h"
 #include "document/Dateien.h"
+#include "output/Pngbild.h"
 #include "platform/Drucker.h"
 #include "qt/grund/Text.h"
 #include "qt/malen/QtFlaeche.h"
@@ -19,7 +20,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <new>
+#include <span>
 
 namespace kw {
 
@@ -70,23 +73,42 @@ std::string AlsSvg(Auftrag &a) {
     return Drucken(a, svg, VektorDpi / CmJeZoll);
 }
 
-std::string AlsBild(Auftrag &a, const char *format) {
+/// The resolution in the unit of the formats.
+int JeMeter(const Auftrag &a) { return static_cast<int>(std::lround(a.dpi / 0.0254)); }
+
+/// The page on white, opaque, into `bild`.
+std::string BildMalen(const Auftrag &a, QImage &bild) {
     const QSizeF größe = a.Millimeter() / 10 / CmJeZoll * a.dpi;
     const QSize pixel = größe.toSize();
     if (größe.width() * größe.height() > HöchstzahlPixel)
         return std::to_string(a.dpi) + " dots per inch make a picture of " + std::to_string(pixel.width()) + " x " +
                std::to_string(pixel.height()) + " pixels; at most 200 million are possible";
-    QImage bild(pixel, QImage::Format_RGB32);
+    bild = QImage(pixel, QImage::Format_RGB32);
     SpielraumVerlangen(bild);
     bild.fill(Qt::white);
-    if (auto fehler = Drucken(a, bild, a.dpi / CmJeZoll); !fehler.empty()) return fehler;
-    bild.setDotsPerMeterX(static_cast<int>(std::lround(a.dpi / 0.0254)));
-    bild.setDotsPerMeterY(bild.dotsPerMeterX());
+    return Drucken(a, bild, a.dpi / CmJeZoll);
+}
+
+std::string AlsBild(Auftrag &a, const char *format) {
+    QImage bild;
+    if (auto fehler = BildMalen(a, bild); !fehler.empty()) return fehler;
+    bild.setDotsPerMeterX(JeMeter(a));
+    bild.setDotsPerMeterY(JeMeter(a));
     QBuffer puffer(&a.inhalt);
     puffer.open(QIODevice::WriteOnly);
     QImageWriter schreiber(&puffer, format);
     if (*format == 'j') schreiber.setQuality(100);
     return schreiber.write(bild) ? "" : schreiber.errorString().toStdString();
+}
+
+std::string AlsPng(Auftrag &a) {
+    QImage bild;
+    if (auto fehler = BildMalen(a, bild); !fehler.empty()) return fehler;
+    const auto breite = static_cast<std::uint32_t>(bild.width());
+    const std::span pixel(reinterpret_cast<std::uint32_t *>(bild.bits()),
+                          breite * static_cast<std::size_t>(bild.height()));
+    a.inhalt = QByteArray::fromStdString(PngAus(pixel, breite, static_cast<std::uint32_t>(JeMeter(a))));
+    return "";
 }
 
 struct Format {
@@ -96,7 +118,7 @@ struct Format {
 constexpr Format Formate[] = {
     {"pdf", AlsPdf},
     {"svg", AlsSvg},
-    {"png", [](Auftrag &a) { return AlsBild(a, "png"); }},
+    {"png", AlsPng},
     {"jpg", [](Auftrag &a) { return AlsBild(a, "jpeg"); }},
     {"jpeg", [](Auftrag &a) { return AlsBild(a, "jpeg"); }},
     {"bmp", [](Auftrag &a) { return AlsBild(a, "bmp"); }},

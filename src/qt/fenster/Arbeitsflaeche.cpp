@@ -97,7 +97,7 @@ void Arbeitsflaeche::LeisteStellen(QScrollBar &leiste, const Bildlaufleiste &mod
     leiste.setRange(0, std::max(modell.Max, 0));
     leiste.setPageStep(leiste.orientation() == Qt::Vertical ? modell.Height : modell.Width);
     leiste.setValue(modell.Value);
-    leiste.setVisible(modell.Visible);
+    leiste.setVisible(modell.Visible && !erstesBild_); // the first one that is painted has the style set itself up
 }
 
 void Arbeitsflaeche::Auffrischen() {
@@ -119,6 +119,7 @@ void Arbeitsflaeche::Auffrischen() {
     LeisteStellen(vScroll_, b.VScroll1);
     LeisteStellen(hScroll_, b.HScroll1);
     ZeigerSetzen();
+    leinwand_.Geändertes(); // shows with all else
     update();
     baum_->Auffrischen();
 }
@@ -190,14 +191,32 @@ void Arbeitsflaeche::SeiteUnterZeigerMelden() {
 bool Arbeitsflaeche::Melden(const std::function<void()> &ereignis) {
     const QPointer<Arbeitsflaeche> ich = this;
     const bool vorher = std::exchange(imModell_, true);
-    const bool zeigteAuflagen = ZeigtAuflagen(anblick_->auflagen);
+    const Auflagen auflagen = anblick_->auflagen;
+    const QRegion spur = Auflagenspur();
     ereignis();
     if (!ich) return false;
     imModell_ = vorher;
     ZeigerSetzen();
-    // The kept picture is copied and the shapes painted over it; nothing of the page is drawn anew.
-    if (zeigteAuflagen || taste_ != Qt::NoButton || ZeigtAuflagen(anblick_->auflagen)) update();
+    GeändertesZeigen(auflagen == anblick_->auflagen ? QRegion() : spur + Auflagenspur());
     return true;
+}
+
+/// Where the shapes over the page are on this widget.
+QRegion Arbeitsflaeche::Auflagenspur() const {
+    const QRectF seite = Seite();
+    const QRegion spur =
+        AuflagenSpur(anblick_->auflagen, anblick_->lage.PfeilArt, seite.width() / anblick_->ansicht.SeitenBreite);
+    return spur.translated(seite.topLeft().toPoint());
+}
+
+/// Repaints what a gesture has changed: the shapes over the page, `auflagen`, and what it drew on the kept picture. The
+/// rest of the page stays on the screen.
+void Arbeitsflaeche::GeändertesZeigen(const QRegion &auflagen) {
+    const QRect neu = leinwand_.Geändertes();
+    const double k = leinwand_.Pixelverhältnis();
+    const QRectF bild(QPointF(neu.topLeft()) / k, QSizeF(neu.size()) / k);
+    const QRect amOrt = bild.translated(Seite().topLeft()).toAlignedRect().adjusted(-1, -1, 1, 1);
+    update(neu.isEmpty() ? auflagen : auflagen + amOrt);
 }
 
 /// A press and a double click.

@@ -69,6 +69,8 @@ class Arbeitsflaeche : public QWidget, public MitSeitenbaum {
     bool Loslassen();
     bool TasteMelden(const Tastendruck &taste);
     bool Melden(const std::function<void()> &ereignis);
+    void GeändertesZeigen(const QRegion &auflagen);
+    QRegion Auflagenspur() const;
     void EinstiegMalen(QPainter &p, const QRectF &feld) const;
     void ZeigerSetzen();
     Mauszeiger Zeiger() const;

@@ -131,7 +131,10 @@ void Menüs::Bauen(QMenuBar &leiste) {
         QMenu *menü = leiste.addMenu(QString());
         einträge_.push_back({&zeile, menü->menuAction()});
         Füllen(*menü, zeile.Name, einträge_);
-        QObject::connect(menü, &QMenu::aboutToShow, menü, [this] { Auffrischen(); });
+        QObject::connect(menü, &QMenu::aboutToShow, menü, [this] {
+            if (QGuiApplication::mouseButtons() == Qt::NoButton && !leiste_->underMouse()) haupt_.TastaturBenutzt();
+            Auffrischen();
+        });
     }
     // The keyboard's way in without a letter.
     const auto *öffnen = new QShortcut(QKeySequence(Qt::Key_F10), &leiste);

@@ -31,10 +31,7 @@ void Suchfeld::Öffnen(Sprache sprache) {
     setFocus(Qt::ShortcutFocusReason);
 }
 
-void Suchfeld::Suchen() {
-    if (text().trimmed().isEmpty()) return;
-    suchen_(text().toStdString());
-}
+void Suchfeld::Suchen() { suchen_(text().toStdString()); }
 
 /// The page's shortcuts mustn't take what belongs to a field of text.
 bool Suchfeld::event(QEvent *ereignis) {

@@ -15,8 +15,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
+#include <QStyle>
 #include <QTimer>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -78,6 +81,8 @@ void Formularfenster::Ausführen() {
     form_.Wirt = this;
     form_.Laden();
     FormularAnordnen(form_, teile_, *this);
+    Auffrischen();
+    InBildschirmFassen();
     RahmenBauen();
     KnöpfeOrdnen();
     TabfolgeSetzen();
@@ -86,6 +91,42 @@ void Formularfenster::Ausführen() {
     form_.Wirt = nullptr;
     zeitgeber_.clear();
     form_.Entladen();
+}
+
+/// Where the screen is too small, or the fonts are too large, for all of the form it scrolls; its buttons stay in sight
+/// where they can.
+void Formularfenster::InBildschirmFassen() {
+    constexpr QSize Fensterrand(8, 48); // title and edges that the window manager adds
+    const QSize platz = screen()->availableSize() - Fensterrand;
+    QLayout &inhalt = *layout();
+    for (const QWidget *teil : findChildren<QWidget *>()) teil->ensurePolished(); // style and font say how large it is
+    inhalt.invalidate();
+    const bool ziehbar = inhalt.sizeConstraint() != QLayout::SetFixedSize;
+    const QSize ganz = ziehbar ? inhalt.totalMinimumSize() : inhalt.totalSizeHint();
+    if (ganz.width() <= platz.width() && ganz.height() <= platz.height()) return;
+    const QMargins rand = inhalt.contentsMargins();
+    const int knopfreihe = inhalt.count() - 1;
+    const bool knöpfeBleiben =
+        inhalt.itemAt(knopfreihe)->minimumSize().width() + rand.left() + rand.right() <= platz.width();
+    const std::unique_ptr<QLayoutItem> knöpfe(knöpfeBleiben ? inhalt.takeAt(knopfreihe) : nullptr);
+    auto *blatt = new QWidget;
+    blatt->setLayout(&inhalt); // and with it all that stands on it
+    auto *rolle = new QScrollArea(this);
+    rolle->setFrameShape(QFrame::NoFrame);
+    rolle->setFocusPolicy(Qt::NoFocus);
+    rolle->setWidgetResizable(ziehbar);
+    rolle->setWidget(blatt);
+    auto *spalte = new QVBoxLayout(this);
+    spalte->setContentsMargins(0, 0, 0, 0);
+    spalte->addWidget(rolle);
+    if (knöpfe) {
+        auto *reihe = new QHBoxLayout;
+        reihe->setContentsMargins(rand.left(), 0, rand.right(), rand.bottom());
+        reihe->addWidget(knöpfe->widget());
+        spalte->addLayout(reihe);
+    }
+    const int leiste = style()->pixelMetric(QStyle::PM_ScrollBarExtent); // takes room from the other direction
+    resize((ganz + QSize(leiste, leiste)).boundedTo(platz));
 }
 
 void Formularfenster::TeileBauen() {

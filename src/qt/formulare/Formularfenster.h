@@ -39,6 +39,7 @@ class Formularfenster : public QDialog, public Formularwirt {
     bool eventFilter(QObject *objekt, QEvent *ereignis) override;
 
   private:
+    void InBildschirmFassen();
     void TeileBauen();
     void KnöpfeOrdnen();
     void RahmenBauen();

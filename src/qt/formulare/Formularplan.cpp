@@ -227,7 +227,7 @@ constexpr Baustein Info[] = {
 constexpr Baustein Fassungen[] = {
     Feld("lblErklärung").AlsAbsatz(60),
     Reihe(Abstand),
-    Feld("lstFassungen").Mindestens(66, 10).Gedehnt(),
+    Feld("lstFassungen").Mindestens(50, 10).Gedehnt(),
     Feld("picSeite"),
     Ende,
     Feld("lblOrt").AlsAbsatz(60),

@@ -69,6 +69,9 @@ QWidget *BlockBauen(const std::string &name, const Formularmelder &melder, QWidg
 
 QWidget *ListenfeldBauen(const std::string &name, const Formularmelder &melder, QWidget *eltern) {
     auto *liste = new QListWidget(eltern);
+    liste->setWordWrap(true); // what a line ends with counts as much as its beginning
+    liste->setResizeMode(QListView::Adjust);
+    liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QObject::connect(liste, &QListWidget::currentRowChanged, liste, [=](int index) { melder.Gewählt(name, index); });
     return liste;
 }

@@ -2,12 +2,11 @@
 
 #include "editing/Auflagen.h"
 
+#include <QRegion>
+
 class QPainter;
 
 namespace kw {
-
-/// Whether any overlay shape shows.
-bool ZeigtAuflagen(const Auflagen &auflagen);
 
 /// Paints the overlay shapes. The painter's origin is the page's top left corner and its unit a logical pixel,
 /// `pixelJeCm` of which are a centimetre. Strokes are equally wide at every zoom, and readable on the page as on
@@ -16,5 +15,9 @@ void AuflagenMalen(QPainter &p, const Auflagen &auflagen, int pfeilArt, double p
 
 /// The same for where the keyboard is: a frame, or the cross of a tool.
 void CursorMalen(QPainter &p, const Auflagen &auflagen, double pixelJeCm);
+
+/// Where both of these leave marks, in the painter's units and with some air. Along their strokes: the inside of a
+/// frame is none of it.
+QRegion AuflagenSpur(const Auflagen &auflagen, int pfeilArt, double pixelJeCm);
 
 } // namespace kw

@@ -43,6 +43,7 @@ void LeinwandFläche::Cls() {
     Beenden();
     const QSize größe(pixel(Width()), pixel(Height()));
     if (bild_.size() != größe) bild_ = Bildspeicher(größe);
+    geändert_ = QRect(QPoint(), größe);
     bild_.setDevicePixelRatio(1); // the painter counts physical pixels
     bild_.fill(Qt::white);
     // Not by the picture's own size, which is rounded: polygons count in exactly these pixels.
@@ -50,6 +51,15 @@ void LeinwandFläche::Cls() {
     StrichmaßSetzen(Linienpixel() / pixelverhältnis_);
     Beginnen(bild_, pixelJeCm * pixelverhältnis_, pixelJeCm);
     bild_.setDevicePixelRatio(pixelverhältnis_);
+}
+
+void LeinwandFläche::Line(int flags, double x1, double y1, double x2, double y2, Farbe farbe) {
+    QtFläche::Line(flags, x1, y1, x2, y2, farbe);
+    if (geändert_.size() == bild_.size()) return;
+    const double k = BildschirmPixelJeCm * Faktor() * pixelverhältnis_;
+    const double luft = DrawWidth * pixelverhältnis_ + 2;
+    const QRectF ort = QRectF(QPointF(x1, y1) * k, QPointF(x2, y2) * k).normalized();
+    geändert_ |= ort.adjusted(-luft, -luft, luft, luft).toAlignedRect();
 }
 
 } // namespace kw

@@ -3,6 +3,9 @@
 #include "qt/malen/QtFlaeche.h"
 
 #include <QImage>
+#include <QRect>
+
+#include <utility>
 
 namespace kw {
 
@@ -22,11 +25,17 @@ class LeinwandFläche : public QtFläche {
 
     /// Clears; makes the picture anew when size or resolution have changed.
     void Cls() override;
+    /// A gesture adds lines, and nothing else, to a picture that is drawn.
+    void Line(int flags, double x1, double y1, double x2, double y2, Farbe farbe) override;
+    /// Forgets and gives where the picture, in its own pixels, has changed since the last call: all of it after a
+    /// redraw.
+    QRect Geändertes() { return std::exchange(geändert_, QRect()); }
 
   private:
     double Linienpixel() const;
 
     QImage bild_;
+    QRect geändert_;
     QSize bildschirm_;
     double pixelverhältnis_;
 };

@@ -30,6 +30,14 @@ bool Fern(double wert) { return !(std::abs(wert) <= FernerRand); }
 
 double Herangeholt(double wert) { return std::clamp(wert, -FernerRand, FernerRand); }
 
+/// Whether the way from `a` to `c` is the same without `b`.
+bool GehtGeradeaus(QPointF a, QPointF b, QPointF c) {
+    constexpr double Nichts = 1e-6; // of what steps of a hundredth of a centimetre make at the least
+    const QPointF hin = b - a;
+    const QPointF weiter = c - b;
+    return std::abs(hin.x() * weiter.y() - hin.y() * weiter.x()) < Nichts && QPointF::dotProduct(hin, weiter) > 0;
+}
+
 /// Cuts a line to the far edge, so that its slope stays. False when none of it is inside.
 bool Geschnitten(double &x1, double &y1, double &x2, double &y2) {
     double von = 0;
@@ -190,6 +198,25 @@ void QtFläche::Line(int flags, double x1, double y1, double x2, double y2, Farb
     } else {
         maler_.drawLine(von, bis);
     }
+}
+
+void QtFläche::Linienzug(std::span<const Zeichenort> orte, Farbe farbe) {
+    const auto fern = [](const Zeichenort &o) { return Fern(o.X) || Fern(o.Y); };
+    if (gerastert_ || std::any_of(orte.begin(), orte.end(), fern)) return Zeichenfläche::Linienzug(orte, farbe);
+    QPolygonF zug;
+    for (const Zeichenort &o : orte) {
+        const QPointF ort = QPointF(o.X, o.Y) * JeCm;
+        if (!zug.isEmpty() && zug.last() == ort) continue;
+        if (zug.size() > 1 && GehtGeradeaus(zug.end()[-2], zug.last(), ort)) zug.last() = ort;
+        else zug += ort;
+    }
+    const QRectF r = zug.boundingRect();
+    if (zug.size() < 2 || !Sichtbar(r.left() / JeCm, r.top() / JeCm, r.right() / JeCm, r.bottom() / JeCm)) return;
+    QPen stift = Stift(farbe);
+    stift.setJoinStyle(Qt::RoundJoin); // a hand turns sharply: mitres would be thorns
+    maler_.setPen(stift);
+    stift_ = ~std::uint64_t{0};
+    maler_.drawPolyline(zug);
 }
 
 /// With flat ends in the middle of the outline's corners: a square end sticks out there, and so does one that isn't on

@@ -36,6 +36,8 @@ class QtFläche : public Zeichenfläche {
 
     void Cls() override;
     void Line(int flags, double x1, double y1, double x2, double y2, Farbe farbe) override;
+    /// In a file of vectors as one line, in which its stretches meet without a seam and which is a fraction as long.
+    void Linienzug(std::span<const Zeichenort> orte, Farbe farbe) override;
     void Diagonalen(int flags, double x1, double y1, double x2, double y2, Farbe farbe) override;
     void Circle(int flags, double x, double y, double radius, Farbe farbe) override;
     void Torte(int flags, double x, double y, double radius, Farbe farbe, double von, double bis) override;

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/Sprache.h"
+
+#include <string>
+
+namespace kw {
+
+/// Why a file gives no family tree.
+enum class Stammbaumfehler {
+    Keiner,
+    NichtLesbar,   ///< the file itself
+    KeinArchiv,    ///< a damaged archive, or one packed in a way that isn't known
+    Verschlüsselt, ///< an archive behind a password
+    OhneStammbaum, ///< an archive without a .ged file
+    ZuGroß,        ///< unpacked
+};
+
+struct Stammbaumbefund {
+    Stammbaumfehler Fehler = Stammbaumfehler::Keiner;
+    std::string Meldung; ///< of the system, for a file that can't be read
+    bool Gelungen() const { return Fehler == Stammbaumfehler::Keiner; }
+    /// A sentence for the user; empty when nothing failed.
+    std::string Text(Sprache sprache) const;
+};
+
+/// The bytes of a family tree's file: a .ged, or the first .ged of an archive (.gdz), whatever the file is called.
+/// `bytes` is left alone on failure. What is unpacked is held to the size of any other file.
+Stammbaumbefund StammbaumdateiLesen(const std::string &pfad, std::string &bytes);
+
+} // namespace kw

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "layout/Familiengraph.h"
+
+#include <vector>
+
+// A document's persons and their bonds, as the layout engine takes them.
+namespace kw {
+
+class Zeichenfläche;
+struct Dokument;
+
+struct Familienauszug {
+    Familiengraph Graph;
+    std::vector<int> Personen; ///< position in the store of each person of the graph
+    std::vector<int> Linien;   ///< position of the partnership line of each family
+};
+
+/// Those of `personen`, positions in the store, who have a partner, a child or parents among them, with the lines
+/// between them. Places as drawn are the order that is to be kept. `fläche` measures names; its font changes.
+Familienauszug FamilienUnter(const Dokument &dokument, const std::vector<int> &personen, Zeichenfläche &fläche);
+
+} // namespace kw

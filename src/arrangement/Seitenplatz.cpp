@@ -1,0 +1,75 @@
+#include "arrangement/Seitenplatz.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kw {
+
+namespace {
+
+constexpr double Nichts = 1e-6; ///< what touches doesn't overlap, cm
+
+bool Überlappen(const Umgebung &a, const Umgebung &b, Ort weg) {
+    return a.Links + weg.X < b.Rechts - Nichts && b.Links < a.Rechts + weg.X - Nichts &&
+           a.Oben + weg.Y < b.Unten - Nichts && b.Oben < a.Unten + weg.Y - Nichts;
+}
+
+bool IstFrei(const Platzwunsch &w, Ort weg) {
+    return std::none_of(w.Kästen.begin(), w.Kästen.end(), [&](const Umgebung &kasten) {
+        return std::any_of(w.Hindernisse.begin(), w.Hindernisse.end(),
+                           [&](const Umgebung &anderes) { return Überlappen(kasten, anderes, weg); });
+    });
+}
+
+/// The steps between two bounds, in whole ones; none when the first is beyond the last.
+struct Spanne {
+    int Von, Bis;
+};
+
+Spanne Spielraum(double vonCm, double bisCm, double raster) {
+    return {static_cast<int>(std::ceil((vonCm - Nichts) / raster)),
+            static_cast<int>(std::floor((bisCm + Nichts) / raster))};
+}
+
+} // namespace
+
+Abstände MaßeFür(double symbol, double raster, bool eng) {
+    const auto aufRaster = [&](double cm) { return std::ceil(cm / raster - 1e-9) * raster; };
+    Abstände a;
+    a.Symbol = symbol;
+    a.Raster = raster;
+    a.Personen = aufRaster(symbol + (eng ? 0.6 : 0.9));
+    a.Generationen = aufRaster(symbol + (eng ? 1.8 : 2.4));
+    a.Balken = aufRaster(symbol / 2 + (eng ? 0.9 : 1.2));
+    return a;
+}
+
+Umgebung UmAlle(const std::vector<Umgebung> &kästen) {
+    Umgebung alle;
+    for (const Umgebung &k : kästen) alle.Aufnehmen(k.Links, k.Oben, k.Rechts - k.Links, k.Unten - k.Oben);
+    return alle;
+}
+
+std::optional<Ort> PlatzFinden(const Platzwunsch &w) {
+    const Umgebung alle = UmAlle(w.Kästen);
+    const Spanne x = Spielraum(w.Seite.Links - alle.Links, w.Seite.Rechts - alle.Rechts, w.Raster);
+    const Spanne y = Spielraum(w.Seite.Oben - alle.Oben, w.Seite.Unten - alle.Unten, w.Raster);
+    struct Versuch {
+        Ort Weg;
+        long long Ferne; ///< thousandths of a millimetre: equally far is equally good on every machine
+    };
+    std::vector<Versuch> versuche;
+    for (int i = x.Von; i <= x.Bis; ++i)
+        for (int k = y.Von; k <= y.Bis; ++k) {
+            const Ort weg{i * w.Raster, k * w.Raster};
+            const double ferne = std::hypot(alle.MitteX() + weg.X - w.Ziel.X, alle.MitteY() + weg.Y - w.Ziel.Y);
+            versuche.push_back({weg, std::llround(ferne * 10000)});
+        }
+    std::stable_sort(versuche.begin(), versuche.end(),
+                     [](const Versuch &a, const Versuch &b) { return a.Ferne < b.Ferne; });
+    const auto freier =
+        std::find_if(versuche.begin(), versuche.end(), [&](const Versuch &v) { return IstFrei(w, v.Weg); });
+    return freier == versuche.end() ? std::nullopt : std::optional(freier->Weg);
+}
+
+} // namespace kw

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "editing/Geometrie.h"
+#include "layout/Familienlage.h"
+
+#include <map>
+#include <optional>
+
+// What follows when persons get other places.
+namespace kw {
+
+class PersonSatz;
+struct Ansicht;
+struct Dokument;
+
+/// New places, cm, by position in the store.
+struct Umzug {
+    std::map<int, Ort> Personen;  ///< centres
+    std::map<int, double> Balken; ///< heights of partnership lines
+    double Größe = 100;           ///< symbols of those persons are at most that large
+};
+
+/// What a person takes of the page with its names, when its centre is at `ort`, cm.
+Umgebung Personenkasten(const PersonSatz &person, Ort ort, double größe, double namensbreite);
+/// The person nearest to a place on the page, as a position in the store; of several the first.
+std::optional<int> NächstePerson(const Dokument &dokument, Ort ort);
+
+/// Writes the records: the persons with all their lines, bars at their heights. A text, an arrow, a circle line goes
+/// along with the person nearest to it, if that moves. A circle line holds whom it held: where going along doesn't do,
+/// it is drawn anew. False, and nothing changed, when one can't.
+bool Umziehen(Dokument &dokument, const Ansicht &ansicht, const Umzug &umzug);
+
+} // namespace kw

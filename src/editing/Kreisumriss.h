@@ -1,0 +1,23 @@
+#pragma once
+
+#include "document/saetze/Kreislinie.h"
+#include "editing/Geometrie.h"
+
+#include <string_view>
+#include <vector>
+
+// Circle lines by what they hold: laid round something, and asked whether something is in them. cm on the page.
+namespace kw {
+
+/// Points round a box, clockwise from the left end of its upper side, at some distance and with round corners.
+std::vector<Kreispunkt> KreisUm(const Umgebung &kasten);
+
+/// Points of one stroke round all of `drinnen` and past all of `draußen`, on a page of that size: it follows the boxes,
+/// and goes from one to the next on the shortest free way. Empty where there is none.
+std::vector<Kreispunkt> KreisUmAlle(const std::vector<Umgebung> &drinnen, const std::vector<Umgebung> &draußen,
+                                    double seitenBreite, double seitenHöhe);
+
+/// Whether the closed stroke of that record, as it is drawn, goes round the place.
+bool Umschließt(std::string_view kreis, int glättungsgrad, double x, double y);
+
+} // namespace kw
