@@ -1,7 +1,6 @@
 #include "app/Stammbaumdatei.h"
 
 #include "document/Codepage.h"
-#include "document/Dateien.h"
 
 #include <array>
 #include <memory>
@@ -44,21 +43,21 @@ std::optional<zip_uint64_t> ErsterStammbaum(zip_t *archiv) {
 }
 
 /// Reads until the end: sizes that an archive tells can be lies.
-Stammbaumfehler Auspacken(zip_file_t *datei, std::string &bytes) {
+Stammbaumfehler Auspacken(zip_file_t *datei, std::size_t höchstens, std::string &bytes) {
     std::string inhalt;
     std::array<char, std::size_t{1} << 16> stück{};
     for (;;) {
         const auto anzahl = zip_fread(datei, stück.data(), stück.size());
         if (anzahl < 0) return Stammbaumfehler::KeinArchiv;
         if (anzahl == 0) break;
-        if (inhalt.size() + static_cast<std::size_t>(anzahl) > GrößteDatei) return Stammbaumfehler::ZuGroß;
+        if (inhalt.size() + static_cast<std::size_t>(anzahl) > höchstens) return Stammbaumfehler::ZuGroß;
         inhalt.append(stück.data(), static_cast<std::size_t>(anzahl));
     }
     bytes = std::move(inhalt);
     return Stammbaumfehler::Keiner;
 }
 
-Stammbaumfehler AusArchiv(const std::string &gepackt, std::string &bytes) {
+Stammbaumfehler AusArchiv(const std::string &gepackt, std::size_t höchstens, std::string &bytes) {
     const auto archiv = Geöffnet(gepackt);
     if (!archiv) return Stammbaumfehler::KeinArchiv;
     const auto nummer = ErsterStammbaum(archiv.get());
@@ -68,7 +67,7 @@ Stammbaumfehler AusArchiv(const std::string &gepackt, std::string &bytes) {
     if ((auskunft.valid & ZIP_STAT_ENCRYPTION_METHOD) && auskunft.encryption_method != ZIP_EM_NONE)
         return Stammbaumfehler::Verschlüsselt;
     const Archivdatei datei(zip_fopen_index(archiv.get(), *nummer, 0), &zip_fclose);
-    return datei ? Auspacken(datei.get(), bytes) : Stammbaumfehler::KeinArchiv;
+    return datei ? Auspacken(datei.get(), höchstens, bytes) : Stammbaumfehler::KeinArchiv;
 }
 
 } // namespace
@@ -78,11 +77,11 @@ std::string Stammbaumbefund::Text(Sprache sprache) const {
     return Meldung.empty() ? satz : satz + ": " + Meldung;
 }
 
-Stammbaumbefund StammbaumdateiLesen(const std::string &pfad, std::string &bytes) {
+Stammbaumbefund StammbaumdateiLesen(const std::string &pfad, std::string &bytes, std::size_t höchstens) {
     std::string inhalt;
     const auto gelesen = DateiLesen(pfad, inhalt);
     if (!gelesen.Gelungen()) return {Stammbaumfehler::NichtLesbar, gelesen.Meldung};
-    if (inhalt.starts_with("PK")) return {AusArchiv(inhalt, bytes), {}};
+    if (inhalt.starts_with("PK")) return {AusArchiv(inhalt, höchstens, bytes), {}};
     bytes = std::move(inhalt);
     return {};
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "document/Dateien.h"
 #include "platform/Sprache.h"
 
+#include <cstddef>
 #include <string>
 
 namespace kw {
@@ -25,7 +27,7 @@ struct Stammbaumbefund {
 };
 
 /// The bytes of a family tree's file: a .ged, or the first .ged of an archive (.gdz), whatever the file is called.
-/// `bytes` is left alone on failure. What is unpacked is held to the size of any other file.
-Stammbaumbefund StammbaumdateiLesen(const std::string &pfad, std::string &bytes);
+/// `bytes` is left alone on failure. What unpacks to more than `höchstens` bytes is refused before it fills the memory.
+Stammbaumbefund StammbaumdateiLesen(const std::string &pfad, std::string &bytes, std::size_t höchstens = GrößteDatei);
 
 } // namespace kw

@@ -1,8 +1,6 @@
 #include "familytree/Auslassungen.h"
 
-#include "familytree/Leerraum.h"
 #include "familytree/Uebernehmer.h"
-#include "familytree/Utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -56,7 +54,7 @@ constexpr std::array Ereignisse{"CHR"sv,  "BAPM"sv, "BARM"sv, "BASM"sv, "BLES"sv
                                 "ENGA"sv, "MARB"sv, "MARC"sv, "MARL"sv, "MARS"sv, "INIL"sv, "BAPL"sv, "CONL"sv,
                                 "ENDL"sv, "SLGC"sv, "SLGS"sv, "BIRT"sv, "DEAT"sv, "BURI"sv, "CREM"sv};
 
-constexpr std::size_t Textlänge = 60; ///< bytes of a value that a report shows
+constexpr std::size_t Genug = 200; ///< bytes of a value, more than a report shows
 
 Befundart Art(std::string_view marke) {
     const auto *const art = std::find_if(std::begin(Markenarten), std::end(Markenarten),
@@ -72,19 +70,13 @@ bool IstGenommen(std::string_view in, std::string_view marke) {
                        [&](const Genommenes &g) { return g.In == in && g.Marke == marke; });
 }
 
-std::string Kurztext(const Knoten &knoten) {
-    std::string text = Geglättet(std::string(knoten.Marke).append(" ").append(knoten.Wert.substr(0, 4 * Textlänge)));
-    if (text.size() <= Textlänge) return text;
-    std::size_t ende = 0;
-    while (ende < Textlänge) ende += ErstesUtf8(std::string_view(text).substr(ende)).Länge;
-    return text.substr(0, ende) + "...";
-}
-
 } // namespace
 
 void AuslassungenMelden(const Satz &satz, std::string_view wer, Übernahmebericht &bericht) {
     const bool familie = satz.Wurzel().Marke == "FAM";
-    const auto melden = [&](const Knoten &k) { bericht.Hinzu(Art(k.Marke), k.Zeile, wer, Kurztext(k)); };
+    const auto melden = [&](const Knoten &k) {
+        bericht.Hinzu(Art(k.Marke), k.Zeile, wer, std::string(k.Marke).append(" ").append(k.Wert.substr(0, Genug)));
+    };
     // Of names the first is taken, of births and deaths the first that has a date.
     bool ersterName = true;
     std::set<std::string_view> datierte;

@@ -52,7 +52,15 @@ bool IstGeglättet(std::string_view text) {
     return true;
 }
 
-std::string EinfacheKlammeraffen(std::string_view text) { return Ersetzt(std::string(text), "@@", "@"); }
+std::string EinfacheKlammeraffen(std::string_view text) {
+    std::string einfach;
+    einfach.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        einfach += text[i];
+        if (text.substr(i, 2) == "@@") ++i;
+    }
+    return einfach;
+}
 
 std::string Geglättet(std::string_view text) {
     const std::string einfach = EinfacheKlammeraffen(text);

@@ -25,6 +25,13 @@ std::string Übernehmer::Paarname(std::uint32_t familie) const {
     return kennung.empty() ? name : name + " (" + std::string(kennung) + ")";
 }
 
+bool Übernehmer::NenntFamilie(std::uint32_t person, std::string_view familie) {
+    auto &genannte = genannteFamilien_[person];
+    const auto &familien = baum_.Personen[person].Familien;
+    if (genannte.empty()) genannte.insert(familien.begin(), familien.end());
+    return genannte.contains(familie);
+}
+
 void Übernehmer::PartnerMelden(std::uint32_t familie, std::string_view wer) {
     const auto &fam = baum_.Familien[familie];
     const auto melden = [&](Befundart art, std::string_view text) {
@@ -32,14 +39,13 @@ void Übernehmer::PartnerMelden(std::uint32_t familie, std::string_view wer) {
     };
     for (const auto kennung : fam.Partner)
         if (!baum_.Person(kennung)) melden(Befundart::Unverbunden, kennung);
+    const std::set<std::string_view> genannte(fam.Partner.begin(), fam.Partner.end());
     const auto alle = verwandte_.Partner(familie);
     for (std::size_t i = 0; i < alle.size(); ++i) {
         const auto &person = baum_.Personen[alle[i]];
         if (i >= Paarpartner(familie).size()) melden(Befundart::PartnerWeggelassen, Anzeigename(person));
-        const bool genannt = std::find(fam.Partner.begin(), fam.Partner.end(), person.Kennung) != fam.Partner.end();
-        const bool nennt =
-            std::find(person.Familien.begin(), person.Familien.end(), fam.Kennung) != person.Familien.end();
-        if (!genannt || !nennt) melden(Befundart::NurEineSeite, Anzeigename(person));
+        if (!genannte.contains(person.Kennung) || !NenntFamilie(alle[i], fam.Kennung))
+            melden(Befundart::NurEineSeite, Anzeigename(person));
     }
 }
 

@@ -4,6 +4,7 @@
 #include "familytree/Datumsworte.h"
 #include "familytree/Leerraum.h"
 #include "familytree/Marken.h"
+#include "familytree/Utf8.h"
 
 #include <charconv>
 #include <cstdlib>
@@ -93,12 +94,7 @@ std::string Übertragung::Name(std::string_view name) {
         const bool steuert = c < ' ' || c == 0x7F;
         neu += c == '_' || steuert ? ' ' : name[i];
     }
-    if (neu.size() > HöchsteNamenslänge) {
-        neu.resize(HöchsteNamenslänge);
-        while (!neu.empty() && IstFortsetzung(neu.back())) neu.pop_back();
-        if (!neu.empty() && static_cast<unsigned char>(neu.back()) >= 0xC0) neu.pop_back();
-    }
-    neu = Geglättet(neu);
+    neu = Geglättet(UnzerteilterAnfang(neu, HöchsteNamenslänge));
     if (neu != name) Melden(Befundart::NameGeändert, Zeile("NAME"), name);
     return neu;
 }
@@ -153,11 +149,12 @@ std::string Übertragung::Tod() {
 } // namespace
 
 std::string Anzeigename(const Stammperson &person) {
-    std::string name(person.Vorname);
+    const auto kurz = [](std::string_view text) { return std::string(UnzerteilterAnfang(text, HöchsteNamenslänge)); };
+    std::string name = kurz(person.Vorname);
     if (!name.empty() && !person.Nachname.empty()) name += ' ';
-    name += person.Nachname;
+    name += kurz(person.Nachname);
     if (person.Kennung.empty()) return name;
-    return (name.empty() ? name : name + " ") + "(" + std::string(person.Kennung) + ")";
+    return (name.empty() ? name : name + " ") + "(" + kurz(person.Kennung) + ")";
 }
 
 Personenangaben PersonÜbertragen(const Stammbaum &baum, const Stammperson &person, const Familienrolle &rolle,

@@ -1,5 +1,7 @@
 #include "familytree/Stammbaum.h"
 
+#include <algorithm>
+
 namespace kw {
 
 namespace {
@@ -14,9 +16,9 @@ auto Gefunden(const std::unordered_map<std::string_view, std::uint32_t> &nummern
 } // namespace
 
 std::string_view Stammperson::Kindschaft(std::string_view familie) const {
-    for (auto herkunft = Eltern.rbegin(); herkunft != Eltern.rend(); ++herkunft)
-        if (herkunft->Familie == familie && !herkunft->Kindschaft.empty()) return herkunft->Kindschaft;
-    return {};
+    const auto kindschaft = std::lower_bound(Kindschaften.begin(), Kindschaften.end(), familie,
+                                             [](const auto &k, std::string_view f) { return k.first < f; });
+    return kindschaft != Kindschaften.end() && kindschaft->first == familie ? kindschaft->second : std::string_view();
 }
 
 const Stammperson *Stammbaum::Person(std::string_view kennung) const { return Gefunden(personen_, Personen, kennung); }

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 // The facts of a family tree's file, as they stand there. What becomes of them on a page tells `Uebernahme`.
@@ -44,6 +45,7 @@ struct Stammperson {
     bool Gestorben = false;       ///< died, was buried or cremated, with or without a date
     bool Totgeboren = false;
     std::vector<Herkunft> Eltern;
+    std::vector<std::pair<std::string_view, std::string_view>> Kindschaften; ///< where one is told: by family, rising
     std::vector<Adoption> Adoptionen;
     std::vector<std::string_view> Familien; ///< those in which the person is a partner, as it lists them
     Satzort Ort;

@@ -160,6 +160,7 @@ void Stammbaumleser::PersonLesen(const Satz &satz) {
         person.Totgeboren = person.Totgeboren || IstTotgeburt(satz, knoten);
     });
     ElternLesen(satz, person);
+    KindschaftenSammeln(person);
     BeziehungenLesen(satz);
 }
 
@@ -193,6 +194,14 @@ void Stammbaumleser::ElternLesen(const Satz &satz, Stammperson &person) {
             person.Adoptionen.push_back({Behalten(Zeiger(satz.Text(knoten, "FAMC"))), Klein(durch), knoten.Zeile});
         }
     });
+}
+
+/// What is said of each of the families, once: the last word counts.
+void Stammbaumleser::KindschaftenSammeln(Stammperson &person) {
+    std::map<std::string_view, std::string_view> kindschaften;
+    for (const auto &herkunft : person.Eltern)
+        if (!herkunft.Kindschaft.empty()) kindschaften[herkunft.Familie] = herkunft.Kindschaft;
+    person.Kindschaften.assign(kindschaften.begin(), kindschaften.end());
 }
 
 void Stammbaumleser::BeziehungenLesen(const Satz &satz) {

@@ -18,6 +18,7 @@ class Stammbaumleser {
     void PersonLesen(const Satz &satz);
     void NamenLesen(const Satz &satz, Stammperson &person);
     void ElternLesen(const Satz &satz, Stammperson &person);
+    static void KindschaftenSammeln(Stammperson &person);
     void BeziehungenLesen(const Satz &satz);
     void FamilieLesen(const Satz &satz);
     void KinderLesen(const Satz &satz, Stammfamilie &familie);

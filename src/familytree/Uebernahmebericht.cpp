@@ -1,6 +1,7 @@
 #include "familytree/Uebernahmebericht.h"
 
-#include "document/Texte.h"
+#include "familytree/Leerraum.h"
+#include "familytree/Utf8.h"
 
 #include <algorithm>
 
@@ -66,6 +67,14 @@ constexpr std::array<Zweisprachig, 3> Klassenworte{
 constexpr Zweisprachig Datei{"Datei", "File"};
 constexpr Zweisprachig Zeilenwort{"Zeile ", "Line "};
 
+constexpr std::size_t Textlänge = 80; ///< bytes of a text that a report shows
+
+/// A file's text as one short line: some are longer than a report should be.
+std::string Gekürzt(std::string_view text) {
+    const auto anfang = UnzerteilterAnfang(text, Textlänge);
+    return Geglättet(anfang) + (anfang.size() < text.size() ? "..." : "");
+}
+
 struct Berichtszeile {
     std::uint32_t Zeile;
     std::string Text;
@@ -75,7 +84,7 @@ struct Berichtszeile {
 
 void Übernahmebericht::Hinzu(Befundart art, std::uint32_t zeile, std::string_view wer, std::string_view text) {
     ++anzahl_[static_cast<std::size_t>(art)];
-    liste_.push_back({art, zeile, std::string(wer), std::string(text)});
+    liste_.push_back({art, zeile, Gekürzt(wer), Gekürzt(text)});
 }
 
 std::size_t Übernahmebericht::Anzahl(Befundklasse klasse) const {

@@ -65,6 +65,7 @@ struct Befund {
 /// What an import tells of what it did. Nothing is left out, taken for granted or changed without standing here.
 class Übernahmebericht {
   public:
+    /// Texts are shortened to what a line can show.
     void Hinzu(Befundart art, std::uint32_t zeile, std::string_view wer, std::string_view text = {});
     const std::vector<Befund> &Liste() const { return liste_; }
     std::size_t Anzahl(Befundart art) const { return anzahl_[static_cast<std::size_t>(art)]; }

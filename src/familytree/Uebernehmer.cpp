@@ -11,6 +11,11 @@ namespace {
 
 constexpr std::string_view Unbekannt = "?";
 constexpr std::size_t Partnerzahl = 2;
+constexpr std::size_t GenugEltern = 64; ///< of so many families somebody's parents are chosen; more are a broken file's
+
+std::span<const std::uint32_t> Vordere(std::span<const std::uint32_t> familien) {
+    return familien.subspan(0, std::min(familien.size(), GenugEltern));
+}
 
 bool Nennt(const Stammfamilie &familie, std::string_view kind) {
     return std::any_of(familie.Kinder.begin(), familie.Kinder.end(),
@@ -122,7 +127,7 @@ void Übernehmer::ElternWählen(std::uint32_t person) {
     const auto &stammperson = baum_.Personen[quelle];
     std::uint32_t gewählt = Keine;
     int bester = 0;
-    for (const auto familie : verwandte_.AlsKind(quelle)) {
+    for (const auto familie : Vordere(verwandte_.AlsKind(quelle))) {
         if (!IstBrauchbar(familie)) continue;
         const int vorrang = Vorrang(stammperson, familie);
         if (gewählt != Keine && vorrang >= bester) continue;
@@ -142,12 +147,14 @@ void Übernehmer::ElternMelden(const Stammperson &person, std::uint32_t gewählt
     };
     if (!Nennt(familie, person.Kennung) || !Nennt(person, familie.Kennung))
         melden(Befundart::NurEineSeite, familie.Kennung);
-    for (const auto andere : verwandte_.AlsKind(static_cast<std::uint32_t>(baum_.Nummer(person)))) {
-        if (andere == gewählt) continue;
-        melden(Befundart::WeitereEltern, Paarname(andere));
-        if (IstBrauchbar(andere) && Vorrang(person, andere) == vorrang)
-            melden(Befundart::ElternGewählt, Paarname(gewählt));
-    }
+    const auto alle = verwandte_.AlsKind(static_cast<std::uint32_t>(baum_.Nummer(person)));
+    for (const auto andere : alle)
+        if (andere != gewählt) melden(Befundart::WeitereEltern, Paarname(andere));
+    const auto gleichNah = [&](std::uint32_t andere) {
+        return andere != gewählt && IstBrauchbar(andere) && Vorrang(person, andere) == vorrang;
+    };
+    const auto vordere = Vordere(alle);
+    if (std::any_of(vordere.begin(), vordere.end(), gleichNah)) melden(Befundart::ElternGewählt, Paarname(gewählt));
 }
 
 void Übernehmer::StatusMelden() {

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <map>
+#include <set>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -37,6 +38,7 @@ class Übernehmer {
 
     void PaarAnlegen(std::uint32_t familie);
     std::pair<std::uint32_t, std::uint32_t> Partner(std::uint32_t familie, bool hatKinder);
+    bool NenntFamilie(std::uint32_t person, std::string_view familie);
     void PartnerMelden(std::uint32_t familie, std::string_view wer);
     std::string Paarname(std::uint32_t familie) const;
     Übernahmepaar &Paar(std::uint32_t erster, std::uint32_t zweiter, std::uint32_t familie);
@@ -58,7 +60,8 @@ class Übernehmer {
     std::unordered_map<std::uint32_t, std::uint32_t> orte_; ///< where who is taken stands
     std::vector<std::uint32_t> elternfamilie_;              ///< of those taken
     std::map<std::pair<std::uint32_t, std::uint32_t>, std::size_t> paare_;
-    std::vector<std::uint32_t> paarzeilen_; ///< of the file, for each couple
+    std::map<std::uint32_t, std::set<std::string_view>> genannteFamilien_; ///< by persons, of those who were asked for
+    std::vector<std::uint32_t> paarzeilen_;                                ///< of the file, for each couple
 };
 
 /// Whether a relation between two persons says that they are twins.

@@ -82,6 +82,12 @@ Utf8Anfang ErstesUtf8(std::string_view text) {
     return {da, länge - da, da == länge};
 }
 
+std::string_view UnzerteilterAnfang(std::string_view text, std::size_t höchstens) {
+    if (text.size() <= höchstens) return text;
+    while (höchstens > 0 && IstFortsetzung(text[höchstens])) --höchstens;
+    return text.substr(0, höchstens);
+}
+
 bool IstUtf8(std::string_view text) {
     for (std::size_t i = 0; (i = HinterAscii(text, i)) < text.size();) {
         const auto anfang = ErstesUtf8(text.substr(i));

@@ -21,6 +21,9 @@ struct Utf8Anfang {
 /// `text` isn't empty. Overlong forms and surrogates are no characters.
 Utf8Anfang ErstesUtf8(std::string_view text);
 
+/// The beginning of `text` in at most that many bytes, no character of it cut.
+std::string_view UnzerteilterAnfang(std::string_view text, std::size_t höchstens);
+
 /// Whether all of it is UTF-8.
 bool IstUtf8(std::string_view text);
 
