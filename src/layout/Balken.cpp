@@ -6,6 +6,8 @@ namespace kw {
 
 namespace {
 
+constexpr double Genutzt = 0.75; // of the room between the highest bar and the children
+
 struct Balken {
     int Familie = 0;
     std::int64_t L = 0, R = 0;
@@ -17,7 +19,8 @@ class Balkengruppe {
   public:
     Balkengruppe(const Gerüst &gerüst, const std::vector<Punkt> &personen, const Abstände &abstände, std::int64_t oben)
         : gerüst_(gerüst), personen_(personen), halb_(Tausendstel(abstände.Symbol / 2)), oben_(oben),
-          stufe_(Tausendstel(abstände.Balkenstufe)) {}
+          stufe_(Tausendstel(abstände.Balkenstufe)),
+          raum_(Tausendstel((abstände.Generationen - abstände.Balken - abstände.Symbol / 2) * Genutzt)) {}
 
     void Hinzu(const Balken &balken) { balken_.push_back(balken); }
     const std::vector<Balken> &Gehängt() const { return balken_; }
@@ -33,6 +36,7 @@ class Balkengruppe {
             stufen = std::max(stufen, balken_[i].Stufe + 1);
         }
         if (stufen == 1) return;
+        stufe_ = std::min(stufe_, raum_ / (stufen - 1)); // all of them above the children
         int wenigste = Kreuzungen();
         for (int runde = 0; runde < 4 && wenigste > 0; runde++) {
             const int vorher = wenigste;
@@ -88,7 +92,7 @@ class Balkengruppe {
 
     const Gerüst &gerüst_;
     const std::vector<Punkt> &personen_;
-    std::int64_t halb_, oben_, stufe_;
+    std::int64_t halb_, oben_, stufe_, raum_;
     std::vector<Balken> balken_;
     std::vector<Strecke> linien_;
 };

@@ -48,6 +48,7 @@ std::vector<Band> OhneKreise(std::size_t personen, const std::vector<Familie> &f
 } // namespace
 
 std::vector<int> Ebenen(const Familiengraph &graph, const std::vector<Familie> &familien) {
+    constexpr int HöchsteEbene = 1000;
     constexpr std::int64_t paar = 100'000, gewünscht = 10'000, linie = 100, geschwister = 5;
     const int anzahl = static_cast<int>(graph.Personen.size());
     const int boden = anzahl; // what fixed levels are counted from
@@ -64,8 +65,8 @@ std::vector<int> Ebenen(const Familiengraph &graph, const std::vector<Familie> &
                           familie.Partner.empty() ? paar : geschwister);
     }
     for (int i = 0; i < anzahl; i++)
-        if (graph.Personen[Z(i)].Ebene)
-            ebenen.Kosten(Kostenart::Betrag, boden, i, *graph.Personen[Z(i)].Ebene, gewünscht);
+        if (const auto &ebene = graph.Personen[Z(i)].Ebene)
+            ebenen.Kosten(Kostenart::Betrag, boden, i, std::clamp(*ebene, -HöchsteEbene, HöchsteEbene), gewünscht);
     std::vector<int> x;
     ebenen.Kleinste(x);
     ebenen.Lösen(x, 4);

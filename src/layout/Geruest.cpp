@@ -41,6 +41,12 @@ std::vector<Familie> GeprüfteFamilien(const Familiengraph &graph) {
         if (std::all_of(familie.Kinder.begin(), familie.Kinder.end(), [&](int kind) { return tag(kind).has_value(); }))
             std::stable_sort(familie.Kinder.begin(), familie.Kinder.end(),
                              [&](int a, int b) { return tag(a) < tag(b); });
+        const auto hier = [&](int kind) { return std::find(familie.Kinder.begin(), familie.Kinder.end(), kind); };
+        for (std::vector<int> &gruppe : familie.Zwillinge) {
+            std::erase_if(gruppe, [&](int kind) { return hier(kind) == familie.Kinder.end(); });
+            std::sort(gruppe.begin(), gruppe.end(), [&](int a, int b) { return hier(a) < hier(b); });
+            gruppe.erase(std::unique(gruppe.begin(), gruppe.end()), gruppe.end());
+        }
     }
     return familien;
 }

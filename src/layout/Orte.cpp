@@ -1,18 +1,40 @@
 #include "layout/Orte.h"
 
-#include "layout/Differenzen.h"
-
 #include <algorithm>
+#include <iterator>
 
 namespace kw {
 
 namespace {
 
-constexpr int Feinstes = 50;         // thousandths; where the page has no raster
-constexpr double Liniennähe = 0.3;   // between lines that pass a row side by side, cm
-constexpr std::int64_t Länge = 1000; // a step of a line
-constexpr std::int64_t Mitte = 1;    // a step of a child from each of its parents, squared: only what settles ties
+constexpr int Feinstes = 50;          // thousandths; where the page has no raster
+constexpr double Liniennähe = 0.3;    // between lines that pass a row side by side, cm
+constexpr std::int64_t Länge = 1000;  // a step of a line
+constexpr std::int64_t Schiefe = 150; // a step that a child line leans, besides what it gets longer
+constexpr std::int64_t Mitte = 1;     // a step of a child from each of its parents, squared: only what settles ties
 constexpr int WeitesterSchritt = 128;
+
+/// Rows in which columns of several rows keep one order in all of them: by where they stand on average.
+Reihen::Folgen Widerspruchsfrei(const Gerüst &gerüst, Reihen::Folgen zeilen) {
+    std::vector<std::int64_t> stand(gerüst.Spalten.size(), 0);
+    const auto lang = [&](int p) { return gerüst.Spalten[Z(p)].Oben < gerüst.Spalten[Z(p)].Unten; };
+    for (const std::vector<int> &zeile : zeilen)
+        for (std::size_t i = 0; i < zeile.size(); i++) {
+            const Spalte &spalte = gerüst.Spalten[Z(zeile[i])];
+            const auto mitte = static_cast<std::int64_t>((i * 2 + 1) * 1'000'000 / zeile.size());
+            stand[Z(zeile[i])] += mitte / (spalte.Unten - spalte.Oben + 1);
+        }
+    for (std::vector<int> &zeile : zeilen) {
+        std::vector<int> lange;
+        std::copy_if(zeile.begin(), zeile.end(), std::back_inserter(lange), lang);
+        std::sort(lange.begin(), lange.end(),
+                  [&](int a, int b) { return stand[Z(a)] != stand[Z(b)] ? stand[Z(a)] < stand[Z(b)] : a < b; });
+        auto nächster = lange.begin();
+        for (int &p : zeile)
+            if (lang(p)) p = *nächster++;
+    }
+    return zeilen;
+}
 
 } // namespace
 
@@ -32,20 +54,21 @@ int Orte::Abstand(int zeile, int links, int rechts) const {
     return Schritte(std::max(abstände_.Personen / 2, (l ? breiteL : breiteR) + abstände_.Namensluft / 2));
 }
 
-bool Orte::Finden(const std::vector<std::vector<int>> &zeilen, std::vector<int> &x) const {
-    const int anzahl = static_cast<int>(gerüst_.Spalten.size());
-    std::vector<int> platz(gerüst_.Spalten.size() * zeilen.size());
-    std::vector<std::pair<int, int>> innen;
-    Differenzen orte(anzahl);
+/// Bounds between neighbours; false when no places keep them, which columns bring about that change sides from row to
+/// row.
+bool Orte::ReihenHalten(const Reihen::Folgen &zeilen, Differenzen &orte) const {
     for (std::size_t z = 0; z < zeilen.size(); z++)
-        for (std::size_t i = 0; i < zeilen[z].size(); i++) {
-            platz[z * Z(anzahl) + Z(zeilen[z][i])] = static_cast<int>(i);
-            if (i > 0) {
-                const int links = zeilen[z][i - 1];
-                const int rechts = zeilen[z][i];
-                orte.Mindestens(links, rechts, Abstand(static_cast<int>(z), links, rechts));
-            }
+        for (std::size_t i = 1; i < zeilen[z].size(); i++) {
+            const int links = zeilen[z][i - 1];
+            const int rechts = zeilen[z][i];
+            orte.Mindestens(links, rechts, Abstand(static_cast<int>(z), links, rechts));
         }
+    std::vector<int> x;
+    return orte.Kleinste(x);
+}
+
+/// What lines cost. `innen` gets the bounds by which lines that pass a row become upright.
+void Orte::Gewichten(const Reihen::Folgen &zeilen, Differenzen &orte, Paare &innen) const {
     std::vector<int> familien(gerüst_.Spalten.size(), 0);
     for (const Gehänge &g : gerüst_.Gehängte) {
         familien[Z(g.A)]++;
@@ -53,40 +76,55 @@ bool Orte::Finden(const std::vector<std::vector<int>> &zeilen, std::vector<int> 
     }
     const int höhe = Schritte(abstände_.Generationen - abstände_.Balken - abstände_.Symbol / 2);
     for (const Gehänge &g : gerüst_.Gehängte) {
-        const int zeile = gerüst_.Balkenzeile[Z(g.Familie)];
-        int l = g.A;
-        int r = g.B;
-        if (platz[Z(zeile * anzahl + l)] > platz[Z(zeile * anzahl + r)]) std::swap(l, r);
+        const int balken = gerüst_.Balkenzeile[Z(g.Familie)];
+        const std::vector<int> &zeile = zeilen[Z(balken)];
+        const bool gedreht = std::find(zeile.begin(), zeile.end(), g.A) > std::find(zeile.begin(), zeile.end(), g.B);
+        const int l = gedreht ? g.B : g.A;
+        const int r = gedreht ? g.A : g.B;
         orte.Kosten(Kostenart::Über, l, r, 0, Länge);
         for (const int kind : g.Kinder) {
-            if (gerüst_.Spalten[Z(kind)].Ebene > zeile + 1) {
+            if (gerüst_.Spalten[Z(kind)].Ebene > balken + 1) {
                 innen.emplace_back(l, kind);
                 innen.emplace_back(kind, r);
             }
             orte.Kosten(Kostenart::Schräg, kind, l, 0, Länge, höhe);
             orte.Kosten(Kostenart::Schräg, r, kind, 0, Länge, höhe);
-            // Beyond a partner of several its line would run into those of the other families.
-            if (familien[Z(l)] > 1) orte.Kosten(Kostenart::Über, kind, l, 0, Länge / 2);
-            if (familien[Z(r)] > 1) orte.Kosten(Kostenart::Über, r, kind, 0, Länge / 2);
+            // Upright rather than nearly so; and beyond a partner of several its line would run into those of the
+            // other families.
+            orte.Kosten(Kostenart::Über, kind, l, 0, familien[Z(l)] > 1 ? Länge / 2 : Schiefe);
+            orte.Kosten(Kostenart::Über, r, kind, 0, familien[Z(r)] > 1 ? Länge / 2 : Schiefe);
             orte.Kosten(Kostenart::Quadrat, l, kind, 0, Mitte);
             orte.Kosten(Kostenart::Quadrat, kind, r, 0, Mitte);
         }
     }
-    std::vector<int> anfang;
-    if (!orte.Kleinste(anfang)) return false;
+    for (const Familie &familie : gerüst_.Familien) // siblings that no line holds together
+        for (std::size_t i = 1; familie.Partner.empty() && i < familie.Kinder.size(); i++)
+            orte.Kosten(Kostenart::Betrag, familie.Kinder[i - 1], familie.Kinder[i], 0, Länge);
+}
+
+std::vector<int> Orte::Finden(const Reihen::Folgen &zeilen) const {
+    Reihen::Folgen folgen = zeilen;
+    Differenzen orte(static_cast<int>(gerüst_.Spalten.size()));
+    if (!ReihenHalten(folgen, orte)) {
+        folgen = Widerspruchsfrei(gerüst_, zeilen);
+        orte = Differenzen(static_cast<int>(gerüst_.Spalten.size()));
+        ReihenHalten(folgen, orte);
+    }
+    Paare innen;
+    Gewichten(folgen, orte, innen);
+    std::vector<int> x;
     Differenzen alle = orte;
     for (const auto &[a, b] : innen) alle.Mindestens(a, b, 0);
-    if (alle.Kleinste(anfang)) orte = std::move(alle);
+    if (alle.Kleinste(x)) orte = std::move(alle);
     else
-        for (const auto &[a, b] : innen) {
+        for (const auto &[a, b] : innen) { // then as many as can be
             Differenzen mit = orte;
             mit.Mindestens(a, b, 0);
-            if (mit.Kleinste(anfang)) orte = std::move(mit);
+            if (mit.Kleinste(x)) orte = std::move(mit);
         }
-    orte.Kleinste(anfang);
-    x = anfang;
+    orte.Kleinste(x);
     orte.Lösen(x, WeitesterSchritt);
-    return true;
+    return x;
 }
 
 } // namespace kw

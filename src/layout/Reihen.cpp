@@ -1,8 +1,18 @@
 #include "layout/Reihen.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <tuple>
 
 namespace kw {
+
+namespace {
+
+bool Enthält(std::span<const int> liste, int zahl) {
+    return std::find(liste.begin(), liste.end(), zahl) != liste.end();
+}
+
+} // namespace
 
 void Reihen::Setzen(const Folgen &zeilen) {
     zeilen_ = zeilen;
@@ -13,43 +23,56 @@ void Reihen::Setzen(const Folgen &zeilen) {
 }
 
 std::int64_t Reihen::Neuberechnet() {
+    const auto dinge = static_cast<int>(wissen_->Dinge.size());
     std::int64_t summe = 0;
-    for (std::size_t i = 0; i < dinge_.size(); i++) {
-        for (std::size_t j = 0; j < i; j++)
-            if (dinge_[j].Zeile == dinge_[i].Zeile) summe += Paarkosten(dinge_[i], dinge_[j]);
-        dazwischen_[i] = Dazwischen(dinge_[i]);
-        summe += Getrenntkosten(dazwischen_[i]);
+    std::fill(dazwischen_.begin(), dazwischen_.end(), 0);
+    getrennt_ = 0;
+    for (int i = 0; i < dinge; i++) {
+        summe += Einzelkosten(i);
+        for (int j = 0; j < i; j++) {
+            const Ding &f = Das(i);
+            const Ding &g = Das(j);
+            if (f.Zeile != g.Zeile) continue;
+            Verdreht(i, j) = Verdreht(j, i) = 0;
+            for (const int k : Kinder(f))
+                for (const int l : Kinder(g))
+                    if (k != l)
+                        (Platz(f.Zeile + 1, k) > Platz(f.Zeile + 1, l) ? Verdreht(i, j) : Verdreht(j, i)) +=
+                            Linienkosten(f, k, g, l);
+            summe += Paarkosten(i, j);
+        }
     }
+    verkehrt_ = 0;
     for (int z = 0; z < Anzahl(); z++)
         for (std::size_t i = 0; i < Zeile(z).size(); i++) {
             summe += Beinkosten(z, Zeile(z)[i]);
-            for (std::size_t j = 0; j < i; j++) summe += vorliebe_[Ort(Zeile(z)[j], Zeile(z)[i])];
+            for (std::size_t j = 0; j < i; j++) {
+                summe += wissen_->Vorliebe[Ort(Zeile(z)[j], Zeile(z)[i])];
+                verkehrt_ += wissen_->Verkehrt[Ort(Zeile(z)[j], Zeile(z)[i])];
+            }
         }
-    return summe;
+    return summe + Verkehrtkosten(verkehrt_);
+}
+
+int Reihen::Einzelkosten(int ding) {
+    const Ding &d = Das(ding);
+    int summe = 0;
+    for (int k = d.Erstes; k < d.Ende; k++) summe += std::abs(Weite(d, wissen_->Kinderorte[Z(k)])) * gewichte_.Weite;
+    return summe + DazwischenGelten(ding, Dazwischen(ding));
 }
 
 Reihen::Spanne Reihen::SpanneVon(const Ding &d) const {
-    const int a = Platz(d.Zeile, d.A);
-    const int b = Platz(d.Zeile, d.B);
+    const int a = platz_[Z(d.OrtA)];
+    const int b = platz_[Z(d.OrtB)];
     return {std::min(a, b), std::max(a, b)};
 }
 
 /// What it costs that two child lines cross.
-int Reihen::Kreuzungskosten(const Ding &f, int kindF, const Ding &g, int kindG) const {
+int Reihen::Linienkosten(const Ding &f, int kindF, const Ding &g, int kindG) const {
     if (!f.Lang || !g.Lang) return gewichte_.Kreuzung;
-    const bool aufrechtF = f.Linie || ebene_[Z(kindF)] > f.Zeile + 1;
-    const bool aufrechtG = g.Linie || ebene_[Z(kindG)] > g.Zeile + 1;
+    const bool aufrechtF = f.Was == Art::Linie || wissen_->Ebene[Z(kindF)] > f.Zeile + 1;
+    const bool aufrechtG = g.Was == Art::Linie || wissen_->Ebene[Z(kindG)] > g.Zeile + 1;
     return aufrechtF && aufrechtG ? gewichte_.Verschränkt : gewichte_.Kreuzung;
-}
-
-/// Child lines of two that hang side by side cross where the children stand the other way round.
-int Reihen::Nebeneinander(const Ding &links, const Ding &rechts) const {
-    const int *platz = platz_.data() + Ort(links.Zeile + 1, 0);
-    int kosten = 0;
-    for (const int k : Kinder(links))
-        for (const int l : Kinder(rechts))
-            if (platz[k] > platz[l]) kosten += Kreuzungskosten(links, k, rechts, l);
-    return kosten;
 }
 
 /// One hangs within the other's span: either the outer bar lies higher, then it crosses the inner one's legs, and its
@@ -67,122 +90,208 @@ int Reihen::Ineinander(const Ding &außen, const Ding &innen) const {
 }
 
 /// Crossings of all lines of two that hang below one row.
-int Reihen::Paarkosten(const Ding &f, const Ding &g) const {
+int Reihen::Paarkosten(int i, int j) const {
+    const Ding &f = Das(i);
+    const Ding &g = Das(j);
     const Spanne a = SpanneVon(f);
     const Spanne b = SpanneVon(g);
-    if (a.L > b.L || (a.L == b.L && a.R > b.R)) return Paarkosten(g, f);
-    if (a.R <= b.L) return Nebeneinander(f, g);
+    if (std::tuple(a.L, a.R, i) > std::tuple(b.L, b.R, j)) return Paarkosten(j, i);
+    if (a.L == b.R) return 0; // both hang on one point
+    if (a.R <= b.L) return Verdreht(i, j);
     const int kreuzung = gewichte_.Kreuzung;
-    if (g.Linie) return kreuzung;   // through the bar
-    if (a.L == b.L || a.R == b.R) { // two partners of one on the same side
+    if (f.Was == Art::Zwillinge || g.Was == Art::Zwillinge) return 0;
+    if (g.Was == Art::Linie) return kreuzung; // through the bar
+    if (a.L == b.L || a.R == b.R) {           // two partners of one on the same side
         const Ding &nah = a.L == b.L ? f : g;
-        return std::min(2 * kreuzung + Nebeneinander(f, g), (1 + nah.Ende - nah.Erstes) * kreuzung);
+        return std::min(2 * kreuzung + Verdreht(i, j), (1 + nah.Ende - nah.Erstes) * kreuzung);
     }
     if (a.R > b.R) return Ineinander(f, g) * kreuzung;
-    return kreuzung + Nebeneinander(f, g);
+    return kreuzung + Verdreht(i, j);
 }
 
 /// Of several partners some have to hang lower; their common leg then passes the ends of the higher bars on the other
 /// side too.
 int Reihen::Beinkosten(int zeile, int person) const {
-    const auto dinge = unten_[Ort(zeile, person)];
+    const auto dinge = wissen_->Unten[Ort(zeile, person)];
     if (dinge.size() < 3) return 0;
     int links = 0;
     int rechts = 0;
     for (const int i : dinge) {
-        const Ding &d = dinge_[Z(i)];
-        if (d.A == d.B) continue;
+        const Ding &d = Das(i);
+        if (d.A == d.B || d.Was != Art::Familie) continue;
         const int partner = d.A == person ? d.B : d.A;
         (Platz(zeile, partner) < Platz(zeile, person) ? links : rechts)++;
     }
     return (links * rechts - std::min(links, rechts)) * gewichte_.Kreuzung;
 }
 
-bool Reihen::Fremd(const Ding &d, int person) const {
-    return d.A != person && d.B != person && !partner_[Ort(d.A, person)] && !partner_[Ort(d.B, person)];
+/// How far a child stands right of the middle of its parents when all rows are centred: halves of a place.
+int Reihen::Weite(const Ding &d, int kindort) const {
+    return 2 * platz_[Z(kindort)] - platz_[Z(d.OrtA)] - platz_[Z(d.OrtB)] + d.Versatz;
 }
 
-int Reihen::Getrenntkosten(int dazwischen) const {
-    return dazwischen > 0 ? gewichte_.Getrennt + dazwischen * gewichte_.Dazwischen : 0;
+/// How much further all child lines of the person at `ort` reach, up and down, when it moves by `weite` places; not of
+/// the families shared with `ohne`, whose middle stays.
+int Reihen::Weiten(std::size_t ort, int ohne, int weite) const {
+    int summe = 0;
+    for (const int i : wissen_->Oben[ort]) {
+        const int jetzt = Weite(Das(i), static_cast<int>(ort));
+        summe += std::abs(jetzt + 2 * weite) - std::abs(jetzt);
+    }
+    for (const int i : wissen_->Unten[ort]) {
+        const Ding &d = Das(i);
+        if (d.A == ohne || d.B == ohne) continue;
+        const int schritt = d.A == d.B ? 2 * weite : weite;
+        for (int k = d.Erstes; k < d.Ende; k++) {
+            const int jetzt = Weite(d, wissen_->Kinderorte[Z(k)]);
+            summe += std::abs(jetzt - schritt) - std::abs(jetzt);
+        }
+    }
+    return summe * gewichte_.Weite;
 }
 
-int Reihen::Dazwischen(const Ding &d) const {
+int Reihen::Getrenntkosten(int getrennt) const {
+    return getrennt > 0 ? gewichte_.Getrennt + (getrennt - 1) * gewichte_.NochEinGetrennt : 0;
+}
+
+/// So many strangers stand between the partners now; what that costs more.
+int Reihen::DazwischenGelten(int ding, int anzahl) {
+    int &dazwischen = dazwischen_[Z(ding)];
+    const int mehr = (anzahl - dazwischen) * gewichte_.Dazwischen - Getrenntkosten(getrennt_);
+    getrennt_ += (anzahl > 0 ? 1 : 0) - (dazwischen > 0 ? 1 : 0);
+    dazwischen = anzahl;
+    return mehr + Getrenntkosten(getrennt_);
+}
+
+int Reihen::Verkehrtkosten(int verkehrt) const {
+    const int zuViele = std::max(verkehrt - wissen_->Wenige, 0);
+    return (verkehrt - zuViele) * gewichte_.Verkehrt + zuViele * gewichte_.ZuVerkehrt;
+}
+
+int Reihen::Dazwischen(int ding) const {
+    const Ding &d = Das(ding);
     const Spanne spanne = SpanneVon(d);
     int anzahl = 0;
     for (int i = spanne.L + 1; i < spanne.R; i++) {
         const int person = Zeile(d.Zeile)[Z(i)];
-        anzahl += ebene_[Z(person)] == d.Zeile && Fremd(d, person) ? 1 : 0;
+        anzahl += wissen_->Ebene[Z(person)] == d.Zeile && wissen_->Fremd[Ort(ding, person)] ? 1 : 0;
     }
     return anzahl;
 }
 
 /// `anderer`, a neighbour of `ende`, is about to pass to its other side.
 int Reihen::Trennung(int zeile, int ende, int anderer, bool andererRechts) {
-    if (ebene_[Z(anderer)] != zeile) return 0;
+    if (wissen_->Ebene[Z(anderer)] != zeile) return 0;
     int summe = 0;
-    for (const int i : unten_[Ort(zeile, ende)]) {
-        const Ding &d = dinge_[Z(i)];
-        if (d.A == d.B || !Fremd(d, anderer)) continue;
-        const int partner = d.A == ende ? d.B : d.A;
-        const bool partnerRechts = Platz(zeile, partner) > Platz(zeile, ende);
-        summe -= Getrenntkosten(dazwischen_[Z(i)]);
-        dazwischen_[Z(i)] += partnerRechts == andererRechts ? -1 : 1;
-        summe += Getrenntkosten(dazwischen_[Z(i)]);
+    for (const int i : wissen_->Unten[Ort(zeile, ende)]) {
+        if (!wissen_->Fremd[Ort(i, anderer)]) continue;
+        const Ding &d = Das(i);
+        const int partner = platz_[Z(d.A == ende ? d.OrtB : d.OrtA)];
+        const bool partnerRechts = partner > Platz(zeile, ende);
+        summe += DazwischenGelten(i, dazwischen_[Z(i)] + (partnerRechts == andererRechts ? -1 : 1));
     }
     return summe;
 }
 
-/// What the lines to two neighbours cost each other, as far as it depends on who of them stands left.
-int Reihen::Obenkosten(int zeile, int links, int rechts) const {
+/// What two neighbours' bars and lines downwards cost each other.
+int Reihen::Untenkosten(int zeile, int links, int rechts) const {
     int summe = 0;
-    const auto l = oben_[Ort(zeile, links)];
-    const auto r = oben_[Ort(zeile, rechts)];
+    const auto l = wissen_->Unten[Ort(zeile, links)];
+    const auto r = wissen_->Unten[Ort(zeile, rechts)];
+    if (l.empty() || r.empty()) return 0;
     for (const int i : l)
         for (const int j : r) {
             if (i == j) continue;
-            const Ding &f = dinge_[Z(i)];
-            const Ding &g = dinge_[Z(j)];
-            const Spanne a = SpanneVon(f);
-            const Spanne b = SpanneVon(g);
-            if (a.R <= b.L) continue;
-            if (b.R <= a.L) summe += Kreuzungskosten(f, links, g, rechts);
-            else if (l.size() + r.size() == 2) summe += Paarkosten(f, g);
-            else { // a pair that hangs on both, both ways round, counts once
-                const bool doppelt =
-                    std::find(l.begin(), l.end(), j) != l.end() && std::find(r.begin(), r.end(), i) != r.end();
-                if (!doppelt || i < j) summe += Paarkosten(f, g);
-            }
+            const bool doppelt = l.size() + r.size() > 3 && Enthält(l, j) && Enthält(r, i);
+            if (!doppelt || i < j) summe += Paarkosten(i, j);
+        }
+    if (wissen_->Partner[Ort(links, rechts)]) summe += Beinkosten(zeile, links) + Beinkosten(zeile, rechts);
+    return summe;
+}
+
+/// What those cost that two neighbours hang on, where they lie within each other.
+int Reihen::Obenkosten(int zeile, int links, int rechts) const {
+    int summe = 0;
+    const auto l = wissen_->Oben[Ort(zeile, links)];
+    const auto r = wissen_->Oben[Ort(zeile, rechts)];
+    for (const int i : l)
+        for (const int j : r) {
+            if (i == j) continue;
+            const Spanne a = SpanneVon(Das(i));
+            const Spanne b = SpanneVon(Das(j));
+            if (a.R <= b.L || b.R <= a.L) continue;
+            const bool doppelt = l.size() + r.size() > 3 && Enthält(l, j) && Enthält(r, i);
+            if (!doppelt || i < j) summe += Paarkosten(i, j);
         }
     return summe;
 }
 
-int Reihen::Untenkosten(int zeile, int links, int rechts) const {
+/// What lines to two neighbours cost more when these change places, where they hang side by side.
+int Reihen::Nebeneinander(int zeile, int links, int rechts, bool &ineinander) const {
     int summe = 0;
-    const auto l = unten_[Ort(zeile, links)];
-    const auto r = unten_[Ort(zeile, rechts)];
-    for (const int i : l)
-        for (const int j : r) {
+    for (const int i : wissen_->Oben[Ort(zeile, links)])
+        for (const int j : wissen_->Oben[Ort(zeile, rechts)]) {
             if (i == j) continue;
-            const bool doppelt = l.size() + r.size() > 3 && std::find(l.begin(), l.end(), j) != l.end() &&
-                                 std::find(r.begin(), r.end(), i) != r.end();
-            if (!doppelt || i < j) summe += Paarkosten(dinge_[Z(i)], dinge_[Z(j)]);
+            const Spanne a = SpanneVon(Das(i));
+            const Spanne b = SpanneVon(Das(j));
+            if (a.L == b.R && a.R == b.L) continue; // both hang on one point
+            if (a.R <= b.L) summe += Linienkosten(Das(i), links, Das(j), rechts);
+            else if (b.R <= a.L) summe -= Linienkosten(Das(i), links, Das(j), rechts);
+            else ineinander = true;
         }
-    if (partner_[Ort(links, rechts)]) summe += Beinkosten(zeile, links) + Beinkosten(zeile, rechts);
     return summe;
+}
+
+void Reihen::Verdrehen(int zeile, int links, int rechts) {
+    for (const int i : wissen_->Oben[Ort(zeile, links)])
+        for (const int j : wissen_->Oben[Ort(zeile, rechts)]) {
+            if (i == j) continue;
+            const int kosten = Linienkosten(Das(i), links, Das(j), rechts);
+            Verdreht(j, i) -= kosten;
+            Verdreht(i, j) += kosten;
+        }
+}
+
+/// What is counted of a row, as if two neighbours had changed places; what those counts cost more then.
+int Reihen::Umstellen(int zeile, int links, int rechts) {
+    int mehr = Trennung(zeile, links, rechts, true) + Trennung(zeile, rechts, links, false);
+    if (const int v = wissen_->Verkehrt[Ort(rechts, links)] - wissen_->Verkehrt[Ort(links, rechts)]) {
+        mehr += Verkehrtkosten(verkehrt_ + v) - Verkehrtkosten(verkehrt_);
+        verkehrt_ += v;
+    }
+    Verdrehen(zeile, links, rechts);
+    return mehr;
 }
 
 int Reihen::Tauschen(int zeile, int platz) {
     std::vector<int> &reihe = zeilen_[Z(zeile)];
     const int links = reihe[Z(platz)];
     const int rechts = reihe[Z(platz + 1)];
-    int mehr = vorliebe_[Ort(rechts, links)] - vorliebe_[Ort(links, rechts)];
-    mehr += Trennung(zeile, links, rechts, true) + Trennung(zeile, rechts, links, false);
-    mehr -= Obenkosten(zeile, links, rechts) + Untenkosten(zeile, links, rechts);
+    const std::size_t ortL = Ort(zeile, links);
+    const std::size_t ortR = Ort(zeile, rechts);
+    int mehr = wissen_->Vorliebe[Ort(rechts, links)] - wissen_->Vorliebe[Ort(links, rechts)];
+    mehr += Weiten(ortL, rechts, 1) + Weiten(ortR, links, -1);
+    bool ineinander = false;
+    mehr += Nebeneinander(zeile, links, rechts, ineinander);
+    mehr -= Untenkosten(zeile, links, rechts);
+    if (ineinander) mehr -= Obenkosten(zeile, links, rechts);
+    mehr += Umstellen(zeile, links, rechts);
+    std::swap(reihe[Z(platz)], reihe[Z(platz + 1)]);
+    std::swap(platz_[ortL], platz_[ortR]);
+    mehr += Untenkosten(zeile, rechts, links);
+    if (ineinander) mehr += Obenkosten(zeile, rechts, links);
+    kosten_ += mehr;
+    arbeit_++;
+    return mehr;
+}
+
+void Reihen::Zurücktauschen(int zeile, int platz) {
+    std::vector<int> &reihe = zeilen_[Z(zeile)];
+    const int links = reihe[Z(platz)];
+    const int rechts = reihe[Z(platz + 1)];
+    Umstellen(zeile, links, rechts);
     std::swap(reihe[Z(platz)], reihe[Z(platz + 1)]);
     std::swap(platz_[Ort(zeile, links)], platz_[Ort(zeile, rechts)]);
-    mehr += Obenkosten(zeile, rechts, links) + Untenkosten(zeile, rechts, links);
-    kosten_ += mehr;
-    return mehr;
 }
 
 } // namespace kw

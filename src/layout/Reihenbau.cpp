@@ -1,17 +1,19 @@
 #include "layout/Reihen.h"
 
-#include <algorithm>
-
 // What the rows know from the beginning.
 namespace kw {
 
 Reihen::Reihen(const Familiengraph &graph, const Gerüst &gerüst, const Gewichte &gewichte)
-    : gewichte_(gewichte), anzahl_(static_cast<int>(graph.Personen.size())), zeilen_(Z(gerüst.Zeilen)),
-      platz_(Z((gerüst.Zeilen + 1) * anzahl_), -1) {
-    for (const Spalte &spalte : gerüst.Spalten) ebene_.push_back(spalte.Ebene);
-    DingeSammeln(gerüst);
-    VorliebenSammeln(graph, gerüst);
-    dazwischen_.assign(dinge_.size(), 0);
+    : gewichte_(gewichte), zeilen_(Z(gerüst.Zeilen)) {
+    Wissen w;
+    w.Anzahl = static_cast<int>(graph.Personen.size());
+    for (const Spalte &spalte : gerüst.Spalten) w.Ebene.push_back(spalte.Ebene);
+    DingeSammeln(gerüst, w);
+    VorliebenSammeln(graph, gerüst, gewichte, w);
+    platz_.assign(Z((gerüst.Zeilen + 1) * w.Anzahl), -1);
+    verdreht_.assign(w.Dinge.size() * w.Dinge.size(), 0);
+    dazwischen_.assign(w.Dinge.size(), 0);
+    wissen_ = std::make_shared<const Wissen>(std::move(w));
 }
 
 Reihen::Verzeichnis Reihen::Gepackt(const Folgen &listen) {
@@ -24,49 +26,76 @@ Reihen::Verzeichnis Reihen::Gepackt(const Folgen &listen) {
     return v;
 }
 
-void Reihen::DingeSammeln(const Gerüst &gerüst) {
-    Folgen unten(Z(gerüst.Zeilen * anzahl_));
+void Reihen::DingeSammeln(const Gerüst &gerüst, Wissen &w) {
+    Folgen unten(Z(gerüst.Zeilen * w.Anzahl));
     Folgen oben(unten.size());
-    const auto aufnehmen = [&](const Gehänge &g, int zeile) {
-        const auto ding = static_cast<int>(dinge_.size());
-        const auto erstes = static_cast<int>(kinder_.size());
-        kinder_.insert(kinder_.end(), g.Kinder.begin(), g.Kinder.end());
-        dinge_.push_back({g.A, g.B, erstes, static_cast<int>(kinder_.size()), zeile, g.Familie < 0, g.Lang});
-        unten[Ort(zeile, g.A)].push_back(ding);
-        if (g.B != g.A) unten[Ort(zeile, g.B)].push_back(ding);
-        for (const int kind : g.Kinder) oben[Ort(zeile + 1, kind)].push_back(ding);
+    std::vector<int> breite(Z(gerüst.Zeilen + 1), 0);
+    for (const Spalte &spalte : gerüst.Spalten)
+        for (int zeile = spalte.Oben; zeile <= spalte.Unten; zeile++) breite[Z(zeile)]++;
+    const auto aufnehmen = [&](Art was, const Gehänge &g, int zeile) {
+        const auto ding = static_cast<int>(w.Dinge.size());
+        Ding d{was, g.Lang, zeile, g.A, g.B, zeile * w.Anzahl + g.A, zeile * w.Anzahl + g.B};
+        d.Versatz = breite[Z(zeile)] - breite[Z(zeile + 1)];
+        d.Erstes = static_cast<int>(w.Kinder.size());
+        for (const int kind : g.Kinder) {
+            w.Kinder.push_back(kind);
+            w.Kinderorte.push_back((zeile + 1) * w.Anzahl + kind);
+            oben[Z(w.Kinderorte.back())].push_back(ding);
+        }
+        d.Ende = static_cast<int>(w.Kinder.size());
+        unten[Z(d.OrtA)].push_back(ding);
+        if (d.A != d.B) unten[Z(d.OrtB)].push_back(ding);
+        w.Dinge.push_back(d);
     };
-    for (const Gehänge &g : gerüst.Gehängte) aufnehmen(g, gerüst.Balkenzeile[Z(g.Familie)]);
-    for (int person = 0; person < anzahl_; person++) {
+    for (const Gehänge &g : gerüst.Gehängte) aufnehmen(Art::Familie, g, gerüst.Balkenzeile[Z(g.Familie)]);
+    for (int person = 0; person < w.Anzahl; person++) {
         const Spalte &spalte = gerüst.Spalten[Z(person)];
         for (int zeile = spalte.Oben; zeile < spalte.Unten; zeile++)
-            aufnehmen({-1, person, person, {person}, true}, zeile);
+            aufnehmen(Art::Linie, {-1, person, person, {person}, true}, zeile);
     }
-    unten_ = Gepackt(unten);
-    oben_ = Gepackt(oben);
+    for (const Familie &familie : gerüst.Familien)
+        for (const std::vector<int> &gruppe : familie.Zwillinge)
+            for (std::size_t i = 1; i < gruppe.size(); i++)
+                if (w.Ebene[Z(gruppe[i])] == w.Ebene[Z(gruppe[i - 1])])
+                    aufnehmen(Art::Zwillinge, {-1, gruppe[i - 1], gruppe[i], {}}, w.Ebene[Z(gruppe[i])]);
+    w.Unten = Gepackt(unten);
+    w.Oben = Gepackt(oben);
 }
 
-/// What pairs like, wherever they stand in their row: siblings by age, the man left, what the user drew.
-void Reihen::VorliebenSammeln(const Familiengraph &graph, const Gerüst &gerüst) {
-    vorliebe_.assign(Z(anzahl_ * anzahl_), 0);
-    partner_.assign(vorliebe_.size(), 0);
+/// What pairs like, wherever they stand in their row: siblings by age and the man left, or what the user drew.
+void Reihen::VorliebenSammeln(const Familiengraph &graph, const Gerüst &gerüst, const Gewichte &g, Wissen &w) {
+    const auto ort = [&](int a, int b) { return Z(a * w.Anzahl + b); };
+    const auto person = [&](int a) -> const Familienperson & { return graph.Personen[Z(a)]; };
+    const auto gezeichnet = [&](int a, int b) { return person(a).Gezeichnet && person(b).Gezeichnet; };
+    w.Verkehrt.assign(ort(w.Anzahl, 0), 0);
+    w.Vorliebe = w.Verkehrt;
+    w.Partner.assign(w.Vorliebe.size(), 0);
+    int paare = 0;
     for (const Familie &familie : gerüst.Familien) {
-        for (std::size_t j = 0; j < familie.Kinder.size(); j++)
-            for (std::size_t i = 0; i < j; i++)
-                vorliebe_[Ort(familie.Kinder[j], familie.Kinder[i])] += gewichte_.Verkehrt;
+        for (std::size_t j = 1; j < familie.Kinder.size(); j++)
+            for (std::size_t i = 0; i < j; i++) {
+                if (gezeichnet(familie.Kinder[i], familie.Kinder[j])) continue;
+                w.Verkehrt[ort(familie.Kinder[j], familie.Kinder[i])]++;
+                paare++;
+            }
         for (const int a : familie.Partner)
             for (const int b : familie.Partner) {
                 if (a == b) continue;
-                partner_[Ort(a, b)] = 1;
-                if (graph.Personen[Z(a)].Art == Geschlecht::Frau && graph.Personen[Z(b)].Art == Geschlecht::Mann)
-                    vorliebe_[Ort(a, b)] += gewichte_.FrauLinks;
+                w.Partner[ort(a, b)] = 1;
+                if (person(a).Art == Geschlecht::Frau && person(b).Art == Geschlecht::Mann && !gezeichnet(a, b))
+                    w.Vorliebe[ort(a, b)] += g.FrauLinks;
             }
     }
-    for (int a = 0; a < anzahl_; a++)
-        for (int b = 0; b < anzahl_; b++) {
-            const auto &l = graph.Personen[Z(a)].Gezeichnet;
-            const auto &r = graph.Personen[Z(b)].Gezeichnet;
-            if (l && r && *l > *r) vorliebe_[Ort(a, b)] += gewichte_.Umgestellt;
+    w.Wenige = (paare * g.Wenige + 500) / 1000;
+    for (int a = 0; a < w.Anzahl; a++)
+        for (int b = 0; b < w.Anzahl; b++)
+            if (gezeichnet(a, b) && *person(a).Gezeichnet > *person(b).Gezeichnet)
+                w.Vorliebe[ort(a, b)] += g.Umgestellt;
+    for (const Ding &d : w.Dinge)
+        for (int p = 0; p < w.Anzahl; p++) {
+            const bool eigen = d.A == d.B || d.A == p || d.B == p;
+            const bool partner = w.Partner[ort(d.A, p)] || w.Partner[ort(d.B, p)];
+            w.Fremd.push_back(!eigen && (!partner || d.Was == Art::Zwillinge) ? 1 : 0);
         }
 }
 

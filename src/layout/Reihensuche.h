@@ -1,21 +1,23 @@
 #pragma once
 
 #include "layout/Reihen.h"
+#include "layout/Stuecke.h"
 #include "layout/Zufall.h"
-
-#include <vector>
 
 namespace kw {
 
-/// The rows as a teller of the family would name its members: a couple, their children with partners and children of
-/// their own, each partner's own family behind them. `anfang` is the first one named.
-std::vector<std::vector<int>> ErzählteReihen(const Gerüst &gerüst, int anfang);
+/// The rows as somebody would tell of the family: a couple, their children with partners and children of their own,
+/// each partner's own family behind them or before. Begins with anybody.
+Reihen::Folgen ErzählteReihen(const Gerüst &gerüst, Zufall &zufall);
 
-/// Seeks a cheap order: lays aside and turns runs of neighbours, dearer ones too at first (the colder, the less), and
-/// ends where no single move pays. `züge` bounds the work.
-void ReihenSuchen(Reihen &reihen, Zufall &zufall, int züge);
+/// Carries and turns runs of neighbours, until that pays in none of the rows that are `unruhig`, nor in those that this
+/// disturbs.
+void ReihenSetzenlassen(Reihen &reihen, std::vector<char> &unruhig);
 
-/// Carries whole runs of a row to where they cost least, until that no longer pays.
-void ReihenSetzenlassen(Reihen &reihen);
+/// Carries pieces elsewhere and lets the rows settle, so many times; ends with the cheapest rows that were seen.
+void ReihenRütteln(Reihen &reihen, const std::vector<Stück> &stücke, Zufall &zufall, int mal);
+
+/// The cheapest rows found: told in many ways, each left to settle, the best one shaken.
+Reihen::Folgen BesteReihen(const Familiengraph &graph, const Gerüst &gerüst);
 
 } // namespace kw

@@ -24,6 +24,21 @@ bool Aufeinander(const Strecke &a, const Strecke &b) {
     return länge > Spielraum;
 }
 
+/// Where on the bar, were it wide enough, a child hangs: at its own place, twins at the middle of them.
+std::int64_t Anschluss(const Familie &familie, const std::vector<Punkt> &personen, int kind) {
+    for (const std::vector<int> &gruppe : familie.Zwillinge) {
+        if (std::find(gruppe.begin(), gruppe.end(), kind) == gruppe.end()) continue;
+        std::int64_t l = personen[Z(kind)].X;
+        std::int64_t r = l;
+        for (const int zwilling : gruppe) {
+            l = std::min(l, personen[Z(zwilling)].X);
+            r = std::max(r, personen[Z(zwilling)].X);
+        }
+        return (l + r) / 2;
+    }
+    return personen[Z(kind)].X;
+}
+
 } // namespace
 
 bool Kreuzen(const Strecke &a, const Strecke &b) {
@@ -70,7 +85,11 @@ void Linien(const Gerüst &gerüst, const std::vector<Punkt> &personen, int f, s
     }
     for (const int kind : familie.Kinder) {
         const Punkt &p = personen[Z(kind)];
-        linien.push_back({{std::clamp(p.X, l, r), höhe}, {p.X, p.Y - halb}, f, kind, Strecke::Art::Kindlinie});
+        linien.push_back({{std::clamp(Anschluss(familie, personen, kind), l, r), höhe},
+                          {p.X, p.Y - halb},
+                          f,
+                          kind,
+                          Strecke::Art::Kindlinie});
     }
 }
 
