@@ -70,10 +70,10 @@ class Zellennetz {
         if (anfang == spalten_ * zeilen_) return {};
         std::vector<std::pair<int, int>> ecken;
         const std::pair von{anfang % spalten_, anfang / spalten_}; // the topmost, and of these the leftmost one
-        auto [x, y] = von;
+        int x = von.first, y = von.second;
         int richtung = 0; // along its upper edge
         do {
-            const auto [dx, dy] = Himmelsrichtungen[richtung];
+            const int dx = Himmelsrichtungen[richtung].first, dy = Himmelsrichtungen[richtung].second;
             x += dx;
             y += dy;
             // What is held lies to the right of the way: the cells ahead on both sides tell where it goes on.

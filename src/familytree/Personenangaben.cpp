@@ -88,11 +88,10 @@ void Übertragung::Totgeburt(const Familienrolle &rolle) {
 
 std::string Übertragung::Name(std::string_view name) {
     std::string neu;
-    for (std::size_t i = 0; i < name.size(); ++i) {
-        const auto c = static_cast<unsigned char>(name[i]);
+    for (const char c : name) {
         // The record is parted by "_"; what steers a terminal or a printer is no letter.
-        const bool steuert = c < ' ' || c == 0x7F;
-        neu += c == '_' || steuert ? ' ' : name[i];
+        const bool steuert = static_cast<unsigned char>(c) < ' ' || c == '\x7F';
+        neu += c == '_' || steuert ? ' ' : c;
     }
     neu = Geglättet(UnzerteilterAnfang(neu, HöchsteNamenslänge));
     if (neu != name) Melden(Befundart::NameGeändert, Zeile("NAME"), name);

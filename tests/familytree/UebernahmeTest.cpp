@@ -226,6 +226,22 @@ TEST(Uebernahme, ZwillingeWerdenGesagtOderGefragt) {
     EXPECT_EQ(gesagt.Gemeldet(Befundart::BeziehungWeggelassen), 0U);
 }
 
+TEST(Uebernahme, EineUnsinnigeDateiKostetNichtMehrAlsIhreLänge) {
+    constexpr int Viele = 30000;
+    std::string eltern, partner, familien;
+    for (int i = 0; i < Viele; ++i) {
+        const auto nr = std::to_string(i);
+        eltern += "1 FAMC @F" + nr + "@\n1 FAMC @F1@\n1 FAMS @F1@\n2 X\n2 CONC y\n";
+        partner += "1 HUSB @I" + nr + "@\n";
+        familien += "0 @F" + nr + "@ FAM\n1 CHIL @I0@\n1 HUSB @I1@\n1 WIFE @I1@\n";
+    }
+    const Import import("0 @I0@ INDI\n1 NAME " + std::string(100000, '_') + std::string(100000, 'x') + "@@\n" + eltern +
+                        "0 @I1@ INDI\n1 FAMC @F1@\n" + familien + "0 @F0@ FAM\n" + partner);
+    EXPECT_EQ(import.Gemeldet(Befundart::WeitereEltern), Viele - 1U);
+    EXPECT_LE(import.Person(0).Angaben.Vorname.size(), 250U);
+    EXPECT_LT(Berichtstext(import.Ergebnis.Bericht, import.Baum.Warnliste, Sprache::Deutsch).size(), 30000000U);
+}
+
 TEST(Uebernahme, DerBerichtNenntZeilenUndZähltInBeidenSprachen) {
     const Import import(
         "0 @I1@ INDI\n1 NAME Eva /Grün/\n2 NICK Evi\n1 NAME Eva /Weiß/\n1 SEX F\n1 BIRT\n2 DATE 1900\n"
