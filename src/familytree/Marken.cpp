@@ -42,6 +42,7 @@ std::string InKleinbuchstaben(std::string_view text) { return Umgeschrieben(text
 std::string Großbuchstabe(std::string_view text) {
     if (text.empty()) return {};
     const auto anfang = text.substr(0, ErstesUtf8(text).Länge);
+    if (anfang == "ß") return "SS"; // the one of the western code pages that has no capital of one character
     utf8proc_int32_t zeichen = 0;
     const auto *const bytes = reinterpret_cast<const utf8proc_uint8_t *>(anfang.data()); // NOLINT(*reinterpret*)
     if (utf8proc_iterate(bytes, static_cast<utf8proc_ssize_t>(anfang.size()), &zeichen) < 0) return std::string(anfang);
