@@ -93,6 +93,7 @@ class Umzugswagen {
 
     std::vector<bool> Gehaltene(std::string_view kreis, const std::vector<Ort> &orte) const {
         std::vector<bool> drin;
+        drin.reserve(orte.size());
         for (const Ort &ort : orte) drin.push_back(Umschließt(kreis, ansicht_.Glättungsgrad, ort.X, ort.Y));
         return drin;
     }

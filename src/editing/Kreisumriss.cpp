@@ -32,7 +32,7 @@ class Zellennetz {
   public:
     Zellennetz(double breite, double höhe)
         : spalten_(static_cast<int>(std::ceil(breite / Zelle))), zeilen_(static_cast<int>(std::ceil(höhe / Zelle))),
-          zellen_(static_cast<size_t>(spalten_ * zeilen_), Frei) {}
+          zellen_(static_cast<size_t>(spalten_) * static_cast<size_t>(zeilen_), Frei) {}
 
     void Füllen(const Umgebung &kasten, bool drinnen) {
         const double luft = drinnen ? LuftDrinnen : LuftDraußen;
@@ -94,7 +94,9 @@ class Zellennetz {
     enum : char { Frei, Gesperrt, Gehalten };
     static constexpr size_t Unerreicht = static_cast<size_t>(-1);
 
-    size_t Platz(int x, int y) const { return static_cast<size_t>(y * spalten_ + x); }
+    size_t Platz(int x, int y) const {
+        return static_cast<size_t>(y) * static_cast<size_t>(spalten_) + static_cast<size_t>(x);
+    }
     bool IstDa(int x, int y) const { return x >= 0 && y >= 0 && x < spalten_ && y < zeilen_; }
     bool Hält(int x, int y) const { return IstDa(x, y) && zellen_[Platz(x, y)] == Gehalten; }
 

@@ -10,7 +10,7 @@
 namespace kw {
 
 /// Points round a box, clockwise from the left end of its upper side, at some distance and with round corners.
-std::vector<Kreispunkt> KreisUm(const Umgebung &kasten);
+std::vector<Kreispunkt> KreisUm(const Umgebung &u);
 
 /// Points of one stroke round all of `drinnen` and past all of `draußen`, on a page of that size: it follows the boxes,
 /// and goes from one to the next on the shortest free way. Empty where there is none.
