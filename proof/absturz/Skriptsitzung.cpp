@@ -1,9 +1,9 @@
 #include "absturz/Protokoll.h"
 #include "absturz/Sitzungen.h"
 
-#include "zufallsnutzer/Zufallsnutzer.h"
 #include "replay/Programm.h"
 #include "replay/Skript.h"
+#include "zufallsnutzer/Zufallsnutzer.h"
 
 #include <sstream>
 
