@@ -18,6 +18,7 @@ namespace {
     const int nichts = open("/dev/null", O_RDWR | O_CLOEXEC);
     for (const int kanal : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nichts, kanal);
     std::vector<char *> worte;
+    worte.reserve(aufruf.size() + 1);
     for (const std::string &wort : aufruf) worte.push_back(const_cast<char *>(wort.c_str()));
     worte.push_back(nullptr);
     execvp(worte.front(), worte.data());

@@ -49,6 +49,11 @@ def key(*keys, pause=0.15):
         time.sleep(pause)
 
 
+def key_often(k, times):
+    """As fast as a held key: nothing that a pause would end ends between them."""
+    subprocess.run(["xdotool", "key", "--delay", "40"] + [k] * times, check=True)
+
+
 class Ears:
     """Collects what the bus tells: kind, the name of who tells it, the detail."""
 

@@ -4,7 +4,7 @@ import subprocess
 import sys
 import time
 
-from bus import Atspi, Ears, Program, all_of, check, children, failed, key, states, within
+from bus import Atspi, Ears, Program, all_of, check, children, failed, key, key_often, states, within
 
 source = os.environ["KW_SRC"]
 here = os.environ["HOME"]
@@ -90,7 +90,9 @@ def moving(p, ears):
     last = p.focused()
     place = lambda: (e := p.named(last[0])) and e.get_extents(Atspi.CoordType.SCREEN).x
     start = place()
-    heard = ears.after(*["alt+Left"] * 10, seconds=1.5)
+    ears.drain(0.1)
+    key_often("alt+Left", 10)
+    heard = ears.drain(1.5)
     check("moving says where", [h for h in heard if h[3] == "notification" and h[1].startswith("verschoben")], heard)
     check("ten steps move", place() < start - 50, (start, place()))
     key("ctrl+z")
