@@ -16,6 +16,7 @@ class Probefamilie {
     /// About that many persons in so many generations; `wild` of ten marriages are within the family.
     Familiengraph Bauen(int personen, int generationen, int wild) {
         std::vector<int> jüngste;
+        jüngste.reserve(4);
         for (int i = 0; i < 4; i++) jüngste.push_back(Neu());
         for (int g = 1; g < generationen; g++) {
             std::vector<int> kinder;
