@@ -4,7 +4,6 @@
 #include "document/Zahlen.h"
 #include "document/saetze/Person.h"
 #include "editing/Elemente.h"
-#include "editing/Texte.h"
 #include "rendering/Beschriftung.h"
 
 #include <algorithm>
@@ -26,11 +25,12 @@ Umgebung MitLuft(const Umgebung &u, double luft) {
 
 } // namespace
 
-Ordner::Ordner(Werkbank &w) : w_(w), alles_(w.lage.Aktion != Aktion::GruppeGewählt || w.auswahl.lstMovedPers.Leer()) {
+Ordner::Ordner(Werkbank &w) : w_(w) {
+    const bool alle = w.lage.Aktion != Aktion::GruppeGewählt || w.auswahl.lstMovedPers.Leer();
     const auto gewählte = NummernIn(w.auswahl.lstMovedPers);
     for (int i = 0; i < w.dokument.cboPersonen.Anzahl(); ++i) {
         const PersonSatz person(w.dokument.cboPersonen.Satz(i), Lücken::Leer);
-        if (person.Vollständig() && (alles_ || gewählte.contains(person.Nr()))) gefragte_.push_back(i);
+        if (person.Vollständig() && (alle || gewählte.contains(person.Nr()))) gefragte_.push_back(i);
     }
     auszug_ = FamilienUnter(w.dokument, gefragte_, w.picVorschau);
 }
@@ -110,7 +110,7 @@ std::vector<Umgebung> Ordner::Hindernisse() const {
     const std::set<int> gehen(gefragte_.begin(), gefragte_.end());
     std::vector<Umgebung> kästen;
     for (int i = 0; i < d.cboPersonen.Anzahl(); ++i)
-        if (!gehen.contains(i)) kästen.push_back(Kasten(i, Stelle(i), 100));
+        if (!gehen.contains(i)) kästen.push_back(Kasten(i, Stelle(i), JedeGröße));
     if (d.LegendeSichtbar) kästen.push_back(Elementrahmen(d, w_.legende, {Elementart::Legende, 0}));
     for (int i = 0; i < d.cboTextboxen.Anzahl(); ++i) {
         const Umgebung u = Elementrahmen(d, w_.legende, {Elementart::Text, i});

@@ -41,7 +41,6 @@ class Ordner {
     Umgebung Seite() const;
 
     Werkbank &w_;
-    bool alles_;                ///< nobody is selected
     std::vector<int> gefragte_; ///< who may move, positions in the store
     Familienauszug auszug_;
     Platzbedarf bedarf_{};

@@ -17,6 +17,7 @@
 #include "editing/Pfeile.h"
 #include "editing/Texte.h"
 #include "rendering/Ansicht.h"
+#include "rendering/Beschriftung.h"
 
 #include <algorithm>
 #include <cmath>
@@ -139,7 +140,7 @@ void PersonenSetzen(Dokument &d, const Ansicht &ansicht, const Umzug &umzug) {
 } // namespace
 
 Umgebung Personenkasten(const PersonSatz &person, Ort ort, double größe, double namensbreite) {
-    const bool benannt = !person.Vorname().empty() || !person.Nachname().empty();
+    const bool benannt = ZeigtNamen(person) && (!person.Vorname().empty() || !person.Nachname().empty());
     const double breite = std::max(größe, namensbreite);
     Umgebung u;
     u.Aufnehmen(ort.X - breite / 2, ort.Y - größe / 2, breite, größe + (benannt ? Namenshöhe : 0));

@@ -13,11 +13,14 @@ class PersonSatz;
 struct Ansicht;
 struct Dokument;
 
+/// Symbols stay as they are: larger than any.
+constexpr double JedeGröße = 100;
+
 /// New places, cm, by position in the store.
 struct Umzug {
     std::map<int, Ort> Personen;  ///< centres
     std::map<int, double> Balken; ///< heights of partnership lines
-    double Größe = 100;           ///< symbols of those persons are at most that large
+    double Größe = JedeGröße;     ///< symbols of those persons are at most that large
 };
 
 /// What a person takes of the page with its names, when its centre is at `ort`, cm.
