@@ -6,7 +6,8 @@ namespace kw {
 
 namespace {
 
-constexpr double Genutzt = 0.75; // of the room between the highest bar and the children
+constexpr double Genutzt = 0.75;           // of the room between the highest bar and the children
+constexpr std::size_t Geduld = 20'000'000; // pairs of lines that are compared for one group
 
 struct Balken {
     int Familie = 0;
@@ -42,7 +43,7 @@ class Balkengruppe {
             const int vorher = wenigste;
             for (std::size_t i = 0; i < balken_.size(); i++) Einzeln(i, stufen, wenigste);
             for (std::size_t i = 0; i < balken_.size(); i++)
-                for (std::size_t j = 0; j < i; j++) Tauschen(i, j, wenigste);
+                for (std::size_t j = 0; j < i && !Müde(); j++) Tauschen(i, j, wenigste);
             if (wenigste == vorher) break;
         }
     }
@@ -60,7 +61,7 @@ class Balkengruppe {
 
     void Einzeln(std::size_t i, int stufen, int &wenigste) {
         int beste = balken_[i].Stufe;
-        for (int stufe = 0; stufe < stufen; stufe++) {
+        for (int stufe = 0; stufe < stufen && !Müde(); stufe++) {
             balken_[i].Stufe = stufe;
             if (stufe == beste || !Frei(i, balken_.size())) continue;
             const int anzahl = Kreuzungen();
@@ -87,14 +88,17 @@ class Balkengruppe {
     int Kreuzungen() {
         linien_.clear();
         for (const Balken &b : balken_) Linien(gerüst_, personen_, b.Familie, Höhe(b), halb_, linien_);
+        verglichen_ += linien_.size() * linien_.size();
         return Kreuzungszahl(linien_);
     }
+    bool Müde() const { return verglichen_ > Geduld; }
 
     const Gerüst &gerüst_;
     const std::vector<Punkt> &personen_;
     std::int64_t halb_, oben_, stufe_, raum_;
     std::vector<Balken> balken_;
     std::vector<Strecke> linien_;
+    std::size_t verglichen_ = 0;
 };
 
 } // namespace
