@@ -17,7 +17,7 @@ struct Familienauszug {
 };
 
 /// Those of `personen`, positions in the store, who have a partner, a child or parents among them, with the lines
-/// between them. Places as drawn are the order that is to be kept. `fläche` measures names; its font changes.
+/// between them. Their places and their bars' heights are those of the page. `fläche` measures names; its font changes.
 Familienauszug FamilienUnter(const Dokument &dokument, const std::vector<int> &personen, Zeichenfläche &fläche);
 
 } // namespace kw

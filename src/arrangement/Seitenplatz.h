@@ -12,8 +12,16 @@ namespace kw {
 /// What two lines of names take below a symbol, cm.
 constexpr double Namenshöhe = 0.68;
 
-/// The measures for symbols of that size: those of a page drawn by hand, or what can just be read, cm.
-Abstände MaßeFür(double symbol, double raster, bool eng);
+/// What stays free beside a symbol, below it to the next generation's, and down to a bar, cm.
+struct Luft {
+    double Personen, Generationen, Balken;
+};
+constexpr Luft VonHand{0.9, 2.4, 1.2};    ///< as pages are drawn by hand
+constexpr Luft Lesbar{0.6, 1.8, 0.9};     ///< as near to each other as can be read
+constexpr Luft Gezeichnet{0.3, 1.8, 0.9}; ///< as near as those may stay who were drawn so
+
+/// The measures for symbols of that size, cm.
+Abstände MaßeFür(double symbol, double raster, const Luft &luft);
 
 struct Platzwunsch {
     std::vector<Umgebung> Kästen;      ///< what is to be placed, as it was laid out
@@ -23,6 +31,8 @@ struct Platzwunsch {
     double Raster;                     ///< it is moved by whole steps of that
 };
 
+/// Whether they lie on each other; touching is none of that.
+bool Überlappen(const Umgebung &a, const Umgebung &b);
 /// The box round all of them.
 Umgebung UmAlle(const std::vector<Umgebung> &kästen);
 
