@@ -93,7 +93,9 @@ class Zeitangaben {
         alter_.strAlterText.clear();
         alter_.strGebJahrText.clear();
         alter_.AlterAusDatum(person.Geburtsdatum());
-        if (zeit_ == Lebenszeit::Geburtsjahr && !alter_.strGebJahrText.empty()) return alter_.strGebJahrText;
+        constexpr double LetztesJahr = 2100; // that alone is taken for one
+        if (zeit_ == Lebenszeit::Geburtsjahr && !alter_.strGebJahrText.empty())
+            return ZahlLesen(alter_.strGebJahrText) <= LetztesJahr ? alter_.strGebJahrText : std::string();
         const bool lebt = !person.Verstorben() && !alter_.strAlterText.empty() && NurZiffern(alter_.strAlterText);
         // A year can't be told of somebody whose age alone is known.
         const bool bekannt = zeit_ == Lebenszeit::Alter || alter_.strGebJahrText.empty();
