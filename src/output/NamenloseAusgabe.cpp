@@ -60,12 +60,13 @@ bool OhneNamenAusgeben(const Ausgabewege &wege, const Dokument &dokument, const 
                          Ausgabeordner(wege.benutzer, projektdatei),
                          Dateiwahl::Kennungen::Alle,
                          "PNG  (*.png)|*.png|SVG  (*.svg)|*.svg|" + std::string(Projektfilter.In(sprache))};
-    const auto datei = ZieldateiWählen(wege.benutzer, wahl, sprache);
+    const auto datei = ZieldateiWählen(wege.benutzer, wahl, sprache, Ersetzungsfrage, [&](const std::string &gewählt) {
+        const auto *einwand = Einwand(gewählt, projektdatei);
+        if (einwand)
+            wege.benutzer.Fragen({"Kinwright", std::string(einwand->In(sprache)), Knöpfe::Ok, Zeichen::Warnung});
+        return !einwand;
+    });
     if (!datei) return false;
-    if (const auto *einwand = Einwand(*datei, projektdatei)) {
-        wege.benutzer.Fragen({"Kinwright", std::string(einwand->In(sprache)), Knöpfe::Ok, Zeichen::Warnung});
-        return false;
-    }
     const auto grund =
         Fehlgrund([&] { return Schreiben(wege, NamenloseSeite(dokument, ansicht, zeit, wege.uhr), *datei); });
     if (grund) NichtGeschriebenMelden(wege.benutzer, sprache, *datei, *grund);
