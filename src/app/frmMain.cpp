@@ -8,6 +8,7 @@
 #include "document/Texte.h"
 #include "editing/Abwahl.h"
 #include "editing/Werkzeuge.h"
+#include "output/NamenloseAusgabe.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
@@ -274,6 +275,11 @@ bool frmMain::FassungÖffnen(const std::string &name) {
     if (!fassung || !projekt.FassungÖffnen(*fassung)) return false;
     Festhalten();
     return true;
+}
+
+bool frmMain::OhneNamenExportieren(Lebenszeit zeit) {
+    const Ausgabewege wege{plattform.benutzer, plattform.bilder, plattform.uhr};
+    return OhneNamenAusgeben(wege, dokument, ansicht, zeit, projekt.Projektdatei);
 }
 
 void frmMain::mnuBearbeiten_Öffnen() {

@@ -142,6 +142,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void SeiteAnwenden() override;
     bool GenogrammDrucken() override;
     bool FassungÖffnen(const std::string &name) override;
+    bool OhneNamenExportieren(Lebenszeit zeit) override;
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
 
     bool IstFrei(std::string_view name) const;

@@ -21,6 +21,7 @@ constexpr Bildzeile Tafel[] = {
     {Name::mnuSichernUnter, "speichern-unter"},
     {Name::mnuExportieren, "bild-export"},
     {Name::mnuPDF_Export, "pdf-export"},
+    {Name::mnuOhneNamen, "ohne-namen"},
     {Name::mnuZuletztGeöffnet, "zuletzt"},
     {Name::mnuSeiteEinrichten, "seite"},
     {Name::mnuDrucken, "drucken"},

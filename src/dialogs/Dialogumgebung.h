@@ -5,6 +5,7 @@
 namespace kw {
 
 class Einstellungsablage;
+enum class Lebenszeit;
 struct Einstellungen;
 struct Werkbank;
 class Drucker;
@@ -23,6 +24,8 @@ class Dialogdienste {
     virtual bool GenogrammDrucken() = 0;
     /// Opens that version of the safety net, behind the question about unsaved changes. False when it didn't come.
     virtual bool FassungÖffnen(const std::string &name) = 0;
+    /// Asks for a file and exports page or project without names. False when nothing was written, which was told.
+    virtual bool OhneNamenExportieren(Lebenszeit zeit) = 0;
 };
 
 /// All that the forms work on.

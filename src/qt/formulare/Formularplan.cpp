@@ -233,6 +233,18 @@ constexpr Baustein Fassungen[] = {
     Feld("lblOrt").AlsAbsatz(60),
 };
 
+constexpr Baustein OhneNamen[] = {
+    Feld("lblErklärung").AlsAbsatz(60),
+    Reihe(Abstand),
+    Feld("lblGeburt"),
+    Feld("optAlter"),
+    Feld("optJahr"),
+    Rest,
+    Ende,
+    Feld("lblFehlt").AlsAbsatz(60),
+    Feld("picSeite").InDerMitte(),
+};
+
 constexpr Formularplan Pläne[] = {
     {"frmSymbol", Person, false, "picBack"},
     {"frmSymbol", Institution, false, "picBack2"},
@@ -247,6 +259,7 @@ constexpr Formularplan Pläne[] = {
     {"frmEinstellungen", Spracheinstellung},
     {"frmInfo", Info},
     {"frmFassungen", Fassungen, true},
+    {"frmOhneNamen", OhneNamen},
 };
 
 } // namespace
