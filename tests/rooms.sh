@@ -12,7 +12,7 @@ below() {
     rendering) echo document ;;
     editing) echo document rendering ;;
     arrangement) echo layout document rendering editing ;;
-    familytree) echo document ;;
+    familytree) echo layout arrangement editing document ;;
     dialogs) echo document rendering editing familytree ;;
     description | output | commands | keyboard) echo document rendering editing ;;
     app) echo document rendering editing arrangement familytree dialogs description output commands keyboard ;;
