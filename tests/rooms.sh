@@ -11,9 +11,9 @@ below() {
     platform | document | layout) ;;
     rendering) echo document ;;
     editing) echo document rendering ;;
-    arrangement) echo layout document rendering editing ;;
-    familytree) echo layout arrangement editing document ;;
-    dialogs) echo document rendering editing familytree ;;
+    arrangement) echo layout document rendering editing familytree ;;
+    familytree) echo document ;;
+    dialogs) echo document rendering editing familytree arrangement ;;
     description | output | commands | keyboard) echo document rendering editing ;;
     app) echo document rendering editing arrangement familytree dialogs description output commands keyboard ;;
     qt) echo document rendering editing familytree dialogs description output commands keyboard app ;;

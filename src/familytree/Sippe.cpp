@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <set>
+#include <span>
 
 namespace kw {
 
@@ -11,7 +12,8 @@ class Sammler {
   public:
     using Reihe = std::vector<std::uint32_t>;
 
-    explicit Sammler(const Verwandtschaft &v) : v_(v) {}
+    Sammler(Sippschaft alle, bool adoptionVorGeburt)
+        : baum_(alle.Baum), v_(alle.Verwandte), adoptionVorGeburt_(adoptionVorGeburt) {}
 
     /// Adds all of `reihe`; gives those who weren't there.
     Reihe Dazu(const Reihe &reihe) {
@@ -20,12 +22,11 @@ class Sammler {
             if (genommen_.insert(person).second) neue.push_back(person);
         return neue;
     }
-    /// Both parents of each, by the first family that each comes from.
+    /// Both parents of each.
     Reihe Eltern(const Reihe &kinder) const {
         Reihe eltern;
         for (const std::uint32_t kind : kinder)
-            if (const auto familien = v_.AlsKind(kind); !familien.empty())
-                Anhängen(eltern, v_.Partner(familien.front()));
+            if (const auto familie = Elternfamilie(kind); familie != Keine) Anhängen(eltern, v_.Partner(familie));
         return eltern;
     }
     Reihe Kinder(const Reihe &eltern) const {
@@ -47,18 +48,31 @@ class Sammler {
     Reihe Alle() const { return {genommen_.begin(), genommen_.end()}; }
 
   private:
+    std::uint32_t Elternfamilie(std::uint32_t kind) const {
+        const auto alle = v_.AlsKind(kind);
+        const auto familien = alle.subspan(0, std::min(alle.size(), GenugEltern));
+        const auto vorrang = [&](std::uint32_t familie) {
+            return Elternvorrang(baum_.Personen[kind], baum_.Familien[familie], adoptionVorGeburt_);
+        };
+        const auto erste =
+            std::min_element(familien.begin(), familien.end(), [&](auto a, auto b) { return vorrang(a) < vorrang(b); });
+        return erste == familien.end() ? Keine : *erste;
+    }
     static void Anhängen(Reihe &reihe, std::span<const std::uint32_t> weitere) {
         reihe.insert(reihe.end(), weitere.begin(), weitere.end());
     }
 
+    const Stammbaum &baum_;
     const Verwandtschaft &v_;
+    const bool adoptionVorGeburt_;
     std::set<std::uint32_t> genommen_;
 };
 
 } // namespace
 
-std::vector<std::uint32_t> Sippe(const Verwandtschaft &verwandte, std::uint32_t proband, const Sippenwahl &wahl) {
-    Sammler sammler(verwandte);
+std::vector<std::uint32_t> Sippe(Sippschaft alle, std::uint32_t proband, const Sippenwahl &wahl,
+                                 bool adoptionVorGeburt) {
+    Sammler sammler(alle, adoptionVorGeburt);
     Sammler::Reihe ahnen = sammler.Dazu({proband});
     sammler.Nachkommen(ahnen, wahl.Hinunter);
     std::vector<Sammler::Reihe> stufen; // of ancestors, the parents first: all of them before anybody aside

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "familytree/Verwandtschaft.h"
+#include "familytree/Uebernahme.h"
 
 #include <cstdint>
 #include <vector>
@@ -17,10 +17,19 @@ struct Sippenwahl {
     bool Cousins = false;       ///< those ones' descendants, down to the proband's generation
     bool NichtenNeffen = false; ///< descendants of brothers and sisters, as far down as the proband's own
     bool Partner = true;        ///< of all these
+    bool operator==(const Sippenwahl &) const = default;
+};
+
+/// A family tree, and who belongs to whom in it.
+struct Sippschaft {
+    const Stammbaum &Baum;
+    const Verwandtschaft &Verwandte;
 };
 
 /// Their places in the family tree, in its order. The proband is among them. Whoever is both (an ancestor who is an
-/// aunt too) is taken once; no bond is followed twice, whatever circles the file has.
-std::vector<std::uint32_t> Sippe(const Verwandtschaft &verwandte, std::uint32_t proband, const Sippenwahl &wahl);
+/// aunt too) is taken once; no bond is followed twice, whatever circles the file has. Of several parents those are
+/// followed that the page will show.
+std::vector<std::uint32_t> Sippe(Sippschaft alle, std::uint32_t proband, const Sippenwahl &wahl,
+                                 bool adoptionVorGeburt = false);
 
 } // namespace kw
