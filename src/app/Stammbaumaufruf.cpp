@@ -24,6 +24,9 @@ std::string Auswahltext(const Personensuche &suche, const Personensuche::Treffer
     return text;
 }
 
+constexpr Zweisprachig Darüber{"Was über das Blatt reicht, ist auf der Seite nicht zu sehen.\n",
+                               "What lies beyond the sheet doesn't show on the page.\n"};
+
 /// The options that make it so.
 std::string Optionen(const Seitenwunsch &wunsch) {
     std::string text = "--up " + std::to_string(wunsch.Wahl.Hinauf) + " --down " + std::to_string(wunsch.Wahl.Hinunter);
@@ -99,6 +102,7 @@ Stammbaumausgang StammbaumSchreiben(const Stammbaumaufruf &aufruf, Zeichenfläch
     const Dateibefund geschrieben = ProjektAblegen(seite.Seite, aufruf.Ziel);
     if (!geschrieben.Gelungen()) return gescheitert(aufruf.Ziel + ": " + geschrieben.Meldung);
     ausgang.Bericht = Seitenbefund(seite, aufruf.Sprache) + "\n" +
+                      (seite.Blatt.LiegtDarüber ? std::string(Darüber.In(aufruf.Sprache)) : "") +
                       Berichtstext(seite.Übernommen.Bericht, baum.Warnliste, aufruf.Sprache);
     return ausgang;
 }

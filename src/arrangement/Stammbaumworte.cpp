@@ -21,8 +21,6 @@ constexpr Zweisprachig Quer{" quer", " landscape"};
 constexpr Zweisprachig Verkleinert{", mit Symbolen von 9 mm", ", with symbols of 9 mm"};
 constexpr Zweisprachig Braucht{": braucht ", ": needs "};
 constexpr Zweisprachig KeinPapier{", mehr als jedes Papier hat", ", more than any of the papers"};
-constexpr Zweisprachig Darüber{", mehr als das Blatt; was darüber liegt, ist nicht zu sehen: ",
-                               ", more than the sheet; what lies beyond doesn't show: "};
 constexpr Zweisprachig Höchstens{". Ein Projekt fasst höchstens 999.", ". A project holds 999 at most."};
 constexpr Zweisprachig Niemand{"Niemand ist ausgewählt.", "Nobody is chosen."};
 constexpr Zweisprachig Hinauf{" Generationen hinauf", " generations up"};
@@ -65,8 +63,7 @@ std::string Seitenbefund(const Stammbaumseite &seite, Sprache s) {
     else text += ", " + std::to_string(b.Generationen) + std::string(Generationen.In(s));
     text += std::string(Reihe.In(s)) + std::to_string(b.BreitesteReihe);
     const std::string bedarf = std::string(Braucht.In(s)) + Maßangabe(b.Breite, b.Höhe, s);
-    if (!b.Blatt) return text + bedarf + std::string(KeinPapier.In(s));
-    if (b.LiegtDarüber) return text + bedarf + std::string(Darüber.In(s)) + Blattname(*b.Blatt, s);
+    if (!b.Blatt || b.LiegtDarüber) return text + bedarf + std::string(KeinPapier.In(s));
     text += std::string(PasstAuf.In(s)) + Blattname(*b.Blatt, s);
     return b.Blatt->Symbol > KleinstesSymbol ? text : text + std::string(Verkleinert.In(s));
 }

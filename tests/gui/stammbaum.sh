@@ -20,7 +20,7 @@ call() {
     [ -s printed ] && fault "$* prints on the standard output"
 }
 
-call 0 --familytree berger.ged anna.kwp
+call 0 --familytree berger.ged --language en anna.kwp
 grep -q '^13 persons, 4 generations' told || fault "no report: $(cat told)"
 [ "$("$KW_KINWRIGHT" --describe --language en anna.kwp | grep -c Berger)" -gt 3 ] || fault "no project"
 "$KW_KINWRIGHT" --describe anna.kwp | grep -q 'Łucja Иванова' || fault "letters of other scripts are lost"
