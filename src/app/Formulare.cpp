@@ -8,9 +8,12 @@
 #include "dialogs/frmInfo.h"
 #include "dialogs/frmKommentar.h"
 #include "dialogs/frmLegende.h"
+#include "dialogs/frmOhneNamen.h"
 #include "dialogs/frmPLinien.h"
 #include "dialogs/frmSchrift.h"
 #include "dialogs/frmSeiteEinrichten.h"
+#include "dialogs/frmStammbaum.h"
+#include "dialogs/frmStammbaumbericht.h"
 #include "dialogs/frmSymbGlobal.h"
 #include "dialogs/frmSymbol.h"
 #include "platform/Befehlsnamen.h"
@@ -44,6 +47,9 @@ constexpr Bauplan Baupläne[] = {
     {Name::frmSeiteEinrichten, Bauen<frmSeiteEinrichten>},
     {Name::frmEinstellungen, Bauen<frmEinstellungen>},
     {Name::frmFassungen, Bauen<frmFassungen>},
+    {Name::frmOhneNamen, Bauen<frmOhneNamen>},
+    {Name::frmStammbaum, Bauen<frmStammbaum>},
+    {Name::frmStammbaumbericht, Bauen<frmStammbaumbericht>},
     {Name::frmInfo,
      [](Dialogumgebung &u) -> std::unique_ptr<Formular> { return std::make_unique<frmInfo>(u, Programmversion); }},
 };

@@ -2,8 +2,10 @@
 
 #include "editing/Geometrie.h"
 #include "layout/Familienlage.h"
+#include "platform/Sprache.h"
 
 #include <optional>
+#include <string>
 #include <vector>
 
 // A place on the page for what was laid out. cm.
@@ -11,6 +13,9 @@ namespace kw {
 
 /// What two lines of names take below a symbol, cm.
 constexpr double Namenshöhe = 0.68;
+
+/// The smallest that persons can have, cm.
+constexpr double KleinstesSymbol = 0.9;
 
 /// What stays free beside a symbol, below it to the next generation's, and down to a bar, cm.
 struct Luft {
@@ -39,5 +44,8 @@ Umgebung UmAlle(const std::vector<Umgebung> &kästen);
 /// How far it is to be moved: free of all obstacles, on the page, and nearest to where it would best be. Nothing when
 /// there is no such place.
 std::optional<Ort> PlatzFinden(const Platzwunsch &wunsch);
+
+/// "41,5 × 15,2 cm".
+std::string Maßangabe(double breite, double höhe, Sprache sprache);
 
 } // namespace kw
