@@ -97,7 +97,7 @@ bool Ordner::Mangelhaft(const Familienlage &lage, const Lagebefund &neu, double 
         kästen.push_back(Kasten(auszug_.Personen[i], lage.Personen[i], größe));
     for (size_t i = 0; i < kästen.size(); ++i)
         for (size_t k = 0; k < i; ++k)
-            if (Überlappen(kästen[i], kästen[k])) return true;
+            if (LiegenAufeinander(kästen[i], kästen[k])) return true;
     return false;
 }
 
@@ -196,8 +196,8 @@ bool Ordner::EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const
         const Ort dort = Stelle(nächster->first);
         const Ort soll{alt.X + nächster->second.X - dort.X, alt.Y + nächster->second.Y - dort.Y};
         const Umgebung hier = Kasten(i, alt, umzug.Größe);
-        const auto frei = [&](const Umgebung &u) { return !Überlappen(u, hier); };
-        if (soll.X == alt.X && soll.Y == alt.Y &&
+        const auto frei = [&](const Umgebung &u) { return !LiegenAufeinander(u, hier); };
+        if (Gerundet(soll.X - alt.X, 3) == 0 && Gerundet(soll.Y - alt.Y, 3) == 0 &&
             std::all_of(wunsch.Hindernisse.begin(), wunsch.Hindernisse.end(), frei)) {
             umzug.Personen[i] = alt; // however near it was drawn
             wunsch.Hindernisse.push_back(hier);

@@ -52,7 +52,7 @@ Umgebung UmAlle(const std::vector<Umgebung> &kästen) {
     return alle;
 }
 
-bool Überlappen(const Umgebung &a, const Umgebung &b) { return Versetzt(a, b, {}); }
+bool LiegenAufeinander(const Umgebung &a, const Umgebung &b) { return Versetzt(a, b, {}); }
 
 std::optional<Ort> PlatzFinden(const Platzwunsch &w) {
     const Umgebung alle = UmAlle(w.Kästen);

@@ -37,7 +37,7 @@ struct Platzwunsch {
 };
 
 /// Whether they lie on each other; touching is none of that.
-bool Überlappen(const Umgebung &a, const Umgebung &b);
+bool LiegenAufeinander(const Umgebung &a, const Umgebung &b);
 /// The box round all of them.
 Umgebung UmAlle(const std::vector<Umgebung> &kästen);
 
