@@ -227,7 +227,7 @@ Reihen::Folgen BesteReihen(const Familiengraph &graph, const Gerüst &gerüst) {
         ReihenSetzenlassen(reihen, unruhe);
         if (i == 0 || reihen.Kosten() < beste.Kosten()) beste = reihen;
     }
-    ReihenRütteln(beste, stücke, unruhe, zufall, static_cast<int>(std::clamp<std::int64_t>(8000 / anzahl, 10, 60)));
+    ReihenRütteln(beste, stücke, unruhe, zufall, static_cast<int>(std::clamp<std::int64_t>(11000 / anzahl, 10, 90)));
     return beste.Zeilen();
 }
 
