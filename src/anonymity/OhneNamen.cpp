@@ -96,10 +96,9 @@ class Zeitangaben {
         constexpr double LetztesJahr = 2100; // that alone is taken for one
         if (zeit_ == Lebenszeit::Geburtsjahr && !alter_.strGebJahrText.empty())
             return ZahlLesen(alter_.strGebJahrText) <= LetztesJahr ? alter_.strGebJahrText : std::string();
-        const bool lebt = !person.Verstorben() && !alter_.strAlterText.empty() && NurZiffern(alter_.strAlterText);
-        // A year can't be told of somebody whose age alone is known.
-        const bool bekannt = zeit_ == Lebenszeit::Alter || alter_.strGebJahrText.empty();
-        return lebt && bekannt ? AltersangabeFür(alter_.strAlterText, sprache_) : std::string();
+        const std::string alter = AltersangabeFür(alter_.strAlterText, sprache_);
+        // Neither a negative one nor one of thousands of years is one.
+        return !person.Verstorben() && AlterAusAngabe(alter) ? alter : std::string();
     }
 
   private:
