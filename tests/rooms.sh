@@ -11,10 +11,10 @@ below() {
     platform | document | layout) ;;
     rendering) echo document ;;
     editing) echo document rendering ;;
-    arrangement) echo layout document rendering editing ;;
+    arrangement) echo layout document rendering editing familytree ;;
     familytree) echo document ;;
     anonymity) echo document layout rendering ;;
-    dialogs) echo document rendering editing familytree anonymity ;;
+    dialogs) echo document rendering editing familytree arrangement anonymity ;;
     output) echo document rendering editing anonymity ;;
     description | commands | keyboard) echo document rendering editing ;;
     app) echo document rendering editing arrangement familytree anonymity dialogs description output commands keyboard ;;

@@ -19,6 +19,7 @@ constexpr Bildzeile Tafel[] = {
     {Name::mnuÖffnen, "oeffnen"},
     {Name::mnuSpeichern, "speichern"},
     {Name::mnuSichernUnter, "speichern-unter"},
+    {Name::mnuStammbaum, "stammbaum"},
     {Name::mnuExportieren, "bild-export"},
     {Name::mnuPDF_Export, "pdf-export"},
     {Name::mnuOhneNamen, "ohne-namen"},

@@ -21,6 +21,7 @@ constexpr Menüzeile Tafel[] = {
     {Name::mnuÖffnen, Name::mnuDatei, {"&Öffnen...", "Open..."}, {"Ö", "O"}, "Ctrl+O"},
     {Name::mnuSpeichern, Name::mnuDatei, {"&Speichern", "Save"}, {"S", "S"}, "Ctrl+S"},
     {Name::mnuSichernUnter, Name::mnuDatei, {"Speichern unter ...", "Save As ..."}, {"u", "A"}},
+    {Name::mnuStammbaum, Name::mnuDatei, {"Stammbaum übernehmen ...", "Import Family Tree ..."}, {"t", "I"}},
     {Name::mnuStr1, Name::mnuDatei, {"-", "-"}},
     {Name::mnuExportieren, Name::mnuDatei, {"Als Bild exportieren", "Export as image"}, {"A", "E"}},
     {Name::mnuPDF_Export, Name::mnuDatei, {"Als PDF exportieren", "Export as PDF"}, {"P", "D"}},

@@ -2,6 +2,8 @@
 
 #include "platform/Sprache.h"
 
+#include <string>
+
 namespace kw {
 
 class Einstellungsablage;
@@ -11,6 +13,8 @@ struct Werkbank;
 class Drucker;
 class Sicherheitsnetz;
 class Uhr;
+struct Dokument;
+struct Stammbaumvorlage;
 
 /// What forms ask of the main window beside `Fensterdienste`.
 class Dialogdienste {
@@ -26,6 +30,13 @@ class Dialogdienste {
     virtual bool FassungÖffnen(const std::string &name) = 0;
     /// Asks for a file and exports page or project without names. False when nothing was written, which was told.
     virtual bool OhneNamenExportieren(Lebenszeit zeit) = 0;
+    /// Makes that page a new project, which isn't saved yet, behind the question about unsaved changes; one step back
+    /// leads to an empty page. False, and nothing changed, when the question is cancelled.
+    virtual bool NeuesProjekt(const Dokument &seite) = 0;
+    /// Writes a text of lines to a file that the user names, `titel` if he says nothing else; prints it. Failures are
+    /// told.
+    virtual void TextSpeichern(const std::string &titel, const std::string &text) = 0;
+    virtual void TextDrucken(const std::string &titel, const std::string &text) = 0;
 };
 
 /// All that the forms work on.
@@ -37,6 +48,7 @@ struct Dialogumgebung {
     Drucker &drucker;
     Dialogdienste &dienste;
     Sicherheitsnetz &netz;
+    Stammbaumvorlage *stammbaum = nullptr; ///< while one is imported
 
     kw::Sprache Sprache() const;
 };

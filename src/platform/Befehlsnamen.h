@@ -25,6 +25,7 @@ inline constexpr Befehlsname mnuNeu{"mnuNeu"};
 inline constexpr Befehlsname mnuÖffnen{"mnuÖffnen"};
 inline constexpr Befehlsname mnuSpeichern{"mnuSpeichern"};
 inline constexpr Befehlsname mnuSichernUnter{"mnuSichernUnter"};
+inline constexpr Befehlsname mnuStammbaum{"mnuStammbaum"};
 inline constexpr Befehlsname mnuStr1{"mnuStr1"};
 inline constexpr Befehlsname mnuExportieren{"mnuExportieren"};
 inline constexpr Befehlsname mnuPDF_Export{"mnuPDF_Export"};
@@ -235,6 +236,8 @@ inline constexpr Formularname frmEinstellungen{"frmEinstellungen"};
 inline constexpr Formularname frmInfo{"frmInfo"};
 inline constexpr Formularname frmFassungen{"frmFassungen"};
 inline constexpr Formularname frmOhneNamen{"frmOhneNamen"};
+inline constexpr Formularname frmStammbaum{"frmStammbaum"};
+inline constexpr Formularname frmStammbaumbericht{"frmStammbaumbericht"};
 
 } // namespace Name
 

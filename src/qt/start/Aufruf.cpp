@@ -5,6 +5,7 @@
 #include "qt/drucken/Ausgabe.h"
 #include "qt/drucken/Vorschaubild.h"
 
+#include <algorithm>
 #include <charconv>
 #include <filesystem>
 #include <system_error>
@@ -81,7 +82,7 @@ Aufruf Geprüft(Aufruf a, bool mitDpi) {
     }
     const bool beschreibt = a.Was == Aufruf::Art::Beschreibung;
     if (beschreibt && a.Datei.empty()) return Falsch("--describe needs a project file");
-    if (a.InSprache && !beschreibt) return Falsch("--language goes with --describe");
+    if (a.InSprache && !beschreibt) return Falsch("--language goes with --describe and --familytree");
     return a;
 }
 
@@ -94,6 +95,8 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
         return a;
     }
     if (!worte.empty() && worte.front() == "--thumbnail") return VorschaubildLesen(worte);
+    const auto optionenende = std::find(worte.begin(), worte.end(), "--");
+    if (std::find(worte.begin(), optionenende, "--familytree") != optionenende) return StammbaumoptionenLesen(worte);
     bool optionen = true;
     bool mitDpi = false;
     for (size_t i = 0; i < worte.size(); ++i) {
@@ -142,6 +145,8 @@ const char *Hilfetext() {
     return "Usage: kinwright [FILE]\n"
            "       kinwright --export OUT [--dpi N] [--anonymous[=ages|years]] FILE\n"
            "       kinwright --describe [--language de|en] FILE\n"
+           "       kinwright --familytree TREE [--person WHO] [--up N] [--down N] [--small] [--language de|en] OUT\n"
+           "       kinwright --familytree TREE --all [--person WHO] [--small] [--language de|en] OUT\n"
            "       kinwright --thumbnail SIZE IN OUT\n"
            "       kinwright /dataimport NAME\n"
            "\n"
@@ -154,7 +159,17 @@ const char *Hilfetext() {
            "  --anonymous   leave out whose family it is: letters and numbers for names; ages, or years of birth with\n"
            "                =years, for dates; no texts, institutions, title. Then OUT can also be a project, .kwp.\n"
            "  --describe    print what the page of FILE shows in plain sentences and end. Needs no display.\n"
-           "  --language L  de or en, what it is described in; if not given, as the program's settings say\n"
+           "  --language L  de or en, what it is described or reported in; if not given, as the program's settings "
+           "say\n"
+           "  --familytree  make the project OUT (.kwp) of the genealogy file TREE (GEDCOM: .ged, .gdz) and end: one\n"
+           "                person's family on the smallest sheet that holds it. What was left out, taken for granted\n"
+           "                or changed is reported on the standard error. Needs no display.\n"
+           "  --person WHO  that person: as TREE calls them (I12), or words of the name and years; if not given, the\n"
+           "                one that TREE proposes, or its first\n"
+           "  --up N        so many generations of ancestors, 2 if not given\n"
+           "  --down N      so many generations of descendants, 1 if not given\n"
+           "  --small       with smaller symbols, where nothing else makes it fit\n"
+           "  --all         everybody, also beyond the sheet; at most 999 persons and 999 couples\n"
            "  --thumbnail   write the page of IN into the file OUT and end, as a .png of at most SIZE x SIZE pixels:\n"
            "                what a file manager shows. Needs no display; writes nothing when IN is damaged.\n"
            "  /dataimport   lay out the case of the file NAME.xyz and list the persons of muster.txt, both in the\n"
@@ -163,7 +178,8 @@ const char *Hilfetext() {
            "  --version     show the version\n"
            "\n"
            "Exit status: 0 when all went well; 1 when FILE can't be read, or only in part (what was read is\n"
-           "exported or described all the same), or OUT can't be written; 2 when the call is wrong.\n";
+           "exported or described all the same), or OUT can't be written, or of TREE no sheet holds what was asked\n"
+           "for; 2 when the call is wrong, or WHO is nobody or several persons, who are listed.\n";
 }
 
 } // namespace kw

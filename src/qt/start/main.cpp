@@ -8,6 +8,7 @@
 #include "qt/drucken/Vorschaubild.h"
 #include "qt/fenster/Hauptfenster.h"
 #include "qt/grund/QtPlattform.h"
+#include "qt/malen/QtFlaeche.h"
 #include "qt/start/Aufruf.h"
 #include "qt/start/Einzelinstanz.h"
 #include "qt/start/Sitzungsende.h"
@@ -78,6 +79,28 @@ int Beschreiben(const Aufruf &aufruf, int &argc, char **argv) {
     if (bild.IstGelesen())
         if (const int ergebnis = Ausgegeben(bild.InWorten())) return ergebnis;
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
+}
+
+/// Lines for people, whatever stands in a file.
+void Berichten(const std::string &text) {
+    for (size_t i = 0; i < text.size();) {
+        const size_t ende = std::min(text.find('\n', i), text.size());
+        std::fprintf(stderr, "%s\n", FürTerminal(text.substr(i, ende - i)).c_str());
+        i = ende + 1;
+    }
+}
+
+int StammbaumÜbernehmen(Aufruf aufruf, int &argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication anwendung(argc, argv);
+    const QtUhr uhr;
+    aufruf.Stammbaum.Sprache =
+        aufruf.InSprache.value_or(Einzelbild(uhr, EinstellungsDateiDesBenutzers()).ansicht.Sprache);
+    QtFläche maß;
+    const Stammbaumausgang ausgang = StammbaumSchreiben(aufruf.Stammbaum, maß);
+    if (!ausgang.Meldung.empty()) Berichten("kinwright: " + ausgang.Meldung);
+    Berichten(ausgang.Bericht);
+    return ausgang.Ergebnis;
 }
 
 /// A page that isn't whole gets no picture, so that nobody takes it for the whole.
@@ -183,6 +206,7 @@ int main(int argc, char **argv) try {
     case Aufruf::Art::Export: return Exportieren(aufruf, argc, argv);
     case Aufruf::Art::Beschreibung: return Beschreiben(aufruf, argc, argv);
     case Aufruf::Art::Vorschaubild: return VorschaubildMachen(aufruf, argc, argv);
+    case Aufruf::Art::Stammbaum: return StammbaumÜbernehmen(aufruf, argc, argv);
     case Aufruf::Art::Fenster: break;
     }
     return FensterZeigen(aufruf, argc, argv);
