@@ -8,8 +8,10 @@ namespace kw {
 constexpr int TypMännlich = 1;
 constexpr int TypWeiblich = 2;
 constexpr int TypSchwangerschaft = 3;
+constexpr int TypFehlgeburt = 4;
 constexpr int TypTotgeburtMännlich = 5;
 constexpr int TypTotgeburtWeiblich = 6;
+constexpr int TypAbtreibung = 7;
 constexpr int TypInstitution = 9;
 constexpr int TypWeiblichZuMännlich = 10;
 constexpr int TypMännlichZuWeiblich = 11;
