@@ -1,6 +1,7 @@
 #include "qt/start/Aufruf.h"
 
 #include "app/Datenimport.h"
+#include "app/Stammbaumdatei.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/drucken/Vorschaubild.h"
 
@@ -47,20 +48,35 @@ bool SpracheLesen(const std::string &text, std::optional<Sprache> &sprache) {
     return sprache && Kürzel(*sprache) == text;
 }
 
+bool FassungLesen(const std::string &text, Stammbaumfassung &fassung) {
+    for (const auto bekannte : {Stammbaumfassung::Gedcom551, Stammbaumfassung::Gedcom70})
+        if (text == Fassungsname(bekannte)) fassung = bekannte;
+    return text == Fassungsname(fassung);
+}
+
+/// What was said that goes with some exports only.
+struct Gesagtes {
+    bool Dpi = false, Stammbaum = false;
+};
+
 /// Every call that is understood is checked as a whole at its end.
-Aufruf Geprüft(Aufruf a, bool mitDpi) {
+Aufruf Geprüft(Aufruf a, const Gesagtes &gesagt) {
     std::error_code fehler; // a file that isn't there yet is no other
+    const bool stammbaum = a.Was == Aufruf::Art::Export && IstStammbaumname(a.Ziel);
+    if (gesagt.Stammbaum && !stammbaum)
+        return Falsch("--gedcom, --health and --relationships go with --export OUT.ged");
+    if (gesagt.Dpi && stammbaum) return Falsch("--dpi doesn't go with a family tree");
     if (a.Was == Aufruf::Art::Export) {
         if (std::filesystem::equivalent(a.Datei, a.Ziel, fehler)) return Falsch("the export would replace the project");
         if (a.Datei.empty()) return Falsch("--export needs a project file");
-        if (!IstAusgabeformat(a.Ziel))
-            return Falsch("cannot export to " + a.Ziel + ": its name must end in .pdf, .svg, .png, .jpg or .bmp");
-    } else if (mitDpi) {
+        if (!stammbaum && !IstAusgabeformat(a.Ziel))
+            return Falsch("cannot export to " + a.Ziel + ": its name must end in .pdf, .svg, .png, .jpg, .bmp or .ged");
+    } else if (gesagt.Dpi) {
         return Falsch("--dpi goes with --export");
     }
     const bool beschreibt = a.Was == Aufruf::Art::Beschreibung;
     if (beschreibt && a.Datei.empty()) return Falsch("--describe needs a project file");
-    if (a.InSprache && !beschreibt) return Falsch("--language goes with --describe");
+    if (a.InSprache && !beschreibt && !stammbaum) return Falsch("--language goes with --describe and OUT.ged");
     return a;
 }
 
@@ -74,7 +90,7 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
     }
     if (!worte.empty() && worte.front() == "--thumbnail") return VorschaubildLesen(worte);
     bool optionen = true;
-    bool mitDpi = false;
+    Gesagtes gesagt;
     for (size_t i = 0; i < worte.size(); ++i) {
         const std::string &wort = worte[i];
         const bool hatWert = i + 1 < worte.size();
@@ -101,22 +117,30 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
         } else if (wort == "--language") {
             if (!hatWert || !SpracheLesen(worte[++i], a.InSprache)) return Falsch("--language is de or en");
         } else if (wort == "--dpi") {
-            if (!hatWert || mitDpi || !DpiLesen(worte[++i], a.Dpi))
+            if (!hatWert || gesagt.Dpi || !DpiLesen(worte[++i], a.Dpi))
                 return Falsch("--dpi needs one whole number from " + std::to_string(KleinsteDpi) + " to " +
                               std::to_string(GrößteDpi));
-            mitDpi = true;
+            gesagt.Dpi = true;
+        } else if (wort == "--gedcom") {
+            if (!hatWert || !FassungLesen(worte[++i], a.Wünsche.Fassung)) return Falsch("--gedcom is 5.5.1 or 7.0");
+            gesagt.Stammbaum = true;
+        } else if (wort == "--health" || wort == "--relationships") {
+            (wort == "--health" ? a.Wünsche.Gesundheit : a.Wünsche.Beziehungslinien) = true;
+            gesagt.Stammbaum = true;
         } else if (wort == "--thumbnail") {
             return Falsch("--thumbnail goes with no other option");
         } else {
             return Falsch("unknown option " + wort);
         }
     }
-    return Geprüft(a, mitDpi);
+    return Geprüft(a, gesagt);
 }
 
 const char *Hilfetext() {
     return "Usage: kinwright [FILE]\n"
            "       kinwright --export OUT [--dpi N] FILE\n"
+           "       kinwright --export OUT.ged [--gedcom 5.5.1|7.0] [--health] [--relationships] [--language de|en] "
+           "FILE\n"
            "       kinwright --describe [--language de|en] FILE\n"
            "       kinwright --thumbnail SIZE IN OUT\n"
            "       kinwright /dataimport NAME\n"
@@ -127,8 +151,14 @@ const char *Hilfetext() {
            "  --export OUT  write the page of FILE to OUT and end; the ending of OUT says as what:\n"
            "                .pdf, .svg, .png, .jpg or .bmp. Needs no display.\n"
            "  --dpi N       dots per inch of a picture, 300 if not given\n"
+           "  OUT.ged       the persons, couples and children of FILE as a family tree for genealogy programs; what\n"
+           "                can't go along is told, a line for each kind\n"
+           "  --gedcom V    5.5.1 or 7.0, the version of the format; 7.0 if not given\n"
+           "  --health      the marks of addiction and illness go along\n"
+           "  --relationships\n"
+           "                relationship lines go along, as relations between two persons\n"
            "  --describe    print what the page of FILE shows in plain sentences and end. Needs no display.\n"
-           "  --language L  de or en, what it is described in; if not given, as the program's settings say\n"
+           "  --language L  de or en, what it is described or told in; if not given, as the program's settings say\n"
            "  --thumbnail   write the page of IN into the file OUT and end, as a .png of at most SIZE x SIZE pixels:\n"
            "                what a file manager shows. Needs no display; writes nothing when IN is damaged.\n"
            "  /dataimport   lay out the case of the file NAME.xyz and list the persons of muster.txt, both in the\n"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "familytree/Uebergabe.h"
 #include "platform/Sprache.h"
 #include "qt/drucken/Ausgabe.h"
 
@@ -17,6 +18,7 @@ struct Aufruf {
     std::string Import;               ///< the whole command line of an import, as the model takes it; empty for none
     std::string Ziel;                 ///< the file to write
     int Dpi = ÜblicheDpi;             ///< of pictures
+    Übergabewünsche Wünsche;          ///< what goes into a family tree
     int Kante = 0;                    ///< of a thumbnail, in pixels
     std::optional<Sprache> InSprache; ///< of the description; none for that of the settings
     std::string Fehler;               ///< why it is wrong, one plain line
