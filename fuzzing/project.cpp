@@ -51,7 +51,7 @@ Satzliste OhneBlanks(const Satzliste &kreislinien) {
 void AlsStammbaum(const Dokument &dokument) {
     for (const auto fassung : {Stammbaumfassung::Gedcom551, Stammbaumfassung::Gedcom70}) {
         const auto ü = Übergeben(dokument, DrehbuchUhr(), {fassung, true, true});
-        Berichtstext(ü.Bericht, Sprache::Deutsch);
+        Berichtszeilen(ü.Bericht, Sprache::Deutsch);
         Halten(IstUtf8(ü.Text), "a family tree is UTF-8");
         const auto baum = StammbaumLesen(ü.Text);
         Halten(baum.Warnliste.Liste().empty(), "a family tree that was written has no fault");

@@ -135,6 +135,8 @@ constexpr Zeile Tabelle[] = {
     {Name::mnuSichernUnter, [](Befehlsumgebung &u, int) { u.projekt.SpeichernUnter(); }},
     {Name::mnuExportieren, [](Befehlsumgebung &u, int) { u.bildexport.SeiteExportieren(u.projekt.Projektdatei); }},
     {Name::mnuPDF_Export, PdfErzeugen},
+    {Name::mnuStammbaumExport,
+     [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmStammbaumExport); }},
     {Name::btnClipboard, Bildauswahl, false},
     {Name::btnAuswahlZuBild, Bildauswahl, true},
     {Name::mnuBeenden, [](Befehlsumgebung &u, int) { u.werkbank.benutzer.FensterSchließen(); }},

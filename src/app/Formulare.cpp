@@ -11,6 +11,7 @@
 #include "dialogs/frmPLinien.h"
 #include "dialogs/frmSchrift.h"
 #include "dialogs/frmSeiteEinrichten.h"
+#include "dialogs/frmStammbaumExport.h"
 #include "dialogs/frmSymbGlobal.h"
 #include "dialogs/frmSymbol.h"
 #include "platform/Befehlsnamen.h"
@@ -44,6 +45,7 @@ constexpr Bauplan Baupläne[] = {
     {Name::frmSeiteEinrichten, Bauen<frmSeiteEinrichten>},
     {Name::frmEinstellungen, Bauen<frmEinstellungen>},
     {Name::frmFassungen, Bauen<frmFassungen>},
+    {Name::frmStammbaumExport, Bauen<frmStammbaumExport>},
     {Name::frmInfo,
      [](Dialogumgebung &u) -> std::unique_ptr<Formular> { return std::make_unique<frmInfo>(u, Programmversion); }},
 };

@@ -8,6 +8,7 @@
 #include "document/Texte.h"
 #include "editing/Abwahl.h"
 #include "editing/Werkzeuge.h"
+#include "output/Stammbaumziel.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
@@ -274,6 +275,10 @@ bool frmMain::FassungÖffnen(const std::string &name) {
     if (!fassung || !projekt.FassungÖffnen(*fassung)) return false;
     Festhalten();
     return true;
+}
+
+bool frmMain::StammbaumSpeichern(const std::string &inhalt) {
+    return kw::StammbaumSpeichern(plattform.benutzer, ansicht.Sprache, projekt.Projektdatei, inhalt);
 }
 
 void frmMain::mnuBearbeiten_Öffnen() {

@@ -142,6 +142,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void SeiteAnwenden() override;
     bool GenogrammDrucken() override;
     bool FassungÖffnen(const std::string &name) override;
+    bool StammbaumSpeichern(const std::string &inhalt) override;
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
 
     bool IstFrei(std::string_view name) const;

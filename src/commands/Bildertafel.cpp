@@ -21,6 +21,7 @@ constexpr Bildzeile Tafel[] = {
     {Name::mnuSichernUnter, "speichern-unter"},
     {Name::mnuExportieren, "bild-export"},
     {Name::mnuPDF_Export, "pdf-export"},
+    {Name::mnuStammbaumExport, "stammbaum-export"},
     {Name::mnuZuletztGeöffnet, "zuletzt"},
     {Name::mnuSeiteEinrichten, "seite"},
     {Name::mnuDrucken, "drucken"},

@@ -2,6 +2,8 @@
 
 #include "platform/Sprache.h"
 
+#include <string>
+
 namespace kw {
 
 class Einstellungsablage;
@@ -23,6 +25,8 @@ class Dialogdienste {
     virtual bool GenogrammDrucken() = 0;
     /// Opens that version of the safety net, behind the question about unsaved changes. False when it didn't come.
     virtual bool FassungÖffnen(const std::string &name) = 0;
+    /// Writes a family tree to a file that the user names; a failure is told. False when nothing was written.
+    virtual bool StammbaumSpeichern(const std::string &inhalt) = 0;
 };
 
 /// All that the forms work on.

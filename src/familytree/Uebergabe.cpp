@@ -104,8 +104,7 @@ void Übergeber::PartnerSammeln(const PartnerschaftSatz &linie, Familie &familie
     }
     const auto rang = [&](std::size_t partner) {
         const int typ = SymbolKennzahl(Satz(personen_[partner]).Symboltyp());
-        if (typ == TypMännlich || typ == TypWeiblichZuMännlich || typ == TypTotgeburtMännlich) return 0;
-        return typ == TypWeiblich || typ == TypMännlichZuWeiblich || typ == TypTotgeburtWeiblich ? 2 : 1;
+        return IstMann(typ) ? 0 : IstFrau(typ) ? 2 : 1;
     };
     std::stable_sort(familie.Partner.begin(), familie.Partner.end(), [&](auto a, auto b) { return rang(a) < rang(b); });
 }

@@ -64,17 +64,17 @@ std::string Verlusttext(Übergabeverlust art, std::size_t anzahl, Sprache sprach
     return std::to_string(anzahl).append(" ").append((anzahl == 1 ? wort.Eines : wort.Mehrere).In(sprache));
 }
 
-std::string Berichtstext(const Übergabebericht &bericht, Sprache sprache) {
-    std::string text;
+std::vector<std::string> Berichtszeilen(const Übergabebericht &bericht, Sprache sprache) {
+    std::vector<std::string> zeilen;
     for (const bool weggelassen : {true, false}) {
+        const auto klasse = std::string((weggelassen ? Weggelassen : Geändert).In(sprache));
         for (std::size_t i = 0; i < Übergabeverluste; ++i) {
             const auto art = static_cast<Übergabeverlust>(i);
             if (bericht.Anzahl(art) == 0 || BleibtWeg(art) != weggelassen) continue;
-            text.append((weggelassen ? Weggelassen : Geändert).In(sprache));
-            text.append(Verlusttext(art, bericht.Anzahl(art), sprache)) += '\n';
+            zeilen.push_back(klasse + Verlusttext(art, bericht.Anzahl(art), sprache));
         }
     }
-    return text;
+    return zeilen;
 }
 
 } // namespace kw

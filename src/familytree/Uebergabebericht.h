@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace kw {
 
@@ -48,7 +49,7 @@ bool BleibtWeg(Übergabeverlust art);
 /// "3 relationship lines"; the number is at least 1.
 std::string Verlusttext(Übergabeverlust art, std::size_t anzahl, Sprache sprache);
 
-/// A line for each kind that there is, the left out ones first, each ended: "left out: 3 relationship lines".
-std::string Berichtstext(const Übergabebericht &bericht, Sprache sprache);
+/// A line for each kind that there is, the left out ones first: "left out: 3 relationship lines".
+std::vector<std::string> Berichtszeilen(const Übergabebericht &bericht, Sprache sprache);
 
 } // namespace kw

@@ -109,9 +109,7 @@ void Übergeber::GeschlechtSchreiben(int typ) {
     const auto *const wort =
         std::find_if(Symbolworte.begin(), Symbolworte.end(), [&](const Symbolwort &w) { return w.Typ == typ; });
     if (wort == Symbolworte.end()) {
-        const bool mann = typ == TypMännlich || typ == TypTotgeburtMännlich;
-        const bool frau = typ == TypWeiblich || typ == TypTotgeburtWeiblich;
-        return datei_.Zeile(1, "SEX", mann ? "M" : frau ? "F" : "U");
+        return datei_.Zeile(1, "SEX", IstMann(typ) ? "M" : IstFrau(typ) ? "F" : "U");
     }
     if (typ == TypDivers && !datei_.IstAlt()) return datei_.Zeile(1, "SEX", "X");
     Zählen(Übergabeverlust::Geschlechter);
@@ -124,7 +122,8 @@ void Übergeber::GeschlechtSchreiben(int typ) {
 /// A date below an event; nothing for none.
 void Übergeber::DatumSchreiben(int ebene, const Datumsangabe &datum) {
     if (datum.Worte.empty()) {
-        if (!datum.Datum.empty()) datei_.Zeile(ebene, "DATE", datum.Datum);
+        const auto text = datei_.IstAlt() ? Ersetzt(datum.Datum, " BCE", " B.C.") : datum.Datum;
+        if (!text.empty()) datei_.Zeile(ebene, "DATE", text);
     } else if (datei_.IstAlt()) {
         datei_.Zeile(ebene, "DATE", "(" + datum.Worte + ")");
     } else {
@@ -211,9 +210,8 @@ void Übergeber::BeziehungenSchreiben(const PersonSatz &satz) {
 void Übergeber::FamilieSchreiben(const Familie &familie) {
     const PartnerschaftSatz linie(dokument_.cboPartnerschaftsLinien.Satz(familie.Position), Lücken::Leer);
     datei_.Satz(familie.Kennung, "FAM");
-    // A single partner is told by the own side of the bond: a woman alone is no husband.
     const bool nurFrau =
-        familie.Partner.size() == 1 && SymbolKennzahl(Satz(personen_[familie.Partner[0]]).Symboltyp()) == TypWeiblich;
+        familie.Partner.size() == 1 && IstFrau(SymbolKennzahl(Satz(personen_[familie.Partner[0]]).Symboltyp()));
     std::string_view rolle = nurFrau ? "WIFE" : "HUSB";
     for (const auto partner : familie.Partner) {
         datei_.Zeiger(1, rolle, personen_[partner].Kennung);

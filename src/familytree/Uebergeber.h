@@ -15,6 +15,14 @@
 
 namespace kw {
 
+/// By a symbol's kind, as far as it tells.
+inline bool IstMann(int typ) {
+    return typ == TypMännlich || typ == TypWeiblichZuMännlich || typ == TypTotgeburtMännlich;
+}
+inline bool IstFrau(int typ) {
+    return typ == TypWeiblich || typ == TypMännlichZuWeiblich || typ == TypTotgeburtWeiblich;
+}
+
 /// An export while it is made: first who goes along and what joins them, then the file.
 class Übergeber {
   public:

@@ -28,6 +28,7 @@ inline constexpr Befehlsname mnuSichernUnter{"mnuSichernUnter"};
 inline constexpr Befehlsname mnuStr1{"mnuStr1"};
 inline constexpr Befehlsname mnuExportieren{"mnuExportieren"};
 inline constexpr Befehlsname mnuPDF_Export{"mnuPDF_Export"};
+inline constexpr Befehlsname mnuStammbaumExport{"mnuStammbaumExport"};
 inline constexpr Befehlsname mnuStr3{"mnuStr3"};
 inline constexpr Befehlsname mnuZuletztGeöffnet{"mnuZuletztGeöffnet"};
 inline constexpr Befehlsname mnuStr4{"mnuStr4"};
@@ -233,6 +234,7 @@ inline constexpr Formularname frmSeiteEinrichten{"frmSeiteEinrichten"};
 inline constexpr Formularname frmEinstellungen{"frmEinstellungen"};
 inline constexpr Formularname frmInfo{"frmInfo"};
 inline constexpr Formularname frmFassungen{"frmFassungen"};
+inline constexpr Formularname frmStammbaumExport{"frmStammbaumExport"};
 
 } // namespace Name
 

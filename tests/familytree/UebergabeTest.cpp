@@ -73,7 +73,10 @@ TEST(Uebergabe, DieAlteFassungSagtDasselbeInIhrenWorten) {
 
 TEST(Uebergabe, DerBerichtZähltWasZurückbleibt) {
     const auto mit = [](const Übergabewünsche &wünsche) {
-        return Berichtstext(Geschrieben(Familie(), wünsche).Bericht, Sprache::Englisch);
+        std::string text;
+        for (const auto &zeile : Berichtszeilen(Geschrieben(Familie(), wünsche).Bericht, Sprache::Englisch))
+            text += zeile + "\n";
+        return text;
     };
     EXPECT_EQ(mit({}),
               "left out: 2 relationship lines\nleft out: 1 pregnancy\nleft out: 1 institution\n"

@@ -233,6 +233,21 @@ constexpr Baustein Fassungen[] = {
     Feld("lblOrt").AlsAbsatz(60),
 };
 
+constexpr Baustein Stammbaumexport[] = {
+    {Bau::Rahmenspalte, "Frame1"},
+    Feld("Option1"),
+    Feld("Option2"),
+    Ende,
+    Spalte(),
+    Feld("chkGesundheit"),
+    Feld("chkBeziehungen"),
+    Ende,
+    Feld("lblPersonen"),
+    Spalte(Zeilenabstand / 2).Gedehnt(),
+    Schild("lblVerluste", "lstVerluste"),
+    Feld("lstVerluste").Mindestens(52, 8).Gedehnt(),
+};
+
 constexpr Formularplan Pläne[] = {
     {"frmSymbol", Person, false, "picBack"},
     {"frmSymbol", Institution, false, "picBack2"},
@@ -247,6 +262,7 @@ constexpr Formularplan Pläne[] = {
     {"frmEinstellungen", Spracheinstellung},
     {"frmInfo", Info},
     {"frmFassungen", Fassungen, true},
+    {"frmStammbaumExport", Stammbaumexport, true},
 };
 
 } // namespace

@@ -24,7 +24,6 @@
 #include <deque>
 #include <filesystem>
 #include <new>
-#include <sstream>
 
 #include <spawn.h>
 #include <sys/resource.h>
@@ -64,8 +63,8 @@ int StammbaumExportieren(const Aufruf &aufruf, int &argc, char **argv) {
     if (stammbaum.Personen == 0) return Melden(aufruf.Datei + ": shows no person that goes into a family tree", 1);
     const Dateibefund geschrieben = DateiSchreiben(aufruf.Ziel, stammbaum.Text);
     if (!geschrieben.Gelungen()) return Melden(aufruf.Ziel + ": " + geschrieben.Meldung, 1);
-    std::istringstream zeilen(Berichtstext(stammbaum.Bericht, aufruf.InSprache.value_or(bild.ansicht.Sprache)));
-    for (std::string zeile; std::getline(zeilen, zeile);) Melden(zeile, 0);
+    const Sprache sprache = aufruf.InSprache.value_or(bild.ansicht.Sprache);
+    for (const auto &zeile : Berichtszeilen(stammbaum.Bericht, sprache)) Melden(zeile, 0);
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
 }
 
