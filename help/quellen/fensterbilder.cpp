@@ -118,8 +118,8 @@ class Aufnahme {
         if (!bild.save(datei, "png", 0)) Aufgeben(datei);
     }
 
-    /// The form that a deed opens, however much later.
-    void Form(const char *name, const std::function<void()> &tat) const {
+    /// The form that a deed opens, however much later, when what is to be chosen in it was.
+    void Form(const char *name, const std::function<void()> &tat, const char *knopf = nullptr) const {
         QTimer uhr;
         int ticks = 0;
         QObject::connect(&uhr, &QTimer::timeout, &uhr, [&] {
@@ -127,6 +127,7 @@ class Aufnahme {
             if (++ticks > 20) Aufgeben(QStringLiteral("no form for ") + QLatin1String(name));
             if (!form) return;
             uhr.stop();
+            if (knopf) form->findChild<QAbstractButton *>(QLatin1String(knopf))->click();
             QApplication::processEvents();
             Sichern(form->grab(), name);
             QTest::keyClick(form, Qt::Key_Escape);
@@ -159,6 +160,7 @@ void FamilieAufnehmen(const Aufnahme &aufnahme, const std::string &projekt) {
     aufnahme.Sichern(Fläche(fenster).grab(Ort(fenster, "Martin").adjusted(-150, -135, 230, 95)), "tastatur");
     aufnahme.Form("stammbaumexport", [&] { fenster.Modell().BefehlAusführen("mnuStammbaumExport"); });
     aufnahme.Form("person", [&] { Doppelklicken(fenster, "Albert"); });
+    aufnahme.Form("ohne-namen", [&] { fenster.Modell().BefehlAusführen("mnuOhneNamen"); }, "optJahr");
 }
 
 } // namespace

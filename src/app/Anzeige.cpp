@@ -8,6 +8,7 @@
 #include "document/Dokument.h"
 #include "document/Papier.h"
 #include "document/UndoRing.h"
+#include "document/Verweise.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Person.h"
 #include "editing/Ablage.h"
@@ -169,8 +170,9 @@ bool Anzeige::HatStammbaum() const {
                        [](const std::string &satz) { return GehtMit(PersonSatz(satz, Lücken::Leer).Symboltyp()); });
 }
 
-/// Zooming, and the list of persons that another application has handed over.
+/// Zooming, what needs a page with something on it, and the list of persons that another application has handed over.
 void Anzeige::RestZeigen() {
+    bedienung_[Name::mnuOhneNamen].Enabled = Satzzahl(z_.dokument) > 0;
     bedienung_[Name::btnBildGrößer].Enabled = z_.bereich.KannVergrößern();
     bedienung_[Name::btnBildKleiner].Enabled = z_.bereich.KannVerkleinern();
     bedienung_[Name::mnuStammbaumExport].Enabled = HatStammbaum();

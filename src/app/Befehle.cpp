@@ -4,6 +4,7 @@
 #include "app/Darstellung.h"
 #include "app/Datenimport.h"
 #include "app/Projekt.h"
+#include "app/Stammbaumimport.h"
 #include "app/Startangaben.h"
 #include "arrangement/Anordnen.h"
 #include "commands/Menuetafel.h"
@@ -133,10 +134,12 @@ constexpr Zeile Tabelle[] = {
     {Name::mnuÖffnen, [](Befehlsumgebung &u, int) { u.projekt.mnuÖffnen(); }},
     {Name::mnuSpeichern, [](Befehlsumgebung &u, int) { u.projekt.Speichern(); }},
     {Name::mnuSichernUnter, [](Befehlsumgebung &u, int) { u.projekt.SpeichernUnter(); }},
+    {Name::mnuStammbaum, [](Befehlsumgebung &u, int) { u.stammbaum.mnuStammbaum(); }},
     {Name::mnuExportieren, [](Befehlsumgebung &u, int) { u.bildexport.SeiteExportieren(u.projekt.Projektdatei); }},
     {Name::mnuPDF_Export, PdfErzeugen},
     {Name::mnuStammbaumExport,
      [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmStammbaumExport); }},
+    {Name::mnuOhneNamen, [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmOhneNamen); }},
     {Name::btnClipboard, Bildauswahl, false},
     {Name::btnAuswahlZuBild, Bildauswahl, true},
     {Name::mnuBeenden, [](Befehlsumgebung &u, int) { u.werkbank.benutzer.FensterSchließen(); }},

@@ -13,6 +13,7 @@ class Datenimport;
 class Dialogdienste;
 class Druckwerk;
 class Projekt;
+class Stammbaumimport;
 class UndoRing;
 struct Startangaben;
 struct Werkbank;
@@ -25,6 +26,7 @@ struct Befehlsumgebung {
     Anzeige &anzeige;
     Arbeitsbereich &bereich;
     Datenimport &import;
+    Stammbaumimport &stammbaum;
     Druckwerk &druck;
     Bildexport &bildexport;
     UndoRing &ring;

@@ -89,7 +89,8 @@ void frmMain::DateiÜbernehmen(const std::string &pfad) {
     if (pfad.empty()) return;
     tastatur.LaufBeenden();
     leinwand.GesteAbbrechen();
-    projekt.ÖffnenMitFrage(pfad);
+    if (Stammbaumimport::IstStammbaum(pfad)) stammbaum.Öffnen(pfad);
+    else projekt.ÖffnenMitFrage(pfad);
     NachEreignis();
 }
 

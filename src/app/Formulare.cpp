@@ -8,10 +8,13 @@
 #include "dialogs/frmInfo.h"
 #include "dialogs/frmKommentar.h"
 #include "dialogs/frmLegende.h"
+#include "dialogs/frmOhneNamen.h"
 #include "dialogs/frmPLinien.h"
 #include "dialogs/frmSchrift.h"
 #include "dialogs/frmSeiteEinrichten.h"
 #include "dialogs/frmStammbaumExport.h"
+#include "dialogs/frmStammbaum.h"
+#include "dialogs/frmStammbaumbericht.h"
 #include "dialogs/frmSymbGlobal.h"
 #include "dialogs/frmSymbol.h"
 #include "platform/Befehlsnamen.h"
@@ -46,6 +49,9 @@ constexpr Bauplan Baupläne[] = {
     {Name::frmEinstellungen, Bauen<frmEinstellungen>},
     {Name::frmFassungen, Bauen<frmFassungen>},
     {Name::frmStammbaumExport, Bauen<frmStammbaumExport>},
+    {Name::frmOhneNamen, Bauen<frmOhneNamen>},
+    {Name::frmStammbaum, Bauen<frmStammbaum>},
+    {Name::frmStammbaumbericht, Bauen<frmStammbaumbericht>},
     {Name::frmInfo,
      [](Dialogumgebung &u) -> std::unique_ptr<Formular> { return std::make_unique<frmInfo>(u, Programmversion); }},
 };

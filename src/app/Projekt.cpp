@@ -255,12 +255,28 @@ bool Projekt::ProjektNeu() {
     return true;
 }
 
-void Projekt::mnuNeu() {
-    if (!ProjektNeu()) return;
+/// A new project that is shown, the first step to go back to.
+bool Projekt::LeereSeite() {
+    if (!ProjektNeu()) return false;
     umfeld_.fenster.Sichern();
     umfeld_.dienste.LegendeZeigen(false);
     Geändert = false;
     Loslassen();
+    return true;
+}
+
+void Projekt::mnuNeu() { LeereSeite(); }
+
+bool Projekt::NeuMit(const Dokument &seite) {
+    if (!LeereSeite()) return false;
+    Dokument &dokument = inhalt_.dokument;
+    dokument.Papiercode = seite.Papiercode;
+    dokument.Seitenlage = seite.Seitenlage;
+    for (const SpeicherZeile &speicher : SpeicherTabelle) dokument.*speicher.Liste = seite.*speicher.Liste;
+    umfeld_.dienste.SeiteAnwenden();
+    umfeld_.fenster.Vorschau();
+    umfeld_.fenster.Sichern();
+    return true;
 }
 
 /// A file that has gone is told.

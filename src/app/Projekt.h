@@ -81,6 +81,9 @@ class Projekt {
     /// Opens entry `platz`, 1 to 4, of the recent files, which comes to the first place. Asks about changes, once it
     /// is sure that the file is there.
     void mnuRecent(int platz);
+    /// A new project with the records and the sheet of that page, not saved yet; one step back leads to an empty page.
+    /// False, and nothing changed, when the question about changes is cancelled.
+    bool NeuMit(const Dokument &seite);
     /// Empties stores and free numbers.
     void DokumentLeeren();
 
@@ -106,6 +109,7 @@ class Projekt {
     bool IstDa(const std::string &datei);
     std::string Text(const Zweisprachig &text) const;
     bool ProjektNeu();
+    bool LeereSeite();
     void FreieNummernLeeren();
     void RingUndAuswahlLeeren();
 

@@ -163,6 +163,7 @@ constexpr Sperre Sperren[] = {
     {Name::btnBildKleiner, &Absage::KleinsterZoom},
     {Name::mnuKindVon, &Absage::HatEltern},
     {Name::mnuStammbaumExport, &Absage::KeinStammbaum},
+    {Name::mnuOhneNamen, &Absage::NichtsDa},
 };
 
 const Zweisprachig *Suchen(std::span<const Schritt> schritte, Aktion aktion) {

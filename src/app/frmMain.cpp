@@ -9,6 +9,8 @@
 #include "editing/Abwahl.h"
 #include "editing/Werkzeuge.h"
 #include "output/Stammbaumziel.h"
+#include "output/NamenloseAusgabe.h"
+#include "output/Textausgabe.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
@@ -57,6 +59,7 @@ frmMain::frmMain(Plattform plattform_, Zeichenfläche &canvas, Startangaben star
                                        }},
                                       start.IniDatei),
       import(start, {dokument, lage, ansicht}, projekt, plattform.benutzer, *this),
+      stammbaum(plattform.benutzer, ansicht, start.IniDatei, [this](Formularname name) { FormÖffnen(name); }),
       werkbank{dokument, ansicht, auswahl, lage, auflagen, ablage, legende, picVorschau, plattform.benutzer, *this},
       leinwand(werkbank), Kommandozeile(Entpackt(start.Kommandozeile)) {
     BedienelementeAnlegen(bedienung);
@@ -190,7 +193,8 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
 
 /// The command line's project. One that came from the safety net before it is asked about.
 void frmMain::KommandozeileÖffnen() {
-    if (projekt.NachÄnderungenFragen()) projekt.Öffnen(Kommandozeile);
+    if (Stammbaumimport::IstStammbaum(Kommandozeile)) stammbaum.Öffnen(Kommandozeile);
+    else if (projekt.NachÄnderungenFragen()) projekt.Öffnen(Kommandozeile);
 }
 
 /// Brings the safety net up to date with what the event has done. That it can't be is said once.
@@ -228,11 +232,13 @@ void frmMain::FormÖffnen(Formularname name) {
 }
 
 Dialogumgebung frmMain::FürFormulare() {
-    return {werkbank, einstellungen, einstellungsablage, plattform.uhr, plattform.drucker, *this, netz};
+    return {werkbank, einstellungen, einstellungsablage, plattform.uhr, plattform.drucker,
+            *this,    netz,          stammbaum.Vorlage()};
 }
 
 Befehlsumgebung frmMain::FürBefehle() {
-    return {werkbank, projekt, darstellung, anzeige, bereich, import, druck, bildexport, ring, *this, bedienung, start};
+    return {werkbank, projekt,    darstellung, anzeige, bereich,   import, stammbaum,
+            druck,    bildexport, ring,        *this,   bedienung, start};
 }
 
 /// At the very first start, and until one has been chosen.
@@ -280,6 +286,23 @@ bool frmMain::FassungÖffnen(const std::string &name) {
 bool frmMain::StammbaumSpeichern(const std::string &inhalt) {
     return kw::StammbaumSpeichern(plattform.benutzer, ansicht.Sprache, projekt.Projektdatei, inhalt);
 }
+
+bool frmMain::OhneNamenExportieren(Lebenszeit zeit) {
+    const Ausgabewege wege{plattform.benutzer, plattform.bilder, plattform.uhr};
+    return OhneNamenAusgeben(wege, dokument, ansicht, zeit, projekt.Projektdatei);
+}
+
+bool frmMain::NeuesProjekt(const Dokument &seite) {
+    if (!projekt.NeuMit(seite)) return false;
+    Festhalten();
+    return true;
+}
+
+void frmMain::TextSpeichern(const std::string &titel, const std::string &text) {
+    kw::TextSpeichern(plattform.benutzer, ansicht.Sprache, titel, text);
+}
+
+void frmMain::TextDrucken(const std::string &titel, const std::string &text) { druck.TextDrucken(titel, text); }
 
 void frmMain::mnuBearbeiten_Öffnen() {
     lage.Angebot.Ausschneiden = lage.Angebot.Kopieren = auswahl.HatKopierbares();

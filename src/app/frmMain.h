@@ -6,6 +6,7 @@
 #include "app/Darstellung.h"
 #include "app/Datenimport.h"
 #include "app/Projekt.h"
+#include "app/Stammbaumimport.h"
 #include "app/Startangaben.h"
 #include "app/Wegweiser.h"
 #include "app/Werkzeughinweis.h"
@@ -143,6 +144,10 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     bool GenogrammDrucken() override;
     bool FassungÖffnen(const std::string &name) override;
     bool StammbaumSpeichern(const std::string &inhalt) override;
+    bool OhneNamenExportieren(Lebenszeit zeit) override;
+    bool NeuesProjekt(const Dokument &seite) override;
+    void TextSpeichern(const std::string &titel, const std::string &text) override;
+    void TextDrucken(const std::string &titel, const std::string &text) override;
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
 
     bool IstFrei(std::string_view name) const;
@@ -192,6 +197,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Sicherheitsnetz netz;
     Projekt projekt;
     Datenimport import;
+    Stammbaumimport stammbaum;
     Werkbank werkbank;
     Leinwand leinwand;
     Tastatur tastatur{werkbank};

@@ -1,8 +1,8 @@
 #include "arrangement/Anordnen.h"
 
 #include "arrangement/Ordner.h"
+#include "arrangement/Seitenplatz.h"
 #include "arrangement/Umzug.h"
-#include "document/Zahlen.h"
 #include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Werkbank.h"
@@ -15,17 +15,6 @@
 namespace kw {
 
 namespace {
-
-constexpr double KleinesSymbol = 0.9; ///< the smallest that persons can have, cm
-
-std::string Maß(const Ordner::Platzbedarf &b, Sprache sprache) {
-    const auto cm = [&](double wert) {
-        std::string text = ZahlSchreiben(Gerundet(wert, 1));
-        if (sprache == Sprache::Deutsch) std::replace(text.begin(), text.end(), '.', ',');
-        return text;
-    };
-    return cm(b.Breite) + " × " + cm(b.Höhe) + " cm";
-}
 
 bool KleinereErlaubt(Werkbank &w) {
     static constexpr Zweisprachig Frage{
@@ -45,10 +34,10 @@ void PlatzFehlt(Werkbank &w, const Ordner::Platzbedarf &bedarf) {
     const Sprache s = w.ansicht.Sprache;
     const Ordner::Platzbedarf frei{w.ansicht.SeitenBreite - 2 * Ordner::Seitenrand,
                                    w.ansicht.SeitenHöhe - 2 * Ordner::Seitenrand};
-    w.benutzer.Fragen(
-        {"Kinwright",
-         std::string(Bedarf.In(s)) + Maß(bedarf, s) + std::string(Vorrat.In(s)) + Maß(frei, s) + std::string(Rat.In(s)),
-         Knöpfe::Ok, Zeichen::Information});
+    w.benutzer.Fragen({"Kinwright",
+                       std::string(Bedarf.In(s)) + Maßangabe(bedarf.Breite, bedarf.Höhe, s) +
+                           std::string(Vorrat.In(s)) + Maßangabe(frei.Breite, frei.Höhe, s) + std::string(Rat.In(s)),
+                       Knöpfe::Ok, Zeichen::Information});
 }
 
 /// With the symbols as they are, as drawn by hand or closer; else with smaller ones, if the user agrees. Nothing when
@@ -57,7 +46,7 @@ std::optional<Umzug> Suchen(Werkbank &w, Ordner &ordner) {
     const double größe = ordner.GrößtesSymbol();
     for (const bool eng : {false, true})
         if (auto umzug = ordner.Versuchen(größe, eng)) return umzug;
-    auto umzug = ordner.Versuchen(std::min(größe, KleinesSymbol), true);
+    auto umzug = ordner.Versuchen(std::min(größe, KleinstesSymbol), true);
     if (!umzug) PlatzFehlt(w, ordner.Bedarf());
     return umzug && KleinereErlaubt(w) ? umzug : std::nullopt;
 }

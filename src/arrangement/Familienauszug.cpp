@@ -17,18 +17,6 @@ namespace kw {
 
 namespace {
 
-Geschlecht GeschlechtVon(const PersonSatz &person) {
-    switch (Ganzzahl16(ZahlLesen(person.Symboltyp()))) {
-    case TypMännlich:
-    case TypWeiblichZuMännlich:
-    case TypTotgeburtMännlich: return Geschlecht::Mann;
-    case TypWeiblich:
-    case TypMännlichZuWeiblich:
-    case TypTotgeburtWeiblich: return Geschlecht::Frau;
-    default: return Geschlecht::Unbekannt;
-    }
-}
-
 class Auszug {
   public:
     Auszug(const Dokument &dokument, const std::vector<int> &personen) : d_(dokument), bezüge_(dokument) {
@@ -93,6 +81,18 @@ class Auszug {
 };
 
 } // namespace
+
+Geschlecht GeschlechtVon(const PersonSatz &person) {
+    switch (Ganzzahl16(ZahlLesen(person.Symboltyp()))) {
+    case TypMännlich:
+    case TypWeiblichZuMännlich:
+    case TypTotgeburtMännlich: return Geschlecht::Mann;
+    case TypWeiblich:
+    case TypMännlichZuWeiblich:
+    case TypTotgeburtWeiblich: return Geschlecht::Frau;
+    default: return Geschlecht::Unbekannt;
+    }
+}
 
 Familienauszug FamilienUnter(const Dokument &dokument, const std::vector<int> &personen, Zeichenfläche &fläche) {
     return Auszug(dokument, personen).Machen(fläche);

@@ -7,6 +7,7 @@
 // A document's persons and their bonds, as the layout engine takes them.
 namespace kw {
 
+class PersonSatz;
 class Zeichenfläche;
 struct Dokument;
 
@@ -19,5 +20,8 @@ struct Familienauszug {
 /// Those of `personen`, positions in the store, who have a partner, a child or parents among them, with the lines
 /// between them. Places as drawn are the order that is to be kept. `fläche` measures names; its font changes.
 Familienauszug FamilienUnter(const Dokument &dokument, const std::vector<int> &personen, Zeichenfläche &fläche);
+
+/// Whether the person stands in a couple as a man, as a woman or as neither.
+Geschlecht GeschlechtVon(const PersonSatz &person);
 
 } // namespace kw

@@ -1,5 +1,7 @@
 #include "arrangement/Seitenplatz.h"
 
+#include "document/Zahlen.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -70,6 +72,15 @@ std::optional<Ort> PlatzFinden(const Platzwunsch &w) {
     const auto freier =
         std::find_if(versuche.begin(), versuche.end(), [&](const Versuch &v) { return IstFrei(w, v.Weg); });
     return freier == versuche.end() ? std::nullopt : std::optional(freier->Weg);
+}
+
+std::string Maßangabe(double breite, double höhe, Sprache sprache) {
+    const auto cm = [&](double wert) {
+        std::string text = ZahlSchreiben(Gerundet(wert, 1));
+        if (sprache == Sprache::Deutsch) std::replace(text.begin(), text.end(), '.', ',');
+        return text;
+    };
+    return cm(breite) + " × " + cm(höhe) + " cm";
 }
 
 } // namespace kw

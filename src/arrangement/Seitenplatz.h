@@ -2,8 +2,10 @@
 
 #include "editing/Geometrie.h"
 #include "layout/Familienlage.h"
+#include "platform/Sprache.h"
 
 #include <optional>
+#include <string>
 #include <vector>
 
 // A place on the page for what was laid out. cm.
@@ -11,6 +13,9 @@ namespace kw {
 
 /// What two lines of names take below a symbol, cm.
 constexpr double Namenshöhe = 0.68;
+
+/// The smallest that persons can have, cm.
+constexpr double KleinstesSymbol = 0.9;
 
 /// The measures for symbols of that size: those of a page drawn by hand, or what can just be read, cm.
 Abstände MaßeFür(double symbol, double raster, bool eng);
@@ -29,5 +34,8 @@ Umgebung UmAlle(const std::vector<Umgebung> &kästen);
 /// How far it is to be moved: free of all obstacles, on the page, and nearest to where it would best be. Nothing when
 /// there is no such place.
 std::optional<Ort> PlatzFinden(const Platzwunsch &wunsch);
+
+/// "41,5 × 15,2 cm".
+std::string Maßangabe(double breite, double höhe, Sprache sprache);
 
 } // namespace kw

@@ -7,11 +7,14 @@
 namespace kw {
 
 class Einstellungsablage;
+enum class Lebenszeit;
 struct Einstellungen;
 struct Werkbank;
 class Drucker;
 class Sicherheitsnetz;
 class Uhr;
+struct Dokument;
+struct Stammbaumvorlage;
 
 /// What forms ask of the main window beside `Fensterdienste`.
 class Dialogdienste {
@@ -27,6 +30,15 @@ class Dialogdienste {
     virtual bool FassungÖffnen(const std::string &name) = 0;
     /// Writes a family tree to a file that the user names; a failure is told. False when nothing was written.
     virtual bool StammbaumSpeichern(const std::string &inhalt) = 0;
+    /// Asks for a file and exports page or project without names. False when nothing was written, which was told.
+    virtual bool OhneNamenExportieren(Lebenszeit zeit) = 0;
+    /// Makes that page a new project, which isn't saved yet, behind the question about unsaved changes; one step back
+    /// leads to an empty page. False, and nothing changed, when the question is cancelled.
+    virtual bool NeuesProjekt(const Dokument &seite) = 0;
+    /// Writes a text of lines to a file that the user names, `titel` if he says nothing else; prints it. Failures are
+    /// told.
+    virtual void TextSpeichern(const std::string &titel, const std::string &text) = 0;
+    virtual void TextDrucken(const std::string &titel, const std::string &text) = 0;
 };
 
 /// All that the forms work on.
@@ -38,6 +50,7 @@ struct Dialogumgebung {
     Drucker &drucker;
     Dialogdienste &dienste;
     Sicherheitsnetz &netz;
+    Stammbaumvorlage *stammbaum = nullptr; ///< while one is imported
 
     kw::Sprache Sprache() const;
 };

@@ -28,18 +28,13 @@ constexpr Formulartafel Tafel{
 constexpr int Hochformat = 1;
 constexpr int Querformat = 2;
 
-constexpr std::array Papierfolge{DinA4, 11, 1}; ///< the list's order: DIN A4, DIN A5, US Letter
-
-std::string Papiername(int code) {
-    const auto *papier = std::find_if(Papiere.begin(), Papiere.end(), [&](const Papier &p) { return p.Code == code; });
-    return std::string(papier->Name);
-}
+constexpr std::array Papierfolge{DinA4, DinA5, UsLetter}; ///< the list's order
 
 } // namespace
 
 frmSeiteEinrichten::frmSeiteEinrichten(Dialogumgebung &umgebung)
     : Formular(Tafel, umgebung.Sprache()), umgebung_(umgebung) {
-    for (const int code : Papierfolge) (*this)["cboPapierformat"].Einträge.push_back(Papiername(code));
+    for (const int code : Papierfolge) (*this)["cboPapierformat"].Einträge.emplace_back(PapierMit(code).Name);
 }
 
 void frmSeiteEinrichten::Laden() {

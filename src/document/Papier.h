@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string>
@@ -20,6 +21,13 @@ inline constexpr std::array<Papier, 3> Papiere{
     {{1, "US Letter", 21.59, 27.94}, {9, "DIN A4", 21.0, 29.7}, {11, "DIN A5", 14.8, 21.0}}};
 
 constexpr int DinA4 = 9;
+constexpr int DinA5 = 11;
+constexpr int UsLetter = 1;
+
+/// The paper of a code of these.
+inline const Papier &PapierMit(int code) {
+    return *std::find_if(Papiere.begin(), Papiere.end(), [code](const Papier &p) { return p.Code == code; });
+}
 
 /// The code that a text in a file names: DIN A4 for an empty one, nothing for a paper that isn't known.
 inline std::optional<int> PapiercodeAus(std::string_view text) {

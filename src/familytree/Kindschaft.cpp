@@ -52,4 +52,9 @@ int Kindart(const Stammperson &person, const Stammfamilie &familie, Übernahmebe
     return wort == Kindwort::Adoptiert ? 1 : wort == Kindwort::Pflegekind ? 2 : 0;
 }
 
+int Elternvorrang(const Stammperson &person, const Stammfamilie &familie, bool adoptionVorGeburt) {
+    const int art = Kindart(person, familie, nullptr);
+    return art == 1 && adoptionVorGeburt ? -1 : art;
+}
+
 } // namespace kw

@@ -66,7 +66,6 @@ void Übergeber::KopfSchreiben() {
     if (!datei_.IstAlt()) format();
     datei_.Zeile(1, "SOUR", Programmkennung);
     datei_.Zeile(2, "NAME", Programm);
-    datei_.Zeile(1, "DATE", AlsTag(uhr_.Heute()));
     if (!datei_.IstAlt()) return;
     datei_.Zeiger(1, "SUBM", Absender);
     format();

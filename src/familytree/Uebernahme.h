@@ -52,4 +52,9 @@ struct Übernahme {
 /// How a person is a child of a family: as child lines number it. `bericht` may be nullptr.
 int Kindart(const Stammperson &person, const Stammfamilie &familie, Übernahmebericht *bericht);
 
+/// Of so many families somebody's parents are chosen; more are a broken file's.
+constexpr std::size_t GenugEltern = 64;
+/// Which parents are taken before others: the lower the sooner.
+int Elternvorrang(const Stammperson &person, const Stammfamilie &familie, bool adoptionVorGeburt);
+
 } // namespace kw

@@ -11,7 +11,6 @@ namespace {
 
 constexpr std::string_view Unbekannt = "?";
 constexpr std::size_t Partnerzahl = 2;
-constexpr std::size_t GenugEltern = 64; ///< of so many families somebody's parents are chosen; more are a broken file's
 
 std::span<const std::uint32_t> Vordere(std::span<const std::uint32_t> familien) {
     return familien.subspan(0, std::min(familien.size(), GenugEltern));
@@ -116,12 +115,6 @@ bool Übernehmer::IstBrauchbar(std::uint32_t familie) const {
     return partner.empty() || std::any_of(partner.begin(), partner.end(), [&](auto p) { return Ort(p) != Keine; });
 }
 
-/// Which parents are taken before others: the lower the sooner.
-int Übernehmer::Vorrang(const Stammperson &person, std::uint32_t familie) const {
-    const int art = Kindart(person, baum_.Familien[familie], nullptr);
-    return art == 1 && regeln_.AdoptionVorGeburt ? -1 : art;
-}
-
 void Übernehmer::ElternWählen(std::uint32_t person) {
     const auto quelle = ergebnis_.Personen[person].Quelle;
     const auto &stammperson = baum_.Personen[quelle];
@@ -129,7 +122,7 @@ void Übernehmer::ElternWählen(std::uint32_t person) {
     int bester = 0;
     for (const auto familie : Vordere(verwandte_.AlsKind(quelle))) {
         if (!IstBrauchbar(familie)) continue;
-        const int vorrang = Vorrang(stammperson, familie);
+        const int vorrang = Elternvorrang(stammperson, baum_.Familien[familie], regeln_.AdoptionVorGeburt);
         if (gewählt != Keine && vorrang >= bester) continue;
         gewählt = familie;
         bester = vorrang;
@@ -151,7 +144,7 @@ void Übernehmer::ElternMelden(const Stammperson &person, std::uint32_t gewählt
     for (const auto andere : alle)
         if (andere != gewählt) melden(Befundart::WeitereEltern, Paarname(andere));
     const auto gleichNah = [&](std::uint32_t andere) {
-        return andere != gewählt && IstBrauchbar(andere) && Vorrang(person, andere) == vorrang;
+        return andere != gewählt && IstBrauchbar(andere) && Elternvorrang(person, baum_.Familien[andere], regeln_.AdoptionVorGeburt) == vorrang;
     };
     const auto vordere = Vordere(alle);
     if (std::any_of(vordere.begin(), vordere.end(), gleichNah)) melden(Befundart::ElternGewählt, Paarname(gewählt));

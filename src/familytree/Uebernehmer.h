@@ -32,7 +32,6 @@ class Übernehmer {
     /// The first two partners of a family, who make its couple.
     std::span<const std::uint32_t> Paarpartner(std::uint32_t familie) const;
     bool IstBrauchbar(std::uint32_t familie) const;
-    int Vorrang(const Stammperson &person, std::uint32_t familie) const;
     void ElternWählen(std::uint32_t person);
     void ElternMelden(const Stammperson &person, std::uint32_t gewählt, int vorrang);
 

@@ -2,8 +2,10 @@
 
 #include "document/Dateien.h"
 #include "document/Dokument.h"
+#include "document/Papier.h"
 #include "document/Zahlen.h"
 #include "output/Fehlertexte.h"
+#include "output/Textausgabe.h"
 #include "output/Zieldatei.h"
 #include "platform/Benutzer.h"
 #include "platform/Drucker.h"
@@ -99,10 +101,30 @@ void Druckwerk::DruckrandBericht() {
 
 /// The page's orientation overrules the printer's own; its paper stays what the printer is set to.
 bool Druckwerk::GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen, const std::string &projektdatei) {
-    const std::string titel = Drucktitel(projektdatei);
+    const bool farbig = ansicht_.Farbschema == SchemaFarbig;
+    return Drucken(
+        {Drucktitel(projektdatei), farbig, ansicht_.SeitenBreite, ansicht_.SeitenHöhe, std::move(zeichnen), {}},
+        dokument_.Seitenlage == 1 ? 1 : 2, projektdatei);
+}
+
+void Druckwerk::TextDrucken(const std::string &titel, const std::string &text) {
+    const Papier &papier = PapierMit(DinA4);
+    const int lage = drucker_.Orientation(); // the page's, which forms show
+    const auto blätter = Textblätter(text);
+    for (size_t i = 0; i < blätter.size(); ++i) {
+        const std::string kopf =
+            blätter.size() == 1 ? titel : titel + ", " + std::to_string(i + 1) + "/" + std::to_string(blätter.size());
+        const auto zeichnen = [&](Zeichenfläche &f) { TextblattZeichnen(f, kopf, blätter[i]); };
+        if (!Drucken({kopf, false, papier.Breite, papier.Höhe, zeichnen, {}}, 1, {})) break;
+    }
+    drucker_.OrientationSetzen(lage);
+}
+
+/// One job, turned that way; a failure is told.
+bool Druckwerk::Drucken(const Druckauftrag &auftrag, int lage, const std::string &projektdatei) {
     std::string ziel;
     const auto zielWählen = [&] {
-        const Dateiwahl wahl{std::string(Zieltitel.In(ansicht_.Sprache)), titel, "PDF  (*.pdf)|*.pdf",
+        const Dateiwahl wahl{std::string(Zieltitel.In(ansicht_.Sprache)), auftrag.Titel, "PDF  (*.pdf)|*.pdf",
                              Ausgabeordner(benutzer_, projektdatei)};
         const auto datei = ZieldateiWählen(benutzer_, wahl, ansicht_.Sprache);
         ziel = datei.value_or("");
@@ -110,9 +132,10 @@ bool Druckwerk::GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen,
     };
     Druckbefund befund{Druckbefund::Art::NichtAngenommen};
     const auto grund = Fehlgrund([&] {
-        drucker_.OrientationSetzen(dokument_.Seitenlage == 1 ? 1 : 2);
-        befund = drucker_.Drucken({titel, ansicht_.Farbschema == SchemaFarbig, ansicht_.SeitenBreite,
-                                   ansicht_.SeitenHöhe, std::move(zeichnen), zielWählen});
+        drucker_.OrientationSetzen(lage);
+        Druckauftrag mitZiel = auftrag;
+        mitZiel.Zieldatei = zielWählen;
+        befund = drucker_.Drucken(mitZiel);
         return befund.Grund;
     });
     if (befund.Ende != Druckbefund::Art::Erledigt) FehlerMelden(befund, ziel, grund.value_or(Zweisprachig{}));

@@ -9,6 +9,7 @@ class Benutzer;
 class Drucker;
 class Zeichenfläche;
 struct Ansicht;
+struct Druckauftrag;
 struct Dokument;
 struct Druckbefund;
 struct Druckränder;
@@ -35,11 +36,14 @@ class Druckwerk {
     /// One print run of the document on the current printer: one job, named as the project; `zeichnen` draws it. A
     /// failure is told in a box. False when no further copy is wanted: the user has given up, or nothing came out.
     bool GenogrammDrucken(std::function<void(Zeichenfläche &)> zeichnen, const std::string &projektdatei);
+    /// A text of lines on the current printer, a job a sheet, upright. Failures as above.
+    void TextDrucken(const std::string &titel, const std::string &text);
     /// Makes the printer that writes PDF the current one, which it stays; says so when there is none. False then.
     bool PdfDruckerWählen();
 
   private:
     void Druck_Raender(const Druckränder &ränder);
+    bool Drucken(const Druckauftrag &auftrag, int lage, const std::string &projektdatei);
     void FehlerMelden(const Druckbefund &befund, const std::string &ziel, const Zweisprachig &grund);
     void Warnen(const Zweisprachig &titel, const Zweisprachig &text);
 

@@ -25,10 +25,12 @@ inline constexpr Befehlsname mnuNeu{"mnuNeu"};
 inline constexpr Befehlsname mnuÖffnen{"mnuÖffnen"};
 inline constexpr Befehlsname mnuSpeichern{"mnuSpeichern"};
 inline constexpr Befehlsname mnuSichernUnter{"mnuSichernUnter"};
+inline constexpr Befehlsname mnuStammbaum{"mnuStammbaum"};
 inline constexpr Befehlsname mnuStr1{"mnuStr1"};
 inline constexpr Befehlsname mnuExportieren{"mnuExportieren"};
 inline constexpr Befehlsname mnuPDF_Export{"mnuPDF_Export"};
 inline constexpr Befehlsname mnuStammbaumExport{"mnuStammbaumExport"};
+inline constexpr Befehlsname mnuOhneNamen{"mnuOhneNamen"};
 inline constexpr Befehlsname mnuStr3{"mnuStr3"};
 inline constexpr Befehlsname mnuZuletztGeöffnet{"mnuZuletztGeöffnet"};
 inline constexpr Befehlsname mnuStr4{"mnuStr4"};
@@ -235,6 +237,9 @@ inline constexpr Formularname frmEinstellungen{"frmEinstellungen"};
 inline constexpr Formularname frmInfo{"frmInfo"};
 inline constexpr Formularname frmFassungen{"frmFassungen"};
 inline constexpr Formularname frmStammbaumExport{"frmStammbaumExport"};
+inline constexpr Formularname frmOhneNamen{"frmOhneNamen"};
+inline constexpr Formularname frmStammbaum{"frmStammbaum"};
+inline constexpr Formularname frmStammbaumbericht{"frmStammbaumbericht"};
 
 } // namespace Name
 

@@ -1,3 +1,4 @@
+#include "app/Stammbaumaufruf.h"
 #include "app/Stammbaumdatei.h"
 #include "document/Codepage.h"
 #include "document/Dateien.h"
@@ -48,7 +49,7 @@ void Profilaufrufe(Wiedergabe &lauf, const std::string &datei) {
     throw Skriptfehler("profil without end");
 }
 
-void Stammbaumaufruf(std::ostream &aus, const std::string &pfad) {
+void Stammbaumfakten(std::ostream &aus, const std::string &pfad) {
     std::string bytes;
     const auto befund = StammbaumdateiLesen(pfad, bytes);
     if (!befund.Gelungen()) throw Skriptfehler(pfad + ": " + befund.Text(Sprache::Englisch));
@@ -76,9 +77,31 @@ void Familienaufruf(std::ostream &aus, const std::string &datei) {
             aus << familie.Familien[i] << " = " << Zentimeter(lage.Balken[i]) << "\n";
 }
 
+/// What the command line would do, and tell: `genogram OUT FILE [person WHO] [up N] [down N] [all] [small] [de]`.
+void Genogrammaufruf(Wiedergabe &lauf, const Wörter &w) {
+    Stammbaumaufruf aufruf;
+    aufruf.Ziel = Wort(w, 1);
+    aufruf.Datei = Wort(w, 2);
+    for (size_t i = 3; i < w.size(); ++i) {
+        if (w[i] == "all") aufruf.Alle = true;
+        else if (w[i] == "small") aufruf.Kleiner = true;
+        else if (w[i] == "de") aufruf.Sprache = Sprache::Deutsch;
+        else if (w[i] == "person") aufruf.Person = Wort(w, ++i);
+        else if (w[i] == "up") aufruf.Hinauf = Zahl(Wort(w, ++i));
+        else if (w[i] == "down") aufruf.Hinunter = Zahl(Wort(w, ++i));
+        else throw Skriptfehler("unknown word: " + w[i]);
+    }
+    Aufzeichnung maß;
+    const Stammbaumausgang ausgang = StammbaumSchreiben(aufruf, maß);
+    lauf.aus << "exit " << ausgang.Ergebnis << "\n";
+    if (!ausgang.Meldung.empty()) lauf.aus << ausgang.Meldung << "\n";
+    lauf.aus << ausgang.Bericht;
+}
+
 constexpr Skriptbefehl Tabelle[] = {
     {"age", [](auto &lauf, auto &w, auto &) { AlterBerechnen(lauf, w.size() > 1 ? Ab(w, 1) : ""); }},
-    {"familytree", [](auto &lauf, auto &w, auto &) { Wort(w, 1), Stammbaumaufruf(lauf.aus, Ab(w, 1)); }},
+    {"familytree", [](auto &lauf, auto &w, auto &) { Wort(w, 1), Stammbaumfakten(lauf.aus, Ab(w, 1)); }},
+    {"genogram", [](auto &lauf, auto &w, auto &) { Genogrammaufruf(lauf, w); }},
     {"layout", [](auto &lauf, auto &w, auto &) { Wort(w, 1), Familienaufruf(lauf.aus, Ab(w, 1)); }},
     {"profil", [](auto &lauf, auto &w, auto &) { Profilaufrufe(lauf, Ab(w, 1)); }},
 };

@@ -37,6 +37,7 @@ menu mnuEinstellungen
 menu mnuInfo
 menu mnuFassungen
 menu mnuStammbaumExport
+menu mnuOhneNamen
 tool 10
 click 9 12)";
 
@@ -48,7 +49,15 @@ inline void AlleFormulare(const std::string &sprache, const std::function<void(F
     const std::string start = "start printers=Laser state=" + netz.path().toStdString();
     for (const std::string &zeile : {start, std::string("tool 1"), std::string("click 6 6"), start}) lauf.Zeile(zeile);
     lauf.Zeile("set Sprache " + sprache);
-    lauf.Läuft().benutzer.FormularSpielen = [&](Formular &form, const std::vector<std::string> &) { zeigen(form); };
+    lauf.Läuft().benutzer.FormularSpielen = [&](Formular &form, const std::vector<std::string> &) {
+        if (form.Name() == "frmStammbaum") { // from it another one opens
+            form.Laden();
+            form.Drücken("cmdBericht");
+        }
+        zeigen(form);
+    };
+    lauf.Zeile("answer file " KW_TESTDATEN "/scenarios/stammbaum/berger.ged");
+    lauf.Zeile("menu mnuStammbaum");
     std::istringstream skript(Formulare);
     EXPECT_EQ(lauf.Ausführen(skript), 0) << aus.str();
 }

@@ -90,12 +90,12 @@ std::string LokalerPfad(const QByteArray &adresse) {
     return {};
 }
 
-/// The first project of a list of dragged files; empty without one.
+/// The first project or family tree of a list of dragged files; empty without one.
 std::string GezogenesProjekt(const QMimeData &inhalt) {
     for (const QByteArray &zeile : inhalt.data(QStringLiteral("text/uri-list")).split('\n')) {
         std::string datei = LokalerPfad(zeile.trimmed());
         const bool istName = !datei.empty() && datei.find('\0') == std::string::npos;
-        if (istName && MitKennung(datei, "kwp", false) == datei) return datei;
+        if (istName && (IstProjektname(datei) || Stammbaumimport::IstStammbaum(datei))) return datei;
     }
     return {};
 }

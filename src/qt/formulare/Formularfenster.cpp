@@ -100,7 +100,8 @@ void Formularfenster::InBildschirmFassen() {
     const QSize platz = screen()->availableSize() - Fensterrand;
     QLayout &inhalt = *layout();
     for (const QWidget *teil : findChildren<QWidget *>()) teil->ensurePolished(); // style and font say how large it is
-    inhalt.invalidate();
+    for (QLayout *teil : findChildren<QLayout *>())
+        teil->invalidate(); // those within others keep what they knew before
     const bool ziehbar = inhalt.sizeConstraint() != QLayout::SetFixedSize;
     const QSize ganz = ziehbar ? inhalt.totalMinimumSize() : inhalt.totalSizeHint();
     if (ganz.width() <= platz.width() && ganz.height() <= platz.height()) return;

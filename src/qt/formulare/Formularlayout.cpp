@@ -46,6 +46,11 @@ class Baumeister {
     QWidget *Schild(std::string_view name, std::string_view box);
     /// Whether there is such a widget, which has no place yet.
     bool Hat(std::string_view name) const { return teile_.contains(name) && !gestellt_.contains(name); }
+    /// One with a caption, or nullptr.
+    QPushButton *Knopf(std::string_view name) const {
+        const auto teil = teile_.find(name);
+        return teil == teile_.end() ? nullptr : dynamic_cast<QPushButton *>(teil->second);
+    }
 
   private:
     QWidget *Zugerichtet(const Baustein &b);
@@ -187,7 +192,7 @@ void ReihumStellen(Baumeister &m, const Formular &form, QBoxLayout &spalte) {
     int reihe = 0;
     for (size_t i = 0; i < namen.size(); ++i) {
         const std::string &name = namen[i];
-        if (!m.Hat(name) || dynamic_cast<QPushButton *>(m.Teil(name))) continue;
+        if (!m.Hat(name) || m.Knopf(name)) continue;
         if (istSchild(name) && i + 1 < namen.size() && m.Hat(namen[i + 1]) && !istSchild(namen[i + 1])) {
             tafel->addWidget(m.Schild(name, namen[i + 1]), reihe, 0);
             tafel->addWidget(m.Teil(namen[++i]), reihe++, 1);
@@ -199,13 +204,12 @@ void ReihumStellen(Baumeister &m, const Formular &form, QBoxLayout &spalte) {
     spalte.addLayout(tafel);
 }
 
-/// OK, cancel and whatever else, in the order of the desktop.
-void KnopfreiheStellen(const Formular &form, const Formularteile &teile, QBoxLayout &spalte) {
+/// OK, cancel and whatever else has no place yet, in the order of the desktop.
+void KnopfreiheStellen(const Baumeister &m, const Formular &form, QBoxLayout &spalte) {
     auto *reihe = new QDialogButtonBox;
     for (const auto &name : form.Reihenfolge()) {
-        const auto teil = teile.find(name);
-        auto *knopf = teil == teile.end() ? nullptr : dynamic_cast<QPushButton *>(teil->second);
-        if (!knopf) continue;
+        QPushButton *knopf = m.Knopf(name);
+        if (!knopf || !m.Hat(name)) continue;
         const auto rolle = name == form.Vorgabeknopf   ? QDialogButtonBox::AcceptRole
                            : name == form.Abbruchknopf ? QDialogButtonBox::RejectRole
                                                        : QDialogButtonBox::ResetRole;
@@ -229,7 +233,7 @@ void FormularAnordnen(const Formular &form, const Formularteile &teile, QWidget 
     if (plan)
         for (const Baustein &b : plan->Bausteine) meister.Stellen(b);
     ReihumStellen(meister, form, *spalte);
-    KnopfreiheStellen(form, teile, *spalte);
+    KnopfreiheStellen(meister, form, *spalte);
     if (!plan || !plan->Ziehbar) spalte->setSizeConstraint(QLayout::SetFixedSize);
 }
 

@@ -248,6 +248,76 @@ constexpr Baustein Stammbaumexport[] = {
     Feld("lstVerluste").Mindestens(52, 8).Gedehnt(),
 };
 
+constexpr Baustein OhneNamen[] = {
+    Feld("lblErklärung").AlsAbsatz(60),
+    Reihe(Abstand),
+    Feld("lblGeburt"),
+    Feld("optAlter"),
+    Feld("optJahr"),
+    Rest,
+    Ende,
+    Feld("lblFehlt").AlsAbsatz(60),
+    Feld("picSeite").InDerMitte(),
+};
+
+// Whom to take on the left, what comes of it on the right.
+constexpr Baustein Stammbaum[] = {
+    Reihe(Abstand),
+    Spalte().Gedehnt(),
+    Reihe(),
+    Schild("lblPerson", "txtSuche"),
+    Feld("txtSuche").Mindestens(16).Gedehnt(),
+    Feld("lblTreffer"),
+    Ende,
+    Feld("lstPersonen").Mindestens(40, 4).Gedehnt(),
+    Reihe(),
+    Schild("lblHinauf", "cboHinauf"),
+    Feld("cboHinauf"),
+    Lücke(Abstand / 2),
+    Schild("lblHinunter", "cboHinunter"),
+    Feld("cboHinunter"),
+    Rest,
+    Ende,
+    Tafel,
+    Feld("chkGeschwister").An(0, 0),
+    Feld("chkNeffen").An(0, 1),
+    Feld("chkTanten").An(1, 0),
+    Feld("chkCousins").An(1, 1),
+    Feld("chkPartner").An(2, 0),
+    Feld("chkKleiner").An(2, 1),
+    Spaltendehnung(1, 1),
+    Ende,
+    Ende,
+    Spalte(),
+    Feld("picSeite"),
+    Rest,
+    Ende,
+    Ende,
+    Feld("lblErgebnis").AlsAbsatz(80),
+    Feld("cmdWeg(1)"),
+    Feld("cmdWeg(2)"),
+    {Bau::Rahmenspalte, "Frame1"},
+    Tafel,
+    Schild("lblHeirat", "cboHeirat").An(0, 0),
+    Feld("cboHeirat").An(0, 1).Mindestens(22),
+    Schild("lblGeschlecht", "cboGeschlecht").An(0, 2),
+    Feld("cboGeschlecht").An(0, 3).Mindestens(22),
+    Schild("lblZwillinge", "cboZwillinge").An(1, 0),
+    Feld("cboZwillinge").An(1, 1).Mindestens(22),
+    Schild("lblEltern", "cboEltern").An(1, 2),
+    Feld("cboEltern").An(1, 3).Mindestens(22),
+    Spaltendehnung(1, 1),
+    Spaltendehnung(3, 1),
+    Ende,
+    Ende,
+    Feld("lblBericht"),
+};
+
+constexpr Baustein Stammbaumbericht[] = {
+    Feld("lblDatei"),
+    Feld("lstBericht").Mindestens(90, 18).Gedehnt(),
+};
+
 constexpr Formularplan Pläne[] = {
     {"frmSymbol", Person, false, "picBack"},
     {"frmSymbol", Institution, false, "picBack2"},
@@ -263,6 +333,9 @@ constexpr Formularplan Pläne[] = {
     {"frmInfo", Info},
     {"frmFassungen", Fassungen, true},
     {"frmStammbaumExport", Stammbaumexport, true},
+    {"frmOhneNamen", OhneNamen},
+    {"frmStammbaum", Stammbaum, true},
+    {"frmStammbaumbericht", Stammbaumbericht, true},
 };
 
 } // namespace

@@ -2,12 +2,15 @@
 #include "app/Programmversion.h"
 #include "app/Stammbaumdatei.h"
 #include "document/Dateien.h"
+#include "document/ProjektDatei.h"
 #include "document/Texte.h"
 #include "familytree/Uebergabe.h"
+#include "output/Zieldatei.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/drucken/Vorschaubild.h"
 #include "qt/fenster/Hauptfenster.h"
 #include "qt/grund/QtPlattform.h"
+#include "qt/malen/QtFlaeche.h"
 #include "qt/start/Aufruf.h"
 #include "qt/start/Einzelinstanz.h"
 #include "qt/start/Sitzungsende.h"
@@ -59,11 +62,12 @@ int StammbaumExportieren(const Aufruf &aufruf, int &argc, char **argv) {
     Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
     const std::string schaden = bild.Laden(aufruf.Datei);
     if (!bild.IstGelesen()) return Melden(aufruf.Datei + ": " + schaden, 1);
+    const Sprache sprache = bild.ansicht.Sprache = aufruf.InSprache.value_or(bild.ansicht.Sprache);
+    if (aufruf.OhneNamen) bild.OhneNamen(*aufruf.OhneNamen);
     const Übergabe stammbaum = Übergeben(bild.dokument, uhr, aufruf.Wünsche);
     if (stammbaum.Personen == 0) return Melden(aufruf.Datei + ": shows no person that goes into a family tree", 1);
     const Dateibefund geschrieben = DateiSchreiben(aufruf.Ziel, stammbaum.Text);
     if (!geschrieben.Gelungen()) return Melden(aufruf.Ziel + ": " + geschrieben.Meldung, 1);
-    const Sprache sprache = aufruf.InSprache.value_or(bild.ansicht.Sprache);
     for (const auto &zeile : Berichtszeilen(stammbaum.Bericht, sprache)) Melden(zeile, 0);
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
 }
@@ -76,8 +80,11 @@ int Exportieren(const Aufruf &aufruf, int &argc, char **argv) {
     Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
     const std::string schaden = bild.Laden(aufruf.Datei);
     if (!bild.IstGelesen()) return Melden(aufruf.Datei + ": " + schaden, 1);
-    const std::string titel = NameOhneKennung(DateiName(aufruf.Datei));
-    const std::string fehler = kw::Exportieren(bild, aufruf.Ziel, aufruf.Dpi, titel);
+    if (aufruf.OhneNamen) bild.OhneNamen(*aufruf.OhneNamen);
+    const std::string titel = aufruf.OhneNamen ? Drucktitel({}) : NameOhneKennung(DateiName(aufruf.Datei));
+    const std::string fehler = IstProjektname(aufruf.Ziel)
+                                   ? DateiSchreiben(aufruf.Ziel, ProjektInhalt(bild.dokument)).Meldung
+                                   : kw::Exportieren(bild, aufruf.Ziel, aufruf.Dpi, titel);
     if (!fehler.empty()) return Melden(aufruf.Ziel + ": " + fehler, 1);
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
 }
@@ -92,6 +99,28 @@ int Beschreiben(const Aufruf &aufruf, int &argc, char **argv) {
     if (bild.IstGelesen())
         if (const int ergebnis = Ausgegeben(bild.InWorten())) return ergebnis;
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
+}
+
+/// Lines for people, whatever stands in a file.
+void Berichten(const std::string &text) {
+    for (size_t i = 0; i < text.size();) {
+        const size_t ende = std::min(text.find('\n', i), text.size());
+        std::fprintf(stderr, "%s\n", FürTerminal(text.substr(i, ende - i)).c_str());
+        i = ende + 1;
+    }
+}
+
+int StammbaumÜbernehmen(Aufruf aufruf, int &argc, char **argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication anwendung(argc, argv);
+    const QtUhr uhr;
+    aufruf.Stammbaum.Sprache =
+        aufruf.InSprache.value_or(Einzelbild(uhr, EinstellungsDateiDesBenutzers()).ansicht.Sprache);
+    QtFläche maß;
+    const Stammbaumausgang ausgang = StammbaumSchreiben(aufruf.Stammbaum, maß);
+    if (!ausgang.Meldung.empty()) Berichten("kinwright: " + ausgang.Meldung);
+    Berichten(ausgang.Bericht);
+    return ausgang.Ergebnis;
 }
 
 /// A page that isn't whole gets no picture, so that nobody takes it for the whole.
@@ -197,6 +226,7 @@ int main(int argc, char **argv) try {
     case Aufruf::Art::Export: return Exportieren(aufruf, argc, argv);
     case Aufruf::Art::Beschreibung: return Beschreiben(aufruf, argc, argv);
     case Aufruf::Art::Vorschaubild: return VorschaubildMachen(aufruf, argc, argv);
+    case Aufruf::Art::Stammbaum: return StammbaumÜbernehmen(aufruf, argc, argv);
     case Aufruf::Art::Fenster: break;
     }
     return FensterZeigen(aufruf, argc, argv);
