@@ -68,6 +68,7 @@ class Anzeige {
   private:
     void AngebotZeigen();
     void PaletteZeigen();
+    bool HatStammbaum() const;
     void RestZeigen();
     void HinweisZeigen();
 

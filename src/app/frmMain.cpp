@@ -8,6 +8,7 @@
 #include "document/Texte.h"
 #include "editing/Abwahl.h"
 #include "editing/Werkzeuge.h"
+#include "output/Stammbaumziel.h"
 #include "output/NamenloseAusgabe.h"
 #include "output/Textausgabe.h"
 #include "platform/Befehlsnamen.h"
@@ -280,6 +281,10 @@ bool frmMain::FassungÖffnen(const std::string &name) {
     if (!fassung || !projekt.FassungÖffnen(*fassung)) return false;
     Festhalten();
     return true;
+}
+
+bool frmMain::StammbaumSpeichern(const std::string &inhalt) {
+    return kw::StammbaumSpeichern(plattform.benutzer, ansicht.Sprache, projekt.Projektdatei, inhalt);
 }
 
 bool frmMain::OhneNamenExportieren(Lebenszeit zeit) {
