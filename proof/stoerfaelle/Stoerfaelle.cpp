@@ -168,6 +168,7 @@ std::vector<Fall> Fälle() {
         {"load", Art::Laden, "q.kwp", "q.kwp", [](Hauptfenster &f) { Befehl(f, "mnuÖffnen"); }, [] {}, QMessageBox::No},
         {"PDF", Art::Ausgabe, "aus.pdf", "aus.pdf", [](Hauptfenster &f) { Befehl(f, "mnuPDF_Export"); }},
         {"picture", Art::Ausgabe, "aus.bmp", "aus.bmp", [](Hauptfenster &f) { Befehl(f, "mnuExportieren"); }},
+        {"without names", Art::Ausgabe, "ohne.kwp", "ohne.kwp", [](Hauptfenster &f) { Befehl(f, "mnuOhneNamen"); }},
         {"family tree", Art::Ausgabe, "aus.ged", "aus.ged", [](Hauptfenster &f) { Befehl(f, "mnuStammbaumExport"); }},
         {"region", Art::Ausgabe, "aus.jpg", "aus.jpg", Ausschneiden},
         {"settings", Art::Still, "prog.ini", "", [](Hauptfenster &f) { f.Beenden(); }, ErsteEinstellungen},
@@ -290,6 +291,7 @@ class Prüfstand {
     }
 
     static bool IstGanz(const std::string &datei, const std::string &bytes) {
+        if (datei.ends_with(".kwp")) return bytes.starts_with("[DEFAULT]") && bytes.ends_with("\r\n");
         if (datei.ends_with(".ged")) return bytes.ends_with("\n0 TRLR\r\n");
         if (!datei.ends_with(".pdf")) return !QImage::fromData(QByteArray::fromStdString(bytes)).isNull();
         return bytes.starts_with("%PDF") &&
