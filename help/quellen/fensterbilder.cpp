@@ -160,7 +160,8 @@ void FamilieAufnehmen(const Aufnahme &aufnahme, const std::string &projekt) {
     aufnahme.Sichern(Fläche(fenster).grab(Ort(fenster, "Martin").adjusted(-150, -135, 230, 95)), "tastatur");
     aufnahme.Form("stammbaumexport", [&] { fenster.Modell().BefehlAusführen("mnuStammbaumExport"); });
     aufnahme.Form("person", [&] { Doppelklicken(fenster, "Albert"); });
-    aufnahme.Form("ohne-namen", [&] { fenster.Modell().BefehlAusführen("mnuOhneNamen"); }, "optJahr");
+    aufnahme.Form(
+        "ohne-namen", [&] { fenster.Modell().BefehlAusführen("mnuOhneNamen"); }, "optJahr");
 }
 
 } // namespace
