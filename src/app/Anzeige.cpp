@@ -10,7 +10,6 @@
 #include "document/UndoRing.h"
 #include "document/Verweise.h"
 #include "document/Zahlen.h"
-#include "document/saetze/Person.h"
 #include "editing/Ablage.h"
 #include "editing/Leinwandlage.h"
 #include "editing/Werkzeuge.h"
@@ -21,8 +20,6 @@
 #include "platform/Befehlsnamen.h"
 #include "rendering/Ansicht.h"
 #include "rendering/Auswahl.h"
-
-#include <algorithm>
 
 namespace kw {
 
@@ -163,19 +160,12 @@ void Anzeige::PaletteZeigen() {
     bedienung_[Name::btnAuswahlZuBild].Checked = z_.lage.BildAuswahl && z_.lage.bAuswahlInDatei;
 }
 
-/// Whether anybody stands on the page who goes into a family tree.
-bool Anzeige::HatStammbaum() const {
-    const auto &personen = z_.dokument.cboPersonen;
-    return std::any_of(personen.begin(), personen.end(),
-                       [](const std::string &satz) { return GehtMit(PersonSatz(satz, Lücken::Leer).Symboltyp()); });
-}
-
 /// Zooming, what needs a page with something on it, and the list of persons that another application has handed over.
 void Anzeige::RestZeigen() {
     bedienung_[Name::mnuOhneNamen].Enabled = Satzzahl(z_.dokument) > 0;
     bedienung_[Name::btnBildGrößer].Enabled = z_.bereich.KannVergrößern();
     bedienung_[Name::btnBildKleiner].Enabled = z_.bereich.KannVerkleinern();
-    bedienung_[Name::mnuStammbaumExport].Enabled = HatStammbaum();
+    bedienung_[Name::mnuStammbaumExport].Enabled = HatStammbaum(z_.dokument);
     Bedienelement &import = bedienung_[Name::btnImport];
     import.Visible = import.Enabled = !z_.import.Listenzeilen.empty();
     import.Checked = bedienung_[Name::imgVariable].Visible = z_.import.ListeSichtbar;

@@ -68,7 +68,6 @@ class Anzeige {
   private:
     void AngebotZeigen();
     void PaletteZeigen();
-    bool HatStammbaum() const;
     void RestZeigen();
     void HinweisZeigen();
 

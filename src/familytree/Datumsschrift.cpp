@@ -43,6 +43,10 @@ std::optional<int> Ziffern(std::string_view text, std::size_t von, std::size_t b
 
 std::string Monatsname(int monat) { return std::string(Monate.at(static_cast<std::size_t>(monat - 1))); }
 
+std::string AlsTag(const Datum &tag) {
+    return std::to_string(tag.Tag) + " " + Monatsname(tag.Monat) + " " + std::to_string(tag.Jahr);
+}
+
 /// "06.1984"
 std::optional<std::string> MonatUndJahr(std::string_view text) {
     const auto trenner = text.find_first_of("./");
@@ -83,10 +87,6 @@ std::optional<std::string> Ungefähres(std::string_view text, Datumsfolge folge)
 }
 
 } // namespace
-
-std::string AlsTag(const Datum &tag) {
-    return std::to_string(tag.Tag) + " " + Monatsname(tag.Monat) + " " + std::to_string(tag.Jahr);
-}
 
 Datumsangabe GeburtAlsAngabe(std::string_view text, const Uhr &uhr) {
     if (Getrimmt(text).empty()) return {};

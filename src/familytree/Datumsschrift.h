@@ -21,7 +21,4 @@ Datumsangabe GeburtAlsAngabe(std::string_view text, const Uhr &uhr);
 /// `folge` is how the user's locale orders the numbers of a day.
 Datumsangabe PaardatumAlsAngabe(std::string_view text, Datumsfolge folge);
 
-/// A day as the format writes it.
-std::string AlsTag(const Datum &tag);
-
 } // namespace kw

@@ -33,7 +33,12 @@ template <class Liste> bool Hat(const Liste &liste, std::size_t wen) {
 
 } // namespace
 
-bool GehtMit(std::string_view symboltyp) { return Bleibend(symboltyp) == nullptr; }
+bool HatStammbaum(const Dokument &dokument) {
+    const auto &personen = dokument.cboPersonen;
+    return std::any_of(personen.begin(), personen.end(), [](const std::string &satz) {
+        return Bleibend(PersonSatz(satz, Lücken::Leer).Symboltyp()) == nullptr;
+    });
+}
 
 Übergabe Übergeben(const Dokument &dokument, const Uhr &uhr, const Übergabewünsche &wünsche) {
     return Übergeber(dokument, uhr, wünsche).Tun();

@@ -25,11 +25,10 @@ struct Übergabe {
 
 /// Writes a genogram as a genealogy program's file: persons, couples and children, the index person first. Nothing of
 /// the page's places goes along, but that siblings keep their order from left to right. Damaged records are read as
-/// far as they go. The same document gives the same bytes on the same day. `uhr` tells today, and how its dates of
-/// birth are read.
+/// far as they go. The same document gives the same bytes on any day. `uhr` tells how its dates are read.
 Übergabe Übergeben(const Dokument &dokument, const Uhr &uhr, const Übergabewünsche &wünsche = {});
 
-/// Whether a person of that kind goes into a family tree: the unborn and institutions don't.
-bool GehtMit(std::string_view symboltyp);
+/// Whether anybody stands there who goes into a family tree: the unborn and institutions don't.
+bool HatStammbaum(const Dokument &dokument);
 
 } // namespace kw

@@ -36,6 +36,10 @@ facts OLD.GED >two
 [ "$(grep -c '^P' one)" = 20 ] || fault "not everybody went along"
 diff <(grep '^[PC]' one) <(grep '^[PC]' two) >told || fault "the versions tell different facts: $(cat told)"
 
+call 0 --export nobody.ged --anonymous=years familie.kwp
+facts nobody.ged | grep '^P' | cut -f4-6 >told
+grep -qE '[a-z]|[0-9]{5}| [A-Z]{3} ' told && fault "names or dates go along: $(cat told)"
+grep -q '^B1.*19' told || fault "no letters and years: $(cat told)"
 for wrong in "--export out.ged --dpi 96 familie.kwp" "--export out.ged --gedcom 6 familie.kwp" "--export out.pdf --health familie.kwp" \
     "--gedcom 7.0 familie.kwp" "--relationships familie.kwp" "--export out.ged" "--export out.ged --gedcom"; do
     # shellcheck disable=SC2086 # its words
