@@ -158,8 +158,10 @@ void FamilieAufnehmen(const Aufnahme &aufnahme, const std::string &projekt) {
     // The oldest, a child, her brother.
     Tippen(fenster, {Qt::Key_Home, Qt::Key_Down, Qt::Key_Right});
     aufnahme.Sichern(Fläche(fenster).grab(Ort(fenster, "Martin").adjusted(-150, -135, 230, 95)), "tastatur");
+    aufnahme.Form("stammbaumexport", [&] { fenster.Modell().BefehlAusführen("mnuStammbaumExport"); });
     aufnahme.Form("person", [&] { Doppelklicken(fenster, "Albert"); });
-    aufnahme.Form("ohne-namen", [&] { fenster.Modell().BefehlAusführen("mnuOhneNamen"); }, "optJahr");
+    aufnahme.Form(
+        "ohne-namen", [&] { fenster.Modell().BefehlAusführen("mnuOhneNamen"); }, "optJahr");
 }
 
 } // namespace

@@ -38,7 +38,8 @@ void Übernehmer::Verzwillingen(std::uint32_t a, std::uint32_t b, bool eineiig) 
 /// Twins that the file calls so.
 void Übernehmer::AngegebeneZwillinge() {
     for (const auto &b : baum_.Beziehungen) {
-        if (!IstZwillingsrolle(b.Rolle)) continue;
+        const auto rolle = b.Worte.empty() ? b.Rolle : b.Worte;
+        if (!IstZwillingsrolle(rolle)) continue;
         const auto *const von = baum_.Person(b.Von), *const zu = baum_.Person(b.Zu);
         const auto eine = von ? Ort(static_cast<std::uint32_t>(baum_.Nummer(*von))) : Keine;
         const auto andere = zu ? Ort(static_cast<std::uint32_t>(baum_.Nummer(*zu))) : Keine;
@@ -46,10 +47,10 @@ void Übernehmer::AngegebeneZwillinge() {
         const bool frei = SindGeschwister(eine, andere) && ergebnis_.Personen[eine].Zwilling == Keine &&
                           ergebnis_.Personen[andere].Zwilling == Keine;
         const bool schon = andere != Keine && ergebnis_.Personen[eine].Zwilling == andere;
-        const bool gesagt = EnthältEines(b.Rolle, Eineiige) || EnthältEines(b.Rolle, Zweieiige);
-        const bool eineiig = EnthältEines(b.Rolle, Eineiige) && !EnthältEines(b.Rolle, Zweieiige);
+        const bool gesagt = EnthältEines(rolle, Eineiige) || EnthältEines(rolle, Zweieiige);
+        const bool eineiig = EnthältEines(rolle, Eineiige) && !EnthältEines(rolle, Zweieiige);
         if (frei) Verzwillingen(eine, andere, gesagt ? eineiig : regeln_.ZwillingeEineiig);
-        else if (!schon) ergebnis_.Bericht.Hinzu(Befundart::BeziehungWeggelassen, b.Zeile, Anzeigename(*von), b.Rolle);
+        else if (!schon) ergebnis_.Bericht.Hinzu(Befundart::BeziehungWeggelassen, b.Zeile, Anzeigename(*von), rolle);
     }
 }
 
