@@ -155,7 +155,7 @@ std::string Kilobyte(const std::string &datei) {
 std::string Start(const Orte &orte) {
     std::vector<Prozess> p{{"A bare window of the toolkit", {orte.Programme + "/benchmarks/bare_window"}},
                            {"the same with the program's menus", {orte.Programme + "/benchmarks/bare_window", "menus"}},
-                           {"The program's window, painted", {orte.Bench(), "--window"}}};
+                           {"The program's window, painted", {orte.Programme + "/benchmarks/painted_window"}}};
     Messen(p, 2 * Runden);
     std::string text = "\n## Start\n\nFrom the call to the first painted window, the median of " +
                        std::to_string(2 * Runden) + ".\n" + Kopf({"", "ms", "by bare", "by the same menus", "MiB"});

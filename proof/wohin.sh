@@ -34,6 +34,10 @@ mkdir -p ../export
 for art in pdf svg png; do
     (cd ../export && verfolgt ../bin/kinwright --export "klient.$art" ../projekt/klient.kwp) || scheitert "the export as $art failed"
 done
+for art in pdf svg png kwp; do
+    (cd ../export && verfolgt ../bin/kinwright --export "fall.$art" --anonymous ../projekt/klient.kwp) ||
+        scheitert "the export without names as $art failed"
+done
 
 # The program itself, until it has opened the project and listens to signals.
 ../bin/kinwright "$PWD/klient.kwp" 2>>../gesagt &
@@ -67,6 +71,7 @@ grep -E ' connect\(' ../spur | grep -vE 'sun_path="('"$ordner/lauf"'|/run/cups|/
 name='Quellwasser|Q\x00u\x00e\x00l\x00l\x00w'
 grep -rlaP "$name" "$ordner" | grep -vE "^$ordner/((projekt|export|zustand/kinwright)/|protokoll$|bin/kinwright)" >../fremd.liste &&
     scheitert "the name stands in: $(cat ../fremd.liste)"
+grep -laP "$name" ../export/fall.* && scheitert "it stands in an export without names"
 grep -qaP "$name" ../gesagt && scheitert "the name was told: $(cat ../gesagt)"
 [ -z "$(ls -A ../tmp)" ] || scheitert "left in the temporary folder: $(ls -A ../tmp)"
 for datei in ../zustand/kinwright/*; do

@@ -13,10 +13,12 @@ below() {
     editing) echo document rendering ;;
     arrangement) echo layout document rendering editing familytree ;;
     familytree) echo document ;;
-    dialogs) echo document rendering editing familytree arrangement ;;
-    description | output | commands | keyboard) echo document rendering editing ;;
-    app) echo document rendering editing arrangement familytree dialogs description output commands keyboard ;;
-    qt) echo document rendering editing familytree dialogs description output commands keyboard app ;;
+    anonymity) echo document layout rendering ;;
+    dialogs) echo document rendering editing familytree anonymity arrangement ;;
+    output) echo document rendering editing anonymity ;;
+    description | commands | keyboard) echo document rendering editing ;;
+    app) echo document rendering editing arrangement familytree anonymity dialogs description output commands keyboard ;;
+    qt) echo document rendering editing familytree anonymity dialogs description output commands keyboard app ;;
     replay) echo layout document rendering editing familytree dialogs description output commands keyboard app ;;
     *) return 1 ;;
     esac

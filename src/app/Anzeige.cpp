@@ -8,6 +8,7 @@
 #include "document/Dokument.h"
 #include "document/Papier.h"
 #include "document/UndoRing.h"
+#include "document/Verweise.h"
 #include "document/Zahlen.h"
 #include "editing/Ablage.h"
 #include "editing/Leinwandlage.h"
@@ -158,8 +159,9 @@ void Anzeige::PaletteZeigen() {
     bedienung_[Name::btnAuswahlZuBild].Checked = z_.lage.BildAuswahl && z_.lage.bAuswahlInDatei;
 }
 
-/// Zooming, and the list of persons that another application has handed over.
+/// Zooming, what needs a page with something on it, and the list of persons that another application has handed over.
 void Anzeige::RestZeigen() {
+    bedienung_[Name::mnuOhneNamen].Enabled = Satzzahl(z_.dokument) > 0;
     bedienung_[Name::btnBildGrößer].Enabled = z_.bereich.KannVergrößern();
     bedienung_[Name::btnBildKleiner].Enabled = z_.bereich.KannVerkleinern();
     Bedienelement &import = bedienung_[Name::btnImport];

@@ -137,6 +137,7 @@ constexpr Zeile Tabelle[] = {
     {Name::mnuStammbaum, [](Befehlsumgebung &u, int) { u.stammbaum.mnuStammbaum(); }},
     {Name::mnuExportieren, [](Befehlsumgebung &u, int) { u.bildexport.SeiteExportieren(u.projekt.Projektdatei); }},
     {Name::mnuPDF_Export, PdfErzeugen},
+    {Name::mnuOhneNamen, [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmOhneNamen); }},
     {Name::btnClipboard, Bildauswahl, false},
     {Name::btnAuswahlZuBild, Bildauswahl, true},
     {Name::mnuBeenden, [](Befehlsumgebung &u, int) { u.werkbank.benutzer.FensterSchließen(); }},

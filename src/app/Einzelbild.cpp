@@ -27,4 +27,11 @@ std::string Einzelbild::Laden(const std::string &datei) {
     return Ladetext(gefunden, Sprache::Englisch);
 }
 
+void Einzelbild::OhneNamen(Lebenszeit zeit) {
+    dokument = kw::OhneNamen(dokument, zeit, uhr_, ansicht.Sprache);
+    ansicht.Altersanzeige = AltersanzeigeFür(zeit);
+    LegendeAufbauen(dokument, legende_);
+    ohneNamen_ = true;
+}
+
 } // namespace kw

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "anonymity/OhneNamen.h"
 #include "description/Seitentext.h"
 #include "document/Dokument.h"
 #include "editing/Leinwandlage.h"
@@ -23,6 +24,10 @@ class Einzelbild {
     /// Whether anything of a project could be read; what was read can be exported all the same.
     bool IstGelesen() const { return gelesen_; }
 
+    /// Leaves out what says whose family it is; see `kw::OhneNamen`. To be shown so and not to be read as before.
+    void OhneNamen(Lebenszeit zeit);
+    bool IstOhneNamen() const { return ohneNamen_; }
+
     Dokument dokument;
     Ansicht ansicht; ///< its page must be set up again when that of the document changes
 
@@ -39,6 +44,7 @@ class Einzelbild {
     Leinwandlage lage_;
     Legendenblatt legende_;
     bool gelesen_ = false;
+    bool ohneNamen_ = false;
 };
 
 } // namespace kw

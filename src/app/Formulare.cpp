@@ -8,6 +8,7 @@
 #include "dialogs/frmInfo.h"
 #include "dialogs/frmKommentar.h"
 #include "dialogs/frmLegende.h"
+#include "dialogs/frmOhneNamen.h"
 #include "dialogs/frmPLinien.h"
 #include "dialogs/frmSchrift.h"
 #include "dialogs/frmSeiteEinrichten.h"
@@ -48,6 +49,7 @@ constexpr Bauplan Baupläne[] = {
     {Name::frmFassungen, Bauen<frmFassungen>},
     {Name::frmStammbaum, Bauen<frmStammbaum>},
     {Name::frmStammbaumbericht, Bauen<frmStammbaumbericht>},
+    {Name::frmOhneNamen, Bauen<frmOhneNamen>},
     {Name::frmInfo,
      [](Dialogumgebung &u) -> std::unique_ptr<Formular> { return std::make_unique<frmInfo>(u, Programmversion); }},
 };

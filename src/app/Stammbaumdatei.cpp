@@ -4,15 +4,12 @@
 
 #include <array>
 #include <memory>
+#include <minizip/unzip.h>
 #include <optional>
-#include <zip.h>
 
 namespace kw {
 
 namespace {
-
-using Archiv = std::unique_ptr<zip_t, decltype(&zip_discard)>;
-using Archivdatei = std::unique_ptr<zip_file_t, decltype(&zip_fclose)>;
 
 /// In the order of the failures.
 constexpr std::array<Zweisprachig, 6> Sätze{{
@@ -24,50 +21,85 @@ constexpr std::array<Zweisprachig, 6> Sätze{{
     {"Der Stammbaum ist zu groß", "The family tree is too large"},
 }};
 
-/// Opens what is in memory, which must outlive it; nullptr for what is no archive.
-Archiv Geöffnet(const std::string &bytes) {
-    zip_source_t *const quelle = zip_source_buffer_create(bytes.data(), bytes.size(), 0, nullptr);
-    if (!quelle) return {nullptr, &zip_discard};
-    Archiv archiv(zip_open_from_source(quelle, ZIP_RDONLY, nullptr), &zip_discard);
-    if (!archiv) zip_source_free(quelle);
-    return archiv;
+using Archiv = std::unique_ptr<void, decltype(&unzClose)>;
+
+/// A file in memory, as the unpacker reads one.
+struct Speicherdatei {
+    const std::string &Bytes;
+    std::size_t Stelle = 0;
+};
+
+uLong Lesen(voidpf, voidpf datei, void *ziel, uLong höchstens) {
+    auto &speicher = *static_cast<Speicherdatei *>(datei);
+    const auto anzahl = speicher.Bytes.copy(static_cast<char *>(ziel), höchstens, speicher.Stelle);
+    speicher.Stelle += anzahl;
+    return anzahl;
 }
 
-std::optional<zip_uint64_t> ErsterStammbaum(zip_t *archiv) {
-    for (zip_int64_t i = 0, anzahl = zip_get_num_entries(archiv, 0); i < anzahl; ++i) {
-        const auto nummer = static_cast<zip_uint64_t>(i);
-        const char *const name = zip_get_name(archiv, nummer, ZIP_FL_ENC_RAW);
-        if (name && Kleingeschrieben(name).ends_with(".ged")) return nummer;
+/// 0, or -1 for a place outside; it has been tried by then.
+long Springen(voidpf, voidpf datei, ZPOS64_T weite, int ab) {
+    auto &speicher = *static_cast<Speicherdatei *>(datei);
+    const std::size_t von = ab == ZLIB_FILEFUNC_SEEK_SET   ? 0
+                            : ab == ZLIB_FILEFUNC_SEEK_CUR ? speicher.Stelle
+                                                           : speicher.Bytes.size();
+    if (weite > speicher.Bytes.size() - von) return -1;
+    speicher.Stelle = von + weite;
+    return 0;
+}
+
+/// Opens what is in memory, which must outlive it; nullptr for what is no archive.
+Archiv Geöffnet(Speicherdatei &datei) {
+    zlib_filefunc64_def zugriff{};
+    zugriff.opaque = &datei;
+    zugriff.zopen64_file = [](voidpf speicher, const void *, int) { return speicher; };
+    zugriff.zread_file = Lesen;
+    zugriff.ztell64_file = [](voidpf, voidpf speicher) -> ZPOS64_T {
+        return static_cast<Speicherdatei *>(speicher)->Stelle;
+    };
+    zugriff.zseek64_file = Springen;
+    zugriff.zclose_file = [](voidpf, voidpf) { return 0; };
+    zugriff.zerror_file = [](voidpf, voidpf) { return 0; };
+    return {unzOpen2_64("", &zugriff), &unzClose};
+}
+
+/// Makes it the archive's current file and answers its flags; nothing where there is none.
+std::optional<uLong> ErsterStammbaum(unzFile archiv) {
+    for (int da = unzGoToFirstFile(archiv); da == UNZ_OK; da = unzGoToNextFile(archiv)) {
+        unz_file_info64 auskunft{};
+        std::array<char, 4096> name{}; // a longer one is cut
+        if (unzGetCurrentFileInfo64(archiv, &auskunft, name.data(), name.size() - 1, nullptr, 0, nullptr, 0) != UNZ_OK)
+            return {};
+        if (Kleingeschrieben(name.data()).ends_with(".ged")) return auskunft.flag;
     }
     return {};
 }
 
-/// Reads until the end: sizes that an archive tells can be lies.
-Stammbaumfehler Auspacken(zip_file_t *datei, std::size_t höchstens, std::string &bytes) {
+/// Reads the current file until the end: sizes that an archive tells can be lies.
+Stammbaumfehler Auspacken(unzFile archiv, std::size_t höchstens, std::string &bytes) {
+    if (unzOpenCurrentFile(archiv) != UNZ_OK) return Stammbaumfehler::KeinArchiv;
     std::string inhalt;
     std::array<char, std::size_t{1} << 16> stück{};
     for (;;) {
-        const auto anzahl = zip_fread(datei, stück.data(), stück.size());
+        const int anzahl = unzReadCurrentFile(archiv, stück.data(), static_cast<unsigned>(stück.size()));
         if (anzahl < 0) return Stammbaumfehler::KeinArchiv;
         if (anzahl == 0) break;
         if (inhalt.size() + static_cast<std::size_t>(anzahl) > höchstens) return Stammbaumfehler::ZuGroß;
         inhalt.append(stück.data(), static_cast<std::size_t>(anzahl));
     }
+    if (unzCloseCurrentFile(archiv) != UNZ_OK) return Stammbaumfehler::KeinArchiv; // its check sum
     bytes = std::move(inhalt);
     return Stammbaumfehler::Keiner;
 }
 
 Stammbaumfehler AusArchiv(const std::string &gepackt, std::size_t höchstens, std::string &bytes) {
-    const auto archiv = Geöffnet(gepackt);
+    constexpr uLong verschlüsselt = 1; // the format's general purpose bit 0
+    Speicherdatei datei{gepackt};
+    const auto archiv = Geöffnet(datei);
     if (!archiv) return Stammbaumfehler::KeinArchiv;
-    const auto nummer = ErsterStammbaum(archiv.get());
-    if (!nummer) return Stammbaumfehler::OhneStammbaum;
-    zip_stat_t auskunft{};
-    if (zip_stat_index(archiv.get(), *nummer, 0, &auskunft) != 0) return Stammbaumfehler::KeinArchiv;
-    if ((auskunft.valid & ZIP_STAT_ENCRYPTION_METHOD) && auskunft.encryption_method != ZIP_EM_NONE)
-        return Stammbaumfehler::Verschlüsselt;
-    const Archivdatei datei(zip_fopen_index(archiv.get(), *nummer, 0), &zip_fclose);
-    return datei ? Auspacken(datei.get(), höchstens, bytes) : Stammbaumfehler::KeinArchiv;
+    const auto merkmale = ErsterStammbaum(archiv.get());
+    if (!merkmale) return Stammbaumfehler::OhneStammbaum;
+    if (*merkmale & verschlüsselt) return Stammbaumfehler::Verschlüsselt;
+    return Auspacken(archiv.get(), höchstens, bytes);
 }
 
 } // namespace

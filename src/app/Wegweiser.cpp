@@ -162,6 +162,7 @@ constexpr Sperre Sperren[] = {
     {Name::btnBildGrößer, &Absage::GrößterZoom},
     {Name::btnBildKleiner, &Absage::KleinsterZoom},
     {Name::mnuKindVon, &Absage::HatEltern},
+    {Name::mnuOhneNamen, &Absage::NichtsDa},
 };
 
 const Zweisprachig *Suchen(std::span<const Schritt> schritte, Aktion aktion) {

@@ -8,6 +8,7 @@
 #include "document/Texte.h"
 #include "editing/Abwahl.h"
 #include "editing/Werkzeuge.h"
+#include "output/NamenloseAusgabe.h"
 #include "output/Textausgabe.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
@@ -292,6 +293,11 @@ void frmMain::TextSpeichern(const std::string &titel, const std::string &text) {
 }
 
 void frmMain::TextDrucken(const std::string &titel, const std::string &text) { druck.TextDrucken(titel, text); }
+
+bool frmMain::OhneNamenExportieren(Lebenszeit zeit) {
+    const Ausgabewege wege{plattform.benutzer, plattform.bilder, plattform.uhr};
+    return OhneNamenAusgeben(wege, dokument, ansicht, zeit, projekt.Projektdatei);
+}
 
 void frmMain::mnuBearbeiten_Öffnen() {
     lage.Angebot.Ausschneiden = lage.Angebot.Kopieren = auswahl.HatKopierbares();

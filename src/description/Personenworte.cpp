@@ -298,7 +298,8 @@ std::vector<std::string> Personenworte::Einzelheiten(int position) const {
         if (person.Sucht()) texte.push_back(Im(Sucht));
         if (person.Erkrankung()) texte.push_back(Im(Erkrankung));
         const auto geboren = Getrimmt(person.Geburtsdatum());
-        if (!geboren.empty()) texte.push_back(Eingesetzt(Geboren, sprache, {geboren}));
+        const bool alter = AlterAusAngabe(geboren).has_value(); // told already
+        if (!geboren.empty() && !alter) texte.push_back(Eingesetzt(Geboren, sprache, {geboren}));
     }
     std::erase(texte, std::string());
     return texte;

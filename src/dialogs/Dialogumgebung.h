@@ -7,6 +7,7 @@
 namespace kw {
 
 class Einstellungsablage;
+enum class Lebenszeit;
 struct Einstellungen;
 struct Werkbank;
 class Drucker;
@@ -34,6 +35,8 @@ class Dialogdienste {
     /// told.
     virtual void TextSpeichern(const std::string &titel, const std::string &text) = 0;
     virtual void TextDrucken(const std::string &titel, const std::string &text) = 0;
+    /// Asks for a file and exports page or project without names. False when nothing was written, which was told.
+    virtual bool OhneNamenExportieren(Lebenszeit zeit) = 0;
 };
 
 /// All that the forms work on.

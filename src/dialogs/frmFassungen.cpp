@@ -1,6 +1,7 @@
 #include "dialogs/frmFassungen.h"
 
 #include "dialogs/Dialogumgebung.h"
+#include "dialogs/Seitenbild.h"
 #include "document/Dateinamen.h"
 #include "document/ProjektDatei.h"
 #include "document/Sicherheitsnetz.h"
@@ -173,16 +174,9 @@ void frmFassungen::BildZeichnen(std::string_view, Zeichenfläche &f) {
     Legendenblatt legende;
     LegendeAufbauen(*seite_, legende);
     const auto [breite, höhe] = BildGröße("");
-    f.DrawStyle = StilDurchgezogen;
-    f.FillStyle = Gefüllt;
-    f.DrawWidth = 1;
-    f.FillColor = Hellgrau;
-    f.Line(KastenFarbig, 0, 0, breite, höhe, Hellgrau);
-    f.FillColor = Weiß;
-    f.Line(KastenFarbig, 0, 0, ansicht.SeitenBreite, ansicht.SeitenHöhe, Weiß);
     const Auswahl nichts;
     const Gestenlage ruhe;
-    SeitenbildZeichnen(f, {*seite_, ansicht, nichts, ruhe, legende, umgebung_.uhr});
+    SeitenvorschauZeichnen(f, {*seite_, ansicht, nichts, ruhe, legende, umgebung_.uhr}, breite, höhe);
     VersuchBeenden();
 }
 

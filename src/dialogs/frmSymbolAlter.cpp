@@ -67,7 +67,7 @@ void frmSymbol::AlterAnzeigen() {
     alter_.AlterAusDatum(Text("txtGeburtsdatum"));
     AlterBeschriften(alter_.strAlterText);
     TextSetzen("txtAlter", alter_.strAlterText);
-    Das("lblGebDat").Caption = "* " + alter_.strGebJahrText;
+    Das("lblGebDat").Caption = AlterAusAngabe(Text("txtGeburtsdatum")) ? "" : "* " + alter_.strGebJahrText;
     Das("shpFalsch").Visible = alter_.bDatumUngueltig;
     if (!alter_.bDatumUngueltig) return DatumsgenauigkeitAnzeigen();
     AlterUnbekannt();

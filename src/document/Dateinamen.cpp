@@ -34,6 +34,10 @@ std::string MitKennung(const std::string &datei, std::string_view kennung, bool 
     return gleich || (alle && irgendeine) ? datei : datei + "." + std::string(kennung);
 }
 
+bool HatKennung(const std::string &datei, std::string_view kennung) {
+    return MitKennung(datei, kennung, false) == datei;
+}
+
 bool DateiVorhanden(const std::string &pfad) {
     struct stat angaben {};
     return ::stat(pfad.c_str(), &angaben) == 0 && !S_ISDIR(angaben.st_mode);

@@ -19,6 +19,10 @@ std::string Kennung(std::string_view name);
 /// `datei` with the ending `kennung` unless it has that, in letters of any case; with `alle` unless it has any: a date
 /// or a number behind the last point ("Berg 3.11.2026") is none.
 std::string MitKennung(const std::string &datei, std::string_view kennung, bool alle);
+/// Whether `datei` has that ending, in letters of any case.
+bool HatKennung(const std::string &datei, std::string_view kennung);
+/// Whether it is named as a project.
+inline bool IstProjektname(const std::string &datei) { return HatKennung(datei, "kwp"); }
 bool DateiVorhanden(const std::string &pfad);
 /// Whether `ordner` is a folder that can be written.
 bool IstBeschreibbar(const std::string &ordner);

@@ -248,4 +248,10 @@ void ProjektEintragen(const Dokument &dokument, Profil &profil) {
     ganze.Eintragen(profil);
 }
 
+std::string ProjektInhalt(const Dokument &dokument) {
+    Profil profil;
+    ProjektEintragen(dokument, profil);
+    return profil.Inhalt();
+}
+
 } // namespace kw

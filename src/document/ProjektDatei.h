@@ -26,4 +26,7 @@ bool OhneStandardsymboleLesen(const Profil &profil);
 /// the page settings, stay. Texts that these sections would lose stand whole behind all others.
 void ProjektEintragen(const Dokument &dokument, Profil &profil);
 
+/// A whole project file that holds this document and nothing else.
+std::string ProjektInhalt(const Dokument &dokument);
+
 } // namespace kw

@@ -111,12 +111,6 @@ std::optional<Netzeintrag> Benannt(const std::string &name, std::string_view inh
     return eintrag;
 }
 
-std::string AlsProjekt(const Dokument &dokument) {
-    Profil profil;
-    ProjektEintragen(dokument, profil);
-    return profil.Inhalt();
-}
-
 int PersonenIn(std::string_view inhalt) {
     return static_cast<int>(Profil(std::string(inhalt)).SchlüsselAnzahl("OBJECTS"));
 }
@@ -159,7 +153,7 @@ Dateibefund Sicherheitsnetz::Festhalten(const Dokument &dokument, Netzkopf kopf)
     Schreibweise wie;
     wie.NeuerModus = NurIch;
     wie.Flüchtig = true;
-    const Dateibefund befund = DateiSchreiben(pfad, Netzdatei(kopf, AlsProjekt(dokument)), wie);
+    const Dateibefund befund = DateiSchreiben(pfad, Netzdatei(kopf, ProjektInhalt(dokument)), wie);
     if (!befund.Gelungen()) return befund;
     nachfluss_.Wünschen(pfad);
     stand_ = dokument;

@@ -14,6 +14,7 @@ namespace kw {
 namespace {
 
 constexpr int KleinstesJahr = 100;
+constexpr Zweisprachig Altersangabe{"Alter ", "Age "}; ///< either is read, whatever the language
 
 struct Teil {
     int Wert;
@@ -77,6 +78,21 @@ std::string Vierstellig(int jahr) {
 
 } // namespace
 
+std::string AltersangabeFür(std::string_view jahre, Sprache sprache) {
+    return std::string(Altersangabe.In(sprache)).append(jahre);
+}
+
+std::optional<std::string_view> AlterAusAngabe(std::string_view text) {
+    constexpr std::size_t MeisteZiffern = 3;
+    for (const std::string_view wort : {Altersangabe.Deutsch, Altersangabe.Englisch}) {
+        if (!text.starts_with(wort)) continue;
+        const auto jahre = text.substr(wort.size());
+        const bool zahl = std::all_of(jahre.begin(), jahre.end(), [](char c) { return c >= '0' && c <= '9'; });
+        if (zahl && !jahre.empty() && jahre.size() <= MeisteZiffern) return jahre;
+    }
+    return {};
+}
+
 std::optional<Datum> DatumLesen(std::string_view text, Datumsfolge folge) {
     const auto teile = Zerlegt(Getrimmt(text));
     if (!teile) return {};
@@ -92,6 +108,12 @@ void Altersberechnung::AlterAusDatum(std::string_view text) {
     bDatumUngueltig = false;
     if (Zeichenzahl(text) < 4) {
         bDatumUngueltig = true;
+        return;
+    }
+    if (const auto jahre = AlterAusAngabe(text)) {
+        strGebDatumText = text;
+        strGebJahrText.clear();
+        strAlterText = *jahre;
         return;
     }
     const double wert = ZahlLesen(text);

@@ -67,6 +67,7 @@ inline constexpr Zweisprachig LeereAblage{"Es gibt nichts einzufügen: erst im G
                                           "There is nothing to paste: copy something of the genogram first."};
 inline constexpr Zweisprachig NurFremdes{"Texte und Bilder aus anderen Programmen lassen sich nicht einfügen.",
                                          "Texts and pictures from other programs can't be pasted."};
+inline constexpr Zweisprachig NichtsDa{"Auf der Seite ist noch nichts.", "There is nothing on the page yet."};
 inline constexpr Zweisprachig KeinProgramm{"Dieses Programm ist hier nicht installiert.",
                                            "That program isn't installed here."};
 inline constexpr Zweisprachig KeinAnzeiger{"Die Anleitung ließ sich nicht öffnen.", "The manual could not be opened."};

@@ -6,9 +6,11 @@
 namespace kw {
 
 std::optional<std::string> ZieldateiWählen(Benutzer &benutzer, const Dateiwahl &wahl, Sprache sprache,
-                                           const Zweisprachig &frage) {
+                                           const Zweisprachig &frage,
+                                           const std::function<bool(const std::string &)> &zulässig) {
     while (true) {
         const auto datei = benutzer.DateiSpeichern(wahl);
+        if (datei && zulässig && !zulässig(*datei)) continue;
         if (!datei || !DateiVorhanden(*datei)) return datei;
         const std::string besteht = Dateisatz(sprache, *datei, {" besteht bereits. \n", " already exists. \n"});
         const std::string text = besteht + std::string(frage.In(sprache));

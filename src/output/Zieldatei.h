@@ -2,6 +2,7 @@
 
 #include "platform/Sprache.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,9 +16,10 @@ struct Dateiwahl;
 constexpr Zweisprachig Ersetzungsfrage{"Möchten Sie sie ersetzen ?", "Do you want to replace it?"};
 
 /// Asks until the file is a new one or the user wants the old one replaced; nothing when he gives up. `frage` ends the
-/// question.
+/// question. What `zulässig` refuses, and tells, is asked for again.
 std::optional<std::string> ZieldateiWählen(Benutzer &benutzer, const Dateiwahl &wahl, Sprache sprache,
-                                           const Zweisprachig &frage = Ersetzungsfrage);
+                                           const Zweisprachig &frage = Ersetzungsfrage,
+                                           const std::function<bool(const std::string &)> &zulässig = {});
 
 /// "The file NAME" and then `rest`.
 std::string Dateisatz(Sprache sprache, std::string_view name, const Zweisprachig &rest);

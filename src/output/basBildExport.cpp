@@ -29,11 +29,6 @@ constexpr Zweisprachig NichtKopiert{"Der Bildausschnitt konnte nicht in die Zwis
 constexpr std::string_view Seitenfilter = "JPEG  (*.jpg)|*.jpg|PNG  (*.png)|*.png|SVG  (*.svg)|*.svg";
 constexpr std::string_view Auswahlfilter = "PNG  (*.png)|*.png";
 
-/// In letters of any case.
-bool HatKennung(const std::string &datei, std::string_view kennung) {
-    return MitKennung(datei, kennung, false) == datei;
-}
-
 /// What is no copy of the canvas.
 bool WirdGedruckt(const std::string &datei) { return HatKennung(datei, "png") || HatKennung(datei, "svg"); }
 

@@ -29,6 +29,7 @@ inline constexpr Befehlsname mnuStammbaum{"mnuStammbaum"};
 inline constexpr Befehlsname mnuStr1{"mnuStr1"};
 inline constexpr Befehlsname mnuExportieren{"mnuExportieren"};
 inline constexpr Befehlsname mnuPDF_Export{"mnuPDF_Export"};
+inline constexpr Befehlsname mnuOhneNamen{"mnuOhneNamen"};
 inline constexpr Befehlsname mnuStr3{"mnuStr3"};
 inline constexpr Befehlsname mnuZuletztGeöffnet{"mnuZuletztGeöffnet"};
 inline constexpr Befehlsname mnuStr4{"mnuStr4"};
@@ -236,6 +237,7 @@ inline constexpr Formularname frmInfo{"frmInfo"};
 inline constexpr Formularname frmFassungen{"frmFassungen"};
 inline constexpr Formularname frmStammbaum{"frmStammbaum"};
 inline constexpr Formularname frmStammbaumbericht{"frmStammbaumbericht"};
+inline constexpr Formularname frmOhneNamen{"frmOhneNamen"};
 
 } // namespace Name
 

@@ -30,7 +30,7 @@ class Bilder {
     /// Writes a part of the picture as PNG.
     virtual Ursache AlsPng(const std::string &datei, const Bildausschnitt &ausschnitt) = 0;
     /// Writes the page as the job draws it, by the ending of the name, in letters of any case: as PNG of 300 dots an
-    /// inch, or as SVG.
+    /// inch, as SVG, or as PDF.
     virtual Ursache SeiteAls(const std::string &datei, const Druckauftrag &seite) = 0;
     /// Replaces what is on the clipboard by that part of the picture.
     virtual void InZwischenablage(const Bildausschnitt &ausschnitt) = 0;

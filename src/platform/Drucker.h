@@ -40,6 +40,7 @@ struct Druckauftrag {
     std::function<void(Zeichenfläche &)> Zeichnen;
     /// Asks for the file, where the printer writes one; nothing when the user gives up.
     std::function<std::optional<std::string>()> Zieldatei;
+    bool OhneZeit = false; ///< a file doesn't say when it was made
 };
 
 /// How a job ended, as far as it is told: a printer that fails later, on its paper, says nothing.

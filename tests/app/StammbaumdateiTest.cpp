@@ -4,8 +4,8 @@
 
 #include <filesystem>
 #include <fstream>
+#include <minizip/zip.h>
 #include <unistd.h>
-#include <zip.h>
 
 namespace kw {
 
@@ -17,15 +17,16 @@ class Stammbaumdatei : public testing::Test {
 
     /// An archive that holds one file, behind a password or not.
     void Packen(const char *name, const std::string &inhalt, const char *kennwort = nullptr) {
-        zip_t *const archiv = zip_open(pfad_.c_str(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
+        const zipFile archiv = zipOpen64(pfad_.c_str(), APPEND_STATUS_CREATE);
         ASSERT_NE(archiv, nullptr);
-        zip_source_t *const quelle = zip_source_buffer(archiv, inhalt.data(), inhalt.size(), 0);
-        const auto stelle = zip_file_add(archiv, name, quelle, 0);
-        ASSERT_GE(stelle, 0);
-        if (kennwort) {
-            ASSERT_EQ(zip_file_set_encryption(archiv, static_cast<zip_uint64_t>(stelle), ZIP_EM_AES_256, kennwort), 0);
-        }
-        ASSERT_EQ(zip_close(archiv), 0);
+        const auto groß = static_cast<unsigned>(inhalt.size());
+        ASSERT_EQ(zipOpenNewFileInZip3_64(archiv, name, nullptr, nullptr, 0, nullptr, 0, nullptr, Z_DEFLATED,
+                                          Z_DEFAULT_COMPRESSION, 0, -MAX_WBITS, DEF_MEM_LEVEL, Z_DEFAULT_STRATEGY,
+                                          kennwort, 0, 0),
+                  ZIP_OK);
+        ASSERT_EQ(zipWriteInFileInZip(archiv, inhalt.data(), groß), ZIP_OK);
+        ASSERT_EQ(zipCloseFileInZip(archiv), ZIP_OK);
+        ASSERT_EQ(zipClose(archiv, nullptr), ZIP_OK);
     }
     void Kürzen(std::uintmax_t um) { std::filesystem::resize_file(pfad_, std::filesystem::file_size(pfad_) - um); }
     Stammbaumfehler Lesen(std::size_t höchstens = GrößteDatei) {

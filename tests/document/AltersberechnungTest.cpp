@@ -43,6 +43,19 @@ TEST(Altersberechnung, TextWirdAlterUndJahr) {
     }
 }
 
+TEST(Altersberechnung, BloßesAlterBleibtUndHatKeinJahr) {
+    FesteUhr uhr;
+    for (const int jahr : {2026, 2040}) {
+        uhr.Tag.Jahr = jahr;
+        EXPECT_EQ(Ergebnis("Alter 45", uhr), "45||");
+        EXPECT_EQ(Ergebnis("Age 0", uhr), "0||");
+    }
+    for (const auto *const text : {"Alter ", "Age 1000", "Age -5", "Alter 4 J", "age 45", "Alter45", "ca. Alter 45"})
+        EXPECT_EQ(Ergebnis(text), "||!") << text;
+    EXPECT_EQ(Ergebnis(AltersangabeFür("7", Sprache::Deutsch)), "7||");
+    EXPECT_EQ(Ergebnis(AltersangabeFür("7", Sprache::Englisch)), "7||");
+}
+
 TEST(Altersberechnung, GeburtstagZähltAmTagSelbst) {
     FesteUhr uhr;
     uhr.Tag = {2026, 3, 11};

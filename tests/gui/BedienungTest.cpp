@@ -1,128 +1,24 @@
-// What the hand does: pointer on the canvas, palette, toolbar, menus. Events go to the real widgets, what came of them
-// is read in the records and in the pixels that show.
-#include "app/Befehle.h"
-#include "app/Einzelbild.h"
-#include "app/frmMain.h"
-#include "commands/Bildertafel.h"
-#include "commands/Menuetafel.h"
-#include "document/Dateien.h"
-#include "document/Zahlen.h"
-#include "document/saetze/Person.h"
-#include "editing/Personen.h"
-#include "output/basBildExport.h"
-#include "qt/drucken/Ausgabe.h"
-#include "qt/drucken/QtBilder.h"
-#include "qt/fenster/Arbeitsflaeche.h"
-#include "qt/fenster/Bandknopf.h"
+// What the hand does on the page: events go to the real widget, what came of them is read in the records and in the
+// pixels that show.
+#include "gui/Bedienung.h"
 #include "qt/fenster/Importliste.h"
-#include "qt/fenster/Menues.h"
-#include "qt/fenster/Palettenknopf.h"
-#include "qt/fenster/Symbolleiste.h"
-#include "qt/fenster/Werkzeugpalette.h"
 #include "qt/malen/Auflagenmaler.h"
-#include "qt/malen/LeinwandFlaeche.h"
-#include "qt/malen/Zeilenbild.h"
-#include "replay/Einblick.h"
-#include "replay/Plattform.h"
-
 #include <QAbstractItemView>
-#include <QApplication>
-#include <QClipboard>
-#include <QDir>
 #include <QDropEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QMainWindow>
-#include <QMenuBar>
 #include <QMimeData>
-#include <QMouseEvent>
-#include <QTemporaryDir>
 #include <QTimer>
 #include <QWheelEvent>
+#include <memory>
 
 #include <gtest/gtest.h>
-
-#include <cmath>
-#include <fstream>
-#include <memory>
-#include <new>
-#include <set>
-#include <sstream>
-
-#include <sys/resource.h>
-#include <unistd.h>
 
 using namespace kw;
 
 namespace {
 
 constexpr QRgb Symbolfarbe = qRgb(192, 209, 226);
-constexpr int Zoom100 = 2; ///< places in the zoom list
-constexpr int Zoom250 = 17;
-
-/// Counts the redraws: each begins with clearing.
-struct Zählleinwand : LeinwandFläche {
-    Zählleinwand() : LeinwandFläche(1) {}
-    void Cls() override {
-        ++Bilder;
-        LeinwandFläche::Cls();
-    }
-    int Bilder = 0;
-};
-
-class Bedienung : public testing::Test {
-  protected:
-    Bedienung() {
-        fläche.resize(1000, 700);
-        fläche.Verbinden(haupt, [] {});
-        haupt.Laden();
-        innen.bereich.GrößeÄndern(fläche.Innengröße().width(), fläche.Innengröße().height());
-        innen.bereich.WerkzeugleisteZeigen();
-        innen.bereich.ZoomWählen(Zoom100);
-    }
-
-    void Zeigen() {
-        fläche.show();
-        QApplication::processEvents();
-        fläche.Auffrischen();
-    }
-
-    void Maus(QEvent::Type art, QPoint ort, Qt::MouseButton taste, Qt::MouseButtons unten) {
-        QMouseEvent ereignis(art, ort, fläche.mapToGlobal(ort), taste, unten, Qt::NoModifier);
-        QApplication::sendEvent(&fläche, &ereignis);
-    }
-    void Drücken(QPoint ort) { Maus(QEvent::MouseButtonPress, ort, Qt::LeftButton, Qt::LeftButton); }
-    void Bewegen(QPoint ort, Qt::MouseButtons unten = Qt::NoButton) {
-        Maus(QEvent::MouseMove, ort, Qt::NoButton, unten);
-    }
-    void Lassen(QPoint ort) { Maus(QEvent::MouseButtonRelease, ort, Qt::LeftButton, Qt::NoButton); }
-    void Klicken(QPoint ort) {
-        Bewegen(ort);
-        Drücken(ort);
-        Lassen(ort);
-    }
-    void PersonSetzen(QPoint ort) {
-        ASSERT_TRUE(haupt.BefehlAusführen("cmdSymb(1)"));
-        Klicken(ort);
-    }
-
-    QImage Bild() { return fläche.grab().toImage().convertToFormat(QImage::Format_RGB32); }
-    /// The field of the only person, cm.
-    double PersonX() { return PersonSatz(innen.dokument.cboPersonen.Satz(0)).PosX(); }
-
-    std::ostringstream aus;
-    std::string wirkungen;
-    DrehbuchBenutzer benutzer{aus, wirkungen};
-    DrehbuchDrucker drucker{wirkungen};
-    DrehbuchUhr uhr;
-    Zählleinwand leinwand;
-    DrehbuchBilder dateien{leinwand, wirkungen};
-    frmMain haupt{
-        {benutzer, drucker, dateien, uhr}, leinwand, {"", "/nonexistent/prog.ini", "", "", 1920 * 15, 1080 * 15}};
-    Einblick innen{haupt};
-    Arbeitsflaeche fläche{leinwand};
-};
 
 /// The box round all pixels of that colour.
 QRect Fleck(const QImage &bild, QRgb farbe) {
@@ -203,6 +99,36 @@ TEST_F(Bedienung, NurEineTasteZählt) {
     Maus(QEvent::MouseButtonPress, ziel, Qt::MiddleButton, Qt::MiddleButton);
     Bewegen(ziel + QPoint(90, 90), Qt::MiddleButton);
     EXPECT_EQ(PersonX(), neu);
+}
+
+TEST_F(Bedienung, ImportzeileFälltNurAufDieSeite) {
+    for (const char *zeile : {"1;Jörg;Öz;M;;N;N;N;J", "2;Eva;;W;1.2.1980;J", "3;Kim;Ude;X"})
+        innen.import.Listenzeilen.push_back(ImportpersonAus(zeile));
+    Zeigen();
+    Importliste liste(haupt.DerAnblick(), [](int) {});
+    QAbstractItemModel &modell = *liste.findChild<QAbstractItemView *>()->model();
+    ASSERT_EQ(modell.rowCount(), 3);
+    EXPECT_EQ(modell.index(0, 0).data(), QStringLiteral("Jörg Öz"));
+    const auto ziehen = [&](const QMimeData &inhalt, QPoint ort) {
+        QDragEnterEvent herein(ort, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&fläche, &herein);
+        QDragMoveEvent darüber(ort, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
+        if (herein.isAccepted()) QApplication::sendEvent(&fläche, &darüber);
+        if (!herein.isAccepted() || !darüber.isAccepted()) return;
+        QDropEvent fallen(ort, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&fläche, &fallen);
+    };
+    const std::unique_ptr<QMimeData> erste(modell.mimeData({modell.index(0, 0)}));
+    ziehen(*erste, {69, 3}); // beside the page
+    QMimeData fremdes;
+    fremdes.setText(QStringLiteral("0"));
+    ziehen(fremdes, {400, 300});
+    EXPECT_EQ(innen.dokument.cboPersonen.Anzahl(), 0);
+    ziehen(*erste, {400, 300});
+    ASSERT_EQ(innen.dokument.cboPersonen.Anzahl(), 1);
+    Zeigen();
+    EXPECT_TRUE(Fleck(Bild(), Symbolfarbe).contains(395, 300));
+    EXPECT_TRUE(innen.dokument.cboPersonen.Satz(0).ends_with("_0_$_0_0_Jörg_Öz___"));
 }
 
 class Weg : public Bedienung {
@@ -337,265 +263,6 @@ TEST_F(Weg, WasPasstStehtInDerMitte) {
             EXPECT_NEAR(weiß.left() - links, rechts - 1 - weiß.right(), 2) << größe.width() << palette;
         }
     }
-}
-
-class Palettentest : public Bedienung {
-  protected:
-    Palettentest() : palette(&fläche, haupt, [this](std::string_view name) { haupt.BefehlAusführen(name); }) {
-        fläche.show();
-        fläche.activateWindow();
-        QApplication::processEvents();
-        palette.Auffrischen();
-    }
-    QList<Palettenknopf *> Knöpfe() {
-        QList<Palettenknopf *> knöpfe;
-        for (QObject *kind : palette.children())
-            if (auto *knopf = dynamic_cast<Palettenknopf *>(kind)) knöpfe += knopf;
-        return knöpfe;
-    }
-    void Taste(int taste) {
-        for (const auto art : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent ereignis(art, taste, Qt::NoModifier);
-            QApplication::sendEvent(QApplication::focusWidget(), &ereignis);
-        }
-    }
-
-    Werkzeugpalette palette;
-};
-
-TEST_F(Palettentest, JederKnopfHatNamenUndLiegtInReichweite) {
-    const auto knöpfe = Knöpfe();
-    ASSERT_EQ(knöpfe.size(), 21);
-    std::set<QString> namen;
-    for (int höhe : {400, 900}) { // the lowest window, and one with room
-        fläche.resize(1000, höhe);
-        palette.Auffrischen();
-        for (const Palettenknopf *knopf : knöpfe) {
-            EXPECT_FALSE(knopf->accessibleName().isEmpty());
-            EXPECT_FALSE(knopf->focusPolicy() & Qt::ClickFocus); // a mouse press leaves the focus on the canvas
-            namen.insert(knopf->accessibleName());
-            EXPECT_TRUE(palette.rect().contains(knopf->geometry())) << höhe << knopf->accessibleName().toStdString();
-        }
-    }
-    EXPECT_EQ(namen.size(), 21U);
-
-    // By keyboard: Tab from the canvas, then the arrows.
-    fläche.setFocus();
-    Taste(Qt::Key_Tab);
-    std::set<QWidget *> erreicht;
-    for (int i = 0; i < 21; ++i) {
-        erreicht.insert(QApplication::focusWidget());
-        Taste(Qt::Key_Right);
-    }
-    for (Palettenknopf *knopf : knöpfe)
-        EXPECT_EQ(erreicht.contains(knopf), knopf->isEnabled()) << knopf->accessibleName().toStdString();
-}
-
-TEST_F(Palettentest, TasteUndMausDrücken) {
-    fläche.setFocus();
-    Taste(Qt::Key_Tab);
-    for (const int taste : {Qt::Key_Right, Qt::Key_Return}) Taste(taste); // the second tool: female
-    palette.Auffrischen();
-    EXPECT_EQ(innen.lage.Aktion, Aktion::PersonSetzen);
-    EXPECT_EQ(innen.lage.SymbolTyp, TypWeiblich);
-    EXPECT_TRUE(Knöpfe()[1]->isChecked());
-    EXPECT_FALSE(Knöpfe()[0]->isChecked());
-    Palettenknopf *männlich = Knöpfe()[0];
-    for (const auto art : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-        QMouseEvent ereignis(art, QPointF(5, 5), männlich->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
-                             art == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
-        QApplication::sendEvent(männlich, &ereignis);
-    }
-    EXPECT_EQ(innen.lage.SymbolTyp, TypMännlich);
-
-    fläche.setFocus();
-    innen.bereich.WerkzeugleisteVerbergen();
-    palette.Auffrischen();
-    Taste(Qt::Key_Tab);
-    EXPECT_EQ(QApplication::focusWidget(), &fläche); // the hidden palette is no stop
-}
-
-/// The pointer, or the focus of the keyboard, on a tool: its name stands below, and beside it when it rests there.
-TEST_F(Palettentest, BerührterKnopfWirdGenannt) {
-    const auto berühren = [&](int stelle, QEvent::Type art) {
-        QEnterEvent hinein({}, {}, {});
-        QEvent hinaus(QEvent::Leave);
-        QApplication::sendEvent(Knöpfe()[stelle], art == QEvent::Enter ? &hinein : &hinaus);
-    };
-    const auto hinweise = [&] {
-        haupt.ZeitgeberAbgelaufen("tmrToolTipp");
-        palette.Auffrischen();
-        QStringList sichtbar;
-        for (const auto *feld : fläche.findChildren<QLabel *>(QString(), Qt::FindDirectChildrenOnly))
-            if (feld->isVisible() && feld->x() >= palette.width()) sichtbar += feld->text();
-        return sichtbar;
-    };
-    fläche.setFocus();
-    EXPECT_TRUE(hinweise().isEmpty());
-    berühren(4, QEvent::Enter); // the fifth button isn't the fifth tool
-    EXPECT_EQ(innen.bedienung[Name::lblTool].Caption, "Transgender - Female To Male");
-    EXPECT_EQ(hinweise(), QStringList(QStringLiteral("Transgender - Female To Male")));
-    berühren(4, QEvent::Leave);
-    EXPECT_EQ(innen.bedienung[Name::lblTool].Caption, "");
-    EXPECT_TRUE(hinweise().isEmpty());
-    Taste(Qt::Key_Tab);
-    EXPECT_EQ(innen.bedienung[Name::lblTool].Caption, "Male");
-    Bewegen({400, 300});
-    EXPECT_EQ(innen.bedienung[Name::lblTool].Caption, "");
-}
-
-TEST_F(Bedienung, ImportzeileFälltNurAufDieSeite) {
-    for (const char *zeile : {"1;Jörg;Öz;M;;N;N;N;J", "2;Eva;;W;1.2.1980;J", "3;Kim;Ude;X"})
-        innen.import.Listenzeilen.push_back(ImportpersonAus(zeile));
-    Zeigen();
-    Importliste liste(haupt.DerAnblick(), [](int) {});
-    QAbstractItemModel &modell = *liste.findChild<QAbstractItemView *>()->model();
-    ASSERT_EQ(modell.rowCount(), 3);
-    EXPECT_EQ(modell.index(0, 0).data(), QStringLiteral("Jörg Öz"));
-    const auto ziehen = [&](const QMimeData &inhalt, QPoint ort) {
-        QDragEnterEvent herein(ort, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&fläche, &herein);
-        QDragMoveEvent darüber(ort, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
-        if (herein.isAccepted()) QApplication::sendEvent(&fläche, &darüber);
-        if (!herein.isAccepted() || !darüber.isAccepted()) return;
-        QDropEvent fallen(ort, Qt::CopyAction, &inhalt, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&fläche, &fallen);
-    };
-    const std::unique_ptr<QMimeData> erste(modell.mimeData({modell.index(0, 0)}));
-    ziehen(*erste, {69, 3}); // beside the page
-    QMimeData fremdes;
-    fremdes.setText(QStringLiteral("0"));
-    ziehen(fremdes, {400, 300});
-    EXPECT_EQ(innen.dokument.cboPersonen.Anzahl(), 0);
-    ziehen(*erste, {400, 300});
-    ASSERT_EQ(innen.dokument.cboPersonen.Anzahl(), 1);
-    Zeigen();
-    EXPECT_TRUE(Fleck(Bild(), Symbolfarbe).contains(395, 300));
-    EXPECT_TRUE(innen.dokument.cboPersonen.Satz(0).ends_with("_0_$_0_0_Jörg_Öz___"));
-}
-
-/// A resolution in the file would print the page at a size that nobody has chosen.
-TEST_F(Bedienung, BildIstDieLeinwandOhneAuflösung) {
-    PersonSetzen({400, 300});
-    QtBilder kamera(leinwand);
-    kamera.InZwischenablage({30, 45, 6000, 3000}); // twips
-    EXPECT_EQ(QGuiApplication::clipboard()->image().convertToFormat(leinwand.Bild().format()),
-              leinwand.Bild().copy(2, 3, 400, 200));
-    const QTemporaryDir ordner;
-    const QString datei = ordner.filePath(QStringLiteral("bild"));
-    const auto bytes = [&](int stelle, int anzahl) {
-        QFile f(datei);
-        EXPECT_TRUE(f.open(QIODevice::ReadOnly));
-        return f.readAll().mid(stelle, anzahl).toHex();
-    };
-    ASSERT_EQ(kamera.SavePicture(datei.toStdString(), std::nullopt), Ursache::Keine);
-    EXPECT_EQ(bytes(38, 8), QByteArray(16, '0'));
-    ASSERT_EQ(kamera.AlsJpeg(datei.toStdString(), 100), Ursache::Keine);
-    EXPECT_EQ(bytes(6, 12), "4a4649460001010000010001"); // JFIF 1.1, no unit
-    EXPECT_EQ(QImage(datei).size(), leinwand.Bild().size());
-}
-
-/// Whatever is selected and however it is zoomed: to the byte what an export without a window writes.
-TEST_F(Bedienung, PngUndSvgGleichenDenenDerBefehlszeile) {
-    const std::string projekt = KW_TESTDATEN "/../samples/familie.kwp";
-    const QTemporaryDir ordner;
-    QtBilder kamera(leinwand);
-    Bildexport bildexport(benutzer, kamera, innen.bereich, innen.ansicht,
-                          {[] {}, [this](Zeichenfläche &papier) { innen.AufPapier(papier); }});
-    ASSERT_TRUE(innen.projekt.Öffnen(projekt));
-    ASSERT_TRUE(haupt.BefehlAusführen("mnuFarbig"));
-    ASSERT_TRUE(haupt.BefehlAusführen("mnuRasterAnzeigen"));
-    PersonAuswählen(innen, 0);
-    Einzelbild allein(uhr, "");
-    ASSERT_EQ(allein.Laden(projekt), "");
-    for (const char *endung : {"png", "SVG"}) {
-        const std::string hier = ordner.filePath(QStringLiteral("hier.")).toStdString() + endung;
-        const std::string dort = ordner.filePath(QStringLiteral("dort.")).toStdString() + endung;
-        benutzer.Antworten.push_back({DrehbuchBenutzer::Vorbereitet::Art::Datei, false, Antwort::Ok, hier});
-        bildexport.SeiteExportieren(projekt);
-        EXPECT_EQ(Exportieren(allein, dort, ÜblicheDpi, "familie"), "");
-        std::string einer, anderer;
-        EXPECT_TRUE(DateiLesen(hier, einer).Gelungen() && DateiLesen(dort, anderer).Gelungen());
-        EXPECT_TRUE(einer == anderer) << endung;
-    }
-}
-
-#ifndef __SANITIZE_ADDRESS__ // it would end the program itself
-/// The page that is too large isn't drawn, and nothing is written; with the next one all is as before.
-TEST_F(Bedienung, OhneSpeicherGehtNurDasGroßeBildNicht) {
-    const QTemporaryDir ordner;
-    QtBilder kamera(leinwand);
-    rlimit vorher{};
-    ::getrlimit(RLIMIT_AS, &vorher);
-    std::ifstream belegt("/proc/self/statm");
-    rlim_t seiten = 0;
-    belegt >> seiten;
-    const rlimit knapp{seiten * static_cast<rlim_t>(::getpagesize()) + (rlim_t{24} << 20), vorher.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_AS, &knapp), 0);
-    innen.bereich.ZoomWählen(Zoom250);
-    EXPECT_TRUE(leinwand.Bild().isNull());
-    EXPECT_THROW(kamera.AlsJpeg(ordner.filePath(QStringLiteral("a.jpg")).toStdString(), 100), std::bad_alloc);
-    EXPECT_THROW(kamera.InZwischenablage({0, 0, 6000, 3000}), std::bad_alloc);
-    ::setrlimit(RLIMIT_AS, &vorher);
-    EXPECT_TRUE(QDir(ordner.path()).isEmpty());
-    innen.bereich.ZoomWählen(Zoom100);
-    EXPECT_FALSE(leinwand.Bild().isNull());
-}
-#endif
-
-TEST_F(Bedienung, MenüsZeigenNurWasGeht) {
-    QMenuBar leiste;
-    Menüs menüs(haupt, [this](std::string_view name) { haupt.BefehlAusführen(name); });
-    menüs.Bauen(leiste);
-    QList<QAction *> offen = leiste.actions();
-    QAction *löschen = nullptr;
-    while (!offen.isEmpty()) {
-        QAction *aktion = offen.takeFirst();
-        if (aktion->menu()) offen += aktion->menu()->actions();
-        if (aktion->shortcut() == QKeySequence(Qt::Key_Delete)) löschen = aktion;
-    }
-    ASSERT_TRUE(löschen);
-    PersonSetzen({400, 300});
-    menüs.Auffrischen();
-    EXPECT_EQ(löschen->text(), QStringLiteral("&Delete")); // the key stands beside it already
-    EXPECT_FALSE(löschen->isEnabled());
-    Klicken({400, 300});
-    menüs.Auffrischen();
-    löschen->trigger();
-    EXPECT_EQ(innen.dokument.cboPersonen.Anzahl(), 0);
-}
-
-/// No row names a picture or does a command that isn't there.
-TEST_F(Bedienung, JedeZeileFindetBildUndBefehl) {
-    for (const Menüzeile &zeile : Menütafel()) {
-        const bool da = !Menübild(zeile.Name, uhr).isNull();
-        EXPECT_EQ(da, !Bildname(zeile.Name).empty() || zeile.Menü == Werkzeugband) << zeile.Name;
-        const bool blatt = !IstMenü(zeile) && zeile.Caption.Englisch != Trennstrich && zeile.Menü != Fensterteile;
-        EXPECT_EQ(static_cast<bool>(BefehlFinden(zeile.Name)), blatt || zeile.Name == "cmdRänder") << zeile.Name;
-    }
-}
-
-TEST_F(Bedienung, BandZeigtWasDasModellSagt) {
-    QMainWindow fenster;
-    auto *band =
-        new Symbolleiste(haupt.DerAnblick(), fläche, [this](std::string_view name) { haupt.BefehlAusführen(name); });
-    fenster.addToolBar(band);
-    fenster.resize(1900, 700);
-    fenster.show();
-    QApplication::processEvents();
-    const auto knopf = [&](const char *name) -> Bandknopf * {
-        band->Auffrischen();
-        for (auto *kind : band->findChildren<QToolButton *>())
-            if (kind->accessibleName().startsWith(QLatin1String(name))) return dynamic_cast<Bandknopf *>(kind);
-        return nullptr;
-    };
-    for (int mal = 0; mal < 2; ++mal) knopf("Portrait")->click();
-    EXPECT_TRUE(knopf("Portrait")->isChecked()); // as it was when it was clicked again
-    const int breite = knopf("Zoom:")->width();
-    knopf("Zoom:")->defaultAction()->menu()->actions().first()->trigger();
-    EXPECT_TRUE(knopf("Zoom:")->text().startsWith(QStringLiteral("80")));
-    QApplication::processEvents();
-    EXPECT_EQ(knopf("Zoom:")->width(), breite); // else its neighbours would move under the pointer
 }
 
 } // namespace

@@ -35,6 +35,11 @@ TEST(Aufruf, SagtWasVerlangtIst) {
         {{"--describe"}, Art::Falsch}, {{"--describe", "--language", "fr", "a.kwp"}, Art::Falsch},
         {{"--language", "de", "a.kwp"}, Art::Falsch}, {{"--describe", "--export", "o.png", "a.kwp"}, Art::Falsch},
         {{"--export", "o.png", "--describe", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.kwp", "--anonymous", "a.kwp"}, Art::Export}, {{"--export", "o.kwp", "a.kwp"}, Art::Falsch},
+        {{"--anonymous=years", "a.kwp", "--export", "o.svg"}, Art::Export}, {{"--anonymous", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.pdf", "--anonymous=", "a.kwp"}, Art::Falsch}, {{"--describe", "--anonymous", "a"}, Art::Falsch},
+        {{"--export", "o.pdf", "--anonymous", "--anonymous=ages", "a.kwp"}, Art::Falsch},
+        {{"--export", "o.pdf", "--anonymously", "a.kwp"}, Art::Falsch},
         {{"--thumbnail", "128", "-a b.kwp", "--o"}, Art::Vorschaubild}, {{"--thumbnail", "128", "a.kwp"}, Art::Falsch},
         {{"--thumbnail", "15", "a.kwp", "o"}, Art::Falsch}, {{"--thumbnail", "128", projekt, projekt}, Art::Falsch},
         {{"--thumbnail", "128", "a.kwp", ""}, Art::Falsch}, {{"a.kwp", "--thumbnail", "128", "o"}, Art::Falsch}};
@@ -44,6 +49,11 @@ TEST(Aufruf, SagtWasVerlangtIst) {
         EXPECT_EQ(a.Was, art) << testing::PrintToString(worte) << " " << a.Fehler;
         EXPECT_EQ(a.Fehler.empty(), art != Art::Falsch);
     }
+    const auto zeit = [](const char *wort) { return AufrufLesen({"--export", "o.pdf", wort, "a.kwp"}).OhneNamen; };
+    EXPECT_EQ(zeit("--"), std::nullopt);
+    EXPECT_EQ(zeit("--anonymous"), Lebenszeit::Alter);
+    EXPECT_EQ(zeit("--anonymous=ages"), Lebenszeit::Alter);
+    EXPECT_EQ(zeit("--anonymous=years"), Lebenszeit::Geburtsjahr);
     EXPECT_EQ(AufrufLesen({"\\dataimport", "Fall", "Müller"}).Import, "\\dataimport Fall Müller");
 }
 

@@ -1,16 +1,10 @@
 // What a step of a drag repaints: as little as can be, and afterwards the screen shows what a whole repaint gives.
-#include "app/frmMain.h"
 #include "document/Dateien.h"
 #include "document/ProjektDatei.h"
 #include "document/saetze/Person.h"
 #include "editing/Werkzeuge.h"
-#include "qt/fenster/Arbeitsflaeche.h"
-#include "qt/malen/LeinwandFlaeche.h"
-#include "replay/Einblick.h"
-#include "replay/Plattform.h"
+#include "gui/Probeseite.h"
 
-#include <QApplication>
-#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QScreen>
 #include <QTimer>
@@ -18,21 +12,10 @@
 #include <gtest/gtest.h>
 
 #include <random>
-#include <sstream>
 
 using namespace kw;
 
 namespace {
-
-/// Counts the redraws.
-struct Zählleinwand : LeinwandFläche {
-    Zählleinwand() : LeinwandFläche(1) {}
-    void Cls() override {
-        ++Bilder;
-        LeinwandFläche::Cls();
-    }
-    int Bilder = 0;
-};
 
 /// Has the page shown anew where the window would.
 struct Fensterbenutzer : DrehbuchBenutzer {
@@ -43,18 +26,14 @@ struct Fensterbenutzer : DrehbuchBenutzer {
     Arbeitsflaeche *fläche = nullptr;
 };
 
-class Ziehbilder : public testing::Test {
+class Ziehbilder : public testing::Test, protected Probeseite<Fensterbenutzer> {
   protected:
-    Ziehbilder() {
-        fläche.resize(1000, 700);
-        fläche.Verbinden(haupt, [] {});
-        haupt.Laden();
+    Ziehbilder() : Probeseite({1000, 700}) {
         std::string inhalt;
         EXPECT_TRUE(DateiLesen(KW_TESTDATEN "/../samples/familie.kwp", inhalt).Gelungen());
         ProjektLesen(Profil(inhalt), innen.dokument);
         for (int i = 0; i < 3; ++i)
             innen.dokument.cboFreehandlines.Anhängen("3^3_" + std::to_string(9 + 5 * i) + "^4_12^15_4^12_3^3");
-        innen.bereich.GrößeÄndern(fläche.Innengröße().width(), fläche.Innengröße().height());
         innen.bereich.WerkzeugleisteZeigen();
         fläche.show();
         benutzer.fläche = &fläche;
@@ -69,11 +48,7 @@ class Ziehbilder : public testing::Test {
         haupt.ZeitgeberAbgelaufen(""); // an event has ended: what hangs on the document follows
         for (int i = 0; i < 3; ++i) QApplication::processEvents();
     }
-    void Maus(QEvent::Type art, QPoint ort, Qt::MouseButton taste, Qt::MouseButtons unten) {
-        QMouseEvent ereignis(art, ort, fläche.mapToGlobal(ort), taste, unten, Qt::NoModifier);
-        QApplication::sendEvent(&fläche, &ereignis);
-    }
-    QImage Schirm() { return fläche.screen()->grabWindow(fläche.winId()).toImage(); }
+    QImage Gezeigtes() { return fläche.screen()->grabWindow(fläche.winId()).toImage(); }
 
     /// One event of the pointer: what is on the screen then is all that should be. Gives how much was painted.
     qint64 Schritt(QEvent::Type art, QPoint ort, Qt::MouseButton taste, Qt::MouseButtons unten) {
@@ -82,9 +57,9 @@ class Ziehbilder : public testing::Test {
         for (int i = 0; i < 3; ++i) QApplication::processEvents(); // what one has changed the next shows
         QApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
         const qint64 gemalt = lauscher.Gemalt;
-        const QImage zuSehen = Schirm();
+        const QImage zuSehen = Gezeigtes();
         fläche.repaint();
-        EXPECT_TRUE(zuSehen == Schirm()) << "at " << ort.x() << ' ' << ort.y() << " after " << zug;
+        EXPECT_TRUE(zuSehen == Gezeigtes()) << "at " << ort.x() << ' ' << ort.y() << " after " << zug;
         return gemalt;
     }
     /// Painted pixels of a step that redrew nothing, by those of the widget; the steps that did are left out.
@@ -103,11 +78,7 @@ class Ziehbilder : public testing::Test {
     /// Where a person shows.
     QPoint PersonAufSchirm(int i) {
         const PersonSatz p(innen.dokument.cboPersonen.Satz(i));
-        const double k = innen.bereich.picVorschau().Width / 15.0 / innen.ansicht.SeitenBreite;
-        const auto &b = innen.bereich;
-        return {
-            static_cast<int>((b.picBack.Left + b.picVorschau().Left) / 15.0 + p.PosX() * k),
-            static_cast<int>((b.picBack.Top + b.picVorschau().Top - Arbeitsbereich::FrameOben) / 15.0 + p.PosY() * k)};
+        return Pixel(p.PosX(), p.PosY()).toPoint();
     }
     int Zahl(int von, int bis) { return std::uniform_int_distribution(von, bis)(zufall); }
     std::vector<QPoint> ZufälligerWeg() {
@@ -133,17 +104,6 @@ class Ziehbilder : public testing::Test {
     std::string zug; ///< what is done, for a failure's words
     int schritte = 0;
     double summe = 0;
-    std::ostringstream aus;
-    std::string wirkungen;
-    Fensterbenutzer benutzer{aus, wirkungen};
-    DrehbuchDrucker drucker{wirkungen};
-    DrehbuchUhr uhr;
-    Zählleinwand leinwand;
-    DrehbuchBilder dateien{leinwand, wirkungen};
-    frmMain haupt{
-        {benutzer, drucker, dateien, uhr}, leinwand, {"", "/nonexistent/prog.ini", "", "", 1920 * 15, 1080 * 15}};
-    Einblick innen{haupt};
-    Arbeitsflaeche fläche{leinwand};
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #!/bin/sh
 # Every sample is a file as the program writes it, and its PDF has every name on it as text, as its
-# description has.
+# description has. Exported without names it has none of them, and the project that comes of that is one as the program
+# writes it too.
 set -eu
 command -v pdftotext >/dev/null || exit 77
 samples=$KW_SRC/samples
@@ -30,5 +31,17 @@ for sample in "$samples"/*.kwp; do
         grep -qF -- "$wanted" "$folder/text" || fault "$wanted is not in the PDF's text"
         grep -qF -- "$wanted" "$folder/words" || fault "$wanted is not in the description"
     done <"$folder/names"
+
+    case=$folder/case.kwp
+    rm -f "$case"
+    for out in "$case" "$pdf"; do "$KW_KINWRIGHT" --export "$out" --anonymous "$sample" || fault "no export without names"; done
+    printf 'load "%s"\nsave "%s"\n' "$case" "$copy" | "$KW_REPLAY" && cmp "$case" "$copy" || fault "load and save changes it without names"
+    { pdftotext -layout "$pdf" - && pdfinfo "$pdf" && iconv -f WINDOWS-1252 -t UTF-8 "$case"; } >"$folder/text"
+    grep -q 'A1' "$folder/text" || fault "nobody is there without names"
+    grep '...' "$folder/names" | grep -F -f - "$folder/text" && fault "it has names without names"
 done
+ln -s "$samples/familie.kwp" "$folder/link.kwp"
+code=0
+"$KW_KINWRIGHT" --export "$folder/link.kwp" --anonymous "$samples/familie.kwp" 2>"$folder/told" || code=$?
+[ $code = 2 ] && grep -q 'would replace the project' "$folder/told" || { echo "a link to the project is written: $(cat "$folder/told")"; failed=1; }
 exit $failed

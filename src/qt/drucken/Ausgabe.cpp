@@ -46,6 +46,13 @@ std::string Drucken(const Auftrag &a, QPaintDevice &gerät, double geräteJeCm) 
     return SeiteDrucken(a.seite, gerät, geräteJeCm) ? "" : "cannot draw the page";
 }
 
+/// Blanks in the place of the time that the toolkit writes: nothing behind it may move, since the file counts bytes.
+void ZeitTilgen(QByteArray &pdf) {
+    const qsizetype anfang = pdf.indexOf("/CreationDate (");
+    const qsizetype ende = anfang < 0 ? -1 : pdf.indexOf(')', anfang);
+    if (ende >= 0) pdf.replace(anfang, ende + 1 - anfang, QByteArray(ende + 1 - anfang, ' '));
+}
+
 std::string AlsPdf(Auftrag &a) {
     QBuffer puffer(&a.inhalt);
     puffer.open(QIODevice::WriteOnly);
@@ -55,7 +62,9 @@ std::string AlsPdf(Auftrag &a) {
     pdf.setResolution(VektorDpi);
     const QPageSize papier(a.Millimeter(), QPageSize::Millimeter, QString(), QPageSize::ExactMatch);
     pdf.setPageLayout(QPageLayout(papier, QPageLayout::Portrait, QMarginsF()));
-    return Drucken(a, pdf, VektorDpi / CmJeZoll);
+    const std::string fehler = Drucken(a, pdf, VektorDpi / CmJeZoll);
+    if (a.seite.OhneZeit) ZeitTilgen(a.inhalt);
+    return fehler;
 }
 
 std::string AlsSvg(Auftrag &a) {
@@ -152,7 +161,8 @@ Druckauftrag GanzeSeite(Einzelbild &bild, const std::string &titel) {
                        bild.ansicht.SeitenBreite,
                        bild.ansicht.SeitenHöhe,
                        [&bild](Zeichenfläche &papier) { bild.AufPapier(papier); },
-                       {}};
+                       {},
+                       bild.IstOhneNamen()};
     if (HatUngemesseneTextboxen(bild.dokument)) {
         QImage probe(1, 1, QImage::Format_RGB32);
         SeiteDrucken(seite, probe, 1);

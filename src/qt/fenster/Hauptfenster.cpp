@@ -95,7 +95,7 @@ std::string GezogenesProjekt(const QMimeData &inhalt) {
     for (const QByteArray &zeile : inhalt.data(QStringLiteral("text/uri-list")).split('\n')) {
         std::string datei = LokalerPfad(zeile.trimmed());
         const bool istName = !datei.empty() && datei.find('\0') == std::string::npos;
-        if (istName && (MitKennung(datei, "kwp", false) == datei || Stammbaumimport::IstStammbaum(datei))) return datei;
+        if (istName && (IstProjektname(datei) || Stammbaumimport::IstStammbaum(datei))) return datei;
     }
     return {};
 }

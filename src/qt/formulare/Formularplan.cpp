@@ -291,6 +291,18 @@ constexpr Baustein Stammbaumbericht[] = {
     Feld("lstBericht").Mindestens(90, 18).Gedehnt(),
 };
 
+constexpr Baustein OhneNamen[] = {
+    Feld("lblErklärung").AlsAbsatz(60),
+    Reihe(Abstand),
+    Feld("lblGeburt"),
+    Feld("optAlter"),
+    Feld("optJahr"),
+    Rest,
+    Ende,
+    Feld("lblFehlt").AlsAbsatz(60),
+    Feld("picSeite").InDerMitte(),
+};
+
 constexpr Formularplan Pläne[] = {
     {"frmSymbol", Person, false, "picBack"},
     {"frmSymbol", Institution, false, "picBack2"},
@@ -307,6 +319,7 @@ constexpr Formularplan Pläne[] = {
     {"frmFassungen", Fassungen, true},
     {"frmStammbaum", Stammbaum, true},
     {"frmStammbaumbericht", Stammbaumbericht, true},
+    {"frmOhneNamen", OhneNamen},
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "qt/start/Aufruf.h"
 
 #include "app/Datenimport.h"
+#include "document/Dateinamen.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/drucken/Vorschaubild.h"
 
@@ -12,6 +13,8 @@
 namespace kw {
 
 namespace {
+
+constexpr std::string_view Anonym = "--anonymous";
 
 Aufruf Falsch(const std::string &fehler) {
     Aufruf a;
@@ -48,14 +51,32 @@ bool SpracheLesen(const std::string &text, std::optional<Sprache> &sprache) {
     return sprache && Kürzel(*sprache) == text;
 }
 
+/// "--anonymous" alone asks for ages.
+bool OhneNamenLesen(std::string_view wort, std::optional<Lebenszeit> &zeit) {
+    const auto wert = wort.substr(wort.find('=') + 1);
+    if (wort == Anonym || wert == "ages") zeit = Lebenszeit::Alter;
+    else if (wert == "years") zeit = Lebenszeit::Geburtsjahr;
+    else return false;
+    return true;
+}
+
+/// What an export can write, beside pictures and documents of the page.
+std::string Zielfehler(const Aufruf &a) {
+    if (IstAusgabeformat(a.Ziel)) return {};
+    if (IstProjektname(a.Ziel)) return a.OhneNamen ? "" : "a project is exported with --anonymous only";
+    return "cannot export to " + a.Ziel + ": its name must end in .pdf, .svg, .png, .jpg or .bmp" +
+           (a.OhneNamen ? ", or .kwp" : "");
+}
+
 /// Every call that is understood is checked as a whole at its end.
 Aufruf Geprüft(Aufruf a, bool mitDpi) {
     std::error_code fehler; // a file that isn't there yet is no other
     if (a.Was == Aufruf::Art::Export) {
         if (std::filesystem::equivalent(a.Datei, a.Ziel, fehler)) return Falsch("the export would replace the project");
         if (a.Datei.empty()) return Falsch("--export needs a project file");
-        if (!IstAusgabeformat(a.Ziel))
-            return Falsch("cannot export to " + a.Ziel + ": its name must end in .pdf, .svg, .png, .jpg or .bmp");
+        if (const auto grund = Zielfehler(a); !grund.empty()) return Falsch(grund);
+    } else if (a.OhneNamen) {
+        return Falsch("--anonymous goes with --export");
     } else if (mitDpi) {
         return Falsch("--dpi goes with --export");
     }
@@ -108,6 +129,9 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
                 return Falsch("--dpi needs one whole number from " + std::to_string(KleinsteDpi) + " to " +
                               std::to_string(GrößteDpi));
             mitDpi = true;
+        } else if (wort == Anonym || wort.starts_with(std::string(Anonym) + "=")) {
+            if (a.OhneNamen || !OhneNamenLesen(wort, a.OhneNamen))
+                return Falsch("--anonymous stands once, alone or with =ages or =years");
         } else if (wort == "--thumbnail") {
             return Falsch("--thumbnail goes with no other option");
         } else {
@@ -119,7 +143,7 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
 
 const char *Hilfetext() {
     return "Usage: kinwright [FILE]\n"
-           "       kinwright --export OUT [--dpi N] FILE\n"
+           "       kinwright --export OUT [--dpi N] [--anonymous[=ages|years]] FILE\n"
            "       kinwright --describe [--language de|en] FILE\n"
            "       kinwright --familytree TREE [--person WHO] [--up N] [--down N] [--small] [--language de|en] OUT\n"
            "       kinwright --familytree TREE --all [--person WHO] [--small] [--language de|en] OUT\n"
@@ -132,6 +156,8 @@ const char *Hilfetext() {
            "  --export OUT  write the page of FILE to OUT and end; the ending of OUT says as what:\n"
            "                .pdf, .svg, .png, .jpg or .bmp. Needs no display.\n"
            "  --dpi N       dots per inch of a picture, 300 if not given\n"
+           "  --anonymous   leave out whose family it is: letters and numbers for names; ages, or years of birth with\n"
+           "                =years, for dates; no texts, institutions, title. Then OUT can also be a project, .kwp.\n"
            "  --describe    print what the page of FILE shows in plain sentences and end. Needs no display.\n"
            "  --language L  de or en, what it is described or reported in; if not given, as the program's settings "
            "say\n"

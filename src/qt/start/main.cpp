@@ -1,7 +1,9 @@
 #include "app/Einzelbild.h"
 #include "app/Programmversion.h"
 #include "document/Dateien.h"
+#include "document/ProjektDatei.h"
 #include "document/Texte.h"
+#include "output/Zieldatei.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/drucken/Vorschaubild.h"
 #include "qt/fenster/Hauptfenster.h"
@@ -58,8 +60,11 @@ int Exportieren(const Aufruf &aufruf, int &argc, char **argv) {
     Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
     const std::string schaden = bild.Laden(aufruf.Datei);
     if (!bild.IstGelesen()) return Melden(aufruf.Datei + ": " + schaden, 1);
-    const std::string titel = NameOhneKennung(DateiName(aufruf.Datei));
-    const std::string fehler = kw::Exportieren(bild, aufruf.Ziel, aufruf.Dpi, titel);
+    if (aufruf.OhneNamen) bild.OhneNamen(*aufruf.OhneNamen);
+    const std::string titel = aufruf.OhneNamen ? Drucktitel({}) : NameOhneKennung(DateiName(aufruf.Datei));
+    const std::string fehler = IstProjektname(aufruf.Ziel)
+                                   ? DateiSchreiben(aufruf.Ziel, ProjektInhalt(bild.dokument)).Meldung
+                                   : kw::Exportieren(bild, aufruf.Ziel, aufruf.Dpi, titel);
     if (!fehler.empty()) return Melden(aufruf.Ziel + ": " + fehler, 1);
     return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
 }
