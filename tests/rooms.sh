@@ -14,7 +14,7 @@ below() {
     arrangement) echo layout document rendering editing familytree ;;
     familytree) echo document ;;
     anonymity) echo document layout rendering ;;
-    dialogs) echo document rendering editing familytree anonymity arrangement ;;
+    dialogs) echo document rendering editing familytree arrangement anonymity ;;
     output) echo document rendering editing anonymity ;;
     description | commands | keyboard) echo document rendering editing ;;
     app) echo document rendering editing arrangement familytree anonymity dialogs description output commands keyboard ;;

@@ -47,9 +47,9 @@ constexpr Bauplan Baupläne[] = {
     {Name::frmSeiteEinrichten, Bauen<frmSeiteEinrichten>},
     {Name::frmEinstellungen, Bauen<frmEinstellungen>},
     {Name::frmFassungen, Bauen<frmFassungen>},
+    {Name::frmOhneNamen, Bauen<frmOhneNamen>},
     {Name::frmStammbaum, Bauen<frmStammbaum>},
     {Name::frmStammbaumbericht, Bauen<frmStammbaumbericht>},
-    {Name::frmOhneNamen, Bauen<frmOhneNamen>},
     {Name::frmInfo,
      [](Dialogumgebung &u) -> std::unique_ptr<Formular> { return std::make_unique<frmInfo>(u, Programmversion); }},
 };

@@ -282,6 +282,11 @@ bool frmMain::FassungÖffnen(const std::string &name) {
     return true;
 }
 
+bool frmMain::OhneNamenExportieren(Lebenszeit zeit) {
+    const Ausgabewege wege{plattform.benutzer, plattform.bilder, plattform.uhr};
+    return OhneNamenAusgeben(wege, dokument, ansicht, zeit, projekt.Projektdatei);
+}
+
 bool frmMain::NeuesProjekt(const Dokument &seite) {
     if (!projekt.NeuMit(seite)) return false;
     Festhalten();
@@ -293,11 +298,6 @@ void frmMain::TextSpeichern(const std::string &titel, const std::string &text) {
 }
 
 void frmMain::TextDrucken(const std::string &titel, const std::string &text) { druck.TextDrucken(titel, text); }
-
-bool frmMain::OhneNamenExportieren(Lebenszeit zeit) {
-    const Ausgabewege wege{plattform.benutzer, plattform.bilder, plattform.uhr};
-    return OhneNamenAusgeben(wege, dokument, ansicht, zeit, projekt.Projektdatei);
-}
 
 void frmMain::mnuBearbeiten_Öffnen() {
     lage.Angebot.Ausschneiden = lage.Angebot.Kopieren = auswahl.HatKopierbares();

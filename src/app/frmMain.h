@@ -143,10 +143,10 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void SeiteAnwenden() override;
     bool GenogrammDrucken() override;
     bool FassungÖffnen(const std::string &name) override;
+    bool OhneNamenExportieren(Lebenszeit zeit) override;
     bool NeuesProjekt(const Dokument &seite) override;
     void TextSpeichern(const std::string &titel, const std::string &text) override;
     void TextDrucken(const std::string &titel, const std::string &text) override;
-    bool OhneNamenExportieren(Lebenszeit zeit) override;
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
 
     bool IstFrei(std::string_view name) const;

@@ -28,6 +28,8 @@ class Dialogdienste {
     virtual bool GenogrammDrucken() = 0;
     /// Opens that version of the safety net, behind the question about unsaved changes. False when it didn't come.
     virtual bool FassungÖffnen(const std::string &name) = 0;
+    /// Asks for a file and exports page or project without names. False when nothing was written, which was told.
+    virtual bool OhneNamenExportieren(Lebenszeit zeit) = 0;
     /// Makes that page a new project, which isn't saved yet, behind the question about unsaved changes; one step back
     /// leads to an empty page. False, and nothing changed, when the question is cancelled.
     virtual bool NeuesProjekt(const Dokument &seite) = 0;
@@ -35,8 +37,6 @@ class Dialogdienste {
     /// told.
     virtual void TextSpeichern(const std::string &titel, const std::string &text) = 0;
     virtual void TextDrucken(const std::string &titel, const std::string &text) = 0;
-    /// Asks for a file and exports page or project without names. False when nothing was written, which was told.
-    virtual bool OhneNamenExportieren(Lebenszeit zeit) = 0;
 };
 
 /// All that the forms work on.

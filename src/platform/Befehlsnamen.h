@@ -235,9 +235,9 @@ inline constexpr Formularname frmSeiteEinrichten{"frmSeiteEinrichten"};
 inline constexpr Formularname frmEinstellungen{"frmEinstellungen"};
 inline constexpr Formularname frmInfo{"frmInfo"};
 inline constexpr Formularname frmFassungen{"frmFassungen"};
+inline constexpr Formularname frmOhneNamen{"frmOhneNamen"};
 inline constexpr Formularname frmStammbaum{"frmStammbaum"};
 inline constexpr Formularname frmStammbaumbericht{"frmStammbaumbericht"};
-inline constexpr Formularname frmOhneNamen{"frmOhneNamen"};
 
 } // namespace Name
 

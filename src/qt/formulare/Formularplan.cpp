@@ -233,6 +233,18 @@ constexpr Baustein Fassungen[] = {
     Feld("lblOrt").AlsAbsatz(60),
 };
 
+constexpr Baustein OhneNamen[] = {
+    Feld("lblErklärung").AlsAbsatz(60),
+    Reihe(Abstand),
+    Feld("lblGeburt"),
+    Feld("optAlter"),
+    Feld("optJahr"),
+    Rest,
+    Ende,
+    Feld("lblFehlt").AlsAbsatz(60),
+    Feld("picSeite").InDerMitte(),
+};
+
 // Whom to take on the left, what comes of it on the right.
 constexpr Baustein Stammbaum[] = {
     Reihe(Abstand),
@@ -291,18 +303,6 @@ constexpr Baustein Stammbaumbericht[] = {
     Feld("lstBericht").Mindestens(90, 18).Gedehnt(),
 };
 
-constexpr Baustein OhneNamen[] = {
-    Feld("lblErklärung").AlsAbsatz(60),
-    Reihe(Abstand),
-    Feld("lblGeburt"),
-    Feld("optAlter"),
-    Feld("optJahr"),
-    Rest,
-    Ende,
-    Feld("lblFehlt").AlsAbsatz(60),
-    Feld("picSeite").InDerMitte(),
-};
-
 constexpr Formularplan Pläne[] = {
     {"frmSymbol", Person, false, "picBack"},
     {"frmSymbol", Institution, false, "picBack2"},
@@ -317,9 +317,9 @@ constexpr Formularplan Pläne[] = {
     {"frmEinstellungen", Spracheinstellung},
     {"frmInfo", Info},
     {"frmFassungen", Fassungen, true},
+    {"frmOhneNamen", OhneNamen},
     {"frmStammbaum", Stammbaum, true},
     {"frmStammbaumbericht", Stammbaumbericht, true},
-    {"frmOhneNamen", OhneNamen},
 };
 
 } // namespace
