@@ -118,14 +118,16 @@ class Aufnahme {
         if (!bild.save(datei, "png", 0)) Aufgeben(datei);
     }
 
-    /// The form that a deed opens, however much later, when what is to be chosen in it was.
-    void Form(const char *name, const std::function<void()> &tat, const char *knopf = nullptr) const {
+    /// The form that a deed opens, however much later, when what is to be chosen in it was; so many that come before it
+    /// are confirmed.
+    void Form(const char *name, const std::function<void()> &tat, const char *knopf = nullptr, int vorher = 0) const {
         QTimer uhr;
         int ticks = 0;
         QObject::connect(&uhr, &QTimer::timeout, &uhr, [&] {
             QWidget *form = QApplication::activeModalWidget();
             if (++ticks > 20) Aufgeben(QStringLiteral("no form for ") + QLatin1String(name));
             if (!form) return;
+            if (vorher-- > 0) return QTest::keyClick(form, Qt::Key_Return);
             uhr.stop();
             if (knopf) form->findChild<QAbstractButton *>(QLatin1String(knopf))->click();
             QApplication::processEvents();
@@ -179,6 +181,10 @@ int main(int argc, char **argv) {
         aufnahme.Sichern(leer.grab(), "anfang");
     }
     FamilieAufnehmen(aufnahme, wort(2).toStdString());
+    for (const auto &[name, vorher] : {std::pair("stammbaum", 0), std::pair("stammbaum-bericht", 1)}) {
+        Hauptfenster stammbaum("stammbaum.ged");
+        aufnahme.Form(name, [&] { Zeigen(stammbaum, {960, 480}); }, nullptr, vorher);
+    }
     Hauptfenster fall("/dataimport fall");
     Zeigen(fall, {960, 480});
     aufnahme.Sichern(fall.grab(), "import");
