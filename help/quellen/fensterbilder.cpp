@@ -118,21 +118,25 @@ class Aufnahme {
         if (!bild.save(datei, "png", 0)) Aufgeben(datei);
     }
 
-    /// The form that a deed opens, however much later, when what is to be chosen in it was; so many that come before it
-    /// are confirmed.
-    void Form(const char *name, const std::function<void()> &tat, const char *knopf = nullptr, int vorher = 0) const {
+    /// The form that a deed opens, however much later, when what is to be chosen in it was; or the one that opens
+    /// from that by a button.
+    void Form(const char *name, const std::function<void()> &tat, const char *knopf = nullptr,
+              const char *dahin = nullptr) const {
         QTimer uhr;
         int ticks = 0;
         QObject::connect(&uhr, &QTimer::timeout, &uhr, [&] {
             QWidget *form = QApplication::activeModalWidget();
             if (++ticks > 20) Aufgeben(QStringLiteral("no form for ") + QLatin1String(name));
             if (!form) return;
-            if (vorher-- > 0) return QTest::keyClick(form, Qt::Key_Return);
+            if (dahin) { // not from here: no tick comes before this one is over
+                auto *weiter = form->findChild<QAbstractButton *>(QLatin1String(std::exchange(dahin, nullptr)));
+                return QTimer::singleShot(0, weiter, &QAbstractButton::click);
+            }
             uhr.stop();
             if (knopf) form->findChild<QAbstractButton *>(QLatin1String(knopf))->click();
             QApplication::processEvents();
             Sichern(form->grab(), name);
-            QTest::keyClick(form, Qt::Key_Escape);
+            for (; form; form = QApplication::activeModalWidget()) QTest::keyClick(form, Qt::Key_Escape);
         });
         uhr.start(Ruhe);
         tat();
@@ -181,9 +185,15 @@ int main(int argc, char **argv) {
         aufnahme.Sichern(leer.grab(), "anfang");
     }
     FamilieAufnehmen(aufnahme, wort(2).toStdString());
-    for (const auto &[name, vorher] : {std::pair("stammbaum", 0), std::pair("stammbaum-bericht", 1)}) {
+    for (const auto &[name, knopf] :
+         {std::pair<const char *, const char *>("stammbaum", nullptr), {"stammbaum-bericht", "cmdBericht"}}) {
         Hauptfenster stammbaum("stammbaum.ged");
-        aufnahme.Form(name, [&] { Zeigen(stammbaum, {960, 480}); }, nullptr, vorher);
+        aufnahme.Form(
+            name,
+            [&] {
+                Zeigen(stammbaum, {960, 480});
+            },
+            nullptr, knopf);
     }
     Hauptfenster fall("/dataimport fall");
     Zeigen(fall, {960, 480});
