@@ -40,13 +40,14 @@ void PlatzFehlt(Werkbank &w, const Ordner::Platzbedarf &bedarf) {
                        Knöpfe::Ok, Zeichen::Information});
 }
 
-/// With the symbols as they are, as drawn by hand or closer; else with smaller ones, if the user agrees. Nothing when
-/// it can't be, which was told.
+/// As it is drawn, but for what has to change; else anew with the symbols as they are, as drawn by hand or closer; else
+/// with smaller ones, if the user agrees. Nothing when it can't be, which was told.
 std::optional<Umzug> Suchen(Werkbank &w, Ordner &ordner) {
     const double größe = ordner.GrößtesSymbol();
-    for (const bool eng : {false, true})
-        if (auto umzug = ordner.Versuchen(größe, eng)) return umzug;
-    auto umzug = ordner.Versuchen(std::min(größe, KleinstesSymbol), true);
+    if (auto umzug = ordner.Behalten(größe)) return umzug;
+    for (const Luft &luft : {VonHand, Lesbar})
+        if (auto umzug = ordner.Versuchen(größe, luft)) return umzug;
+    auto umzug = ordner.Versuchen(std::min(größe, KleinstesSymbol), Lesbar);
     if (!umzug) PlatzFehlt(w, ordner.Bedarf());
     return umzug && KleinereErlaubt(w) ? umzug : std::nullopt;
 }

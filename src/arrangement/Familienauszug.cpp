@@ -30,8 +30,8 @@ class Auszug {
         for (const int person : ergebnis_.Personen) {
             const PersonSatz satz(d_.cboPersonen.Satz(person), Lücken::Leer);
             const double breite = Namensbreite(fläche, satz) / 2;
-            ergebnis_.Graph.Personen.push_back(
-                {GeschlechtVon(satz), std::nullopt, breite, breite, satz.PosX(), std::nullopt});
+            ergebnis_.Graph.Personen.push_back({GeschlechtVon(satz), std::nullopt, breite, breite, satz.PosX(),
+                                                std::nullopt, Ort{satz.PosX(), satz.PosY()}});
         }
         return std::move(ergebnis_);
     }
@@ -53,6 +53,7 @@ class Auszug {
         std::stable_sort(kinder.begin(), kinder.end(), [this](int a, int b) { return X(a) < X(b); });
         for (const int kind : kinder) familie.Kinder.push_back(ImGraph(kind));
         ZwillingeAufnehmen(kinder, familie);
+        if (satz.BalkenY1() == satz.BalkenY2()) familie.Balken = satz.BalkenY1();
         ergebnis_.Linien.push_back(linie);
         ergebnis_.Graph.Familien.push_back(std::move(familie));
     }

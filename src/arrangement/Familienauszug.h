@@ -18,7 +18,7 @@ struct Familienauszug {
 };
 
 /// Those of `personen`, positions in the store, who have a partner, a child or parents among them, with the lines
-/// between them. Places as drawn are the order that is to be kept. `fläche` measures names; its font changes.
+/// between them. Their places and their bars' heights are those of the page. `fläche` measures names; its font changes.
 Familienauszug FamilienUnter(const Dokument &dokument, const std::vector<int> &personen, Zeichenfläche &fläche);
 
 /// Whether the person stands in a couple as a man, as a woman or as neither.

@@ -2,6 +2,7 @@
 
 #include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
+#include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
 #include "editing/Elemente.h"
 #include "rendering/Beschriftung.h"
@@ -9,13 +10,23 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
+#include <utility>
 
 namespace kw {
 
 namespace {
 
-constexpr double Linienluft = 0.1; ///< on both sides of a line, cm
-constexpr double Einzelluft = 0.6; ///< round whoever has no bond: a circle line goes between, cm
+constexpr double Linienluft = 0.1;      ///< on both sides of a line, cm
+constexpr double Einzelluft = 0.6;      ///< round whoever has no bond: a circle line goes between, cm
+constexpr double FeinstesRaster = 0.05; ///< cm
+constexpr double Treu = 20;             ///< places count more than all lines that can hang on a person
+constexpr double Lose = 1;              ///< or as much as one of them
+
+Familiengraph OhnePlätze(Familiengraph graph) {
+    for (Familienperson &person : graph.Personen) person.Platz.reset();
+    for (Familie &familie : graph.Familien) familie.Balken.reset();
+    return graph;
+}
 
 Umgebung MitLuft(const Umgebung &u, double luft) {
     Umgebung weiter;
@@ -42,33 +53,135 @@ double Ordner::GrößtesSymbol() const {
     return größe;
 }
 
-std::optional<Umzug> Ordner::Versuchen(double größe, bool eng) {
-    const Familienlage lage = FamilieAnordnen(auszug_.Graph, MaßeFür(größe, w_.ansicht.Rasterweite, eng));
-    Platzwunsch wunsch{Linienkästen(lage), Hindernisse(), Seite(), {}, w_.ansicht.Rasterweite};
+std::optional<Umzug> Ordner::Versuchen(double größe, const Luft &luft) {
+    const Familienlage lage = FamilieAnordnen(OhnePlätze(auszug_.Graph), MaßeFür(größe, w_.ansicht.Rasterweite, luft));
     Umgebung alte; // centres alone: what was arranged before stays where it is
     Umgebung neue;
     for (size_t i = 0; i < lage.Personen.size(); ++i) {
-        wunsch.Kästen.push_back(Kasten(auszug_.Personen[i], lage.Personen[i], größe));
         alte.Aufnehmen(Stelle(auszug_.Personen[i]).X, Stelle(auszug_.Personen[i]).Y);
         neue.Aufnehmen(lage.Personen[i].X, lage.Personen[i].Y);
     }
+    return Unterbringen(lage, größe, {alte.MitteX() - neue.MitteX(), alte.MitteY() - neue.MitteY()}, Seite());
+}
+
+std::optional<Umzug> Ordner::Behalten(double größe) {
+    const double raster = GezeichnetesRaster();
+    const Lagebefund neu = FamilieAnordnen(OhnePlätze(auszug_.Graph), MaßeFür(größe, raster, Lesbar)).Befund;
+    Umgebung seite = Seite(); // who was drawn beyond the margin may stay there
+    for (const int i : auszug_.Personen) {
+        const Umgebung u = Kasten(i, Stelle(i), größe);
+        seite.Aufnehmen(u.Links, u.Oben, u.Rechts - u.Links, u.Unten - u.Oben);
+    }
+    for (const auto &[luft, treue] : {std::pair(Gezeichnet, Treu), std::pair(Lesbar, Treu), std::pair(Lesbar, Lose)}) {
+        Abstände maße = MaßeFür(größe, raster, luft);
+        maße.Treue = treue;
+        const Familienlage lage = FamilieAnordnen(auszug_.Graph, maße);
+        if (Mangelhaft(lage, neu, größe)) continue;
+        auto umzug = Unterbringen(lage, größe, {}, seite);
+        if (!umzug) continue;
+        if (Steht(*umzug, raster)) return Umzug{};     // who stands beside the raster isn't drawn to it either
+        if (luft.Personen < Lesbar.Personen) continue; // who has to go doesn't go that near
+        if (Gehende(*umzug).size() * 2 > auszug_.Personen.size()) continue; // no drawing that is worth keeping
+        umzug->Raster = raster;
+        return NurWasSichÄndert(*umzug);
+    }
+    return std::nullopt;
+}
+
+/// Whether it is worse than one made anew, or anybody or a name lies on another.
+bool Ordner::Mangelhaft(const Familienlage &lage, const Lagebefund &neu, double größe) const {
+    const Lagebefund &b = lage.Befund;
+    if (b.Durchquert > neu.Durchquert || b.Störende > neu.Störende || b.Getrennt > neu.Getrennt) return true;
+    std::vector<Umgebung> kästen;
+    for (size_t i = 0; i < lage.Personen.size(); ++i)
+        kästen.push_back(Kasten(auszug_.Personen[i], lage.Personen[i], größe));
+    for (size_t i = 0; i < kästen.size(); ++i)
+        for (size_t k = 0; k < i; ++k)
+            if (LiegenAufeinander(kästen[i], kästen[k])) return true;
+    return false;
+}
+
+/// Whether everybody and every bar stays, but for less than a step of that raster.
+bool Ordner::Steht(const Umzug &umzug, double raster) const {
+    const auto nah = [&](double a, double b) { return Kleiner(std::abs(a - b), raster); };
+    return std::all_of(umzug.Personen.begin(), umzug.Personen.end(),
+                       [&](const auto &p) {
+                           const Ort alt = Stelle(p.first);
+                           return nah(alt.X, p.second.X) && nah(alt.Y, p.second.Y);
+                       }) &&
+           std::all_of(umzug.Balken.begin(), umzug.Balken.end(), [&](const auto &b) {
+               const PartnerschaftSatz linie(w_.dokument.cboPartnerschaftsLinien.Satz(b.first), Lücken::Leer);
+               return nah(linie.BalkenY1(), b.second) && nah(linie.BalkenY2(), b.second);
+           });
+}
+
+/// The raster of the page; where most stand beside it, a finer one on which they do.
+double Ordner::GezeichnetesRaster() const {
+    for (const double raster : {w_.ansicht.Rasterweite, 0.3, 0.1}) {
+        const auto auf = [&](double cm) { return Gerundet(cm - Gerastert(cm, raster), 3) == 0; };
+        const auto darauf = std::count_if(auszug_.Personen.begin(), auszug_.Personen.end(),
+                                          [&](int i) { return auf(Stelle(i).X) && auf(Stelle(i).Y); });
+        if (static_cast<size_t>(darauf) * 4 >= auszug_.Personen.size() * 3) return raster;
+    }
+    return FeinstesRaster;
+}
+
+std::set<int> Ordner::Gehende(const Umzug &umzug) const {
+    std::set<int> gehen;
+    for (const auto &[i, ort] : umzug.Personen) {
+        const Ort alt = Stelle(i);
+        if (Gerundet(alt.X - ort.X, 3) != 0 || Gerundet(alt.Y - ort.Y, 3) != 0) gehen.insert(i);
+    }
+    return gehen;
+}
+
+/// Without bars that stay where they are, with all that hangs on them.
+Umzug Ordner::NurWasSichÄndert(Umzug umzug) const {
+    const std::set<int> gehen = Gehende(umzug);
+    for (size_t f = 0; f < auszug_.Linien.size(); ++f) {
+        const Familie &familie = auszug_.Graph.Familien[f];
+        const auto geht = [&](int p) { return gehen.contains(auszug_.Personen[static_cast<size_t>(p)]); };
+        const auto balken = umzug.Balken.find(auszug_.Linien[f]);
+        if (familie.Balken && Gerundet(*familie.Balken - balken->second, 3) == 0 &&
+            std::none_of(familie.Partner.begin(), familie.Partner.end(), geht) &&
+            std::none_of(familie.Kinder.begin(), familie.Kinder.end(), geht))
+            umzug.Balken.erase(balken);
+    }
+    return umzug;
+}
+
+/// A free place on the page for all of it, as near as can be to where `verschiebung` brings it.
+std::optional<Umzug> Ordner::Unterbringen(const Familienlage &lage, double größe, Ort verschiebung,
+                                          const Umgebung &seite) {
+    Platzwunsch wunsch{Linienkästen(lage), Hindernisse(), seite, {}, w_.ansicht.Rasterweite};
+    const size_t linien = wunsch.Kästen.size();
+    for (size_t i = 0; i < lage.Personen.size(); ++i)
+        wunsch.Kästen.push_back(Kasten(auszug_.Personen[i], lage.Personen[i], größe));
     const Umgebung ganz = UmAlle(wunsch.Kästen);
     bedarf_ = {ganz.Rechts - ganz.Links, ganz.Unten - ganz.Oben};
-    wunsch.Ziel = {ganz.MitteX() + alte.MitteX() - neue.MitteX(), ganz.MitteY() + alte.MitteY() - neue.MitteY()};
+    wunsch.Ziel = {ganz.MitteX() + verschiebung.X, ganz.MitteY() + verschiebung.Y};
     const auto weg = PlatzFinden(wunsch);
     if (!weg) return std::nullopt;
     Umzug umzug;
     umzug.Größe = größe;
+    umzug.Raster = w_.ansicht.Rasterweite;
     for (size_t i = 0; i < lage.Personen.size(); ++i)
         umzug.Personen[auszug_.Personen[i]] = {lage.Personen[i].X + weg->X, lage.Personen[i].Y + weg->Y};
     for (size_t i = 0; i < lage.Balken.size(); ++i) umzug.Balken[auszug_.Linien[i]] = lage.Balken[i] + weg->Y;
-    if (!EinzelneMitnehmen(umzug)) return std::nullopt;
+    std::vector<Umgebung> belegt(wunsch.Kästen.begin(), wunsch.Kästen.begin() + static_cast<std::ptrdiff_t>(linien));
+    for (Umgebung &u : belegt) {
+        Umgebung dort;
+        dort.Aufnehmen(u.Links + weg->X, u.Oben + weg->Y, u.Rechts - u.Links, u.Unten - u.Oben);
+        u = dort;
+    }
+    if (!EinzelneMitnehmen(umzug, std::move(belegt))) return std::nullopt;
     return umzug;
 }
 
 /// Whoever has no bond stays beside the one that stood nearest, where there is room.
-bool Ordner::EinzelneMitnehmen(Umzug &umzug) const {
+bool Ordner::EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const {
     Platzwunsch wunsch{{}, Hindernisse(), Seite(), {}, w_.ansicht.Rasterweite};
+    wunsch.Hindernisse.insert(wunsch.Hindernisse.end(), belegt.begin(), belegt.end());
     for (const auto &[i, ort] : umzug.Personen) wunsch.Hindernisse.push_back(Kasten(i, ort, umzug.Größe));
     const std::map<int, Ort> verbundene = umzug.Personen;
     for (const int i : gefragte_) {
@@ -82,6 +195,14 @@ bool Ordner::EinzelneMitnehmen(Umzug &umzug) const {
                                                [&](const auto &a, const auto &b) { return ferne(a) < ferne(b); });
         const Ort dort = Stelle(nächster->first);
         const Ort soll{alt.X + nächster->second.X - dort.X, alt.Y + nächster->second.Y - dort.Y};
+        const Umgebung hier = Kasten(i, alt, umzug.Größe);
+        const auto frei = [&](const Umgebung &u) { return !LiegenAufeinander(u, hier); };
+        if (Gerundet(soll.X - alt.X, 3) == 0 && Gerundet(soll.Y - alt.Y, 3) == 0 &&
+            std::all_of(wunsch.Hindernisse.begin(), wunsch.Hindernisse.end(), frei)) {
+            umzug.Personen[i] = alt; // however near it was drawn
+            wunsch.Hindernisse.push_back(hier);
+            continue;
+        }
         const Ort von{Gerastert(alt.X, wunsch.Raster), Gerastert(alt.Y, wunsch.Raster)};
         const Umgebung kasten = Kasten(i, von, umzug.Größe);
         wunsch.Kästen = {MitLuft(kasten, Einzelluft)};
@@ -122,6 +243,7 @@ std::vector<Umgebung> Ordner::Hindernisse() const {
 
 /// Bars, legs and children's lines, which must lie on nobody either.
 std::vector<Umgebung> Ordner::Linienkästen(const Familienlage &lage) const {
+    constexpr int Stücke = 8;
     std::vector<Umgebung> kästen;
     const auto kasten = [&](double x1, double y1, double x2, double y2) {
         Umgebung u;
@@ -136,8 +258,14 @@ std::vector<Umgebung> Ordner::Linienkästen(const Familienlage &lage) const {
         for (const int p : f.Partner) balken.Aufnehmen(ort(p).X, lage.Balken[i]);
         for (const int p : f.Partner) kasten(ort(p).X, ort(p).Y, ort(p).X, lage.Balken[i]);
         kasten(balken.Links, lage.Balken[i], balken.Rechts, lage.Balken[i]);
-        for (const int kind : f.Kinder)
-            kasten(std::clamp(ort(kind).X, balken.Links, balken.Rechts), lage.Balken[i], ort(kind).X, ort(kind).Y);
+        for (const int kind : f.Kinder) { // in pieces: a box round a slanting line holds much beside it
+            const double vonX = std::clamp(ort(kind).X, balken.Links, balken.Rechts);
+            const double weiteX = (ort(kind).X - vonX) / Stücke;
+            const double weiteY = (ort(kind).Y - lage.Balken[i]) / Stücke;
+            for (int k = 0; k < (weiteX == 0 ? 1 : Stücke); ++k)
+                kasten(vonX + k * weiteX, lage.Balken[i] + k * weiteY, vonX + (k + 1) * weiteX,
+                       weiteX == 0 ? ort(kind).Y : lage.Balken[i] + (k + 1) * weiteY);
+        }
     }
     return kästen;
 }

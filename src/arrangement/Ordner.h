@@ -6,6 +6,7 @@
 #include "editing/Werkbank.h"
 
 #include <optional>
+#include <set>
 #include <vector>
 
 namespace kw {
@@ -20,9 +21,11 @@ class Ordner {
     /// cm, of those with a bond.
     double GrößtesSymbol() const;
 
-    /// The places for symbols of at most that size; `eng`: as near to each other as can be read. Nothing where the page
-    /// has no room.
-    std::optional<Umzug> Versuchen(double größe, bool eng);
+    /// The drawing as it is, with what has to change; an empty one where nothing has to. Nothing where that doesn't
+    /// become a drawing as good as one made anew.
+    std::optional<Umzug> Behalten(double größe);
+    /// New places for symbols of at most that size. Nothing where the page has no room.
+    std::optional<Umzug> Versuchen(double größe, const Luft &luft);
 
     struct Platzbedarf {
         double Breite, Höhe; ///< cm
@@ -33,11 +36,17 @@ class Ordner {
     static constexpr double Seitenrand = 1; ///< that stays free, cm
 
   private:
+    std::optional<Umzug> Unterbringen(const Familienlage &lage, double größe, Ort verschiebung, const Umgebung &seite);
+    bool Mangelhaft(const Familienlage &lage, const Lagebefund &neu, double größe) const;
+    bool Steht(const Umzug &umzug, double raster) const;
+    double GezeichnetesRaster() const;
+    std::set<int> Gehende(const Umzug &umzug) const;
+    Umzug NurWasSichÄndert(Umzug umzug) const;
     Ort Stelle(int person) const;
     Umgebung Kasten(int person, Ort ort, double größe) const;
     std::vector<Umgebung> Hindernisse() const;
     std::vector<Umgebung> Linienkästen(const Familienlage &lage) const;
-    bool EinzelneMitnehmen(Umzug &umzug) const;
+    bool EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const;
     Umgebung Seite() const;
 
     Werkbank &w_;

@@ -11,7 +11,7 @@ namespace {
 
 constexpr double Nichts = 1e-6; ///< what touches doesn't overlap, cm
 
-bool Überlappen(const Umgebung &a, const Umgebung &b, Ort weg) {
+bool Versetzt(const Umgebung &a, const Umgebung &b, Ort weg) {
     return a.Links + weg.X < b.Rechts - Nichts && b.Links < a.Rechts + weg.X - Nichts &&
            a.Oben + weg.Y < b.Unten - Nichts && b.Oben < a.Unten + weg.Y - Nichts;
 }
@@ -19,7 +19,7 @@ bool Überlappen(const Umgebung &a, const Umgebung &b, Ort weg) {
 bool IstFrei(const Platzwunsch &w, Ort weg) {
     return std::none_of(w.Kästen.begin(), w.Kästen.end(), [&](const Umgebung &kasten) {
         return std::any_of(w.Hindernisse.begin(), w.Hindernisse.end(),
-                           [&](const Umgebung &anderes) { return Überlappen(kasten, anderes, weg); });
+                           [&](const Umgebung &anderes) { return Versetzt(kasten, anderes, weg); });
     });
 }
 
@@ -35,14 +35,14 @@ Spanne Spielraum(double vonCm, double bisCm, double raster) {
 
 } // namespace
 
-Abstände MaßeFür(double symbol, double raster, bool eng) {
+Abstände MaßeFür(double symbol, double raster, const Luft &luft) {
     const auto aufRaster = [&](double cm) { return std::ceil(cm / raster - 1e-9) * raster; };
     Abstände a;
     a.Symbol = symbol;
     a.Raster = raster;
-    a.Personen = aufRaster(symbol + (eng ? 0.6 : 0.9));
-    a.Generationen = aufRaster(symbol + (eng ? 1.8 : 2.4));
-    a.Balken = aufRaster(symbol / 2 + (eng ? 0.9 : 1.2));
+    a.Personen = aufRaster(symbol + luft.Personen);
+    a.Generationen = aufRaster(symbol + luft.Generationen);
+    a.Balken = aufRaster(symbol / 2 + luft.Balken);
     return a;
 }
 
@@ -51,6 +51,8 @@ Umgebung UmAlle(const std::vector<Umgebung> &kästen) {
     for (const Umgebung &k : kästen) alle.Aufnehmen(k.Links, k.Oben, k.Rechts - k.Links, k.Unten - k.Oben);
     return alle;
 }
+
+bool LiegenAufeinander(const Umgebung &a, const Umgebung &b) { return Versetzt(a, b, {}); }
 
 std::optional<Ort> PlatzFinden(const Platzwunsch &w) {
     const Umgebung alle = UmAlle(w.Kästen);

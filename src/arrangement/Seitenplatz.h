@@ -17,8 +17,16 @@ constexpr double Namenshöhe = 0.68;
 /// The smallest that persons can have, cm.
 constexpr double KleinstesSymbol = 0.9;
 
-/// The measures for symbols of that size: those of a page drawn by hand, or what can just be read, cm.
-Abstände MaßeFür(double symbol, double raster, bool eng);
+/// What stays free beside a symbol, below it to the next generation's, and down to a bar, cm.
+struct Luft {
+    double Personen, Generationen, Balken;
+};
+constexpr Luft VonHand{0.9, 2.4, 1.2};    ///< as pages are drawn by hand
+constexpr Luft Lesbar{0.6, 1.8, 0.9};     ///< as near to each other as can be read
+constexpr Luft Gezeichnet{0.3, 1.8, 0.9}; ///< as near as those may stay who were drawn so
+
+/// The measures for symbols of that size, cm.
+Abstände MaßeFür(double symbol, double raster, const Luft &luft);
 
 struct Platzwunsch {
     std::vector<Umgebung> Kästen;      ///< what is to be placed, as it was laid out
@@ -28,6 +36,8 @@ struct Platzwunsch {
     double Raster;                     ///< it is moved by whole steps of that
 };
 
+/// Whether they lie on each other; touching is none of that.
+bool LiegenAufeinander(const Umgebung &a, const Umgebung &b);
 /// The box round all of them.
 Umgebung UmAlle(const std::vector<Umgebung> &kästen);
 

@@ -74,7 +74,7 @@ class Leger {
         for (const Maßstab &maßstab : Maßstäbe) {
             if (maßstab.Symbol < Maßstäbe.front().Symbol && !regeln_.Kleiner) break;
             const bool letzter = &maßstab == &Maßstäbe.back() || (maßstab.Eng && !regeln_.Kleiner);
-            const Abstände maße = MaßeFür(maßstab.Symbol, regeln_.Raster, maßstab.Eng);
+            const Abstände maße = MaßeFür(maßstab.Symbol, regeln_.Raster, maßstab.Eng ? Lesbar : VonHand);
             if (!letzter && !KannPassen(maße)) continue;
             lage_ = FamilieAnordnen(graph_, maße);
             Messen(maßstab.Symbol);

@@ -115,7 +115,7 @@ class Umzugswagen {
 
 bool Anders(double a, double b) { return Kleiner(a, b) || Kleiner(b, a); }
 
-void PersonenSetzen(Dokument &d, const Ansicht &ansicht, const Umzug &umzug) {
+void PersonenSetzen(Dokument &d, const Umzug &umzug) {
     const Bezüge bezüge(d);
     std::map<std::string, Ort, std::less<>> gegangene; // a record that says nothing new stays as it was written
     for (const auto &[i, ort] : umzug.Personen) {
@@ -128,7 +128,7 @@ void PersonenSetzen(Dokument &d, const Ansicht &ansicht, const Umzug &umzug) {
         if (schrumpft || geht) d.cboPersonen.Ersetzen(i, person.Ort(neu.X, neu.Y).Text());
     }
     // When everybody stands where they will: twins' lines meet in the middle of both.
-    for (const auto &[nr, ort] : gegangene) LinienDerPersonNachziehen(d, bezüge, nr, ort.X, ort.Y, ansicht.Rasterweite);
+    for (const auto &[nr, ort] : gegangene) LinienDerPersonNachziehen(d, bezüge, nr, ort.X, ort.Y, umzug.Raster);
     for (const auto &[i, y] : umzug.Balken) {
         PartnerschaftBau linie(d.cboPartnerschaftsLinien.Satz(i));
         if (Anders(linie.Stand().BalkenY1(), Gerundet(y, 2)) || Anders(linie.Stand().BalkenY2(), Gerundet(y, 2)))
@@ -176,7 +176,7 @@ bool Umziehen(Dokument &d, const Ansicht &ansicht, const Umzug &umzug) {
             if (GibtEs(d, {art, i})) speicher.Ersetzen(i, wagen.Mitgenommen(*gruppe, speicher.Satz(i)));
     }
     for (size_t i = 0; i < kreise.size(); ++i) d.cboFreehandlines.Ersetzen(static_cast<int>(i), kreise[i]);
-    PersonenSetzen(d, ansicht, umzug);
+    PersonenSetzen(d, umzug);
     return true;
 }
 

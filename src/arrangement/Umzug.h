@@ -21,6 +21,7 @@ struct Umzug {
     std::map<int, Ort> Personen;  ///< centres
     std::map<int, double> Balken; ///< heights of partnership lines
     double Größe = JedeGröße;     ///< symbols of those persons are at most that large
+    double Raster = 0.3;          ///< on which the new places lie
 };
 
 /// What a person takes of the page with its names, when its centre is at `ort`, cm.

@@ -12,18 +12,25 @@ bool GemeinsamesBein(const Strecke &a, const Strecke &b) {
     return a.Was == Strecke::Art::Bein && b.Was == Strecke::Art::Bein && a.A.X == b.A.X;
 }
 
+bool AmEnde(const Strecke &bein, const Strecke &balken) {
+    return bein.Was == Strecke::Art::Bein && balken.Was == Strecke::Art::Balken &&
+           (bein.A.X == balken.A.X || bein.A.X == balken.B.X);
+}
+
 } // namespace
 
-int Kreuzungszahl(std::vector<Strecke> &linien) {
+Kreuzungszahl KreuzungenZählen(std::vector<Strecke> &linien) {
     const auto links = [](const Strecke &s) { return std::min(s.A.X, s.B.X); };
     std::sort(linien.begin(), linien.end(), [&](const Strecke &a, const Strecke &b) { return links(a) < links(b); });
-    int anzahl = 0;
+    Kreuzungszahl anzahl;
     for (std::size_t i = 0; i < linien.size(); i++) {
         const std::int64_t rechts = std::max(linien[i].A.X, linien[i].B.X);
         for (std::size_t j = i + 1; j < linien.size() && links(linien[j]) <= rechts; j++)
             if (linien[i].Familie != linien[j].Familie && Kreuzen(linien[i], linien[j]) &&
-                !GemeinsamesBein(linien[i], linien[j]))
-                anzahl++;
+                !GemeinsamesBein(linien[i], linien[j])) {
+                anzahl.Alle++;
+                anzahl.AmBein += AmEnde(linien[i], linien[j]) || AmEnde(linien[j], linien[i]) ? 1 : 0;
+            }
     }
     return anzahl;
 }
@@ -86,7 +93,9 @@ Lagebefund Befinden(const Gerüst &gerüst, const Zeichnung &zeichnung, const Ab
             if (Durchquert(s, personen[i], halb) && !Gehört(gerüst.Familien[Z(s.Familie)], static_cast<int>(i)))
                 befund.Durchquert++;
     }
-    befund.Kreuzungen = Kreuzungszahl(linien);
+    const Kreuzungszahl kreuzungen = KreuzungenZählen(linien);
+    befund.Kreuzungen = kreuzungen.Alle;
+    befund.Störende = kreuzungen.Störende();
     return befund;
 }
 

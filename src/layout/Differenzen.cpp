@@ -2,6 +2,7 @@
 
 #include "layout/Schnitt.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdlib>
@@ -86,6 +87,9 @@ bool Differenzen::Schritt(std::vector<int> &x, int weite) const {
 }
 
 void Differenzen::Lösen(std::vector<int> &x, int schritt) const {
+    const auto [kleinste, größte] = std::minmax_element(x.begin(), x.end());
+    const int breite = x.empty() ? 0 : *größte - *kleinste;
+    while (schritt < breite / 8) schritt *= 2; // a broad one would take many steps
     for (int weite = schritt; weite > 0; weite /= 2) {
         int vergeblich = 0;
         for (int richtung = weite; vergeblich < 2; richtung = -richtung) {

@@ -10,16 +10,15 @@ namespace kw {
 
 namespace {
 
-/// One part of a family, everybody of which belongs to everybody else by some bond: places from x = 0.
+/// One part of a family, everybody of which belongs to everybody else by some bond: places from x = 0, or the page's.
 Zeichnung TeilZeichnen(const Familiengraph &graph, const Gerüst &gerüst, const Abstände &abstände) {
     const Orte orte(graph, gerüst, abstände);
     const std::vector<int> x = orte.Finden(BesteReihen(graph, gerüst));
-    const int links = *std::min_element(x.begin(), x.end());
+    const std::vector<std::int64_t> höhen = Zeilenhöhen(graph, gerüst, abstände);
     Zeichnung zeichnung;
     for (std::size_t i = 0; i < x.size(); i++)
-        zeichnung.Personen.push_back(
-            {(x[i] - links) * orte.Schritt(), gerüst.Spalten[i].Ebene * Tausendstel(abstände.Generationen)});
-    zeichnung.Balken = BalkenHängen(gerüst, zeichnung.Personen, abstände);
+        zeichnung.Personen.push_back({x[i] * orte.Schritt(), höhen[Z(gerüst.Spalten[i].Ebene)]});
+    zeichnung.Balken = BalkenHängen(gerüst, zeichnung.Personen, höhen, abstände);
     return zeichnung;
 }
 

@@ -40,7 +40,44 @@ Reihen::Folgen Widerspruchsfrei(const Gerüst &gerüst, Reihen::Folgen zeilen) {
 
 Orte::Orte(const Familiengraph &graph, const Gerüst &gerüst, const Abstände &abstände)
     : graph_(graph), gerüst_(gerüst), abstände_(abstände),
-      schritt_(abstände.Raster > 0 ? std::max<std::int64_t>(Tausendstel(abstände.Raster), 1) : Feinstes) {}
+      schritt_(abstände.Raster > 0 ? std::max<std::int64_t>(Tausendstel(abstände.Raster), 1) : Feinstes),
+      gezeichnet_(HabenPlatz(graph)) {}
+
+bool HabenPlatz(const Familiengraph &graph) {
+    return !graph.Personen.empty() &&
+           std::all_of(graph.Personen.begin(), graph.Personen.end(),
+                       [](const Familienperson &person) { return person.Platz.has_value(); });
+}
+
+namespace {
+
+/// Steps from 0 to the nearest one.
+int Nächster(double cm, std::int64_t schritt) {
+    constexpr double Rand = 1'000'000; // pages are smaller
+    const std::int64_t ort = Tausendstel(std::clamp(cm, -Rand, Rand));
+    return static_cast<int>((ort + (ort < 0 ? -schritt : schritt) / 2) / schritt);
+}
+
+} // namespace
+
+std::vector<std::int64_t> Zeilenhöhen(const Familiengraph &graph, const Gerüst &gerüst, const Abstände &abstände) {
+    std::vector<std::int64_t> höhen;
+    for (int z = 0; z < gerüst.Zeilen; z++) höhen.push_back(z * Tausendstel(abstände.Generationen));
+    if (!HabenPlatz(graph)) return höhen;
+    const std::int64_t schritt =
+        abstände.Raster > 0 ? std::max<std::int64_t>(Tausendstel(abstände.Raster), 1) : Feinstes;
+    Differenzen zeilen(gerüst.Zeilen + 1);
+    for (int z = 1; z < gerüst.Zeilen; z++)
+        zeilen.Mindestens(z - 1, z, static_cast<int>((Tausendstel(abstände.Generationen) + schritt - 1) / schritt));
+    for (std::size_t i = 0; i < graph.Personen.size(); i++)
+        zeilen.Kosten(Kostenart::Betrag, gerüst.Zeilen, gerüst.Spalten[i].Ebene,
+                      Nächster(graph.Personen[i].Platz->Y, schritt), 1);
+    std::vector<int> y;
+    zeilen.Kleinste(y);
+    zeilen.Lösen(y, WeitesterSchritt);
+    for (std::size_t z = 0; z < höhen.size(); z++) höhen[z] = (y[z] - y.back()) * schritt;
+    return höhen;
+}
 
 int Orte::Schritte(double cm) const { return static_cast<int>((Tausendstel(cm) + schritt_ - 1) / schritt_); }
 
@@ -104,14 +141,15 @@ void Orte::Gewichten(const Reihen::Folgen &zeilen, Differenzen &orte, Paare &inn
 
 std::vector<int> Orte::Finden(const Reihen::Folgen &zeilen) const {
     Reihen::Folgen folgen = zeilen;
-    Differenzen orte(static_cast<int>(gerüst_.Spalten.size()));
+    Differenzen orte(static_cast<int>(gerüst_.Spalten.size()) + 1);
     if (!ReihenHalten(folgen, orte)) {
         folgen = Widerspruchsfrei(gerüst_, zeilen);
-        orte = Differenzen(static_cast<int>(gerüst_.Spalten.size()));
+        orte = Differenzen(static_cast<int>(gerüst_.Spalten.size()) + 1);
         ReihenHalten(folgen, orte);
     }
     Paare innen;
     Gewichten(folgen, orte, innen);
+    if (gezeichnet_) Halten(folgen, orte);
     std::vector<int> x;
     Differenzen alle = orte;
     for (const auto &[a, b] : innen) alle.Mindestens(a, b, 0);
@@ -124,7 +162,48 @@ std::vector<int> Orte::Finden(const Reihen::Folgen &zeilen) const {
         }
     orte.Kleinste(x);
     orte.Lösen(x, WeitesterSchritt);
+    const int rand = x.back();
+    x.pop_back();
+    const int links = gezeichnet_ ? rand : *std::min_element(x.begin(), x.end());
+    for (int &ort : x) ort -= links;
     return x;
+}
+
+namespace {
+
+/// The most of a row who stand in the order in which they are drawn.
+std::vector<int> InDerFolge(const Familiengraph &graph, const std::vector<int> &zeile) {
+    struct Kette {
+        int Länge = 1, Davor = -1;
+    };
+    std::vector<Kette> ketten(zeile.size());
+    const auto x = [&](int platz) { return graph.Personen[Z(zeile[Z(platz)])].Platz->X; };
+    int längste = -1;
+    for (int i = 0; i < static_cast<int>(zeile.size()); i++) {
+        for (int k = 0; k < i; k++)
+            if (x(k) <= x(i) && ketten[Z(k)].Länge >= ketten[Z(i)].Länge) ketten[Z(i)] = {ketten[Z(k)].Länge + 1, k};
+        if (längste < 0 || ketten[Z(i)].Länge > ketten[Z(längste)].Länge) längste = i;
+    }
+    std::vector<int> folge;
+    for (int i = längste; i >= 0; i = ketten[Z(i)].Davor) folge.push_back(zeile[Z(i)]);
+    return folge;
+}
+
+} // namespace
+
+/// What it costs that somebody doesn't stay where they stand, unless others have come between. The page's edge is
+/// counted behind the persons.
+void Orte::Halten(const Reihen::Folgen &zeilen, Differenzen &orte) const {
+    const auto anzahl = static_cast<int>(gerüst_.Spalten.size());
+    const auto treue = static_cast<std::int64_t>(abstände_.Treue * static_cast<double>(Länge));
+    for (std::size_t z = 0; z < zeilen.size(); z++) {
+        std::vector<int> hier;
+        for (const int person : zeilen[z])
+            if (gerüst_.Spalten[Z(person)].Ebene == static_cast<int>(z)) hier.push_back(person);
+        for (const int person : InDerFolge(graph_, hier))
+            orte.Kosten(Kostenart::Betrag, anzahl, person, Nächster(graph_.Personen[Z(person)].Platz->X, schritt_),
+                        treue);
+    }
 }
 
 } // namespace kw

@@ -12,6 +12,7 @@ namespace kw {
 class Orte {
   public:
     Orte(const Familiengraph &graph, const Gerüst &gerüst, const Abstände &abstände);
+    /// From the page's edge where all have a place, else from the leftmost on.
     std::vector<int> Finden(const Reihen::Folgen &zeilen) const;
     /// Thousandths of a centimetre in a step.
     std::int64_t Schritt() const { return schritt_; }
@@ -21,16 +22,25 @@ class Orte {
     int Abstand(int zeile, int links, int rechts) const;
     int Schritte(double cm) const;
     bool ReihenHalten(const Reihen::Folgen &zeilen, Differenzen &orte) const;
+    void Halten(const Reihen::Folgen &zeilen, Differenzen &orte) const;
     void Gewichten(const Reihen::Folgen &zeilen, Differenzen &orte, Paare &innen) const;
 
     const Familiengraph &graph_;
     const Gerüst &gerüst_;
     const Abstände &abstände_;
     std::int64_t schritt_;
+    bool gezeichnet_; ///< whether all have a place
 };
 
-/// The heights of all bars, such that their lines cross least. Thousandths.
+/// Whether somebody is there, and all have a place.
+bool HabenPlatz(const Familiengraph &graph);
+
+/// The height of each row: as far below each other as has to be, or where they are drawn. Thousandths.
+std::vector<std::int64_t> Zeilenhöhen(const Familiengraph &graph, const Gerüst &gerüst, const Abstände &abstände);
+
+/// The heights of all bars below those rows, such that their lines cross least; where a family has one, that, as long
+/// as nothing more crosses. Thousandths.
 std::vector<std::int64_t> BalkenHängen(const Gerüst &gerüst, const std::vector<Punkt> &personen,
-                                       const Abstände &abstände);
+                                       const std::vector<std::int64_t> &zeilenhöhen, const Abstände &abstände);
 
 } // namespace kw

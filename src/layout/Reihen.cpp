@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <tuple>
 
 namespace kw {
 
@@ -20,6 +19,7 @@ void Reihen::Setzen(const Folgen &zeilen) {
         for (std::size_t i = 0; i < zeilen[z].size(); i++)
             platz_[Ort(static_cast<int>(z), zeilen[z][i])] = static_cast<int>(i);
     kosten_ = Neuberechnet();
+    Behalten();
 }
 
 std::int64_t Reihen::Neuberechnet() {
@@ -47,8 +47,9 @@ std::int64_t Reihen::Neuberechnet() {
         for (std::size_t i = 0; i < Zeile(z).size(); i++) {
             summe += Beinkosten(z, Zeile(z)[i]);
             for (std::size_t j = 0; j < i; j++) {
-                summe += wissen_->Vorliebe[Ort(Zeile(z)[j], Zeile(z)[i])];
-                verkehrt_ += wissen_->Verkehrt[Ort(Zeile(z)[j], Zeile(z)[i])];
+                const Vorzug &v = wissen_->Vorzüge[Ort(Zeile(z)[j], Zeile(z)[i])];
+                summe += std::max(v.Kosten, 0);
+                verkehrt_ += std::max(v.Verkehrt, 0);
             }
         }
     return summe + Verkehrtkosten(verkehrt_);
@@ -89,15 +90,13 @@ int Reihen::Ineinander(const Ding &außen, const Ding &innen) const {
     return std::min(höher, innen.Ende - innen.Erstes);
 }
 
-/// Crossings of all lines of two that hang below one row.
-int Reihen::Paarkosten(int i, int j) const {
-    const Ding &f = Das(i);
-    const Ding &g = Das(j);
-    const Spanne a = SpanneVon(f);
-    const Spanne b = SpanneVon(g);
-    if (std::tuple(a.L, a.R, i) > std::tuple(b.L, b.R, j)) return Paarkosten(j, i);
+/// Crossings of all lines of two that hang below one row, between those places.
+int Reihen::Paarkosten(int i, int j, const Spanne &a, const Spanne &b) const {
+    if (a.L > b.L || (a.L == b.L && (a.R > b.R || (a.R == b.R && i > j)))) return Paarkosten(j, i, b, a);
     if (a.L == b.R) return 0; // both hang on one point
     if (a.R <= b.L) return Verdreht(i, j);
+    const Ding &f = Das(i);
+    const Ding &g = Das(j);
     const int kreuzung = gewichte_.Kreuzung;
     if (f.Was == Art::Zwillinge || g.Was == Art::Zwillinge) return 0;
     if (g.Was == Art::Linie) return kreuzung; // through the bar
@@ -158,8 +157,9 @@ int Reihen::Getrenntkosten(int getrennt) const {
 int Reihen::DazwischenGelten(int ding, int anzahl) {
     int &dazwischen = dazwischen_[Z(ding)];
     const int mehr = (anzahl - dazwischen) * gewichte_.Dazwischen - Getrenntkosten(getrennt_);
-    getrennt_ += (anzahl > 0 ? 1 : 0) - (dazwischen > 0 ? 1 : 0);
-    dazwischen = anzahl;
+    const int getrennt = (anzahl > 0 ? 1 : 0) - (dazwischen > 0 ? 1 : 0);
+    if (getrennt != 0) Ändern(getrennt_, getrennt_ + getrennt);
+    Ändern(dazwischen, anzahl);
     return mehr + Getrenntkosten(getrennt_);
 }
 
@@ -181,31 +181,41 @@ int Reihen::Dazwischen(int ding) const {
 
 /// `anderer`, a neighbour of `ende`, is about to pass to its other side.
 int Reihen::Trennung(int zeile, int ende, int anderer, bool andererRechts) {
-    if (wissen_->Ebene[Z(anderer)] != zeile) return 0;
+    const auto bande = wissen_->Bande[Ort(zeile, ende)];
+    if (bande.empty() || wissen_->Ebene[Z(anderer)] != zeile) return 0;
+    const int platz = Platz(zeile, ende);
     int summe = 0;
-    for (const int i : wissen_->Unten[Ort(zeile, ende)]) {
-        if (!wissen_->Fremd[Ort(i, anderer)]) continue;
-        const Ding &d = Das(i);
-        const int partner = platz_[Z(d.A == ende ? d.OrtB : d.OrtA)];
-        const bool partnerRechts = partner > Platz(zeile, ende);
-        summe += DazwischenGelten(i, dazwischen_[Z(i)] + (partnerRechts == andererRechts ? -1 : 1));
+    for (const Band &band : bande) {
+        if (!wissen_->Fremd[Ort(band.Ding, anderer)]) continue;
+        const bool partnerRechts = platz_[Z(band.Anderer)] > platz;
+        summe += DazwischenGelten(band.Ding, dazwischen_[Z(band.Ding)] + (partnerRechts == andererRechts ? -1 : 1));
     }
     return summe;
 }
 
-/// What two neighbours' bars and lines downwards cost each other.
-int Reihen::Untenkosten(int zeile, int links, int rechts) const {
-    int summe = 0;
+/// What two neighbours' bars and lines downwards cost each other more when these change places.
+int Reihen::Unten(int zeile, int links, int rechts) const {
     const auto l = wissen_->Unten[Ort(zeile, links)];
     const auto r = wissen_->Unten[Ort(zeile, rechts)];
     if (l.empty() || r.empty()) return 0;
-    for (const int i : l)
+    const int platz = Platz(zeile, links);
+    const auto getauscht = [platz](const Spanne &s) {
+        const auto neu = [platz](int ort) { return ort == platz ? platz + 1 : ort == platz + 1 ? platz : ort; };
+        const int a = neu(s.L);
+        const int b = neu(s.R);
+        return Spanne{std::min(a, b), std::max(a, b)};
+    };
+    const bool mehrere = l.size() + r.size() > 3;
+    int summe = 0;
+    for (const int i : l) {
+        const Spanne a = SpanneVon(Das(i));
+        const Spanne neuA = getauscht(a);
         for (const int j : r) {
-            if (i == j) continue;
-            const bool doppelt = l.size() + r.size() > 3 && Enthält(l, j) && Enthält(r, i);
-            if (!doppelt || i < j) summe += Paarkosten(i, j);
+            if (i == j || (mehrere && i > j && Enthält(l, j) && Enthält(r, i))) continue;
+            const Spanne b = SpanneVon(Das(j));
+            summe += Paarkosten(i, j, neuA, getauscht(b)) - Paarkosten(i, j, a, b);
         }
-    if (wissen_->Partner[Ort(links, rechts)]) summe += Beinkosten(zeile, links) + Beinkosten(zeile, rechts);
+    }
     return summe;
 }
 
@@ -247,18 +257,20 @@ void Reihen::Verdrehen(int zeile, int links, int rechts) {
         for (const int j : wissen_->Oben[Ort(zeile, rechts)]) {
             if (i == j) continue;
             const int kosten = Linienkosten(Das(i), links, Das(j), rechts);
-            Verdreht(j, i) -= kosten;
-            Verdreht(i, j) += kosten;
+            Ändern(Verdreht(j, i), Verdreht(j, i) - kosten);
+            Ändern(Verdreht(i, j), Verdreht(i, j) + kosten);
         }
 }
 
-/// What is counted of a row, as if two neighbours had changed places; what those counts cost more then.
+/// What is counted of a row, as if two neighbours had changed places; what those counts and their order cost more then.
 int Reihen::Umstellen(int zeile, int links, int rechts) {
     int mehr = Trennung(zeile, links, rechts, true) + Trennung(zeile, rechts, links, false);
-    if (const int v = wissen_->Verkehrt[Ort(rechts, links)] - wissen_->Verkehrt[Ort(links, rechts)]) {
-        mehr += Verkehrtkosten(verkehrt_ + v) - Verkehrtkosten(verkehrt_);
-        verkehrt_ += v;
+    const Vorzug &vorzug = wissen_->Vorzüge[Ort(rechts, links)];
+    if (vorzug.Verkehrt != 0) {
+        mehr += Verkehrtkosten(verkehrt_ + vorzug.Verkehrt) - Verkehrtkosten(verkehrt_);
+        Ändern(verkehrt_, verkehrt_ + vorzug.Verkehrt);
     }
+    mehr += vorzug.Kosten;
     Verdrehen(zeile, links, rechts);
     return mehr;
 }
@@ -269,29 +281,28 @@ int Reihen::Tauschen(int zeile, int platz) {
     const int rechts = reihe[Z(platz + 1)];
     const std::size_t ortL = Ort(zeile, links);
     const std::size_t ortR = Ort(zeile, rechts);
-    int mehr = wissen_->Vorliebe[Ort(rechts, links)] - wissen_->Vorliebe[Ort(links, rechts)];
-    mehr += Weiten(ortL, rechts, 1) + Weiten(ortR, links, -1);
+    const bool partner = wissen_->Partner[Ort(links, rechts)] != 0;
+    int mehr = Weiten(ortL, rechts, 1) + Weiten(ortR, links, -1) + Unten(zeile, links, rechts);
     bool ineinander = false;
     mehr += Nebeneinander(zeile, links, rechts, ineinander);
-    mehr -= Untenkosten(zeile, links, rechts);
     if (ineinander) mehr -= Obenkosten(zeile, links, rechts);
+    if (partner) mehr -= Beinkosten(zeile, links) + Beinkosten(zeile, rechts);
     mehr += Umstellen(zeile, links, rechts);
-    std::swap(reihe[Z(platz)], reihe[Z(platz + 1)]);
-    std::swap(platz_[ortL], platz_[ortR]);
-    mehr += Untenkosten(zeile, rechts, links);
+    Ändern(reihe[Z(platz)], rechts);
+    Ändern(reihe[Z(platz + 1)], links);
+    Ändern(platz_[ortL], platz + 1);
+    Ändern(platz_[ortR], platz);
     if (ineinander) mehr += Obenkosten(zeile, rechts, links);
+    if (partner) mehr += Beinkosten(zeile, links) + Beinkosten(zeile, rechts);
     kosten_ += mehr;
     arbeit_++;
     return mehr;
 }
 
-void Reihen::Zurücktauschen(int zeile, int platz) {
-    std::vector<int> &reihe = zeilen_[Z(zeile)];
-    const int links = reihe[Z(platz)];
-    const int rechts = reihe[Z(platz + 1)];
-    Umstellen(zeile, links, rechts);
-    std::swap(reihe[Z(platz)], reihe[Z(platz + 1)]);
-    std::swap(platz_[Ort(zeile, links)], platz_[Ort(zeile, rechts)]);
+void Reihen::Zurück(const Marke &marke) {
+    auto &liste = geändert_.Liste;
+    for (; liste.size() > marke.Änderungen; liste.pop_back()) *liste.back().Zahl = liste.back().War;
+    kosten_ = marke.Kosten;
 }
 
 } // namespace kw

@@ -40,9 +40,14 @@ class Reihen {
 
     /// Exchanges those at `platz` and `platz` + 1; returns by how much that is dearer.
     int Tauschen(int zeile, int platz);
-    /// The way back: exchanges without asking what it costs, which `KostenGelten` then tells.
-    void Zurücktauschen(int zeile, int platz);
-    void KostenGelten(std::int64_t kosten) { kosten_ = kosten; }
+    /// A state to which exchanges can be taken back, until `Behalten` or `Setzen`.
+    struct Marke {
+        std::size_t Änderungen;
+        std::int64_t Kosten;
+    };
+    Marke Merken() const { return {geändert_.Liste.size(), kosten_}; }
+    void Zurück(const Marke &marke);
+    void Behalten() { geändert_.Liste.clear(); }
     std::int64_t Kosten() const { return kosten_; }
     /// How often has been exchanged: what work is measured by, since clocks differ.
     std::int64_t Arbeit() const { return arbeit_; }
@@ -58,13 +63,32 @@ class Reihen {
         int OrtA = 0, OrtB = 0;   ///< where their places are kept
         int Versatz = 0;          ///< by how many places the row is longer than the next one
         int Erstes = 0, Ende = 0; ///< the children, as positions in `Kinder`
+        std::size_t Paare = 0;    ///< where what it costs with the others of its row is kept
+        std::size_t Nummer = 0;   ///< which of its row it is
     };
     /// Lists by row and person, packed: those of one lie from `Anfang[i]` to `Anfang[i + 1]`.
-    struct Verzeichnis {
-        std::vector<int> Anfang, Inhalt;
-        std::span<const int> operator[](std::size_t i) const {
+    template <typename T> struct Verzeichnis {
+        std::vector<int> Anfang;
+        std::vector<T> Inhalt;
+        explicit Verzeichnis(const std::vector<std::vector<T>> &listen = {}) : Anfang{0} {
+            for (const std::vector<T> &liste : listen) {
+                Inhalt.insert(Inhalt.end(), liste.begin(), liste.end());
+                Anfang.push_back(static_cast<int>(Inhalt.size()));
+            }
+        }
+        std::span<const T> operator[](std::size_t i) const {
             return {Inhalt.data() + Anfang[i], Inhalt.data() + Anfang[i + 1]};
         }
+    };
+    /// By how much it is dearer that one stands left of another than the other way round; and in how many more families
+    /// that is the wrong order. What is so either way doesn't count.
+    struct Vorzug {
+        int Kosten = 0, Verkehrt = 0;
+    };
+    /// A thing between two, seen from one of them.
+    struct Band {
+        int Ding;
+        int Anderer; ///< where the other's place is kept
     };
     /// What never changes, and copies share.
     struct Wissen {
@@ -72,17 +96,17 @@ class Reihen {
         std::vector<int> Ebene;
         std::vector<Ding> Dinge;
         std::vector<int> Kinder, Kinderorte; ///< and where their places are kept
-        Verzeichnis Unten, Oben;             ///< what hangs on a person in a row; what a person there hangs on
-        std::vector<int> Verkehrt;           ///< in how many families the first of two is the younger one
+        Verzeichnis<int> Unten, Oben;        ///< what hangs on a person in a row; what a person there hangs on
+        Verzeichnis<Band> Bande;             ///< of the first those with two ends
+        std::vector<Vorzug> Vorzüge;         ///< of two, as they stand from left to right
         int Wenige = 0;                      ///< pairs of siblings in the wrong order that are few
-        std::vector<int> Vorliebe;           ///< what it costs that the first of two stands left of the second
         std::vector<char> Partner;           ///< whether two are partners
         std::vector<char> Fremd;             ///< whether a person may not stand between what hangs there
+        std::size_t Paare = 0;               ///< of things of one row
     };
     struct Spanne {
         int L, R;
     };
-    static Verzeichnis Gepackt(const Folgen &listen);
     static void DingeSammeln(const Gerüst &gerüst, Wissen &w);
     static void VorliebenSammeln(const Familiengraph &graph, const Gerüst &gerüst, const Gewichte &g, Wissen &w);
 
@@ -93,14 +117,15 @@ class Reihen {
         return {wissen_->Kinder.data() + d.Erstes, wissen_->Kinder.data() + d.Ende};
     }
     /// What the child lines of two cost when the first hangs left of the second.
-    int &Verdreht(int links, int rechts) { return verdreht_[Z(links) * wissen_->Dinge.size() + Z(rechts)]; }
-    int Verdreht(int links, int rechts) const { return verdreht_[Z(links) * wissen_->Dinge.size() + Z(rechts)]; }
+    int &Verdreht(int links, int rechts) { return verdreht_[Das(links).Paare + Das(rechts).Nummer]; }
+    int Verdreht(int links, int rechts) const { return verdreht_[Das(links).Paare + Das(rechts).Nummer]; }
 
     Spanne SpanneVon(const Ding &d) const;
     int Linienkosten(const Ding &f, int kindF, const Ding &g, int kindG) const;
-    int Paarkosten(int i, int j) const;
+    int Paarkosten(int i, int j) const { return Paarkosten(i, j, SpanneVon(Das(i)), SpanneVon(Das(j))); }
+    int Paarkosten(int i, int j, const Spanne &a, const Spanne &b) const;
     int Ineinander(const Ding &außen, const Ding &innen) const;
-    int Untenkosten(int zeile, int links, int rechts) const;
+    int Unten(int zeile, int links, int rechts) const;
     int Obenkosten(int zeile, int links, int rechts) const;
     int Nebeneinander(int zeile, int links, int rechts, bool &ineinander) const;
     void Verdrehen(int zeile, int links, int rechts);
@@ -116,16 +141,37 @@ class Reihen {
     std::int64_t Neuberechnet();
     int Einzelkosten(int ding);
 
+    void Ändern(int &zahl, int neu) {
+        geändert_.Liste.push_back({&zahl, zahl});
+        zahl = neu;
+    }
+
     Gewichte gewichte_;
     std::shared_ptr<const Wissen> wissen_;
     Folgen zeilen_;
     std::vector<int> platz_;      ///< by row and person
-    std::vector<int> verdreht_;   ///< by two things
+    std::vector<int> verdreht_;   ///< by two things of a row
     std::vector<int> dazwischen_; ///< strangers between the partners, by thing
     int getrennt_ = 0;            ///< how many couples these stand between
     int verkehrt_ = 0;            ///< pairs of siblings in the wrong order
     std::int64_t kosten_ = 0;
     std::int64_t arbeit_ = 0;
+    /// Numbers of those above that were changed, and what they were. They are no copy's: each begins without any.
+    struct Änderungen {
+        struct Änderung {
+            int *Zahl;
+            int War;
+        };
+        std::vector<Änderung> Liste;
+        Änderungen() = default;
+        Änderungen(const Änderungen &) {}
+        Änderungen &operator=(const Änderungen &) {
+            Liste.clear();
+            return *this;
+        }
+        ~Änderungen() = default;
+    };
+    Änderungen geändert_; ///< since the last that was kept
 };
 
 } // namespace kw

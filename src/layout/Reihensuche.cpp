@@ -8,7 +8,7 @@ namespace kw {
 namespace {
 
 constexpr int Weitester = 8;   // places that a run is carried in one go
-constexpr int Längster = 4;    // and how many it holds
+constexpr int Längster = 2;    // and how many it holds; longer ones are carried as pieces
 constexpr int Teuerstes = 600; // what lies between may cost
 constexpr int Duldsam = 30;    // how much dearer rows may get on the way to cheaper ones
 
@@ -16,75 +16,92 @@ constexpr int Duldsam = 30;    // how much dearer rows may get on the way to che
 class Lauf {
   public:
     Lauf(Reihen &reihen, int zeile, int platz, int länge)
-        : reihen_(reihen), zeile_(zeile), platz_(platz), länge_(länge), anfang_(reihen.Kosten()), bestPlatz_(platz) {}
+        : reihen_(reihen), zeile_(zeile), platz_(platz), länge_(länge), anfangsPlatz_(platz), bestPlatz_(platz) {
+        reihen_.Behalten();
+        anfang_ = beste_ = reihen_.Merken();
+    }
 
     int Platz() const { return platz_; }
-    bool ZuTeuer() const { return reihen_.Kosten() >= anfang_ + beste_ + Teuerstes; }
+    bool ZuTeuer() const { return reihen_.Kosten() >= beste_.Kosten + Teuerstes; }
 
     void Rücken(bool rechts) {
-        Schritt(rechts, [this](int platz) { reihen_.Tauschen(zeile_, platz); });
-        const std::int64_t mehr = reihen_.Kosten() - anfang_;
-        if (mehr >= beste_) return;
-        beste_ = mehr;
+        Schritt(rechts);
+        if (reihen_.Kosten() >= beste_.Kosten) return;
+        beste_ = reihen_.Merken();
         bestPlatz_ = platz_;
     }
-    /// Back to a place where it has been, `mehr` dearer than at first.
-    void Zurück(int platz, std::int64_t mehr) {
-        while (platz_ != platz) Schritt(platz_ < platz, [this](int p) { reihen_.Zurücktauschen(zeile_, p); });
-        reihen_.KostenGelten(anfang_ + mehr);
+    void ZumAnfang() {
+        reihen_.Zurück(anfang_);
+        platz_ = anfangsPlatz_;
     }
-    void ZumBesten() { Zurück(bestPlatz_, beste_); }
+    void ZumBesten() {
+        const bool hier = platz_ != anfangsPlatz_ && (platz_ < anfangsPlatz_) == (bestPlatz_ < anfangsPlatz_);
+        if (hier && bestPlatz_ != anfangsPlatz_) reihen_.Zurück(beste_);
+        else {
+            ZumAnfang();
+            while (platz_ != bestPlatz_) Schritt(platz_ < bestPlatz_);
+        }
+        platz_ = bestPlatz_;
+    }
 
   private:
-    template <typename Tausch> void Schritt(bool rechts, Tausch tausch) {
+    void Schritt(bool rechts) {
         if (rechts)
-            for (int i = platz_ + länge_ - 1; i >= platz_; i--) tausch(i);
+            for (int i = platz_ + länge_ - 1; i >= platz_; i--) reihen_.Tauschen(zeile_, i);
         else
-            for (int i = platz_ - 1; i < platz_ + länge_ - 1; i++) tausch(i);
+            for (int i = platz_ - 1; i < platz_ + länge_ - 1; i++) reihen_.Tauschen(zeile_, i);
         platz_ += rechts ? 1 : -1;
     }
 
     Reihen &reihen_;
     int zeile_, platz_, länge_;
-    std::int64_t anfang_, beste_ = 0;
-    int bestPlatz_;
+    Reihen::Marke anfang_{}, beste_{};
+    int anfangsPlatz_, bestPlatz_;
 };
 
-/// Carries a run to where it costs least in its row, as far as what lies between isn't too dear; whether that is
-/// elsewhere.
-bool Bestplatz(Reihen &reihen, int zeile, int platz, int länge) {
+/// Carries a run to where it costs least in its row, as far as what lies between isn't too dear; by how many places
+/// that is elsewhere.
+int Bestplatz(Reihen &reihen, int zeile, int platz, int länge) {
     const int rechts = static_cast<int>(reihen.Zeile(zeile).size()) - länge;
     Lauf lauf(reihen, zeile, platz, länge);
     while (lauf.Platz() > std::max(platz - Weitester, 0) && !lauf.ZuTeuer()) lauf.Rücken(false);
-    lauf.Zurück(platz, 0);
+    lauf.ZumAnfang();
     while (lauf.Platz() < std::min(platz + Weitester, rechts) && !lauf.ZuTeuer()) lauf.Rücken(true);
     lauf.ZumBesten();
-    return lauf.Platz() != platz;
+    return lauf.Platz() - platz;
 }
 
 /// Turns a run round where that pays.
 bool Umgedreht(Reihen &reihen, int zeile, int platz, int länge) {
-    const std::int64_t vorher = reihen.Kosten();
-    const auto umdrehen = [&](auto tausch) {
-        for (int ende = platz + länge - 1; ende > platz; ende--)
-            for (int i = platz; i < ende; i++) tausch(i);
-    };
-    umdrehen([&](int i) { reihen.Tauschen(zeile, i); });
-    if (reihen.Kosten() < vorher) return true;
-    umdrehen([&](int i) { reihen.Zurücktauschen(zeile, i); });
-    reihen.KostenGelten(vorher);
+    reihen.Behalten();
+    const Reihen::Marke vorher = reihen.Merken();
+    for (int ende = platz + länge - 1; ende > platz; ende--)
+        for (int i = platz; i < ende; i++) reihen.Tauschen(zeile, i);
+    if (reihen.Kosten() < vorher.Kosten) return true;
+    reihen.Zurück(vorher);
     return false;
 }
 
-bool ZeileSetzenlassen(Reihen &reihen, int zeile) {
+void ZeileSetzenlassen(Reihen &reihen, int zeile, Unruhe &unruhe) {
     const auto breite = static_cast<int>(reihen.Zeile(zeile).size());
-    bool besser = false;
+    const std::vector<char> anfangs = unruhe.Abnehmen(zeile);
+    const auto unruhig = [&](int platz) {
+        const int person = reihen.Zeile(zeile)[Z(platz)];
+        return anfangs[Z(person)] || unruhe.Herrscht(zeile, person);
+    };
+    const auto gerückt = [&](int von, int bis) {
+        for (int i = std::max(von - 1, 0); i <= std::min(bis + 1, breite - 1); i++)
+            unruhe.Stiften(zeile, reihen.Zeile(zeile)[Z(i)]);
+    };
     for (int länge = 1; länge <= std::min(Längster, breite - 1); länge++)
         for (int platz = 0; platz + länge <= breite; platz++) {
-            besser |= Bestplatz(reihen, zeile, platz, länge);
-            besser |= länge > 1 && Umgedreht(reihen, zeile, platz, länge);
+            bool lohnt = false;
+            for (int i = platz; i < platz + länge; i++) lohnt |= unruhig(i);
+            if (!lohnt) continue;
+            const int weite = Bestplatz(reihen, zeile, platz, länge);
+            if (weite != 0) gerückt(platz + std::min(weite, 0), platz + länge - 1 + std::max(weite, 0));
+            if (länge > 1 && Umgedreht(reihen, zeile, platz, länge)) gerückt(platz, platz + länge - 1);
         }
-    return besser;
 }
 
 /// A piece in hand, to be carried elsewhere.
@@ -133,36 +150,33 @@ class Stückzug {
 
 } // namespace
 
-void ReihenSetzenlassen(Reihen &reihen, std::vector<char> &unruhig) {
-    constexpr int Runden = 4;
+void ReihenSetzenlassen(Reihen &reihen, Unruhe &unruhe) {
+    constexpr int Runden = 8;
     const int letzte = reihen.Anzahl() - 1;
     for (int runde = 0; runde < Runden; runde++) {
         bool ruhig = true;
         for (int i = 0; i <= letzte; i++) {
             const int zeile = runde % 2 == 0 ? i : letzte - i;
-            if (!unruhig[Z(zeile)]) continue;
-            unruhig[Z(zeile)] = 0;
-            if (!ZeileSetzenlassen(reihen, zeile)) continue;
+            if (!unruhe.Herrscht(zeile)) continue;
             ruhig = false;
-            for (int z = std::max(zeile - 1, 0); z <= std::min(zeile + 1, letzte); z++) unruhig[Z(z)] = 1;
+            ZeileSetzenlassen(reihen, zeile, unruhe);
         }
         if (ruhig) return;
     }
 }
 
-void ReihenRütteln(Reihen &reihen, const std::vector<Stück> &stücke, Zufall &zufall, int mal) {
+void ReihenRütteln(Reihen &reihen, const std::vector<Stück> &stücke, Unruhe &unruhe, Zufall &zufall, int mal) {
     if (stücke.empty()) return;
     Reihen hier = reihen; // where each try begins; `reihen` holds the best
     for (int i = 0; i < mal; i++) {
         Reihen versuch = hier;
-        std::vector<char> unruhig(Z(reihen.Anzahl()), 0);
         for (int k = zufall.Wenig(2); k >= 0; k--) {
             const Stück &stück = stücke[Z(zufall.Unter(static_cast<int>(stücke.size())))];
             const bool umgedreht = zufall.Unter(3) == 0;
             Stückzug(versuch, stück, umgedreht).Tun(zufall.Unter(4) > 0 ? &zufall : nullptr);
-            for (std::size_t z = 0; z < stück.Zeilen.size(); z++) unruhig[Z(stück.Erste) + z] = 1;
         }
-        ReihenSetzenlassen(versuch, unruhig);
+        unruhe.Stiften(hier, versuch);
+        ReihenSetzenlassen(versuch, unruhe);
         const std::int64_t schwelle = std::int64_t{Duldsam} * zufall.Ausdauer() * (mal - i) / mal / 256;
         if (versuch.Kosten() < reihen.Kosten()) reihen = versuch;
         if (versuch.Kosten() <= hier.Kosten() + schwelle) hier = std::move(versuch);
@@ -200,19 +214,20 @@ Reihen::Folgen GezeichneteReihen(const Familiengraph &graph, Reihen::Folgen zeil
 Reihen::Folgen BesteReihen(const Familiengraph &graph, const Gerüst &gerüst) {
     Zufall zufall(1);
     const std::vector<Stück> stücke = StückeFinden(gerüst);
-    Gewichte gewichte = GewichteFür(graph);
-    Reihen reihen(graph, gerüst, gewichte);
+    Unruhe unruhe(gerüst);
+    Reihen reihen(graph, gerüst, GewichteFür(graph));
     Reihen beste = reihen;
-    // Small families are told often enough to find the best there is; the work of large ones grows with their size.
-    const std::int64_t genug = 2800 * static_cast<std::int64_t>(graph.Personen.size());
-    for (int i = 0; i < 40 && (i < 3 || reihen.Arbeit() < genug); i++) {
+    // Small families are told and shaken often enough to find the best there is; the work of large ones grows with
+    // their size.
+    const auto anzahl = static_cast<std::int64_t>(graph.Personen.size());
+    for (int i = 0; i < 40 && (i < 3 || reihen.Arbeit() < 600 * anzahl); i++) {
         const Reihen::Folgen erzählt = ErzählteReihen(gerüst, zufall);
         reihen.Setzen(i == 0 ? GezeichneteReihen(graph, erzählt) : erzählt);
-        std::vector<char> unruhig(Z(gerüst.Zeilen), 1);
-        ReihenSetzenlassen(reihen, unruhig);
+        unruhe.Überall();
+        ReihenSetzenlassen(reihen, unruhe);
         if (i == 0 || reihen.Kosten() < beste.Kosten()) beste = reihen;
     }
-    ReihenRütteln(beste, stücke, zufall, 8);
+    ReihenRütteln(beste, stücke, unruhe, zufall, static_cast<int>(std::clamp<std::int64_t>(11000 / anzahl, 10, 90)));
     return beste.Zeilen();
 }
 

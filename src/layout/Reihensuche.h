@@ -2,6 +2,7 @@
 
 #include "layout/Reihen.h"
 #include "layout/Stuecke.h"
+#include "layout/Unruhe.h"
 #include "layout/Zufall.h"
 
 namespace kw {
@@ -10,12 +11,11 @@ namespace kw {
 /// each partner's own family behind them or before. Begins with anybody.
 Reihen::Folgen ErzählteReihen(const Gerüst &gerüst, Zufall &zufall);
 
-/// Carries and turns runs of neighbours, until that pays in none of the rows that are `unruhig`, nor in those that this
-/// disturbs.
-void ReihenSetzenlassen(Reihen &reihen, std::vector<char> &unruhig);
+/// Carries and turns runs of neighbours with somebody restless among them, until all are calm.
+void ReihenSetzenlassen(Reihen &reihen, Unruhe &unruhe);
 
 /// Carries pieces elsewhere and lets the rows settle, so many times; ends with the cheapest rows that were seen.
-void ReihenRütteln(Reihen &reihen, const std::vector<Stück> &stücke, Zufall &zufall, int mal);
+void ReihenRütteln(Reihen &reihen, const std::vector<Stück> &stücke, Unruhe &unruhe, Zufall &zufall, int mal);
 
 /// The cheapest rows found: told in many ways, each left to settle, the best one shaken.
 Reihen::Folgen BesteReihen(const Familiengraph &graph, const Gerüst &gerüst);

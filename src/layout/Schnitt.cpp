@@ -12,7 +12,8 @@ constexpr std::size_t Z(int zahl) { return static_cast<std::size_t>(zahl); }
 } // namespace
 
 Schnitt::Schnitt(int knoten)
-    : quelle_(knoten), senke_(knoten + 1), erste_(Z(knoten + 2), -1), schicht_(Z(knoten + 2)), eigen_(Z(knoten), 0) {}
+    : quelle_(knoten), senke_(knoten + 1), erste_(Z(knoten + 2), -1), schicht_(Z(knoten + 2)), eigen_(Z(knoten), 0),
+      eigenkante_(Z(knoten), -1) {}
 
 void Schnitt::Anhängen(int a, int b, std::int64_t hin) {
     kanten_.push_back({b, erste_[Z(a)], hin});
@@ -60,26 +61,75 @@ std::int64_t Schnitt::Weg() {
     }
     std::int64_t fluss = Verboten;
     for (const int k : weg_) fluss = std::min(fluss, kanten_[Z(k)].Rest);
-    for (const int k : weg_) {
-        kanten_[Z(k)].Rest -= fluss;
-        kanten_[Z(k ^ 1)].Rest += fluss;
-    }
+    for (const int k : weg_) Fließen(k, fluss);
     return fluss;
 }
 
+void Schnitt::Fließen(int kante, std::int64_t fluss) {
+    kanten_[Z(kante)].Rest -= fluss;
+    kanten_[Z(kante ^ 1)].Rest += fluss;
+}
+
+/// Those who stand close in a row push each other along it, hundreds of them in one line: what the ones gain by that
+/// and the others lose is set off in one go; searching paths of that length one by one takes seconds.
+void Schnitt::Vorweg() {
+    std::vector<int> zwang(eigen_.size(), -1); // the bond by which a node takes another one along
+    std::vector<char> folgt(eigen_.size(), 0);
+    for (std::size_t i = 0; i < zwang.size(); i++)
+        for (int k = erste_[i]; k >= 0 && zwang[i] < 0; k = kanten_[Z(k)].Nächste)
+            if (kanten_[Z(k)].Rest == Verboten) zwang[i] = k;
+    for (const int k : zwang)
+        if (k >= 0) folgt[Z(kanten_[Z(k)].Nach)] = 1;
+    std::vector<char> gesehen(eigen_.size(), 0);
+    for (int i = 0; i < quelle_; i++)
+        if (!folgt[Z(i)]) Entlang(i, zwang, gesehen);
+}
+
+void Schnitt::Entlang(int anfang, const std::vector<int> &zwang, std::vector<char> &gesehen) {
+    struct Gewinn {
+        std::size_t Ort;
+        int Kante;
+    };
+    std::vector<Gewinn> gewinne; // not used up, the nearest last
+    std::vector<std::int64_t> hinzu;
+    weg_.clear();
+    for (int knoten = anfang; !gesehen[Z(knoten)]; knoten = kanten_[Z(weg_.back())].Nach) {
+        gesehen[Z(knoten)] = 1;
+        const int eigen = eigenkante_[Z(knoten)];
+        hinzu.push_back(0);
+        if (eigen >= 0 && eigen_[Z(knoten)] < 0) gewinne.push_back({hinzu.size() - 1, eigen});
+        while (eigen >= 0 && eigen_[Z(knoten)] > 0 && kanten_[Z(eigen)].Rest > 0 && !gewinne.empty()) {
+            const Gewinn &von = gewinne.back();
+            const std::int64_t fluss = std::min(kanten_[Z(von.Kante)].Rest, kanten_[Z(eigen)].Rest);
+            Fließen(von.Kante, fluss);
+            Fließen(eigen, fluss);
+            gewinn_ -= fluss;
+            hinzu[von.Ort] += fluss;
+            hinzu.back() -= fluss;
+            if (kanten_[Z(von.Kante)].Rest == 0) gewinne.pop_back();
+        }
+        if (zwang[Z(knoten)] < 0) break;
+        weg_.push_back(zwang[Z(knoten)]);
+    }
+    std::int64_t fluss = 0;
+    for (std::size_t i = 0; i < weg_.size() && i < hinzu.size(); i++) Fließen(weg_[i], fluss += hinzu[i]);
+}
+
 std::vector<char> Schnitt::Menge() {
-    std::int64_t gewinn = 0;
     for (int i = 0; i < quelle_; i++) {
         const std::int64_t kosten = eigen_[Z(i)];
+        if (kosten == 0) continue;
+        eigenkante_[Z(i)] = static_cast<int>(kanten_.size());
         if (kosten < 0) Anhängen(quelle_, i, -kosten);
-        else if (kosten > 0) Anhängen(i, senke_, kosten);
-        if (kosten < 0) gewinn -= kosten;
+        else Anhängen(i, senke_, kosten);
+        if (kosten < 0) gewinn_ -= kosten;
     }
-    while (gewinn > 0 && Schichten()) {
+    Vorweg();
+    while (gewinn_ > 0 && Schichten()) {
         aktuell_ = erste_;
-        while (const std::int64_t fluss = Weg()) gewinn -= fluss;
+        while (const std::int64_t fluss = Weg()) gewinn_ -= fluss;
     }
-    if (gewinn <= 0) return {};
+    if (gewinn_ <= 0) return {};
     std::vector<char> menge(eigen_.size());
     for (std::size_t i = 0; i < menge.size(); i++) menge[i] = schicht_[i] >= 0 ? 1 : 0;
     return menge;

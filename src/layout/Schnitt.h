@@ -25,13 +25,19 @@ class Schnitt {
         std::int64_t Rest;
     };
     void Anhängen(int a, int b, std::int64_t hin);
+    void Vorweg();
+    void Entlang(int anfang, const std::vector<int> &zwang, std::vector<char> &gesehen);
     bool Schichten();
     std::int64_t Weg();
+
+    void Fließen(int kante, std::int64_t fluss);
 
     int quelle_, senke_;
     std::vector<Kante> kanten_;
     std::vector<int> erste_, aktuell_, schicht_, reihe_, weg_;
     std::vector<std::int64_t> eigen_;
+    std::vector<int> eigenkante_; ///< from the source or to the sink, by node
+    std::int64_t gewinn_ = 0;     ///< that no flow has used up
 };
 
 } // namespace kw

@@ -38,8 +38,14 @@ struct Zeichnung {
 void Linien(const Gerüst &gerüst, const std::vector<Punkt> &personen, int f, std::int64_t höhe, std::int64_t halb,
             std::vector<Strecke> &linien);
 
-/// Pairs of lines of different families that cross; sorts the lines.
-int Kreuzungszahl(std::vector<Strecke> &linien);
+/// Pairs of lines of different families that cross.
+struct Kreuzungszahl {
+    int Alle = 0;
+    int AmBein = 0; ///< of these a partner's leg that passes the end of another bar of theirs, which nobody misreads
+    int Störende() const { return Alle - AmBein; }
+};
+/// Sorts the lines.
+Kreuzungszahl KreuzungenZählen(std::vector<Strecke> &linien);
 
 /// How good a drawing is, counted on its lines.
 Lagebefund Befinden(const Gerüst &gerüst, const Zeichnung &zeichnung, const Abstände &abstände);

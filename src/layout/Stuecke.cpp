@@ -6,6 +6,8 @@ namespace kw {
 
 namespace {
 
+constexpr std::size_t Breitestes = 100; // of a piece in a row; carrying wider ones costs more than they are worth
+
 /// Persons and families as the nodes of one graph, a bond from each family to each of its members. A bond without which
 /// the graph would fall apart is found by a walk that notes how early a node each one can get back to past its own
 /// bond.
@@ -130,6 +132,8 @@ class Stückesucher {
         for (const int person : liste)
             for (int z = gerüst_.Spalten[Z(person)].Oben; z <= gerüst_.Spalten[Z(person)].Unten; z++)
                 stück.Zeilen[Z(z - stück.Erste)].push_back(person);
+        const auto breit = [](const std::vector<int> &zeile) { return zeile.size() > Breitestes; };
+        if (std::any_of(stück.Zeilen.begin(), stück.Zeilen.end(), breit)) return;
         stück.Anker = std::clamp(anker, stück.Erste, letzte);
         stücke_.push_back(std::move(stück));
     }

@@ -1,5 +1,7 @@
 #include "layout/Teile.h"
 
+#include "layout/Orte.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -110,8 +112,10 @@ Punkt Nebeneinander::Platz(const Teil &teil, const Zeichnung &zeichnung) {
         breite = std::max(breite, zeichnung.Personen[i].X);
         vergeben_[Z(teil.Personen[i])] = 1;
     }
-    const Punkt hier{rechts_ + Abstand(links), teil.Oberste * Tausendstel(abstände_.Generationen)};
-    rechts_ = hier.X + breite;
+    const bool behält = HabenPlatz(teil.Graph);
+    const Punkt hier =
+        behält ? Punkt{} : Punkt{rechts_ + Abstand(links), teil.Oberste * Tausendstel(abstände_.Generationen)};
+    rechts_ = behält ? std::max(rechts_, breite) : hier.X + breite;
     label_ = rechts;
     leer_ = false;
     return hier;
@@ -121,7 +125,9 @@ Punkt Nebeneinander::Platz(const Teil &teil, const Zeichnung &zeichnung) {
 void Nebeneinander::EinzelneSetzen(std::vector<Punkt> &personen) {
     std::vector<int> einzelne;
     for (std::size_t i = 0; i < vergeben_.size(); i++)
-        if (!vergeben_[i]) einzelne.push_back(static_cast<int>(i));
+        if (const auto &platz = graph_.Personen[i].Platz; !vergeben_[i] && platz)
+            personen[i] = {Tausendstel(platz->X), Tausendstel(platz->Y)};
+        else if (!vergeben_[i]) einzelne.push_back(static_cast<int>(i));
     int zeilen = zeilen_;
     while (zeilen == 0 || (zeilen_ == 0 && Z(zeilen * zeilen) < einzelne.size())) zeilen++;
     for (std::size_t i = 0; i < einzelne.size(); i += Z(zeilen)) {

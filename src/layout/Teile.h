@@ -22,11 +22,11 @@ struct Teil {
 std::vector<Teil> TeileFinden(const Familiengraph &graph, const std::vector<Familie> &familien,
                               const std::vector<int> &ebenen);
 
-/// Puts parts side by side, and in columns behind them those who have no bond.
+/// Puts parts side by side, and in columns behind them those who have neither bond nor place.
 class Nebeneinander {
   public:
     Nebeneinander(const Familiengraph &graph, const Abstände &abstände, const std::vector<Teil> &teile);
-    /// Where the part's 0, 0 comes to stand.
+    /// Where the part's 0, 0 comes to stand: behind the others, or, where all of it have a place, where they have it.
     Punkt Platz(const Teil &teil, const Zeichnung &zeichnung);
     void EinzelneSetzen(std::vector<Punkt> &personen);
 

@@ -73,13 +73,19 @@ TEST(Reihen, TauschenWeißWasEsKostet) {
             const auto breite = static_cast<int>(reihen.Zeile(zeile).size());
             if (breite < 2) continue;
             const int platz = zufall.Unter(breite - 1);
-            const std::int64_t vorher = reihen.Kosten();
+            const Reihen::Marke vorher = reihen.Merken();
             const int mehr = reihen.Tauschen(zeile, platz);
-            if (i % 4 == 0) { // there and back
-                reihen.Zurücktauschen(zeile, platz);
-                reihen.KostenGelten(vorher);
+            if (i % 4 == 0) { // there and back, further on the way
+                if (platz > 0) reihen.Tauschen(zeile, platz - 1);
+                Reihen kopie = reihen;
+                kopie.Tauschen(zeile, platz);
+                reihen.Zurück(vorher);
+                EXPECT_EQ(reihen.Kosten(), vorher.Kosten);
                 EXPECT_EQ(reihen.Tauschen(zeile, platz), mehr);
+                neu.Setzen(kopie.Zeilen());
+                ASSERT_EQ(kopie.Kosten(), neu.Kosten()) << saat << " " << i;
             }
+            if (i % 7 == 0) reihen.Behalten();
             neu.Setzen(reihen.Zeilen());
             ASSERT_EQ(reihen.Kosten(), neu.Kosten()) << saat << " " << i;
         }
