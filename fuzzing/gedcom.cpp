@@ -1,5 +1,6 @@
 // Family trees as genealogy programs write them. An input is a file. All persons are taken, first by the default
-// answers, then by others.
+// answers, then by others; then they are written and read again.
+#include "../tests/familytree/Umschrift.h"
 #include "Ziel.h"
 
 #include "familytree/Uebernahme.h"
@@ -63,6 +64,18 @@ void AhnenPrüfen(const Übernahme &ü) {
     Halten(fertige.size() == ü.Personen.size(), "nobody is their own ancestor");
 }
 
+/// What was written once comes back from there as it went.
+void UmlaufPrüfen(const Übernahme &ü, const Übernahmeregeln &regeln) {
+    if (ü.Personen.size() > MehrAlsGenug) return;
+    for (const auto fassung : {Stammbaumfassung::Gedcom551, Stammbaumfassung::Gedcom70}) {
+        const auto eine = Übernommen(Geschrieben(DokumentAus(ü), {fassung, false, false}).Text, regeln);
+        const auto andere = Übernommen(Geschrieben(DokumentAus(eine), {fassung, false, false}).Text, regeln);
+        Halten(eine.Personen.size() == ü.Personen.size(), "everybody comes back");
+        Halten(eine.Paare.size() == ü.Paare.size(), "every couple comes back");
+        Halten(Kern(eine) == Kern(andere), "what was written comes back as it went");
+    }
+}
+
 void Prüfen(const Stammbaum &baum, const Verwandtschaft &verwandte, const Übernahmeregeln &regeln) {
     std::vector<std::uint32_t> alle(std::min(baum.Personen.size(), MehrAlsGenug));
     std::iota(alle.begin(), alle.end(), 0U);
@@ -76,6 +89,7 @@ void Prüfen(const Stammbaum &baum, const Verwandtschaft &verwandte, const Über
     }
     for (std::uint32_t i = 0; i < ü.Personen.size(); ++i) PersonPrüfen(ü, i);
     AhnenPrüfen(ü);
+    UmlaufPrüfen(ü, regeln);
     for (const auto sprache : {Sprache::Deutsch, Sprache::Englisch}) {
         const auto bericht = Berichtstext(ü.Bericht, baum.Warnliste, sprache);
         Halten(IstUtf8(bericht), "a report is UTF-8");

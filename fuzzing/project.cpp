@@ -1,7 +1,10 @@
-// A project file: load, draw, print, save, load again.
+// A project file: load, write as a family tree, draw, print, save, load again.
 #include "Umlauf.h"
 
 #include "document/saetze/Person.h"
+#include "familytree/Stammbaum.h"
+#include "familytree/Uebergabe.h"
+#include "familytree/Utf8.h"
 #include "rendering/Legende.h"
 #include "rendering/Seite.h"
 #include "rendering/Zeichnung.h"
@@ -44,6 +47,19 @@ Satzliste OhneBlanks(const Satzliste &kreislinien) {
     return ohne;
 }
 
+/// What of it goes into a family tree is read there without a fault.
+void AlsStammbaum(const Dokument &dokument) {
+    for (const auto fassung : {Stammbaumfassung::Gedcom551, Stammbaumfassung::Gedcom70}) {
+        const auto ü = Übergeben(dokument, DrehbuchUhr(), {fassung, true, true});
+        Berichtszeilen(ü.Bericht, Sprache::Deutsch);
+        Halten(IstUtf8(ü.Text), "a family tree is UTF-8");
+        const auto baum = StammbaumLesen(ü.Text);
+        Halten(baum.Warnliste.Liste().empty(), "a family tree that was written has no fault");
+        Halten(baum.Personen.size() == ü.Personen, "everybody who went along is there");
+        Halten(baum.Einseitige.empty(), "families and children name each other");
+    }
+}
+
 } // namespace
 
 } // namespace kw
@@ -54,6 +70,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *bytes, std::size_t anz
     const auto befund = ProjektLesen(Profil(std::string(AlsText(bytes, anzahl))), dokument);
     Ladetext(befund, Sprache::Deutsch);
     if (befund.BisZumEnde) dokument.FreieNummernAufbauen();
+    AlsStammbaum(dokument);
     for (const bool gezeichnet : {false, true}) {
         if (gezeichnet) Zeichnen(dokument);
         const auto wieder = Umlauf(dokument);

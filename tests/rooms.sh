@@ -15,7 +15,7 @@ below() {
     familytree) echo document ;;
     anonymity) echo document layout rendering ;;
     dialogs) echo document rendering editing familytree arrangement anonymity ;;
-    output) echo document rendering editing anonymity ;;
+    output) echo document rendering editing familytree anonymity ;;
     description | commands | keyboard) echo document rendering editing ;;
     app) echo document rendering editing arrangement familytree anonymity dialogs description output commands keyboard ;;
     qt) echo document rendering editing familytree anonymity dialogs description output commands keyboard app ;;

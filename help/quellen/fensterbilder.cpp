@@ -118,19 +118,25 @@ class Aufnahme {
         if (!bild.save(datei, "png", 0)) Aufgeben(datei);
     }
 
-    /// The form that a deed opens, however much later, when what is to be chosen in it was.
-    void Form(const char *name, const std::function<void()> &tat, const char *knopf = nullptr) const {
+    /// The form that a deed opens, however much later, when what is to be chosen in it was; or the one that opens
+    /// from that by a button.
+    void Form(const char *name, const std::function<void()> &tat, const char *knopf = nullptr,
+              const char *dahin = nullptr) const {
         QTimer uhr;
         int ticks = 0;
         QObject::connect(&uhr, &QTimer::timeout, &uhr, [&] {
             QWidget *form = QApplication::activeModalWidget();
             if (++ticks > 20) Aufgeben(QStringLiteral("no form for ") + QLatin1String(name));
             if (!form) return;
+            if (dahin) { // not from here: no tick comes before this one is over
+                auto *weiter = form->findChild<QAbstractButton *>(QLatin1String(std::exchange(dahin, nullptr)));
+                return QTimer::singleShot(0, weiter, &QAbstractButton::click);
+            }
             uhr.stop();
             if (knopf) form->findChild<QAbstractButton *>(QLatin1String(knopf))->click();
             QApplication::processEvents();
             Sichern(form->grab(), name);
-            QTest::keyClick(form, Qt::Key_Escape);
+            for (; form; form = QApplication::activeModalWidget()) QTest::keyClick(form, Qt::Key_Escape);
         });
         uhr.start(Ruhe);
         tat();
@@ -158,8 +164,10 @@ void FamilieAufnehmen(const Aufnahme &aufnahme, const std::string &projekt) {
     // The oldest, a child, her brother.
     Tippen(fenster, {Qt::Key_Home, Qt::Key_Down, Qt::Key_Right});
     aufnahme.Sichern(Fläche(fenster).grab(Ort(fenster, "Martin").adjusted(-150, -135, 230, 95)), "tastatur");
+    aufnahme.Form("stammbaumexport", [&] { fenster.Modell().BefehlAusführen("mnuStammbaumExport"); });
     aufnahme.Form("person", [&] { Doppelklicken(fenster, "Albert"); });
-    aufnahme.Form("ohne-namen", [&] { fenster.Modell().BefehlAusführen("mnuOhneNamen"); }, "optJahr");
+    aufnahme.Form(
+        "ohne-namen", [&] { fenster.Modell().BefehlAusführen("mnuOhneNamen"); }, "optJahr");
 }
 
 } // namespace
@@ -177,6 +185,16 @@ int main(int argc, char **argv) {
         aufnahme.Sichern(leer.grab(), "anfang");
     }
     FamilieAufnehmen(aufnahme, wort(2).toStdString());
+    for (const auto &[name, knopf] :
+         {std::pair<const char *, const char *>("stammbaum", nullptr), {"stammbaum-bericht", "cmdBericht"}}) {
+        Hauptfenster stammbaum("stammbaum.ged");
+        aufnahme.Form(
+            name,
+            [&] {
+                Zeigen(stammbaum, {960, 480});
+            },
+            nullptr, knopf);
+    }
     Hauptfenster fall("/dataimport fall");
     Zeigen(fall, {960, 480});
     aufnahme.Sichern(fall.grab(), "import");

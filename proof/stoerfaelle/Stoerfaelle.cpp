@@ -29,6 +29,7 @@
 #include <fstream>
 #include <functional>
 #include <iostream>
+#include <utility>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -102,7 +103,7 @@ class Zuschauer {
             QWidget *offen = QApplication::activeModalWidget();
             if (auto *kasten = dynamic_cast<QMessageBox *>(offen)) Antworten(*kasten);
             else if (auto *dialog = dynamic_cast<QFileDialog *>(offen)) Benennen(*dialog);
-            else if (offen) offen->close();
+            else if (offen) Bestätigen(*offen);
         });
     }
     void Antworten(QMessageBox &kasten) {
@@ -111,6 +112,12 @@ class Zuschauer {
         Gesehen.Gemeldet = Gesehen.Gemeldet || (!fragt && kasten.icon() == QMessageBox::Warning);
         kasten.button(fragt ? fall_.Antwort : QMessageBox::Ok)->click();
     }
+    /// A form, once: one that stays open because of what failed is given up.
+    void Bestätigen(QWidget &form) {
+        auto *ok = form.findChild<QAbstractButton *>(QStringLiteral("cmdOK"));
+        if (std::exchange(bestätigt_, true) || !ok) form.close();
+        else ok->click();
+    }
     void Benennen(QFileDialog &dialog) const {
         auto *zeile = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
         zeile->setText(QDir::currentPath() + u'/' + QString::fromUtf8(fall_.Eingabe));
@@ -118,6 +125,7 @@ class Zuschauer {
         if (QApplication::activeModalWidget() == &dialog) dialog.reject();
     }
     const Fall &fall_;
+    bool bestätigt_ = false;
     QObject lebt_; ///< ends with this
 };
 
@@ -160,6 +168,8 @@ std::vector<Fall> Fälle() {
         {"load", Art::Laden, "q.kwp", "q.kwp", [](Hauptfenster &f) { Befehl(f, "mnuÖffnen"); }, [] {}, QMessageBox::No},
         {"PDF", Art::Ausgabe, "aus.pdf", "aus.pdf", [](Hauptfenster &f) { Befehl(f, "mnuPDF_Export"); }},
         {"picture", Art::Ausgabe, "aus.bmp", "aus.bmp", [](Hauptfenster &f) { Befehl(f, "mnuExportieren"); }},
+        {"without names", Art::Ausgabe, "ohne.kwp", "ohne.kwp", [](Hauptfenster &f) { Befehl(f, "mnuOhneNamen"); }},
+        {"family tree", Art::Ausgabe, "aus.ged", "aus.ged", [](Hauptfenster &f) { Befehl(f, "mnuStammbaumExport"); }},
         {"region", Art::Ausgabe, "aus.jpg", "aus.jpg", Ausschneiden},
         {"settings", Art::Still, "prog.ini", "", [](Hauptfenster &f) { f.Beenden(); }, ErsteEinstellungen},
         {"net", Art::Netz, "", "",
@@ -281,6 +291,8 @@ class Prüfstand {
     }
 
     static bool IstGanz(const std::string &datei, const std::string &bytes) {
+        if (datei.ends_with(".kwp")) return bytes.starts_with("[DEFAULT]") && bytes.ends_with("\r\n");
+        if (datei.ends_with(".ged")) return bytes.ends_with("\n0 TRLR\r\n");
         if (!datei.ends_with(".pdf")) return !QImage::fromData(QByteArray::fromStdString(bytes)).isNull();
         return bytes.starts_with("%PDF") &&
                bytes.find("%%EOF", bytes.size() - std::min<size_t>(bytes.size(), 10)) != bytes.npos;

@@ -78,7 +78,7 @@ constexpr std::string_view Störungen[] = {
 constexpr std::string_view Starts[] = {" cmd=\"/dataimport zufall\"\nwait 200", " cmd=zufall.kwp\nwait 200",
     " printers=\"Laser;Microsoft Print to PDF\" margins=0.4,0.5,1,0"};
 constexpr std::string_view Worte[] = {"yes", "no", "cancel", "file cancel", "file 1.kwp", "file 2.kwp", "file 1.bmp",
-    "file fehlt/1.kwp"};
+    "file fehlt/1.kwp", "file 1.ged"};
 constexpr std::string_view Projekte[] = {"1.kwp", "2.kwp", "zufall.kwp", "3/1.kwp"};
 constexpr std::string_view Gruppen[] = {Menüleiste, "mnuDatei", Werkzeugband, Palette, Fensterteile};
 
@@ -92,6 +92,7 @@ constexpr Tür Türen[] = {
     {"", "mnuLegendeEinstellungen", "frmLegende"}, {"", "mnuSchriftart", "frmSchrift"},
     {"", "mnuDrucken", "frmDrucken"}, {"", "mnuAltersangabe", "frmSymbGlobal"},
     {"", "mnuSeiteEinrichten", "frmSeiteEinrichten"}, {"", "mnuEinstellungen", "frmEinstellungen"},
+    {"", "mnuStammbaumExport", "frmStammbaumExport"},
 };
 constexpr size_t OrtsTüren = 4;
 constexpr std::string_view Texte[] = {

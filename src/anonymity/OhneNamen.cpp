@@ -96,10 +96,9 @@ class Zeitangaben {
         constexpr double LetztesJahr = 2100; // that alone is taken for one
         if (zeit_ == Lebenszeit::Geburtsjahr && !alter_.strGebJahrText.empty())
             return ZahlLesen(alter_.strGebJahrText) <= LetztesJahr ? alter_.strGebJahrText : std::string();
-        const bool lebt = !person.Verstorben() && !alter_.strAlterText.empty() && NurZiffern(alter_.strAlterText);
-        // A year can't be told of somebody whose age alone is known.
-        const bool bekannt = zeit_ == Lebenszeit::Alter || alter_.strGebJahrText.empty();
-        return lebt && bekannt ? AltersangabeFür(alter_.strAlterText, sprache_) : std::string();
+        const std::string alter = AltersangabeFür(alter_.strAlterText, sprache_);
+        // Neither a negative one nor one of thousands of years is one.
+        return !person.Verstorben() && AlterAusAngabe(alter) ? alter : std::string();
     }
 
   private:
@@ -108,7 +107,8 @@ class Zeitangaben {
     Altersberechnung alter_;
 };
 
-std::string Person(const PersonSatz &person, const std::string &name, Zeitangaben &daten) {
+/// Without a name.
+std::string Person(const PersonSatz &person, Zeitangaben &daten) {
     PersonBau neu;
     neu.Nr(Nummernziffern(person.Nr()))
         .Symboltyp(ZahlSchreiben(ZahlLesen(person.Symboltyp())))
@@ -122,7 +122,7 @@ std::string Person(const PersonSatz &person, const std::string &name, Zeitangabe
     if (person.Eineiig() || person.Zweieiig())
         neu.Zwilling(std::string(person.Eineiig() ? "1E" : "2E") + Nummernziffern(person.ZwillingNr()));
     if (IstInstitution(person)) return neu.Institution({}).Text();
-    if (IstBenannt(person)) neu.Vorname(name).Geburtsdatum(daten.Von(person));
+    if (IstBenannt(person)) neu.Geburtsdatum(daten.Von(person));
     return neu.Text();
 }
 
@@ -183,6 +183,14 @@ template <typename Satz> Satzliste Neu(const Satzliste &speicher, std::string (*
     return neue;
 }
 
+/// By what is left, so that exporting it once more changes nothing.
+void NamenGeben(Dokument &neu) {
+    const auto namen = Kurznamen(neu);
+    for (int i = 0; i < neu.cboPersonen.Anzahl(); ++i)
+        if (const auto &name = namen[static_cast<std::size_t>(i)]; !name.empty())
+            neu.cboPersonen.Ersetzen(i, PersonBau(neu.cboPersonen.Satz(i)).Vorname(name).Text());
+}
+
 bool HatText(std::string_view feld) { return !Getrimmt(feld).empty(); }
 
 } // namespace
@@ -190,12 +198,9 @@ bool HatText(std::string_view feld) { return !Getrimmt(feld).empty(); }
 Dokument OhneNamen(const Dokument &dokument, Lebenszeit zeit, const Uhr &uhr, Sprache sprache) {
     Dokument neu = dokument;
     neu.SpeicherLeeren();
-    const auto namen = Kurznamen(dokument);
     Zeitangaben daten(zeit, uhr, sprache);
-    for (std::size_t i = 0; i < namen.size(); i++) {
-        const PersonSatz person(dokument.cboPersonen.Satz(static_cast<int>(i)), Lücken::Leer);
-        neu.cboPersonen.Anhängen(Person(person, namen[i], daten));
-    }
+    for (const auto &satz : dokument.cboPersonen)
+        neu.cboPersonen.Anhängen(Person(PersonSatz(satz, Lücken::Leer), daten));
     neu.cboPartnerschaftsLinien = Neu(dokument.cboPartnerschaftsLinien, Partnerschaft);
     neu.cboKindlinien = Neu(dokument.cboKindlinien, Kind);
     neu.cboBeziehungsLinien = Neu(dokument.cboBeziehungsLinien, Beziehung);
@@ -203,6 +208,7 @@ Dokument OhneNamen(const Dokument &dokument, Lebenszeit zeit, const Uhr &uhr, Sp
     for (const auto &satz : dokument.cboFreehandlines)
         if (const auto punkte = KreisPunkte(satz); !punkte.empty()) neu.cboFreehandlines.Anhängen(KreisText(punkte));
     neu.FreieNummernAufbauen();
+    NamenGeben(neu);
     return neu;
 }
 

@@ -13,6 +13,7 @@
 #include "editing/Ablage.h"
 #include "editing/Leinwandlage.h"
 #include "editing/Werkzeuge.h"
+#include "familytree/Uebergabe.h"
 #include "output/Arbeitsbereich.h"
 #include "output/Druckwerk.h"
 #include "platform/Bedienelemente.h"
@@ -164,6 +165,7 @@ void Anzeige::RestZeigen() {
     bedienung_[Name::mnuOhneNamen].Enabled = Satzzahl(z_.dokument) > 0;
     bedienung_[Name::btnBildGrößer].Enabled = z_.bereich.KannVergrößern();
     bedienung_[Name::btnBildKleiner].Enabled = z_.bereich.KannVerkleinern();
+    bedienung_[Name::mnuStammbaumExport].Enabled = HatStammbaum(z_.dokument);
     Bedienelement &import = bedienung_[Name::btnImport];
     import.Visible = import.Enabled = !z_.import.Listenzeilen.empty();
     import.Checked = bedienung_[Name::imgVariable].Visible = z_.import.ListeSichtbar;

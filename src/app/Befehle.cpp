@@ -137,6 +137,8 @@ constexpr Zeile Tabelle[] = {
     {Name::mnuStammbaum, [](Befehlsumgebung &u, int) { u.stammbaum.mnuStammbaum(); }},
     {Name::mnuExportieren, [](Befehlsumgebung &u, int) { u.bildexport.SeiteExportieren(u.projekt.Projektdatei); }},
     {Name::mnuPDF_Export, PdfErzeugen},
+    {Name::mnuStammbaumExport,
+     [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmStammbaumExport); }},
     {Name::mnuOhneNamen, [](Befehlsumgebung &u, int) { u.werkbank.fenster.FormÖffnen(Name::frmOhneNamen); }},
     {Name::btnClipboard, Bildauswahl, false},
     {Name::btnAuswahlZuBild, Bildauswahl, true},

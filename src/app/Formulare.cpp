@@ -13,6 +13,7 @@
 #include "dialogs/frmSchrift.h"
 #include "dialogs/frmSeiteEinrichten.h"
 #include "dialogs/frmStammbaum.h"
+#include "dialogs/frmStammbaumExport.h"
 #include "dialogs/frmStammbaumbericht.h"
 #include "dialogs/frmSymbGlobal.h"
 #include "dialogs/frmSymbol.h"
@@ -47,6 +48,7 @@ constexpr Bauplan Baupläne[] = {
     {Name::frmSeiteEinrichten, Bauen<frmSeiteEinrichten>},
     {Name::frmEinstellungen, Bauen<frmEinstellungen>},
     {Name::frmFassungen, Bauen<frmFassungen>},
+    {Name::frmStammbaumExport, Bauen<frmStammbaumExport>},
     {Name::frmOhneNamen, Bauen<frmOhneNamen>},
     {Name::frmStammbaum, Bauen<frmStammbaum>},
     {Name::frmStammbaumbericht, Bauen<frmStammbaumbericht>},

@@ -118,4 +118,6 @@ Stammbaumbefund StammbaumdateiLesen(const std::string &pfad, std::string &bytes,
     return {};
 }
 
+bool IstStammbaumname(std::string_view pfad) { return Kleingeschrieben(pfad).ends_with(".ged"); }
+
 } // namespace kw

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace kw {
 
@@ -29,5 +30,8 @@ struct Stammbaumbefund {
 /// The bytes of a family tree's file: a .ged, or the first .ged of an archive (.gdz), whatever the file is called.
 /// `bytes` is left alone on failure. What unpacks to more than `höchstens` bytes is refused before it fills the memory.
 Stammbaumbefund StammbaumdateiLesen(const std::string &pfad, std::string &bytes, std::size_t höchstens = GrößteDatei);
+
+/// Whether a file of that name is to be a family tree: it ends in ".ged", in letters of any case.
+bool IstStammbaumname(std::string_view pfad);
 
 } // namespace kw

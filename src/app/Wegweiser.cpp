@@ -162,6 +162,7 @@ constexpr Sperre Sperren[] = {
     {Name::btnBildGrößer, &Absage::GrößterZoom},
     {Name::btnBildKleiner, &Absage::KleinsterZoom},
     {Name::mnuKindVon, &Absage::HatEltern},
+    {Name::mnuStammbaumExport, &Absage::KeinStammbaum},
     {Name::mnuOhneNamen, &Absage::NichtsDa},
 };
 

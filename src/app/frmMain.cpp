@@ -9,6 +9,7 @@
 #include "editing/Abwahl.h"
 #include "editing/Werkzeuge.h"
 #include "output/NamenloseAusgabe.h"
+#include "output/Stammbaumziel.h"
 #include "output/Textausgabe.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Benutzer.h"
@@ -280,6 +281,10 @@ bool frmMain::FassungÖffnen(const std::string &name) {
     if (!fassung || !projekt.FassungÖffnen(*fassung)) return false;
     Festhalten();
     return true;
+}
+
+bool frmMain::StammbaumSpeichern(const std::string &inhalt) {
+    return kw::StammbaumSpeichern(plattform.benutzer, ansicht.Sprache, projekt.Projektdatei, inhalt);
 }
 
 bool frmMain::OhneNamenExportieren(Lebenszeit zeit) {

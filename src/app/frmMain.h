@@ -143,6 +143,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     void SeiteAnwenden() override;
     bool GenogrammDrucken() override;
     bool FassungÖffnen(const std::string &name) override;
+    bool StammbaumSpeichern(const std::string &inhalt) override;
     bool OhneNamenExportieren(Lebenszeit zeit) override;
     bool NeuesProjekt(const Dokument &seite) override;
     void TextSpeichern(const std::string &titel, const std::string &text) override;

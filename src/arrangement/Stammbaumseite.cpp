@@ -57,7 +57,8 @@ std::vector<Seitenwunsch> Auswege(const Seitenwunsch &wunsch) {
         auswege.back().Blatt.Kleiner = kleiner;
         auswege.back().Blatt.AuchDarüber = false;
     };
-    if (!wunsch.Alle) hinzu(wunsch.Wahl, true);
+    if (wunsch.Alle) hinzu(wunsch.Wahl, wunsch.Blatt.Kleiner);
+    hinzu(wunsch.Wahl, true);
     for (const bool kleiner : {wunsch.Blatt.Kleiner, true})
         for (const auto kürzen : Kürzungen)
             if (Sippenwahl wahl = wunsch.Wahl; kürzen(wahl)) hinzu(wahl, kleiner);

@@ -22,6 +22,7 @@ constexpr Bildzeile Tafel[] = {
     {Name::mnuStammbaum, "stammbaum"},
     {Name::mnuExportieren, "bild-export"},
     {Name::mnuPDF_Export, "pdf-export"},
+    {Name::mnuStammbaumExport, "stammbaum-export"},
     {Name::mnuOhneNamen, "ohne-namen"},
     {Name::mnuZuletztGeöffnet, "zuletzt"},
     {Name::mnuSeiteEinrichten, "seite"},

@@ -10,7 +10,6 @@
 #include "document/saetze/Pfeil.h"
 #include "document/saetze/Textbox.h"
 #include "rendering/Legende.h"
-#include "rendering/Symbole.h"
 
 #include <algorithm>
 #include <array>

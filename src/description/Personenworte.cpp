@@ -8,7 +8,6 @@
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
-#include "rendering/Symbole.h"
 
 #include <algorithm>
 #include <array>

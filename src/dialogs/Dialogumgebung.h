@@ -28,6 +28,8 @@ class Dialogdienste {
     virtual bool GenogrammDrucken() = 0;
     /// Opens that version of the safety net, behind the question about unsaved changes. False when it didn't come.
     virtual bool FassungÖffnen(const std::string &name) = 0;
+    /// Writes a family tree to a file that the user names; a failure is told. False when nothing was written.
+    virtual bool StammbaumSpeichern(const std::string &inhalt) = 0;
     /// Asks for a file and exports page or project without names. False when nothing was written, which was told.
     virtual bool OhneNamenExportieren(Lebenszeit zeit) = 0;
     /// Makes that page a new project, which isn't saved yet, behind the question about unsaved changes; one step back

@@ -23,6 +23,10 @@ inline constexpr Zweisprachig HatEltern{"Die ausgewählte Person hat schon Elter
                                         "The selected person has parents already."};
 inline constexpr Zweisprachig KeinPaar{"Zwillinge brauchen ein Paar im Rahmen.", "Twins need a couple in the frame."};
 
+// What goes out.
+inline constexpr Zweisprachig KeinStammbaum{"Auf der Seite steht niemand, der in einen Stammbaum gehört.",
+                                            "Nobody stands on the page who belongs in a family tree."};
+
 // What is drawn or placed.
 inline constexpr Zweisprachig KurzerPfeil{"Kein Pfeil: Er muss länger als 5 mm sein.",
                                           "No arrow: it has to be longer than 5 mm."};

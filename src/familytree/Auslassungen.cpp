@@ -1,5 +1,6 @@
 #include "familytree/Auslassungen.h"
 
+#include "familytree/Marken.h"
 #include "familytree/Uebernehmer.h"
 
 #include <algorithm>
@@ -70,6 +71,12 @@ bool IstGenommen(std::string_view in, std::string_view marke) {
                        [&](const Genommenes &g) { return g.In == in && g.Marke == marke; });
 }
 
+bool IstZwillingsangabe(const Satz &satz, const Knoten &beziehung) {
+    const auto *const rolle = satz.Erstes(beziehung, "ROLE");
+    return IstZwillingsrolle(satz.Text(beziehung, "RELA")) ||
+           (rolle && (IstZwillingsrolle(rolle->Wert) || IstZwillingsrolle(satz.Text(*rolle, "PHRASE"))));
+}
+
 } // namespace
 
 void AuslassungenMelden(const Satz &satz, std::string_view wer, Übernahmebericht &bericht) {
@@ -85,10 +92,9 @@ void AuslassungenMelden(const Satz &satz, std::string_view wer, Übernahmeberich
         const bool art = familie && knoten.Marke == "EVEN"; // its type may tell the couple's state
         if (!name && !art && !IstGenommen("", knoten.Marke)) {
             // Twins are told of where it shows whether both are there.
-            const bool zwilling =
-                Art(knoten.Marke) == BeziehungWeggelassen &&
-                (IstZwillingsrolle(satz.Text(knoten, "RELA")) || IstZwillingsrolle(satz.Text(knoten, "ROLE")));
-            return zwilling ? void() : melden(knoten);
+            const bool zwilling = Art(knoten.Marke) == BeziehungWeggelassen && IstZwillingsangabe(satz, knoten);
+            const bool symbol = satz.Erstes(knoten, Symbolmarke) != nullptr; // its own words, taken as a symbol
+            return zwilling || symbol ? void() : melden(knoten);
         }
         const bool datiert = !familie && !satz.Text(knoten, "DATE").empty();
         if (datiert && !datierte.insert(knoten.Marke).second) return melden(knoten);

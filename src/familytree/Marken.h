@@ -6,6 +6,10 @@
 // What the values of lines mean.
 namespace kw {
 
+/// This program's own tag, below a fact that tells other programs in words what the format has no tag for: the number
+/// of a person's symbol.
+constexpr std::string_view Symbolmarke = "_KINWRIGHT";
+
 /// ASCII in capital or small letters; all else stays.
 std::string InGroßbuchstaben(std::string_view text);
 std::string InKleinbuchstaben(std::string_view text);

@@ -1,5 +1,6 @@
 #include "familytree/Personenangaben.h"
 
+#include "document/saetze/Person.h"
 #include "familytree/Auslassungen.h"
 #include "familytree/Datumsworte.h"
 #include "familytree/Leerraum.h"
@@ -13,8 +14,6 @@ namespace kw {
 
 namespace {
 
-constexpr int TypTotgeburtMännlich = 5;
-constexpr int TypTotgeburtWeiblich = 6;
 constexpr int HöchstesAlter = 120;
 constexpr std::size_t HöchsteNamenslänge = 250; ///< bytes; no label is as long
 
@@ -52,6 +51,7 @@ class Übertragung {
         });
         return datierte ? datierte : erste;
     }
+    int EigenesSymbol() const;
     int Geschlecht(const Familienrolle &rolle);
     void Totgeburt(const Familienrolle &rolle);
     std::string Name(std::string_view name);
@@ -68,7 +68,18 @@ class Übertragung {
     Personenangaben angaben_;
 };
 
+/// The symbol that this program has written for itself; 0 for none.
+int Übertragung::EigenesSymbol() const {
+    int symbol = 0;
+    satz_.FürKinder(satz_.Wurzel(), [&](const Knoten &knoten) {
+        const int typ = SymbolKennzahl(satz_.Text(knoten, Symbolmarke));
+        if (typ == TypWeiblichZuMännlich || typ == TypMännlichZuWeiblich || typ == TypDivers) symbol = typ;
+    });
+    return symbol;
+}
+
 int Übertragung::Geschlecht(const Familienrolle &rolle) {
+    if (const int symbol = EigenesSymbol()) return symbol;
     if (person_.Geschlecht == "M") return TypMännlich;
     if (person_.Geschlecht == "F") return TypWeiblich;
     if (person_.Geschlecht == "X") return TypDivers;

@@ -77,6 +77,7 @@ struct Stammfamilie {
 /// That a person stands in some relation to another one.
 struct Beziehungsangabe {
     std::string_view Von, Zu, Rolle;
+    std::string_view Worte; ///< that explain the role
     std::uint32_t Zeile = 0;
 };
 

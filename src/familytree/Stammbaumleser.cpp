@@ -210,7 +210,9 @@ void Stammbaumleser::BeziehungenLesen(const Satz &satz) {
         if (!Enthält(Beziehungsmarken, knoten.Marke)) return;
         const auto art = satz.Text(knoten, "RELA");
         const auto rolle = Glatt(art.empty() ? satz.Text(knoten, "ROLE") : art);
-        baum_.Beziehungen.push_back({von, Behalten(Zeiger(knoten.Wert)), rolle, knoten.Zeile});
+        const auto *const näher = satz.Erstes(knoten, "ROLE");
+        const auto worte = näher ? Glatt(satz.Text(*näher, "PHRASE")) : std::string_view();
+        baum_.Beziehungen.push_back({von, Behalten(Zeiger(knoten.Wert)), rolle, worte, knoten.Zeile});
     };
     satz.FürKinder(satz.Wurzel(), aufnehmen);
     satz.FürKinder(satz.Wurzel(), [&](const Knoten &ereignis) { satz.FürKinder(ereignis, aufnehmen); });

@@ -14,7 +14,8 @@ template <class Worte> bool EnthältEines(std::string_view text, const Worte &wo
     return std::any_of(worte.begin(), worte.end(), [&](auto wort) { return klein.find(wort) != std::string::npos; });
 }
 
-constexpr std::array<std::string_view, 2> Zwillingsworte{"twin", "zwilling"};
+/// The last one is the newer version's own, for siblings of one pregnancy.
+constexpr std::array<std::string_view, 3> Zwillingsworte{"twin", "zwilling", "multiple"};
 constexpr std::array<std::string_view, 2> Eineiige{"identical", "eineiig"};
 constexpr std::array<std::string_view, 4> Zweieiige{"non-identical", "nonidentical", "fraternal", "zweieiig"};
 
@@ -38,7 +39,8 @@ void Übernehmer::Verzwillingen(std::uint32_t a, std::uint32_t b, bool eineiig) 
 /// Twins that the file calls so.
 void Übernehmer::AngegebeneZwillinge() {
     for (const auto &b : baum_.Beziehungen) {
-        if (!IstZwillingsrolle(b.Rolle)) continue;
+        const auto rolle = std::string(b.Rolle).append(" ").append(b.Worte);
+        if (!IstZwillingsrolle(rolle)) continue;
         const auto *const von = baum_.Person(b.Von), *const zu = baum_.Person(b.Zu);
         const auto eine = von ? Ort(static_cast<std::uint32_t>(baum_.Nummer(*von))) : Keine;
         const auto andere = zu ? Ort(static_cast<std::uint32_t>(baum_.Nummer(*zu))) : Keine;
@@ -46,10 +48,10 @@ void Übernehmer::AngegebeneZwillinge() {
         const bool frei = SindGeschwister(eine, andere) && ergebnis_.Personen[eine].Zwilling == Keine &&
                           ergebnis_.Personen[andere].Zwilling == Keine;
         const bool schon = andere != Keine && ergebnis_.Personen[eine].Zwilling == andere;
-        const bool gesagt = EnthältEines(b.Rolle, Eineiige) || EnthältEines(b.Rolle, Zweieiige);
-        const bool eineiig = EnthältEines(b.Rolle, Eineiige) && !EnthältEines(b.Rolle, Zweieiige);
+        const bool gesagt = EnthältEines(rolle, Eineiige) || EnthältEines(rolle, Zweieiige);
+        const bool eineiig = EnthältEines(rolle, Eineiige) && !EnthältEines(rolle, Zweieiige);
         if (frei) Verzwillingen(eine, andere, gesagt ? eineiig : regeln_.ZwillingeEineiig);
-        else if (!schon) ergebnis_.Bericht.Hinzu(Befundart::BeziehungWeggelassen, b.Zeile, Anzeigename(*von), b.Rolle);
+        else if (!schon) ergebnis_.Bericht.Hinzu(Befundart::BeziehungWeggelassen, b.Zeile, Anzeigename(*von), rolle);
     }
 }
 

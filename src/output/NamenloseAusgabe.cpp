@@ -3,6 +3,8 @@
 #include "anonymity/NamenloseSeite.h"
 #include "document/Dateien.h"
 #include "document/ProjektDatei.h"
+#include "editing/Absagen.h"
+#include "familytree/Uebergabe.h"
 #include "output/Fehlertexte.h"
 #include "output/Zieldatei.h"
 #include "platform/Benutzer.h"
@@ -24,14 +26,16 @@ constexpr Zweisprachig Projektfilter{"Kinwright Datei (*.kwp)|*.kwp", "Kinwright
 constexpr Zweisprachig EigeneDatei{
     "Das ist die Datei dieses Projekts: Sie behält die Namen. Bitte einen anderen Namen wählen.",
     "That is the file of this project, which keeps the names. Please choose another name."};
-constexpr Zweisprachig FremdeKennung{"Der Name muss auf .pdf, .png, .svg oder .kwp enden.",
-                                     "The name has to end in .pdf, .png, .svg or .kwp."};
+constexpr Zweisprachig FremdeKennung{"Der Name muss auf .pdf, .png, .svg, .ged oder .kwp enden.",
+                                     "The name has to end in .pdf, .png, .svg, .ged or .kwp."};
 constexpr std::array<std::string_view, 3> Seitenarten{"pdf", "png", "svg"};
+constexpr std::string_view Stammbaumart = "ged";
 
 /// Why the file can't be written whatever the disk says; nothing when it can.
-const Zweisprachig *Einwand(const std::string &datei, const std::string &projektdatei) {
+const Zweisprachig *Einwand(const std::string &datei, const std::string &projektdatei, const Dokument &dokument) {
     std::error_code fehler; // a file that isn't there is no other
     if (std::filesystem::equivalent(datei, projektdatei, fehler)) return &EigeneDatei;
+    if (HatKennung(datei, Stammbaumart)) return HatStammbaum(dokument) ? nullptr : &Absage::KeinStammbaum;
     const bool bekannt = IstProjektname(datei) || std::any_of(Seitenarten.begin(), Seitenarten.end(),
                                                               [&](auto art) { return HatKennung(datei, art); });
     return bekannt ? nullptr : &FremdeKennung;
@@ -39,6 +43,7 @@ const Zweisprachig *Einwand(const std::string &datei, const std::string &projekt
 
 Ursache Schreiben(const Ausgabewege &wege, const NamenloseSeite &seite, const std::string &datei) {
     if (IstProjektname(datei)) return DateiSchreiben(datei, ProjektInhalt(seite.Inhalt())).Grund;
+    if (HatKennung(datei, Stammbaumart)) return DateiSchreiben(datei, Übergeben(seite.Inhalt(), wege.uhr).Text).Grund;
     Druckauftrag auftrag{Drucktitel({}),
                          true,
                          seite.Breite(),
@@ -59,9 +64,10 @@ bool OhneNamenAusgeben(const Ausgabewege &wege, const Dokument &dokument, const 
                          "PDF  (*.pdf)|*.pdf",
                          Ausgabeordner(wege.benutzer, projektdatei),
                          Dateiwahl::Kennungen::Alle,
-                         "PNG  (*.png)|*.png|SVG  (*.svg)|*.svg|" + std::string(Projektfilter.In(sprache))};
+                         "PNG  (*.png)|*.png|SVG  (*.svg)|*.svg|GEDCOM  (*.ged)|*.ged|" +
+                             std::string(Projektfilter.In(sprache))};
     const auto datei = ZieldateiWählen(wege.benutzer, wahl, sprache, Ersetzungsfrage, [&](const std::string &gewählt) {
-        const auto *einwand = Einwand(gewählt, projektdatei);
+        const auto *einwand = Einwand(gewählt, projektdatei, dokument);
         if (einwand)
             wege.benutzer.Fragen({"Kinwright", std::string(einwand->In(sprache)), Knöpfe::Ok, Zeichen::Warnung});
         return !einwand;

@@ -3,7 +3,7 @@
 #include "document/Dokument.h"
 #include "document/Texte.h"
 #include "document/Zahlen.h"
-#include "rendering/Symbole.h"
+#include "document/saetze/Person.h"
 
 #include <algorithm>
 

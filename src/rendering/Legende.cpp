@@ -4,7 +4,6 @@
 #include "document/saetze/Kind.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
-#include "rendering/Symbole.h"
 
 #include <set>
 

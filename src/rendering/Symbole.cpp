@@ -3,7 +3,6 @@
 #include "document/Zahlen.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kw {
 
@@ -12,14 +11,6 @@ namespace {
 constexpr int FehlgeburtGrau = 0x808080;
 
 } // namespace
-
-int SymbolKennzahl(std::string_view symboltyp) {
-    const double t = ZahlLesen(symboltyp);
-    if (t == 1.1) return 10;
-    if (t == 2.1) return 11;
-    if (t == 1.2) return 12;
-    return t >= 1 && t <= 12 && t == std::floor(t) ? static_cast<int>(t) : 0;
-}
 
 std::array<Ecke, 3> Dreieck(double x, double y, double größe) {
     const double r = größe / 2;

@@ -8,10 +8,6 @@
 
 namespace kw {
 
-/// The three kinds that files write as 1.1, 2.1 and 1.2 are 10, 11 and 12; other kinds are themselves,
-/// and 0 is a kind that has no symbol.
-int SymbolKennzahl(std::string_view symboltyp);
-
 /// A corner of an outline: x, y.
 using Ecke = std::array<double, 2>;
 /// The outlines that are no box and no circle, round the centre (x, y): pregnancy and abortion, and the hexagon

@@ -224,6 +224,12 @@ TEST(Uebernahme, ZwillingeWerdenGesagtOderGefragt) {
     EXPECT_EQ(gesagt.Person(5).Zwilling, 4U);
     EXPECT_TRUE(gesagt.Person(4).Eineiig);
     EXPECT_EQ(gesagt.Gemeldet(Befundart::BeziehungWeggelassen), 0U);
+    for (const std::string_view rolle : {"MULTIPLE\n3 PHRASE eineiig", "OTHER\n3 PHRASE eineiiger Zwilling"}) {
+        const Import neu(zeilen + "0 @I6@ INDI\n1 SEX M\n1 FAMC @F1@\n1 ASSO @I5@\n2 ROLE " + std::string(rolle) +
+                         "\n");
+        EXPECT_TRUE(neu.Person(5).Zwilling == 4U && neu.Person(5).Eineiig) << rolle;
+        EXPECT_EQ(neu.Gemeldet(Befundart::BeziehungWeggelassen), 0U);
+    }
 }
 
 TEST(Uebernahme, EineUnsinnigeDateiKostetNichtMehrAlsIhreLänge) {

@@ -36,6 +36,7 @@ menu mnuSeiteEinrichten
 menu mnuEinstellungen
 menu mnuInfo
 menu mnuFassungen
+menu mnuStammbaumExport
 menu mnuOhneNamen
 tool 10
 click 9 12)";

@@ -5,6 +5,7 @@
 #include "document/Maskierung.h"
 #include "document/ProjektDatei.h"
 #include "document/saetze/Textbox.h"
+#include "familytree/Uebergabe.h"
 #include "gui/Programmaufruf.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/grund/QtPlattform.h"
@@ -307,6 +308,11 @@ TEST_P(OhneNamenExport, VerrätKeinenNamenKeinDatumUndKeinenText) {
         Dokument wieder;
         EXPECT_TRUE(ProjektLesen(Profil(projekt), wieder).Unversehrt());
         EXPECT_TRUE(wieder.GleicheSätze(bild.dokument));
+        for (const auto fassung : {Stammbaumfassung::Gedcom551, Stammbaumfassung::Gedcom70}) {
+            const auto baum = QByteArray::fromStdString(Übergeben(bild.dokument, uhr, {fassung, true, true}).Text);
+            prüfen(baum, QString::fromUtf8(baum), "the family tree");
+            EXPECT_TRUE(baum.contains("NAME B7")) << "it has its people";
+        }
     }
 }
 
@@ -331,5 +337,7 @@ TEST_F(Seitenexport, HatSonstAlleNamen) {
     }
     const QByteArray projekt = QByteArray::fromStdString(ProjektInhalt(fall.dokument));
     for (const QString &wort : fall.Worte) EXPECT_TRUE(Enthält(projekt, wort)) << wort.toStdString();
+    const auto baum = QByteArray::fromStdString(Übergeben(fall.dokument, uhr).Text);
+    for (const QString &wort : fall.Gezeigt) EXPECT_TRUE(Enthält(baum, wort)) << wort.toStdString();
     for (const QString &zahl : fall.Zahlen) EXPECT_TRUE(Enthält(projekt, zahl)) << zahl.toStdString();
 }

@@ -116,6 +116,22 @@ TEST(Tabfolge, ErreichtAllesEinmalHinUndZurück) {
     qunsetenv("CUPS_SERVER");
 }
 
+/// A letter that is held with Alt means one control of a form only.
+TEST(Tabfolge, KeineTasteMeintZwei) {
+    for (const std::string sprache : {"de", "en"})
+        AlleFormulare(sprache, [&](Formular &form) {
+            form.Laden();
+            std::map<QChar, std::string> tasten;
+            for (const auto &name : form.Reihenfolge()) {
+                const QString text = QString::fromStdString(form[name].Caption).toLower();
+                const auto marke = text.indexOf(u'&');
+                if (marke < 0 || marke + 1 == text.size()) continue;
+                const auto [andere, neu] = tasten.emplace(text[marke + 1], name);
+                EXPECT_TRUE(neu) << sprache << " " << form.Name() << ": " << name << " and " << andere->second;
+            }
+        });
+}
+
 /// The samples of huge letters don't fit on their sheet: then Tab comes there, and its keys scroll.
 TEST(Tabfolge, KommtZumBlattDasRollt) {
     AlleFormulare("de", [](Formular &form) {

@@ -1,6 +1,18 @@
 #include "document/saetze/Person.h"
 
+#include "document/Zahlen.h"
+
+#include <cmath>
+
 namespace kw {
+
+int SymbolKennzahl(std::string_view symboltyp) {
+    const double t = ZahlLesen(symboltyp);
+    if (t == 1.1) return 10;
+    if (t == 2.1) return 11;
+    if (t == 1.2) return 12;
+    return t >= 1 && t <= 12 && t == std::floor(t) ? static_cast<int>(t) : 0;
+}
 
 PersonBau &PersonBau::Institution(std::string_view text) {
     Symboltyp(TypInstitution);

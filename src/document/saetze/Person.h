@@ -8,12 +8,18 @@ namespace kw {
 constexpr int TypMännlich = 1;
 constexpr int TypWeiblich = 2;
 constexpr int TypSchwangerschaft = 3;
+constexpr int TypFehlgeburt = 4;
 constexpr int TypTotgeburtMännlich = 5;
 constexpr int TypTotgeburtWeiblich = 6;
+constexpr int TypAbtreibung = 7;
 constexpr int TypInstitution = 9;
 constexpr int TypWeiblichZuMännlich = 10;
 constexpr int TypMännlichZuWeiblich = 11;
 constexpr int TypDivers = 12;
+
+/// The three kinds that files write as 1.1, 2.1 and 1.2 are 10, 11 and 12; other kinds are themselves,
+/// and 0 is a kind that has no symbol.
+int SymbolKennzahl(std::string_view symboltyp);
 
 /// A person's record. Lengths and places are cm on the page, the place is the symbol's centre.
 class PersonSatz : public Satzsicht {

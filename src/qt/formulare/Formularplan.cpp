@@ -233,6 +233,21 @@ constexpr Baustein Fassungen[] = {
     Feld("lblOrt").AlsAbsatz(60),
 };
 
+constexpr Baustein Stammbaumexport[] = {
+    {Bau::Rahmenspalte, "Frame1"},
+    Feld("Option1"),
+    Feld("Option2"),
+    Ende,
+    Spalte(),
+    Feld("chkGesundheit"),
+    Feld("chkBeziehungen"),
+    Ende,
+    Feld("lblPersonen"),
+    Spalte(Zeilenabstand / 2).Gedehnt(),
+    Schild("lblVerluste", "lstVerluste"),
+    Feld("lstVerluste").Mindestens(52, 8).Gedehnt(),
+};
+
 constexpr Baustein OhneNamen[] = {
     Feld("lblErklärung").AlsAbsatz(60),
     Reihe(Abstand),
@@ -317,6 +332,7 @@ constexpr Formularplan Pläne[] = {
     {"frmEinstellungen", Spracheinstellung},
     {"frmInfo", Info},
     {"frmFassungen", Fassungen, true},
+    {"frmStammbaumExport", Stammbaumexport, true},
     {"frmOhneNamen", OhneNamen},
     {"frmStammbaum", Stammbaum, true},
     {"frmStammbaumbericht", Stammbaumbericht, true},

@@ -1,6 +1,7 @@
 #include "qt/start/Aufruf.h"
 
 #include "app/Datenimport.h"
+#include "app/Stammbaumdatei.h"
 #include "document/Dateinamen.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/drucken/Vorschaubild.h"
@@ -51,6 +52,17 @@ bool SpracheLesen(const std::string &text, std::optional<Sprache> &sprache) {
     return sprache && Kürzel(*sprache) == text;
 }
 
+bool FassungLesen(const std::string &text, Stammbaumfassung &fassung) {
+    for (const auto bekannte : {Stammbaumfassung::Gedcom551, Stammbaumfassung::Gedcom70})
+        if (text == Fassungsname(bekannte)) fassung = bekannte;
+    return text == Fassungsname(fassung);
+}
+
+/// What was said that goes with some exports only.
+struct Gesagtes {
+    bool Dpi = false, Stammbaum = false;
+};
+
 /// "--anonymous" alone asks for ages.
 bool OhneNamenLesen(std::string_view wort, std::optional<Lebenszeit> &zeit) {
     const auto wert = wort.substr(wort.find('=') + 1);
@@ -62,27 +74,32 @@ bool OhneNamenLesen(std::string_view wort, std::optional<Lebenszeit> &zeit) {
 
 /// What an export can write, beside pictures and documents of the page.
 std::string Zielfehler(const Aufruf &a) {
-    if (IstAusgabeformat(a.Ziel)) return {};
+    if (IstAusgabeformat(a.Ziel) || IstStammbaumname(a.Ziel)) return {};
     if (IstProjektname(a.Ziel)) return a.OhneNamen ? "" : "a project is exported with --anonymous only";
-    return "cannot export to " + a.Ziel + ": its name must end in .pdf, .svg, .png, .jpg or .bmp" +
+    return "cannot export to " + a.Ziel + ": its name must end in .pdf, .svg, .png, .jpg, .bmp or .ged" +
            (a.OhneNamen ? ", or .kwp" : "");
 }
 
 /// Every call that is understood is checked as a whole at its end.
-Aufruf Geprüft(Aufruf a, bool mitDpi) {
+Aufruf Geprüft(Aufruf a, const Gesagtes &gesagt) {
     std::error_code fehler; // a file that isn't there yet is no other
+    const bool stammbaum = a.Was == Aufruf::Art::Export && IstStammbaumname(a.Ziel);
+    if (gesagt.Stammbaum && !stammbaum)
+        return Falsch("--gedcom, --health and --relationships go with --export OUT.ged");
+    if (gesagt.Dpi && stammbaum) return Falsch("--dpi doesn't go with a family tree");
     if (a.Was == Aufruf::Art::Export) {
         if (std::filesystem::equivalent(a.Datei, a.Ziel, fehler)) return Falsch("the export would replace the project");
         if (a.Datei.empty()) return Falsch("--export needs a project file");
         if (const auto grund = Zielfehler(a); !grund.empty()) return Falsch(grund);
     } else if (a.OhneNamen) {
         return Falsch("--anonymous goes with --export");
-    } else if (mitDpi) {
+    } else if (gesagt.Dpi) {
         return Falsch("--dpi goes with --export");
     }
     const bool beschreibt = a.Was == Aufruf::Art::Beschreibung;
     if (beschreibt && a.Datei.empty()) return Falsch("--describe needs a project file");
-    if (a.InSprache && !beschreibt) return Falsch("--language goes with --describe and --familytree");
+    if (a.InSprache && !beschreibt && !stammbaum)
+        return Falsch("--language goes with --describe, --familytree and --export OUT.ged");
     return a;
 }
 
@@ -98,7 +115,7 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
     const auto optionenende = std::find(worte.begin(), worte.end(), "--");
     if (std::find(worte.begin(), optionenende, "--familytree") != optionenende) return StammbaumoptionenLesen(worte);
     bool optionen = true;
-    bool mitDpi = false;
+    Gesagtes gesagt;
     for (size_t i = 0; i < worte.size(); ++i) {
         const std::string &wort = worte[i];
         const bool hatWert = i + 1 < worte.size();
@@ -125,10 +142,16 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
         } else if (wort == "--language") {
             if (!hatWert || !SpracheLesen(worte[++i], a.InSprache)) return Falsch("--language is de or en");
         } else if (wort == "--dpi") {
-            if (!hatWert || mitDpi || !DpiLesen(worte[++i], a.Dpi))
+            if (!hatWert || gesagt.Dpi || !DpiLesen(worte[++i], a.Dpi))
                 return Falsch("--dpi needs one whole number from " + std::to_string(KleinsteDpi) + " to " +
                               std::to_string(GrößteDpi));
-            mitDpi = true;
+            gesagt.Dpi = true;
+        } else if (wort == "--gedcom") {
+            if (!hatWert || !FassungLesen(worte[++i], a.Wünsche.Fassung)) return Falsch("--gedcom is 5.5.1 or 7.0");
+            gesagt.Stammbaum = true;
+        } else if (wort == "--health" || wort == "--relationships") {
+            (wort == "--health" ? a.Wünsche.Gesundheit : a.Wünsche.Beziehungslinien) = true;
+            gesagt.Stammbaum = true;
         } else if (wort == Anonym || wort.starts_with(std::string(Anonym) + "=")) {
             if (a.OhneNamen || !OhneNamenLesen(wort, a.OhneNamen))
                 return Falsch("--anonymous stands once, alone or with =ages or =years");
@@ -138,12 +161,14 @@ Aufruf AufrufLesen(const std::vector<std::string> &worte) {
             return Falsch("unknown option " + wort);
         }
     }
-    return Geprüft(a, mitDpi);
+    return Geprüft(a, gesagt);
 }
 
 const char *Hilfetext() {
     return "Usage: kinwright [FILE]\n"
            "       kinwright --export OUT [--dpi N] [--anonymous[=ages|years]] FILE\n"
+           "       kinwright --export OUT.ged [--gedcom 5.5.1|7.0] [--health] [--relationships] [--language de|en] "
+           "FILE\n"
            "       kinwright --describe [--language de|en] FILE\n"
            "       kinwright --familytree TREE [--person WHO] [--up N] [--down N] [--small] [--language de|en] OUT\n"
            "       kinwright --familytree TREE --all [--person WHO] [--small] [--language de|en] OUT\n"
@@ -158,6 +183,12 @@ const char *Hilfetext() {
            "  --dpi N       dots per inch of a picture, 300 if not given\n"
            "  --anonymous   leave out whose family it is: letters and numbers for names; ages, or years of birth with\n"
            "                =years, for dates; no texts, institutions, title. Then OUT can also be a project, .kwp.\n"
+           "  OUT.ged       the persons, couples and children of FILE as a family tree for genealogy programs; what\n"
+           "                can't go along is told, a line for each kind\n"
+           "  --gedcom V    5.5.1 or 7.0, the version of the format; 7.0 if not given\n"
+           "  --health      the marks of addiction and illness go along\n"
+           "  --relationships\n"
+           "                relationship lines go along, as relations between two persons\n"
            "  --describe    print what the page of FILE shows in plain sentences and end. Needs no display.\n"
            "  --language L  de or en, what it is described or reported in; if not given, as the program's settings "
            "say\n"

@@ -2,6 +2,7 @@
 
 #include "anonymity/OhneNamen.h"
 #include "app/Stammbaumaufruf.h"
+#include "familytree/Uebergabe.h"
 #include "platform/Sprache.h"
 #include "qt/drucken/Ausgabe.h"
 
@@ -20,6 +21,7 @@ struct Aufruf {
     std::string Ziel;                    ///< the file to write
     int Dpi = ÜblicheDpi;                ///< of pictures
     std::optional<Lebenszeit> OhneNamen; ///< the export leaves out whose family it is
+    Übergabewünsche Wünsche;             ///< what goes into a family tree
     int Kante = 0;                       ///< of a thumbnail, in pixels
     std::optional<Sprache> InSprache;    ///< of what is told; none for that of the settings
     Stammbaumaufruf Stammbaum;           ///< a family tree that becomes a project; its language is `InSprache`

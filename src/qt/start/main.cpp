@@ -1,8 +1,10 @@
 #include "app/Einzelbild.h"
 #include "app/Programmversion.h"
+#include "app/Stammbaumdatei.h"
 #include "document/Dateien.h"
 #include "document/ProjektDatei.h"
 #include "document/Texte.h"
+#include "familytree/Uebergabe.h"
 #include "output/Zieldatei.h"
 #include "qt/drucken/Ausgabe.h"
 #include "qt/drucken/Vorschaubild.h"
@@ -53,7 +55,25 @@ int Ausgegeben(const std::string &text) {
     return ganz ? 0 : Melden("cannot write to the standard output", 1);
 }
 
+/// The family of the page, without the page. What stays behind is told, which is no failure.
+int StammbaumExportieren(const Aufruf &aufruf, int &argc, char **argv) {
+    const QCoreApplication anwendung(argc, argv);
+    const QtUhr uhr;
+    Einzelbild bild(uhr, EinstellungsDateiDesBenutzers());
+    const std::string schaden = bild.Laden(aufruf.Datei);
+    if (!bild.IstGelesen()) return Melden(aufruf.Datei + ": " + schaden, 1);
+    const Sprache sprache = bild.ansicht.Sprache = aufruf.InSprache.value_or(bild.ansicht.Sprache);
+    if (aufruf.OhneNamen) bild.OhneNamen(*aufruf.OhneNamen);
+    const Übergabe stammbaum = Übergeben(bild.dokument, uhr, aufruf.Wünsche);
+    if (stammbaum.Personen == 0) return Melden(aufruf.Datei + ": shows no person that goes into a family tree", 1);
+    const Dateibefund geschrieben = DateiSchreiben(aufruf.Ziel, stammbaum.Text);
+    if (!geschrieben.Gelungen()) return Melden(aufruf.Ziel + ": " + geschrieben.Meldung, 1);
+    for (const auto &zeile : Berichtszeilen(stammbaum.Bericht, sprache)) Melden(zeile, 0);
+    return schaden.empty() ? 0 : Melden(aufruf.Datei + ": " + schaden, 1);
+}
+
 int Exportieren(const Aufruf &aufruf, int &argc, char **argv) {
+    if (IstStammbaumname(aufruf.Ziel)) return StammbaumExportieren(aufruf, argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen"); // an export needs no display and asks none
     const QGuiApplication anwendung(argc, argv);
     const QtUhr uhr;
