@@ -16,7 +16,7 @@ struct Gewichte {
     int NochEinGetrennt = 250; ///< each one more
     int Dazwischen = 30;       ///< and each of these
     int Verkehrt = 40;         ///< a pair of siblings in the wrong order, as long as they are few
-    int ZuVerkehrt = 90;       ///< each one more
+    int ZuVerkehrt = 120;      ///< each one more
     int Wenige = 50;           ///< how many pairs are few: thousandths of all
     int FrauLinks = 3;         ///< a man on the right of a woman
     int Umgestellt = 2;        ///< a pair that the user drew the other way round
