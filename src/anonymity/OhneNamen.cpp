@@ -1,6 +1,7 @@
 #include "anonymity/OhneNamen.h"
 
 #include "anonymity/Generationen.h"
+#include "document/Doppelnummern.h"
 #include "document/Felder.h"
 #include "document/basAltersberechnung.h"
 #include "document/saetze/Beziehung.h"
@@ -207,6 +208,7 @@ Dokument OhneNamen(const Dokument &dokument, Lebenszeit zeit, const Uhr &uhr, Sp
     neu.cboPfeile = Neu(dokument.cboPfeile, Pfeil);
     for (const auto &satz : dokument.cboFreehandlines)
         if (const auto punkte = KreisPunkte(satz); !punkte.empty()) neu.cboFreehandlines.Anhängen(KreisText(punkte));
+    DoppelnummernAuflösen(neu); // of damaged ones that are digits alone now
     neu.FreieNummernAufbauen();
     NamenGeben(neu);
     return neu;
