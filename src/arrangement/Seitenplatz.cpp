@@ -43,6 +43,7 @@ Abstände MaßeFür(double symbol, double raster, const Luft &luft) {
     a.Personen = aufRaster(symbol + luft.Personen);
     a.Generationen = aufRaster(symbol + luft.Generationen);
     a.Balken = aufRaster(symbol / 2 + luft.Balken);
+    a.Balkenstufe = luft.Balkenstufe;
     return a;
 }
 

@@ -17,13 +17,15 @@ constexpr double Namenshöhe = 0.68;
 /// The smallest that persons can have, cm.
 constexpr double KleinstesSymbol = 0.9;
 
-/// What stays free beside a symbol, below it to the next generation's, and down to a bar, cm.
+/// What stays free beside a symbol, below it to the next generation's, down to a bar, and between two bars, cm. A date
+/// stands on a bar, below the names and below the next bar.
 struct Luft {
-    double Personen, Generationen, Balken;
+    double Personen, Generationen, Balken, Balkenstufe;
 };
-constexpr Luft VonHand{0.9, 2.4, 1.2};    ///< as pages are drawn by hand
-constexpr Luft Lesbar{0.6, 1.8, 0.9};     ///< as near to each other as can be read
-constexpr Luft Gezeichnet{0.3, 1.8, 0.9}; ///< as near as those may stay who were drawn so
+constexpr Luft VonHand{0.9, 2.4, 1.2, 0.4};     ///< as pages are drawn by hand
+constexpr Luft Schmal{0.6, 2.4, 1.2, 0.4};      ///< the same, but for the width
+constexpr Luft Lesbar{0.6, 1.8, 1, 0.35};       ///< as near to each other as can be read
+constexpr Luft Gezeichnet{0.3, 1.8, 0.9, 0.25}; ///< as near as those may stay who were drawn so
 
 /// The measures for symbols of that size, cm.
 Abstände MaßeFür(double symbol, double raster, const Luft &luft);

@@ -18,6 +18,7 @@
 #include <array>
 #include <cmath>
 #include <map>
+#include <span>
 #include <utility>
 
 namespace kw {
@@ -29,9 +30,12 @@ constexpr int Hoch = 1, Quer = 2;
 
 struct Maßstab {
     double Symbol;
-    bool Eng;
+    Luft Frei;
 };
-constexpr std::array Maßstäbe{Maßstab{1.2, false}, Maßstab{1.2, true}, Maßstab{KleinstesSymbol, true}};
+/// The better to read, the sooner.
+constexpr std::array Maßstäbe{Maßstab{1.2, VonHand}, Maßstab{1.2, Schmal}, Maßstab{1.2, Lesbar},
+                              Maßstab{KleinstesSymbol, Schmal}, Maßstab{KleinstesSymbol, Lesbar}};
+constexpr std::size_t Üblichgroße = 3; ///< of these
 
 /// Any number that grows with time; a year alone counts as its beginning.
 std::optional<long> Reihung(const Kalendertag &tag) {
@@ -71,10 +75,10 @@ class Leger {
     }
 
     Stammblatt Legen(Dokument &d) {
-        for (const Maßstab &maßstab : Maßstäbe) {
-            if (maßstab.Symbol < Maßstäbe.front().Symbol && !regeln_.Kleiner) break;
-            const bool letzter = &maßstab == &Maßstäbe.back() || (maßstab.Eng && !regeln_.Kleiner);
-            const Abstände maße = MaßeFür(maßstab.Symbol, regeln_.Raster, maßstab.Eng ? Lesbar : VonHand);
+        const std::span versuche(Maßstäbe.data(), regeln_.Kleiner ? Maßstäbe.size() : Üblichgroße);
+        for (const Maßstab &maßstab : versuche) {
+            const bool letzter = &maßstab == &versuche.back();
+            const Abstände maße = MaßeFür(maßstab.Symbol, regeln_.Raster, maßstab.Frei);
             if (!letzter && !KannPassen(maße)) continue;
             lage_ = FamilieAnordnen(graph_, maße);
             Messen(maßstab.Symbol);
