@@ -315,13 +315,14 @@ void frmStammbaum::Bestätigen() {
 
 /// A square, so that the form keeps its size when the sheet turns.
 std::pair<double, double> frmStammbaum::BildGröße(std::string_view) const {
-    constexpr double Lange = 29.7; // cm
-    const double seite = std::max({Lange, seite_.Blatt.Breite, seite_.Blatt.Höhe});
+    const Stammblatt &b = seite_.Blatt;
+    const double blatt = b.Blatt ? std::max(b.Blatt->Breite, b.Blatt->Höhe) : 0;
+    const double seite = std::max({1.0, blatt, b.Breite, b.Höhe}); // cm; either way up
     return {seite, seite};
 }
 
 double frmStammbaum::BildMaßstab(std::string_view name) const {
-    constexpr double Breite = 7; // cm of the screen
+    constexpr double Breite = 8; // cm of the screen
     return Breite / BildGröße(name).first;
 }
 
