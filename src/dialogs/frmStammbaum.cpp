@@ -161,8 +161,7 @@ void frmStammbaum::Suchen() {
     if (Getrimmt(text).empty() && std::find(gefundene_.begin(), gefundene_.end(), proband_) == gefundene_.end())
         gefundene_.insert(gefundene_.begin(), proband_);
     auto &liste = (*this)["lstPersonen"];
-    liste.Einträge.clear();
-    for (const std::uint32_t person : gefundene_) liste.Einträge.push_back(vorlage_.Suche.Zeile(person));
+    liste.Einträge = vorlage_.Suche.Zeilen(gefundene_, vorlage_.Verwandte, umgebung_.Sprache());
     const Zweisprachig &wieViele = treffer.Anzahl > Listenlänge ? DieErsten
                                    : treffer.Anzahl == 1        ? EinePerson
                                                                 : AllePersonen;
