@@ -118,6 +118,19 @@ TEST(Uebergabe, WasMitgehtKommtGleichZurück) {
     }
 }
 
+/// A family tree without names has ages for dates.
+TEST(Uebergabe, EinBloßesAlterKommtGleichZurück) {
+    Dokument d;
+    d.cboPersonen = {"001_1_2_2_1.2_0__1_0_A__Alter 45__", "002_2_6_2_1.2_0_$__0_B__Age 102__"};
+    for (const auto fassung : BeideFassungen) {
+        const auto ü = Übernommen(Geschrieben(d, {fassung, false, false}).Text);
+        EXPECT_EQ(ü.Personen.at(0).Angaben.Geburtsdatum, "Alter 45");
+        EXPECT_EQ(ü.Personen.at(1).Angaben.Geburtsdatum, "Age 102");
+        EXPECT_EQ(ü.Bericht.Anzahl(Befundart::GeburtWeggelassen), 0U);
+        EXPECT_EQ(Kern(Übernommen(Geschrieben(DokumentAus(ü), {fassung, false, false}).Text)), Kern(ü));
+    }
+}
+
 TEST(Uebergabe, FremdeDateienKommenNachIhrerÜbernahmeGleichZurück) {
     const auto regeln = Übernahmeregeln{Sprache::Deutsch, TypWeiblich, "0", true, true, false};
     int gelesene = 0;
