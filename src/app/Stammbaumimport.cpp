@@ -11,7 +11,7 @@ namespace kw {
 
 namespace {
 
-constexpr Zweisprachig Dateititel{"Stammbaum übernehmen", "Import family tree"};
+constexpr Zweisprachig Dateititel{"Stammbaum übernehmen", "Import Family Tree"};
 constexpr Zweisprachig Dateifilter{"Stammbaum (*.ged *.gdz *.GED *.GDZ)|*.ged *.gdz *.GED *.GDZ",
                                    "Family tree (*.ged *.gdz *.GED *.GDZ)|*.ged *.gdz *.GED *.GDZ"};
 constexpr Zweisprachig OhnePersonen{"Die Datei ist kein Stammbaum: sie enthält keine Personen.",

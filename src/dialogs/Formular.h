@@ -43,7 +43,7 @@ struct Steuerelement {
     bool Enabled = true;
     bool Visible = true;
     bool Weiß = true;   ///< a box's background: white, or the form's own colour
-    std::string Bei;    ///< a warning frame's box; a preview label's preview
+    std::string Bei;    ///< a warning frame's box; a preview label's preview; the list that a search box's keys move
     std::string Tip;    ///< tool tip
     Farbe Farbwert = 0; ///< of a colour swatch, or of a text
     // A label within a preview, and the font of whatever shows one: units of the preview, points.

@@ -23,7 +23,8 @@ constexpr Formularzeile Zeilen[] = {
      Art::Textfeld,
      {},
      {"Name, Geburts- oder Sterbejahr der Person, um die es geht",
-      "Name, year of birth or death of the person in question"}},
+      "Name, year of birth or death of the person in question"},
+     "lstPersonen"},
     {"lstPersonen", Art::Listenfeld, {}, {"Gefundene Personen", "Persons found"}},
     {"lblTreffer", Art::Beschriftung},
     {"lblHinauf", Art::Beschriftung, {"Generationen &hinauf:", "Generations &up:"}},
@@ -160,8 +161,7 @@ void frmStammbaum::Suchen() {
     if (Getrimmt(text).empty() && std::find(gefundene_.begin(), gefundene_.end(), proband_) == gefundene_.end())
         gefundene_.insert(gefundene_.begin(), proband_);
     auto &liste = (*this)["lstPersonen"];
-    liste.Einträge.clear();
-    for (const std::uint32_t person : gefundene_) liste.Einträge.push_back(vorlage_.Suche.Zeile(person));
+    liste.Einträge = vorlage_.Suche.Zeilen(gefundene_, vorlage_.Verwandte, umgebung_.Sprache());
     const Zweisprachig &wieViele = treffer.Anzahl > Listenlänge ? DieErsten
                                    : treffer.Anzahl == 1        ? EinePerson
                                                                 : AllePersonen;

@@ -1,6 +1,7 @@
 #include "familytree/Datumsworte.h"
 
 #include "document/Texte.h"
+#include "familytree/Leerraum.h"
 
 #include <algorithm>
 #include <array>
@@ -38,6 +39,13 @@ std::string Tagestext(const Kalendertag &tag, Sprache sprache) {
 }
 
 } // namespace
+
+std::string Datumszeile(const Satz &satz, const Knoten &ereignis) {
+    const auto *const datum = satz.Erstes(ereignis, "DATE");
+    if (!datum) return {};
+    const auto worte = Geglättet(satz.Text(*datum, "PHRASE"));
+    return Randlos(datum->Wert).empty() && !worte.empty() ? "(" + worte + ")" : Geglättet(datum->Wert);
+}
 
 std::string Satzdatum(const Stammdatum &datum) {
     const auto &tag = datum.Erstes;

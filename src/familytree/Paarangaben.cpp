@@ -3,7 +3,6 @@
 #include "document/Codepage.h"
 #include "familytree/Auslassungen.h"
 #include "familytree/Datumsworte.h"
-#include "familytree/Leerraum.h"
 #include "familytree/Marken.h"
 
 #include <algorithm>
@@ -65,14 +64,6 @@ std::optional<Paarstatus> Stand(const Satz &satz, const Knoten &knoten) {
     return ereignis == std::end(Paarereignisse) ? std::nullopt : std::optional(ereignis->Status);
 }
 
-/// An event's date as it stands, or the words that the newer version has instead, as the older one writes them.
-std::string Datum(const Satz &satz, const Knoten &ereignis) {
-    const auto *const datum = satz.Erstes(ereignis, "DATE");
-    if (!datum) return {};
-    const auto worte = Geglättet(satz.Text(*datum, "PHRASE"));
-    return Randlos(datum->Wert).empty() && !worte.empty() ? "(" + worte + ")" : Geglättet(datum->Wert);
-}
-
 /// The end of a couple counts more than its beginning, and a marriage more than the time before it.
 constexpr std::array Rang{Paarstatus::Geschieden, Paarstatus::Getrennt, Paarstatus::Verheiratet,
                           Paarstatus::Unverheiratet};
@@ -94,7 +85,7 @@ Paarangaben PaarÜbertragen(const Stammbaum &baum, const Stammfamilie &familie, 
             return;
         }
         gesagt[static_cast<std::size_t>(*stand)] = true;
-        const auto datum = Datum(satz, knoten);
+        const auto datum = Datumszeile(satz, knoten);
         auto &text = paar.Daten[static_cast<std::size_t>(*stand)];
         if (text.empty()) text = Datumstext(datum, regeln.Textsprache);
         if (knoten.Marke == "MARR" && paar.Heiratsjahr == 0) paar.Heiratsjahr = StammdatumLesen(datum).Erstes.Jahr;

@@ -1,5 +1,6 @@
 #include "familytree/Personenangaben.h"
 
+#include "document/basAltersberechnung.h"
 #include "document/saetze/Person.h"
 #include "familytree/Auslassungen.h"
 #include "familytree/Datumsworte.h"
@@ -16,6 +17,12 @@ namespace {
 
 constexpr int HöchstesAlter = 120;
 constexpr std::size_t HöchsteNamenslänge = 250; ///< bytes; no label is as long
+
+/// A bare age, which stands for a date where the names were taken away; empty for other words.
+std::string BloßesAlter(std::string_view worte) {
+    if (worte.starts_with('(') && worte.ends_with(')')) worte = worte.substr(1, worte.size() - 2);
+    return AlterAusAngabe(worte) ? std::string(worte) : "";
+}
 
 /// A person while it is brought over.
 class Übertragung {
@@ -51,6 +58,7 @@ class Übertragung {
         });
         return datierte ? datierte : erste;
     }
+    std::string MitWorten(std::string_view marke, Ereignisangabe ereignis) const;
     int EigenesSymbol() const;
     int Geschlecht(const Familienrolle &rolle);
     void Totgeburt(const Familienrolle &rolle);
@@ -67,6 +75,16 @@ class Übertragung {
     std::string wer_;
     Personenangaben angaben_;
 };
+
+/// What happened, by the words of a date that has nothing else where there is no other.
+std::string Übertragung::MitWorten(std::string_view marke, Ereignisangabe ereignis) const {
+    std::string text(ereignis);
+    satz_.FürKinder(satz_.Wurzel(), [&](const Knoten &knoten) {
+        if (text != "Y" || knoten.Marke != marke || IstNein(knoten.Wert)) return;
+        if (auto datum = Datumszeile(satz_, knoten); !datum.empty()) text = std::move(datum);
+    });
+    return text;
+}
 
 /// The symbol that this program has written for itself; 0 for none.
 int Übertragung::EigenesSymbol() const {
@@ -110,14 +128,16 @@ std::string Übertragung::Name(std::string_view name) {
 }
 
 void Übertragung::Geburt() {
-    if (person_.Geburt.empty() || person_.Geburt == "Y") return;
-    const auto datum = StammdatumLesen(person_.Geburt);
-    angaben_.Geburtsdatum = Satzdatum(datum);
+    const std::string geburt = MitWorten("BIRT", person_.Geburt);
+    if (geburt.empty() || geburt == "Y") return;
+    const auto datum = StammdatumLesen(geburt);
+    angaben_.Geburtsdatum = datum.Art == Datumsart::Worte ? BloßesAlter(geburt) : Satzdatum(datum);
     const auto zeile = Zeile("BIRT");
-    if (angaben_.Geburtsdatum.empty()) return Melden(Befundart::GeburtWeggelassen, zeile, person_.Geburt);
+    if (angaben_.Geburtsdatum.empty()) return Melden(Befundart::GeburtWeggelassen, zeile, geburt);
+    if (datum.Art == Datumsart::Worte) return;
     const bool nurJahr = datum.Erstes.Monat == 0 && datum.Art == Datumsart::Genau;
-    if (angaben_.Geburtsdatum.size() == 4 && !nurJahr) Melden(Befundart::GeburtsjahrStattDatum, zeile, person_.Geburt);
-    if (datum.AndererKalender || datum.Doppeljahr) Melden(Befundart::DatumUmgerechnet, zeile, person_.Geburt);
+    if (angaben_.Geburtsdatum.size() == 4 && !nurJahr) Melden(Befundart::GeburtsjahrStattDatum, zeile, geburt);
+    if (datum.AndererKalender || datum.Doppeljahr) Melden(Befundart::DatumUmgerechnet, zeile, geburt);
 }
 
 bool Übertragung::Möglich(int alter) {
@@ -149,10 +169,10 @@ int Übertragung::Alter() {
 }
 
 std::string Übertragung::Tod() {
-    const bool hatDatum = !person_.Tod.empty() && person_.Tod != "Y";
     if (!person_.Gestorben && person_.Tod.empty()) return {};
     const int alter = Alter();
-    if (hatDatum) Melden(Befundart::SterbedatumWeggelassen, Zeile("DEAT"), person_.Tod);
+    const std::string tod = MitWorten("DEAT", person_.Tod);
+    if (!tod.empty() && tod != "Y") Melden(Befundart::SterbedatumWeggelassen, Zeile("DEAT"), tod);
     return alter < 0 ? "$" : "$" + std::to_string(alter);
 }
 

@@ -13,7 +13,7 @@ namespace kw {
 struct Personenangaben {
     int Symboltyp = TypMännlich;
     std::string Vorname, Nachname;
-    std::string Geburtsdatum; ///< a day, a year, or empty
+    std::string Geburtsdatum; ///< a day, a year, a bare age, or empty
     std::string Sterbealter;  ///< "$" with the age behind it, or empty
 };
 

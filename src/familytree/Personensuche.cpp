@@ -5,7 +5,9 @@
 #include "familytree/Stammdatum.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
+#include <map>
 #include <memory>
 #include <utf8proc.h>
 #include <utility>
@@ -63,6 +65,70 @@ std::string Lebensjahre(const Stammperson &person) {
     return tod > 0 ? ", † " + std::to_string(tod) : "";
 }
 
+/// Names without the file's own name for the person.
+std::string Rufname(const Stammperson &person) {
+    Stammperson ohneKennung;
+    ohneKennung.Vorname = person.Vorname;
+    ohneKennung.Nachname = person.Nachname;
+    return Anzeigename(ohneKennung);
+}
+
+/// What somebody of that sex is to others; the last one for those of whom the file says nothing.
+struct Bandwort {
+    std::string_view Geschlecht;
+    Zweisprachig Kind, Partner;
+};
+constexpr std::array Bandworte{
+    Bandwort{"M", {", Sohn von ", ", son of "}, {", Partner von ", ", partner of "}},
+    Bandwort{"F", {", Tochter von ", ", daughter of "}, {", Partnerin von ", ", partner of "}},
+    Bandwort{"", {", Kind von ", ", child of "}, {", Partner von ", ", partner of "}},
+};
+constexpr Zweisprachig Und{" und ", " and "};
+constexpr std::size_t GenugNamen = 3; ///< that tell somebody from a namesake
+
+/// Says whose child or partner a person is.
+class Bandtext {
+  public:
+    Bandtext(const Stammbaum &baum, const Verwandtschaft &verwandte, Sprache sprache)
+        : baum_(baum), verwandte_(verwandte), sprache_(sprache) {}
+
+    std::string KindVon(std::uint32_t person) const {
+        for (const auto familie : verwandte_.AlsKind(person))
+            if (const auto namen = Namen(person, {&familie, 1}); !namen.empty())
+                return std::string(Wort(person).Kind.In(sprache_)) + namen;
+        return {};
+    }
+    std::string PartnerVon(std::uint32_t person) const {
+        const auto namen = Namen(person, verwandte_.AlsPartner(person));
+        return namen.empty() ? namen : std::string(Wort(person).Partner.In(sprache_)) + namen;
+    }
+
+  private:
+    const Bandwort &Wort(std::uint32_t person) const {
+        const auto geschlecht = baum_.Personen[person].Geschlecht;
+        const auto *const wort = std::find_if(Bandworte.begin(), Bandworte.end() - 1,
+                                              [&](const Bandwort &w) { return w.Geschlecht == geschlecht; });
+        return *wort;
+    }
+    /// The partners of these families, but the person.
+    std::string Namen(std::uint32_t person, std::span<const std::uint32_t> familien) const {
+        std::string text;
+        std::size_t anzahl = 0;
+        for (const auto familie : familien)
+            for (const auto partner : verwandte_.Partner(familie)) {
+                const auto name = partner == person ? "" : Rufname(baum_.Personen[partner]);
+                if (name.empty() || anzahl++ >= GenugNamen) continue;
+                if (!text.empty()) text += Und.In(sprache_);
+                text += name;
+            }
+        return text;
+    }
+
+    const Stammbaum &baum_;
+    const Verwandtschaft &verwandte_;
+    Sprache sprache_;
+};
+
 } // namespace
 
 Personensuche::Personensuche(const Stammbaum &baum) : baum_(baum) {
@@ -111,14 +177,36 @@ Personensuche::Treffer Personensuche::Gemeint(std::string_view text, std::size_t
     return ganze.Anzahl > 0 ? ganze : Finden(text, höchstens);
 }
 
-std::string Personensuche::Zeile(std::uint32_t person) const {
+std::string Personensuche::NameUndJahre(std::uint32_t person) const {
     const Stammperson &p = baum_.Personen[person];
-    Stammperson ohneKennung;
-    ohneKennung.Vorname = p.Vorname;
-    ohneKennung.Nachname = p.Nachname;
-    const std::string name = Anzeigename(ohneKennung);
-    const std::string kennung = p.Kennung.empty() ? "" : " (" + std::string(p.Kennung) + ")";
-    return (name.empty() ? "?" : name) + Lebensjahre(p) + kennung;
+    const std::string name = Rufname(p);
+    return (name.empty() ? "?" : name) + Lebensjahre(p);
+}
+
+std::string Personensuche::MitKennung(std::string zeile, std::uint32_t person) const {
+    const auto kennung = baum_.Personen[person].Kennung;
+    return kennung.empty() ? zeile : zeile.append(" (").append(kennung).append(")");
+}
+
+std::string Personensuche::Zeile(std::uint32_t person) const { return MitKennung(NameUndJahre(person), person); }
+
+std::vector<std::string> Personensuche::Zeilen(std::span<const std::uint32_t> personen, const Verwandtschaft &verwandte,
+                                               Sprache sprache) const {
+    const Bandtext band(baum_, verwandte, sprache);
+    std::vector<std::string> zeilen;
+    std::map<std::string, std::size_t> gleiche, immerNochGleiche;
+    for (const auto person : personen) ++gleiche[zeilen.emplace_back(NameUndJahre(person))];
+    const auto fürNamensvettern = [&](auto tun) {
+        for (std::size_t i = 0; i < personen.size(); ++i)
+            if (gleiche.at(NameUndJahre(personen[i])) > 1) tun(zeilen[i], personen[i]);
+    };
+    fürNamensvettern([&](std::string &zeile, auto person) { ++immerNochGleiche[zeile += band.KindVon(person)]; });
+    fürNamensvettern([&](std::string &zeile, auto person) {
+        // Partners are told where parents don't tell: there are none, or they are the namesake's, too.
+        if (gleiche.contains(zeile) || immerNochGleiche.at(zeile) > 1) zeile += band.PartnerVon(person);
+    });
+    for (std::size_t i = 0; i < personen.size(); ++i) zeilen[i] = MitKennung(std::move(zeilen[i]), personen[i]);
+    return zeilen;
 }
 
 std::uint32_t Personensuche::Vorschlag() const {

@@ -1,9 +1,11 @@
 #pragma once
 
-#include "familytree/Stammbaum.h"
+#include "familytree/Verwandtschaft.h"
+#include "platform/Sprache.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,11 +33,17 @@ class Personensuche {
 
     /// A person as a list shows it: names, years of life, the file's own name.
     std::string Zeile(std::uint32_t person) const;
+    /// Persons as a list shows them together: of those with the same names and years it says besides whose child or
+    /// partner each is. `verwandte` belongs to the same family tree.
+    std::vector<std::string> Zeilen(std::span<const std::uint32_t> personen, const Verwandtschaft &verwandte,
+                                    Sprache sprache) const;
     /// The one whose tree it is, as the file says; else its first. `Keine` where there is nobody.
     std::uint32_t Vorschlag() const;
 
   private:
     Treffer Suchen(std::string_view text, std::size_t höchstens, bool ganzeWorte) const;
+    std::string NameUndJahre(std::uint32_t person) const;
+    std::string MitKennung(std::string zeile, std::uint32_t person) const;
 
     const Stammbaum &baum_;
     std::string worte_;                 ///< of all persons, each word with a blank on both sides

@@ -43,10 +43,10 @@ constexpr std::array Stände{
 constexpr std::array<std::string_view, 8> Beziehungsworte{"good",   "close",    "fused",           "distant",
                                                           "cutoff", "conflict", "conflict, close", "conflict, fused"};
 
-/// Whether a couple whose state is `status` surely has been in that other one.
+/// Whether a couple whose state is `status` surely has been in that other one. That it isn't married is said, too: else
+/// a reader would have to guess.
 bool WarSicher(Paarstatus stand, Paarstatus status) {
-    return stand == status ? stand != Paarstatus::Unverheiratet
-                           : stand == Paarstatus::Verheiratet && status == Paarstatus::Geschieden;
+    return stand == status || (stand == Paarstatus::Verheiratet && status == Paarstatus::Geschieden);
 }
 
 /// "gesch. 1999" at a divorced couple's line isn't "geschätzt".
@@ -227,14 +227,15 @@ void Übergeber::StandSchreiben(const PartnerschaftSatz &linie) {
     const auto *const jetzt = std::find_if(Stände.begin(), Stände.end(), [&](const Stand &s) {
         return linie.Status() == std::to_string(static_cast<int>(s.Status));
     });
-    const auto status = jetzt == Stände.end() ? Paarstatus::Unverheiratet : jetzt->Status;
+    const bool bekannt = jetzt != Stände.end();
+    const auto status = bekannt ? jetzt->Status : Paarstatus::Unverheiratet;
     bool möglich = true;
     for (const auto &stand : Stände) {
         const int feld = static_cast<int>(stand.Status);
         const auto datum = Paardatum(stand.Status, feld < daten.Anzahl() ? daten[feld] : "", uhr_.Folge());
         const bool gesagt = !datum.Datum.empty() || !datum.Worte.empty();
         if (!möglich && gesagt) Zählen(Übergabeverlust::Zwischenstände);
-        if (möglich && (gesagt || WarSicher(stand.Status, status))) {
+        if (möglich && (gesagt || (bekannt && WarSicher(stand.Status, status)))) {
             datei_.Zeile(1, stand.Marke, gesagt || !stand.Art.empty() ? "" : "Y");
             if (!stand.Art.empty()) datei_.Zeile(2, "TYPE", stand.Art);
             DatumSchreiben(2, datum);

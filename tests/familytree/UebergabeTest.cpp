@@ -118,6 +118,19 @@ TEST(Uebergabe, WasMitgehtKommtGleichZurück) {
     }
 }
 
+/// A family tree without names has ages for dates.
+TEST(Uebergabe, EinBloßesAlterKommtGleichZurück) {
+    Dokument d;
+    d.cboPersonen = {"001_1_2_2_1.2_0__1_0_A__Alter 45__", "002_2_6_2_1.2_0_$__0_B__Age 102__"};
+    for (const auto fassung : BeideFassungen) {
+        const auto ü = Übernommen(Geschrieben(d, {fassung, false, false}).Text);
+        EXPECT_EQ(ü.Personen.at(0).Angaben.Geburtsdatum, "Alter 45");
+        EXPECT_EQ(ü.Personen.at(1).Angaben.Geburtsdatum, "Age 102");
+        EXPECT_EQ(ü.Bericht.Anzahl(Befundart::GeburtWeggelassen), 0U);
+        EXPECT_EQ(Kern(Übernommen(Geschrieben(DokumentAus(ü), {fassung, false, false}).Text)), Kern(ü));
+    }
+}
+
 TEST(Uebergabe, FremdeDateienKommenNachIhrerÜbernahmeGleichZurück) {
     const auto regeln = Übernahmeregeln{Sprache::Deutsch, TypWeiblich, "0", true, true, false};
     int gelesene = 0;
@@ -143,7 +156,8 @@ TEST(Uebergabe, PaareUndIhreStände) {
     const Fall fälle[] = {
         {"", "", "", 0},
         {"0", "1990###", "1 EVEN\n2 TYPE Unmarried\n2 DATE 1990\n", 0},
-        {"0", "##1991#1992", "", 2},
+        {"0", "", "1 EVEN\n2 TYPE Unmarried\n", 0},
+        {"0", "##1991#1992", "1 EVEN\n2 TYPE Unmarried\n", 2},
         {"1", "#1995##", "1 EVEN\n2 TYPE Separation\n2 DATE 1995\n", 0},
         {"1", "###", "1 EVEN\n2 TYPE Separation\n", 0},
         {"2", "#1995#1990#", "1 MARR\n2 DATE 1990\n", 1},
@@ -160,6 +174,19 @@ TEST(Uebergabe, PaareUndIhreStände) {
         EXPECT_EQ(text.substr(text.find("0 @F1@")),
                   "0 @F1@ FAM\n1 HUSB @I2@\n1 WIFE @I1@\n" + std::string(fall.Zeilen) + "0 TRLR\n");
         EXPECT_EQ(ü.Bericht.Anzahl(Übergabeverlust::Zwischenstände), fall.Verdeckte) << fall.Daten;
+    }
+}
+
+/// What was drawn as unmarried isn't asked about when it comes back.
+TEST(Uebergabe, UnverheirateteKommenAlsSolcheZurück) {
+    Dokument d;
+    d.cboPersonen = {"001_2_2_2_1.2_0__0_0_A____", "002_1_6_2_1.2_0__0_0_B____"};
+    d.cboPartnerschaftsLinien = {"001_0_2_4_6_4_001_002_2_2_2_6_0_###"};
+    for (const auto fassung : BeideFassungen) {
+        const auto ü = Übernommen(Geschrieben(d, {fassung, false, false}).Text, {.OhneHeirat = "2"});
+        EXPECT_EQ(ü.Paare.at(0).Angaben.Status, "0");
+        EXPECT_EQ(ü.Bericht.Anzahl(Befundart::StatusAngenommen), 0U);
+        EXPECT_EQ(ü.Bericht.Anzahl(Befundart::EreignisWeggelassen), 0U);
     }
 }
 

@@ -64,6 +64,28 @@ TEST(Uebernahme, EinGeburtsdatumWirdTagOderJahr) {
     for (const auto &[roh, erwartet] : fälle) EXPECT_EQ(MitDaten(roh, "").Geburtsdatum, erwartet) << roh;
 }
 
+/// The newer version writes words beside a date that is empty, the older one in it.
+TEST(Uebernahme, WorteStattEinesDatumsWerdenGleichGemeldet) {
+    using enum Befundart;
+    for (const std::string_view datum : {"2 DATE (um Ostern)\n", "2 DATE\n3 PHRASE um Ostern\n"}) {
+        const std::string zeilen =
+            "0 @I1@ INDI\n1 BIRT\n1 BIRT\n" + std::string(datum) + "1 DEAT\n" + std::string(datum);
+        const Import import(zeilen);
+        EXPECT_EQ(import.Person(0).Angaben.Geburtsdatum, "");
+        EXPECT_EQ(import.Gemeldet(GeburtWeggelassen), 1U) << datum;
+        EXPECT_EQ(import.Gemeldet(SterbedatumWeggelassen), 1U) << datum;
+        for (const auto &befund : import.Ergebnis.Bericht.Liste())
+            if (befund.Art == GeburtWeggelassen) {
+                EXPECT_EQ(befund.Text, "(um Ostern)");
+                EXPECT_EQ(befund.Zeile, 6U);
+            }
+    }
+    EXPECT_EQ(MitDaten("\n3 PHRASE Alter 45", "").Geburtsdatum, "Alter 45");
+    EXPECT_EQ(MitDaten("(Age 7)", "").Geburtsdatum, "Age 7");
+    EXPECT_EQ(MitDaten("(Age of 7)", "").Geburtsdatum, "");
+    EXPECT_EQ(MitDaten("1950\n3 PHRASE Alter 45", "").Geburtsdatum, "1950");
+}
+
 TEST(Uebernahme, DasSterbealterFolgtDenTagenDannDerAngabeDannDenJahren) {
     using enum Befundart;
     EXPECT_EQ(MitDaten("2 MAR 1900", "1 MAR 1950").Sterbealter, "$49");

@@ -147,4 +147,47 @@ TEST(Formularfenster, TabfolgeUndEnter) {
     }
 }
 
+constexpr Formularzeile Suchzeilen[] = {
+    {"txt", Art::Textfeld, {}, {"Suche", ""}, "liste"},
+    {"liste", Art::Listenfeld},
+};
+constexpr Formulartafel Suchtafel{"Suche", {"Suche", ""}, Suchzeilen};
+
+struct Suchprobe : Formular {
+    Suchprobe() : Formular(Suchtafel, Sprache::Deutsch) { (*this)["liste"].Einträge = {"eins", "zwei", "drei"}; }
+    void Laden() override { IndexSetzen("liste", 0); }
+    void Geändert(std::string_view) override { IndexSetzen("liste", 1); }
+};
+
+/// Whoever types into a search box chooses among what it has found without leaving it, and hears the choice.
+TEST(Formularfenster, SuchfeldBlättertInSeinerListe) {
+    Suchprobe form;
+    Formularfenster fenster(form, nullptr);
+    std::string gewählte, gehörte;
+    QTimer::singleShot(0, &fenster, [&] {
+        QApplication::processEvents();
+        QWidget *feld = Teil("txt");
+        feld->setFocus();
+        const auto merken = [&] {
+            gewählte += form["liste"].Text + " ";
+            gehörte += feld->accessibleDescription().toStdString() + " ";
+        };
+        merken();
+        for (const int taste : {Qt::Key_Down, Qt::Key_PageDown, Qt::Key_Down, Qt::Key_Up, Qt::Key_PageUp}) {
+            Taste(feld, taste);
+            merken();
+        }
+        Tippen(feld, "x");
+        merken();
+        Taste(feld, Qt::Key_Home); // belongs to the text
+        merken();
+        EXPECT_EQ(QApplication::focusWidget(), feld);
+        EXPECT_EQ(form["txt"].Text, "x");
+        fenster.close();
+    });
+    fenster.Ausführen();
+    EXPECT_EQ(gewählte, "eins zwei drei drei zwei eins zwei zwei ");
+    EXPECT_EQ(gehörte, gewählte);
+}
+
 } // namespace

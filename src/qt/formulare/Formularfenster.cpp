@@ -40,6 +40,13 @@ bool FügtEin(const QKeyEvent &taste, Art art) {
            erstes.category() == QChar::Other_PrivateUse;
 }
 
+/// Whether the key goes through a list and means nothing to a line of text.
+bool Blättert(const QKeyEvent &taste) {
+    if ((taste.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) return false;
+    constexpr int Blättertasten[] = {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown};
+    return std::find(std::begin(Blättertasten), std::end(Blättertasten), taste.key()) != std::end(Blättertasten);
+}
+
 /// The characters that the form lets into its box.
 QString Erlaubtes(const Formular &form, const std::string &name, const QString &text) {
     QString erlaubt;
@@ -208,6 +215,7 @@ void Formularfenster::Auffrischen() {
     }
     Benennen();
     RahmenErklären();
+    ListenwahlErklären();
 }
 
 /// A box is called what its label says, without one what its frame does; what has no caption as its tool tip says, and
@@ -241,6 +249,14 @@ void Formularfenster::RahmenErklären() {
         const QString warum = rahmen.Visible ? Text(rahmen.Tip) : QString();
         if (rahmen.Visible) box.setToolTip(warum);
         DazuVorlesen(box, warum);
+    }
+}
+
+/// What is chosen in a list is read behind the search box that it belongs to: the focus stays there.
+void Formularfenster::ListenwahlErklären() {
+    for (const auto &[name, teil] : teile_) {
+        const Steuerelement &box = form_[name];
+        if (box.Kind == Art::Textfeld && !box.Bei.empty()) DazuVorlesen(*teil, Text(form_[box.Bei].Text));
     }
 }
 
@@ -300,11 +316,26 @@ bool Formularfenster::eventFilter(QObject *objekt, QEvent *ereignis) {
     if (typ != QEvent::KeyPress && typ != QEvent::InputMethod && typ != QEvent::MouseButtonPress) return false;
     const std::string name = NameVon(objekt);
     if (name.empty()) return false;
-    if (typ == QEvent::KeyPress) return TasteSchlucken(name, *dynamic_cast<QKeyEvent *>(ereignis));
+    if (typ == QEvent::KeyPress) {
+        auto &taste = *dynamic_cast<QKeyEvent *>(ereignis);
+        return InListeBlättern(name, taste) || TasteSchlucken(name, taste);
+    }
     if (typ == QEvent::InputMethod)
         return EingabeSchlucken(*objekt, name, *dynamic_cast<QInputMethodEvent *>(ereignis));
     Ereignis([&] { form_.Drücken(name); });
     return !form_.Offen();
+}
+
+/// A search box hands the keys that go through a list to the list that it belongs to, and keeps the focus for what is
+/// typed next.
+bool Formularfenster::InListeBlättern(const std::string &name, QKeyEvent &taste) {
+    const Steuerelement &box = form_[name];
+    const auto liste = teile_.find(box.Bei);
+    if (box.Kind != Art::Textfeld || liste == teile_.end() || !Blättert(taste)) return false;
+    const std::string vorher = form_[box.Bei].Text;
+    QCoreApplication::sendEvent(liste->second, &taste);
+    if (form_[box.Bei].Text != vorher) NeuVorlesen(*teile_[name]);
+    return true;
 }
 
 bool Formularfenster::TasteSchlucken(const std::string &name, const QKeyEvent &taste) const {

@@ -46,10 +46,12 @@ class Formularfenster : public QDialog, public Formularwirt {
     void TabfolgeSetzen();
     void Benennen();
     void RahmenErklären();
+    void ListenwahlErklären();
     void Ereignis(const std::function<void()> &was);
     void Auffrischen();
     void FokusGewandert(QWidget *neu);
     std::string NameVon(const QObject *objekt) const;
+    bool InListeBlättern(const std::string &name, QKeyEvent &taste);
     bool TasteSchlucken(const std::string &name, const QKeyEvent &taste) const;
     bool EingabeSchlucken(QObject &ziel, const std::string &name, const QInputMethodEvent &eingabe);
 

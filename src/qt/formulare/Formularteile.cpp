@@ -153,10 +153,7 @@ void WertVorlesen(QComboBox &liste) {
     const QString wert = liste.isEditable() ? QString() : liste.currentText();
     if (liste.accessibleDescription() == wert) return;
     liste.setAccessibleDescription(wert);
-    if (!liste.hasFocus() || !QAccessible::isActive()) return;
-    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&liste)));
-    QAccessibleEvent ereignis(&liste, QAccessible::Focus);
-    QAccessible::updateAccessibility(&ereignis);
+    NeuVorlesen(liste);
 }
 
 QFont SchriftVon(const Steuerelement &element) {
@@ -245,6 +242,13 @@ void TeilZeigen(QWidget &teil, const Steuerelement &element) {
     if (auto *liste = dynamic_cast<QListWidget *>(&teil)) ListenfeldZeigen(*liste, element);
     if (auto *platte = dynamic_cast<Farbplatte *>(&teil)) platte->FarbeZeigen(AlsFarbe(element.Farbwert));
     if (auto *bild = dynamic_cast<Formularbild *>(&teil)) bild->Auffrischen();
+}
+
+void NeuVorlesen(QWidget &teil) {
+    if (!teil.hasFocus() || !QAccessible::isActive()) return;
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&teil)));
+    QAccessibleEvent ereignis(&teil, QAccessible::Focus);
+    QAccessible::updateAccessibility(&ereignis);
 }
 
 QLineEdit *Eingabezeile(QWidget &teil) {

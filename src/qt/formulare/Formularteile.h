@@ -27,6 +27,9 @@ QWidget *TeilBauen(Formular &form, const std::string &name, const Formularmelder
 /// Copies a control's state into its widget, which reports nothing of it.
 void TeilZeigen(QWidget &teil, const Steuerelement &element);
 
+/// Has a screen reader read the widget again, as if it got the focus anew; nothing for one that hasn't got it.
+void NeuVorlesen(QWidget &teil);
+
 /// The line edit in which a box's text stands; none for others.
 QLineEdit *Eingabezeile(QWidget &teil);
 
