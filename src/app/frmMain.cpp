@@ -185,16 +185,21 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "Timer4") Vorschau();
     if (name == "Timer5") DatenÜbernehmen();
     if (name == "tmrDrucker") DruckerErmitteln();
-    if (name == "tmrLanguage") SpracheErfragen();
+    if (name == "tmrLanguage" && !spracheErfragt_) SpracheErfragen();
     if (name == "tmrToolTipp") hinweis.Zeigen();
     if (name == "tmrLauf") tastatur.LaufBeenden();
     NachEreignis();
 }
 
-/// The command line's project. One that came from the safety net before it is asked about.
+/// The command line's project. One that came from the safety net before it is asked about. A family tree opens a form,
+/// which is to speak the user's language from the first start on.
 void frmMain::KommandozeileÖffnen() {
-    if (Stammbaumimport::IstStammbaum(Kommandozeile)) stammbaum.Öffnen(Kommandozeile);
-    else if (projekt.NachÄnderungenFragen()) projekt.Öffnen(Kommandozeile);
+    if (!Stammbaumimport::IstStammbaum(Kommandozeile)) {
+        if (projekt.NachÄnderungenFragen()) projekt.Öffnen(Kommandozeile);
+        return;
+    }
+    if (einstellungen.OhneSprache) SpracheErfragen();
+    stammbaum.Öffnen(Kommandozeile);
 }
 
 /// Brings the safety net up to date with what the event has done. That it can't be is said once.
@@ -243,6 +248,7 @@ Befehlsumgebung frmMain::FürBefehle() {
 
 /// At the very first start, and until one has been chosen.
 void frmMain::SpracheErfragen() {
+    spracheErfragt_ = true;
     Dialogumgebung umgebung = FürFormulare();
     frmEinstellungen form(umgebung, true);
     plattform.benutzer.FormZeigen(form);

@@ -206,7 +206,8 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     Rahmenort gedrückt_;        ///< where in the frame the last press was
     bool aufgegeben_ = false;   ///< the closing question was answered with No
     bool netzGemeldet_ = false; ///< that the safety net can't be written
-    std::string Kommandozeile;  ///< trimmed and unquoted
+    bool spracheErfragt_ = false;
+    std::string Kommandozeile; ///< trimmed and unquoted
     const Anblick anblick{
         projekt.Titel, projekt.Geändert,    einstellungen.Fenster, ansicht,  bedienung, bereich,          auflagen,
         lage,          import.Listenzeilen, plattform.uhr,         dokument, legende,   tastatur.Cursor()};
