@@ -1,6 +1,7 @@
 #include "arrangement/Ordner.h"
 
 #include "arrangement/Seitenlinien.h"
+#include "arrangement/Zugehoerigkeit.h"
 #include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Partnerschaft.h"
@@ -252,7 +253,7 @@ Umgebung Ordner::Kasten(int person, Ort ort, double größe) const {
     return Personenkasten(satz, ort, std::min(größe, satz.Groesse()), Namensbreite(w_.picVorschau, satz));
 }
 
-/// Where persons stay, with their names; the legend; texts that belong to those who stay, and the lines between them.
+/// Where persons stay, with their names; the legend; texts of theirs or of the page; and their lines.
 std::vector<Ordner::Hindernis> Ordner::Hindernisse() const {
     const Dokument &d = w_.dokument;
     const std::set<int> gehen(gefragte_.begin(), gefragte_.end());
@@ -260,10 +261,12 @@ std::vector<Ordner::Hindernis> Ordner::Hindernisse() const {
     for (int i = 0; i < d.cboPersonen.Anzahl(); ++i)
         if (!gehen.contains(i)) alle.push_back({Kasten(i, Stelle(i), JedeGröße)});
     if (d.LegendeSichtbar) alle.push_back({Elementrahmen(d, w_.legende, {Elementart::Legende, 0})});
+    const Zugehörigkeit zugehörigkeit(d, w_.ansicht);
     for (int i = 0; i < d.cboTextboxen.Anzahl(); ++i) {
         const Umgebung u = Elementrahmen(d, w_.legende, {Elementart::Text, i});
-        const auto nächste = NächstePerson(d, {u.MitteX(), u.MitteY()});
-        if (!u.Leer && nächste && !gehen.contains(*nächste)) alle.push_back({u});
+        if (u.Leer) continue;
+        const auto person = zugehörigkeit.PersonZuText(u);
+        if (!person || !gehen.contains(*person)) alle.push_back({u});
     }
     for (const Seitenlinie &linie : LinienDerSeite(d, w_.ansicht))
         if (linie.Bleibt(gehen)) alle.push_back(linie.Kästen);

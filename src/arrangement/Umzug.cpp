@@ -1,6 +1,7 @@
 #include "arrangement/Umzug.h"
 
 #include "arrangement/Seitenplatz.h"
+#include "arrangement/Zugehoerigkeit.h"
 
 #include "document/Dokument.h"
 #include "document/Nachschlagen.h"
@@ -33,7 +34,7 @@ namespace {
 class Umzugswagen {
   public:
     Umzugswagen(const Dokument &dokument, const Ansicht &ansicht, const Umzug &umzug)
-        : d_(dokument), ansicht_(ansicht), umzug_(umzug) {
+        : d_(dokument), ansicht_(ansicht), umzug_(umzug), zugehörigkeit_(dokument, ansicht) {
         for (int i = 0; i < d_.cboPersonen.Anzahl(); ++i) {
             const PersonSatz person(d_.cboPersonen.Satz(i), Lücken::Leer);
             const auto neu = umzug_.Personen.find(i);
@@ -45,7 +46,10 @@ class Umzugswagen {
 
     /// The record at its new place.
     std::string Mitgenommen(const Gruppenart &art, std::string_view satz) const {
-        const auto nächste = NächstePerson(d_, Mitte(art, satz));
+        Umgebung u;
+        art.Umgeben(satz, u);
+        const auto nächste =
+            &art == &TexteInGruppen ? zugehörigkeit_.PersonZuText(u) : NächstePerson(d_, {u.MitteX(), u.MitteY()});
         const Ort weg = nächste ? Weg(static_cast<size_t>(*nächste)) : Ort{};
         return weg.X == 0 && weg.Y == 0 ? std::string(satz) : art.Verschoben(satz, weg.X, weg.Y);
     }
@@ -110,6 +114,7 @@ class Umzugswagen {
     const Dokument &d_;
     const Ansicht &ansicht_;
     const Umzug &umzug_;
+    const Zugehörigkeit zugehörigkeit_;
     std::vector<Ort> alte_, neue_; ///< of all persons
 };
 
