@@ -1,7 +1,7 @@
 #include "arrangement/Umzug.h"
 
+#include "arrangement/Begleitung.h"
 #include "arrangement/Seitenplatz.h"
-#include "arrangement/Zugehoerigkeit.h"
 
 #include "document/Dokument.h"
 #include "document/Nachschlagen.h"
@@ -16,7 +16,7 @@
 #include "editing/Kreisumriss.h"
 #include "editing/Personen.h"
 #include "editing/Pfeile.h"
-#include "editing/Texte.h"
+#include "editing/Werkbank.h"
 #include "rendering/Ansicht.h"
 #include "rendering/Beschriftung.h"
 
@@ -34,7 +34,7 @@ namespace {
 class Umzugswagen {
   public:
     Umzugswagen(const Dokument &dokument, const Ansicht &ansicht, const Umzug &umzug)
-        : d_(dokument), ansicht_(ansicht), umzug_(umzug), zugehörigkeit_(dokument, ansicht) {
+        : d_(dokument), ansicht_(ansicht), umzug_(umzug) {
         for (int i = 0; i < d_.cboPersonen.Anzahl(); ++i) {
             const PersonSatz person(d_.cboPersonen.Satz(i), Lücken::Leer);
             const auto neu = umzug_.Personen.find(i);
@@ -46,10 +46,7 @@ class Umzugswagen {
 
     /// The record at its new place.
     std::string Mitgenommen(const Gruppenart &art, std::string_view satz) const {
-        Umgebung u;
-        art.Umgeben(satz, u);
-        const auto nächste =
-            &art == &TexteInGruppen ? zugehörigkeit_.PersonZuText(u) : NächstePerson(d_, {u.MitteX(), u.MitteY()});
+        const auto nächste = NächstePerson(d_, Mitte(art, satz));
         const Ort weg = nächste ? Weg(static_cast<size_t>(*nächste)) : Ort{};
         return weg.X == 0 && weg.Y == 0 ? std::string(satz) : art.Verschoben(satz, weg.X, weg.Y);
     }
@@ -114,7 +111,6 @@ class Umzugswagen {
     const Dokument &d_;
     const Ansicht &ansicht_;
     const Umzug &umzug_;
-    const Zugehörigkeit zugehörigkeit_;
     std::vector<Ort> alte_, neue_; ///< of all persons
 };
 
@@ -165,8 +161,10 @@ std::optional<int> NächstePerson(const Dokument &d, Ort ort) {
     return nächste;
 }
 
-bool Umziehen(Dokument &d, const Ansicht &ansicht, const Umzug &umzug) {
-    const Umzugswagen wagen(d, ansicht, umzug);
+bool Umziehen(Werkbank &w, const Umzug &umzug) {
+    Dokument &d = w.dokument;
+    const Umzugswagen wagen(d, w.ansicht, umzug);
+    Begleitung texte(w);
     std::vector<std::string> kreise;
     for (int i = 0; i < d.cboFreehandlines.Anzahl(); ++i) {
         const std::string &satz = d.cboFreehandlines.Satz(i);
@@ -174,14 +172,12 @@ bool Umziehen(Dokument &d, const Ansicht &ansicht, const Umzug &umzug) {
         if (!neu) return false;
         kreise.push_back(std::move(*neu));
     }
-    for (const auto &[art, gruppe] :
-         {std::pair(Elementart::Text, &TexteInGruppen), std::pair(Elementart::Pfeil, &PfeileInGruppen)}) {
-        Satzliste &speicher = d.*gruppe->Speicher;
-        for (int i = 0; i < speicher.Anzahl(); ++i) // a damaged one stays as it is
-            if (GibtEs(d, {art, i})) speicher.Ersetzen(i, wagen.Mitgenommen(*gruppe, speicher.Satz(i)));
-    }
+    for (int i = 0; i < d.cboPfeile.Anzahl(); ++i) // a damaged one stays as it is
+        if (GibtEs(d, {Elementart::Pfeil, i}))
+            d.cboPfeile.Ersetzen(i, wagen.Mitgenommen(PfeileInGruppen, d.cboPfeile.Satz(i)));
     for (size_t i = 0; i < kreise.size(); ++i) d.cboFreehandlines.Ersetzen(static_cast<int>(i), kreise[i]);
     PersonenSetzen(d, umzug);
+    texte.Nachholen();
     return true;
 }
 
