@@ -63,7 +63,7 @@ void mnuAnordnen(Werkbank &w) {
     const auto umzug = Suchen(w, ordner);
     if (!umzug) return;
     const Dokument vorher = w.dokument;
-    if (!Umziehen(w.dokument, w.ansicht, *umzug)) {
+    if (!Umziehen(w, *umzug)) {
         w.lage.Hinweis = &Absage::KreisImWegDerOrdnung;
         return;
     }

@@ -1,5 +1,7 @@
 #include "arrangement/Ordner.h"
 
+#include "arrangement/Seitenlinien.h"
+#include "arrangement/Zugehoerigkeit.h"
 #include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Partnerschaft.h"
@@ -61,7 +63,7 @@ std::optional<Umzug> Ordner::Versuchen(double größe, const Luft &luft) {
         alte.Aufnehmen(Stelle(auszug_.Personen[i]).X, Stelle(auszug_.Personen[i]).Y);
         neue.Aufnehmen(lage.Personen[i].X, lage.Personen[i].Y);
     }
-    return Unterbringen(lage, größe, {alte.MitteX() - neue.MitteX(), alte.MitteY() - neue.MitteY()}, Seite());
+    return Unterbringen(lage, größe, Wunsch(Seite()), {alte.MitteX() - neue.MitteX(), alte.MitteY() - neue.MitteY()});
 }
 
 std::optional<Umzug> Ordner::Behalten(double größe) {
@@ -72,12 +74,13 @@ std::optional<Umzug> Ordner::Behalten(double größe) {
         const Umgebung u = Kasten(i, Stelle(i), größe);
         seite.Aufnehmen(u.Links, u.Oben, u.Rechts - u.Links, u.Unten - u.Oben);
     }
+    const Platzwunsch wunsch = WunschWieGezeichnet(seite);
     for (const auto &[luft, treue] : {std::pair(Gezeichnet, Treu), std::pair(Lesbar, Treu), std::pair(Lesbar, Lose)}) {
         Abstände maße = MaßeFür(größe, raster, luft);
         maße.Treue = treue;
         const Familienlage lage = FamilieAnordnen(auszug_.Graph, maße);
         if (Mangelhaft(lage, neu, größe)) continue;
-        auto umzug = Unterbringen(lage, größe, {}, seite);
+        auto umzug = Unterbringen(lage, größe, wunsch, {});
         if (!umzug) continue;
         if (Steht(*umzug, raster)) return Umzug{};     // who stands beside the raster isn't drawn to it either
         if (luft.Personen < Lesbar.Personen) continue; // who has to go doesn't go that near
@@ -150,11 +153,36 @@ Umzug Ordner::NurWasSichÄndert(Umzug umzug) const {
     return umzug;
 }
 
+/// Free of all that stays.
+Platzwunsch Ordner::Wunsch(const Umgebung &seite) const {
+    Platzwunsch wunsch{{}, {}, seite, {}, w_.ansicht.Rasterweite};
+    for (const Hindernis &h : Hindernisse()) wunsch.Hindernisse.insert(wunsch.Hindernisse.end(), h.begin(), h.end());
+    return wunsch;
+}
+
+/// What lines run over as they are drawn they may run over again: else a page with one crossing couldn't be kept.
+Platzwunsch Ordner::WunschWieGezeichnet(const Umgebung &seite) const {
+    Familienlage lage;
+    for (const int i : auszug_.Personen) lage.Personen.push_back(Stelle(i));
+    for (const int i : auszug_.Linien)
+        lage.Balken.push_back(PartnerschaftSatz(w_.dokument.cboPartnerschaftsLinien.Satz(i), Lücken::Leer).BalkenY1());
+    const auto linien = Linienkästen(lage);
+    const auto überlaufen = [&](const Umgebung &u) {
+        return std::any_of(linien.begin(), linien.end(), [&](const Umgebung &l) { return LiegenAufeinander(l, u); });
+    };
+    Platzwunsch wunsch{{}, {}, seite, {}, w_.ansicht.Rasterweite};
+    for (const Hindernis &h : Hindernisse()) {
+        auto &ziel = std::any_of(h.begin(), h.end(), überlaufen) ? wunsch.Kreuzbare : wunsch.Hindernisse;
+        ziel.insert(ziel.end(), h.begin(), h.end());
+    }
+    return wunsch;
+}
+
 /// A free place on the page for all of it, as near as can be to where `verschiebung` brings it.
-std::optional<Umzug> Ordner::Unterbringen(const Familienlage &lage, double größe, Ort verschiebung,
-                                          const Umgebung &seite) {
-    Platzwunsch wunsch{Linienkästen(lage), Hindernisse(), seite, {}, w_.ansicht.Rasterweite};
-    const size_t linien = wunsch.Kästen.size();
+std::optional<Umzug> Ordner::Unterbringen(const Familienlage &lage, double größe, Platzwunsch wunsch,
+                                          Ort verschiebung) {
+    wunsch.Kästen = Linienkästen(lage);
+    const size_t linien = wunsch.Linien = wunsch.Kästen.size();
     for (size_t i = 0; i < lage.Personen.size(); ++i)
         wunsch.Kästen.push_back(Kasten(auszug_.Personen[i], lage.Personen[i], größe));
     const Umgebung ganz = UmAlle(wunsch.Kästen);
@@ -180,7 +208,7 @@ std::optional<Umzug> Ordner::Unterbringen(const Familienlage &lage, double grö�
 
 /// Whoever has no bond stays beside the one that stood nearest, where there is room.
 bool Ordner::EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const {
-    Platzwunsch wunsch{{}, Hindernisse(), Seite(), {}, w_.ansicht.Rasterweite};
+    Platzwunsch wunsch = Wunsch(Seite());
     wunsch.Hindernisse.insert(wunsch.Hindernisse.end(), belegt.begin(), belegt.end());
     for (const auto &[i, ort] : umzug.Personen) wunsch.Hindernisse.push_back(Kasten(i, ort, umzug.Größe));
     const std::map<int, Ort> verbundene = umzug.Personen;
@@ -225,20 +253,24 @@ Umgebung Ordner::Kasten(int person, Ort ort, double größe) const {
     return Personenkasten(satz, ort, std::min(größe, satz.Groesse()), Namensbreite(w_.picVorschau, satz));
 }
 
-/// Where persons stay, with their names; the legend; and texts that belong to those who stay.
-std::vector<Umgebung> Ordner::Hindernisse() const {
+/// Where persons stay, with their names; the legend; texts of theirs or of the page; and their lines.
+std::vector<Ordner::Hindernis> Ordner::Hindernisse() const {
     const Dokument &d = w_.dokument;
     const std::set<int> gehen(gefragte_.begin(), gefragte_.end());
-    std::vector<Umgebung> kästen;
+    std::vector<Hindernis> alle;
     for (int i = 0; i < d.cboPersonen.Anzahl(); ++i)
-        if (!gehen.contains(i)) kästen.push_back(Kasten(i, Stelle(i), JedeGröße));
-    if (d.LegendeSichtbar) kästen.push_back(Elementrahmen(d, w_.legende, {Elementart::Legende, 0}));
+        if (!gehen.contains(i)) alle.push_back({Kasten(i, Stelle(i), JedeGröße)});
+    if (d.LegendeSichtbar) alle.push_back({Elementrahmen(d, w_.legende, {Elementart::Legende, 0})});
+    const Zugehörigkeit zugehörigkeit(d, w_.ansicht);
     for (int i = 0; i < d.cboTextboxen.Anzahl(); ++i) {
         const Umgebung u = Elementrahmen(d, w_.legende, {Elementart::Text, i});
-        const auto nächste = NächstePerson(d, {u.MitteX(), u.MitteY()});
-        if (!u.Leer && nächste && !gehen.contains(*nächste)) kästen.push_back(u);
+        if (u.Leer) continue;
+        const auto person = zugehörigkeit.PersonZuText(u);
+        if (!person || !gehen.contains(*person)) alle.push_back({u});
     }
-    return kästen;
+    for (const Seitenlinie &linie : LinienDerSeite(d, w_.ansicht))
+        if (linie.Bleibt(gehen)) alle.push_back(linie.Kästen);
+    return alle;
 }
 
 /// Bars, legs and children's lines, which must lie on nobody either.

@@ -36,7 +36,9 @@ class Ordner {
     static constexpr double Seitenrand = 1; ///< that stays free, cm
 
   private:
-    std::optional<Umzug> Unterbringen(const Familienlage &lage, double größe, Ort verschiebung, const Umgebung &seite);
+    std::optional<Umzug> Unterbringen(const Familienlage &lage, double größe, Platzwunsch wunsch, Ort verschiebung);
+    Platzwunsch Wunsch(const Umgebung &seite) const;
+    Platzwunsch WunschWieGezeichnet(const Umgebung &seite) const;
     bool Mangelhaft(const Familienlage &lage, const Lagebefund &neu, double größe) const;
     bool Steht(const Umzug &umzug, double raster) const;
     double GezeichnetesRaster() const;
@@ -44,7 +46,9 @@ class Ordner {
     Umzug NurWasSichÄndert(Umzug umzug) const;
     Ort Stelle(int person) const;
     Umgebung Kasten(int person, Ort ort, double größe) const;
-    std::vector<Umgebung> Hindernisse() const;
+    /// Something that stays on the page, in boxes.
+    using Hindernis = std::vector<Umgebung>;
+    std::vector<Hindernis> Hindernisse() const;
     std::vector<Umgebung> Linienkästen(const Familienlage &lage) const;
     bool EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const;
     Umgebung Seite() const;

@@ -17,10 +17,14 @@ bool Versetzt(const Umgebung &a, const Umgebung &b, Ort weg) {
 }
 
 bool IstFrei(const Platzwunsch &w, Ort weg) {
-    return std::none_of(w.Kästen.begin(), w.Kästen.end(), [&](const Umgebung &kasten) {
-        return std::any_of(w.Hindernisse.begin(), w.Hindernisse.end(),
+    const auto liegtAuf = [&](const Umgebung &kasten, const std::vector<Umgebung> &hindernisse) {
+        return std::any_of(hindernisse.begin(), hindernisse.end(),
                            [&](const Umgebung &anderes) { return Versetzt(kasten, anderes, weg); });
-    });
+    };
+    const auto symbole = w.Kästen.begin() + static_cast<std::ptrdiff_t>(w.Linien);
+    return std::none_of(symbole, w.Kästen.end(), [&](const Umgebung &k) { return liegtAuf(k, w.Kreuzbare); }) &&
+           std::none_of(w.Kästen.begin(), w.Kästen.end(),
+                        [&](const Umgebung &k) { return liegtAuf(k, w.Hindernisse); });
 }
 
 /// The steps between two bounds, in whole ones; none when the first is beyond the last.

@@ -4,6 +4,7 @@
 #include "layout/Familienlage.h"
 #include "platform/Sprache.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -36,6 +37,8 @@ struct Platzwunsch {
     Umgebung Seite;                    ///< where it has to stay
     Ort Ziel;                          ///< where its middle would best be
     double Raster;                     ///< it is moved by whole steps of that
+    size_t Linien = 0;                 ///< so many of the boxes, the first ones, are of lines ...
+    std::vector<Umgebung> Kreuzbare{}; ///< ... which may lie on these; the others mustn't
 };
 
 /// Whether they lie on each other; touching is none of that.

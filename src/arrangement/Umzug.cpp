@@ -1,5 +1,6 @@
 #include "arrangement/Umzug.h"
 
+#include "arrangement/Begleitung.h"
 #include "arrangement/Seitenplatz.h"
 
 #include "document/Dokument.h"
@@ -15,7 +16,7 @@
 #include "editing/Kreisumriss.h"
 #include "editing/Personen.h"
 #include "editing/Pfeile.h"
-#include "editing/Texte.h"
+#include "editing/Werkbank.h"
 #include "rendering/Ansicht.h"
 #include "rendering/Beschriftung.h"
 
@@ -160,8 +161,10 @@ std::optional<int> NächstePerson(const Dokument &d, Ort ort) {
     return nächste;
 }
 
-bool Umziehen(Dokument &d, const Ansicht &ansicht, const Umzug &umzug) {
-    const Umzugswagen wagen(d, ansicht, umzug);
+bool Umziehen(Werkbank &w, const Umzug &umzug) {
+    Dokument &d = w.dokument;
+    const Umzugswagen wagen(d, w.ansicht, umzug);
+    Begleitung texte(w);
     std::vector<std::string> kreise;
     for (int i = 0; i < d.cboFreehandlines.Anzahl(); ++i) {
         const std::string &satz = d.cboFreehandlines.Satz(i);
@@ -169,14 +172,12 @@ bool Umziehen(Dokument &d, const Ansicht &ansicht, const Umzug &umzug) {
         if (!neu) return false;
         kreise.push_back(std::move(*neu));
     }
-    for (const auto &[art, gruppe] :
-         {std::pair(Elementart::Text, &TexteInGruppen), std::pair(Elementart::Pfeil, &PfeileInGruppen)}) {
-        Satzliste &speicher = d.*gruppe->Speicher;
-        for (int i = 0; i < speicher.Anzahl(); ++i) // a damaged one stays as it is
-            if (GibtEs(d, {art, i})) speicher.Ersetzen(i, wagen.Mitgenommen(*gruppe, speicher.Satz(i)));
-    }
+    for (int i = 0; i < d.cboPfeile.Anzahl(); ++i) // a damaged one stays as it is
+        if (GibtEs(d, {Elementart::Pfeil, i}))
+            d.cboPfeile.Ersetzen(i, wagen.Mitgenommen(PfeileInGruppen, d.cboPfeile.Satz(i)));
     for (size_t i = 0; i < kreise.size(); ++i) d.cboFreehandlines.Ersetzen(static_cast<int>(i), kreise[i]);
     PersonenSetzen(d, umzug);
+    texte.Nachholen();
     return true;
 }
 

@@ -10,8 +10,8 @@
 namespace kw {
 
 class PersonSatz;
-struct Ansicht;
 struct Dokument;
+struct Werkbank;
 
 /// Symbols stay as they are: larger than any.
 constexpr double JedeGröße = 100;
@@ -30,8 +30,8 @@ Umgebung Personenkasten(const PersonSatz &person, Ort ort, double größe, doubl
 std::optional<int> NächstePerson(const Dokument &dokument, Ort ort);
 
 /// Writes the records: the persons with all their lines, bars at their heights. A text, an arrow, a circle line goes
-/// along with the person nearest to it, if that moves. A circle line holds whom it held: where going along doesn't do,
-/// it is drawn anew. False, and nothing changed, when one can't.
-bool Umziehen(Dokument &dokument, const Ansicht &ansicht, const Umzug &umzug);
+/// along with the person nearest to it, if that moves; a text lands on nobody, and one of the page stays. A circle line
+/// holds whom it held: where going along doesn't do, it is drawn anew. False, and nothing changed, when one can't.
+bool Umziehen(Werkbank &w, const Umzug &umzug);
 
 } // namespace kw
