@@ -86,7 +86,7 @@ class Ears:
 class Program:
     """One run of the window, with settings of its own."""
 
-    def __init__(self, language, project):
+    def __init__(self, language, project, page=True):
         folder = os.path.join(os.environ["HOME"], "program")  # the settings stand beside the program
         os.makedirs(folder, exist_ok=True)
         program = shutil.copy(os.environ["KW_KINWRIGHT"], folder)
@@ -98,7 +98,7 @@ class Program:
         self.root = within(20, self.find)
         if not self.root:
             sys.exit("the program isn't on the bus")
-        self.canvas = within(10, self.page)
+        self.canvas = within(10, self.page) if page else None
 
     def find(self):
         return next((a for a in children(Atspi.get_desktop(0)) if "inwright" in (a.get_name() or "")), None)

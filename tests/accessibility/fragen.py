@@ -187,6 +187,21 @@ def first_words(ears):
     p.end()
 
 
+def searching(ears):
+    """Of namesakes the arrow keys choose one from within the search box, which tells who it is and keeps the focus."""
+    p = Program("de", f"{source}/tests/scenarios/frmStammbaum/vettern.ged", page=False)
+    within(10, p.windows)
+    told = [h for h in ears.after("r", "u", seconds=1) if h[0] == "object:state-changed:focused"]
+    check("what is found leaves the focus where somebody types", not told, told)
+    for partner in ("Partner von Eva Lang (I2)", "Sohn von Emil Meier (I3)"):
+        told = [h[1:] for h in ears.after("Down", seconds=1) if h[0] == "object:state-changed:focused" and h[2]]
+        check("a choice is told once, by the search box", told == [("Person", 1, "text")], told)
+        box = all_of(p.windows()[0], lambda o: o.get_role() == Atspi.Role.TEXT and "focused" in states(o))
+        said = [b.get_description() for b in box]
+        check("the search box says who is chosen", len(said) == 1 and said[0].endswith(partner), said)
+    p.end()
+
+
 one_row_each("en").end()
 program = one_row_each("de")
 listening = Ears()
@@ -194,5 +209,6 @@ for scene in (walk, quiet, selection, moving, actions, renaming, deleting, menus
     scene(program, listening)
 program.end()
 first_words(listening)
+searching(listening)
 many_persons()
 sys.exit(1 if failed else 0)

@@ -67,8 +67,21 @@ QWidget *BlockBauen(const std::string &name, const Formularmelder &melder, QWidg
     return block;
 }
 
+/// Tells a screen reader of its current entry only while it has the focus: else the reader would take the focus to be
+/// here, whenever a search box beside it finds somebody else.
+class StillesListenfeld : public QListWidget {
+  public:
+    using QListWidget::QListWidget;
+
+  protected:
+    void currentChanged(const QModelIndex &neuer, const QModelIndex &alter) override {
+        if (hasFocus()) QListWidget::currentChanged(neuer, alter);
+        else QAbstractItemView::currentChanged(neuer, alter); // NOLINT(bugprone-parent-virtual-call): that is the point
+    }
+};
+
 QWidget *ListenfeldBauen(const std::string &name, const Formularmelder &melder, QWidget *eltern) {
-    auto *liste = new QListWidget(eltern);
+    auto *liste = new StillesListenfeld(eltern);
     liste->setWordWrap(true); // what a line ends with counts as much as its beginning
     liste->setResizeMode(QListView::Adjust);
     liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
