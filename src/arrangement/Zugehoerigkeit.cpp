@@ -2,11 +2,13 @@
 
 #include "arrangement/Umzug.h"
 #include "document/Dokument.h"
+#include "document/Zahlen.h"
 #include "document/saetze/Person.h"
 #include "rendering/Ansicht.h"
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace kw {
 
@@ -27,7 +29,8 @@ double Zwischenraum(const Umgebung &a, const Umgebung &b) {
 
 double Nächster(const std::vector<Umgebung> &kästen, const Umgebung &u) {
     double nächster = HUGE_VAL;
-    for (const Umgebung &k : kästen) nächster = std::min(nächster, Zwischenraum(k, u));
+    for (const Umgebung &k : kästen)
+        if (!k.Leer) nächster = std::min(nächster, Zwischenraum(k, u));
     return nächster;
 }
 
@@ -36,8 +39,8 @@ double Nächster(const std::vector<Umgebung> &kästen, const Umgebung &u) {
 Zugehörigkeit::Zugehörigkeit(const Dokument &dokument, const Ansicht &ansicht) : d_(dokument), ansicht_(ansicht) {
     for (const std::string &satz : d_.cboPersonen) {
         const PersonSatz person(satz, Lücken::Leer);
-        if (person.HatOrt())
-            personen_.push_back(Personenkasten(person, {person.PosX(), person.PosY()}, person.Groesse(), 0));
+        personen_.push_back(
+            person.HatOrt() ? Personenkasten(person, {person.PosX(), person.PosY()}, person.Groesse(), 0) : Umgebung());
     }
     for (const Seitenlinie &linie : LinienDerSeite(d_, ansicht_))
         linien_.insert(linien_.end(), linie.Kästen.begin(), linie.Kästen.end());
@@ -49,7 +52,23 @@ std::optional<int> Zugehörigkeit::PersonZuText(const Umgebung &text) const {
         std::min({text.Links, text.Oben, ansicht_.SeitenBreite - text.Rechts, ansicht_.SeitenHöhe - text.Unten});
     const bool fern = weit > Reichweite || (weit > Daneben && weit > rand);
     if (fern && Nächster(linien_, text) > AnDerLinie) return std::nullopt;
-    return NächstePerson(d_, {text.MitteX(), text.MitteY()});
+    return NächstePersonZu(text);
+}
+
+/// A long text's middle can be nearest to somebody whom none of its words stands beside.
+std::optional<int> Zugehörigkeit::NächstePersonZu(const Umgebung &text) const {
+    std::optional<int> nächste;
+    std::pair<double, double> ferne;
+    for (size_t i = 0; i < personen_.size(); ++i) {
+        const Umgebung &k = personen_[i];
+        if (k.Leer) continue;
+        const std::pair hier{Gerundet(Zwischenraum(k, text), 4),
+                             Gerundet(std::hypot(k.MitteX() - text.MitteX(), k.MitteY() - text.MitteY()), 4)};
+        if (nächste && hier >= ferne) continue;
+        nächste = static_cast<int>(i);
+        ferne = hier;
+    }
+    return nächste;
 }
 
 } // namespace kw

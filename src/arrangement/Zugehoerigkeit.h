@@ -19,9 +19,11 @@ class Zugehörigkeit {
     std::optional<int> PersonZuText(const Umgebung &text) const;
 
   private:
+    std::optional<int> NächstePersonZu(const Umgebung &text) const;
+
     const Dokument &d_;
     const Ansicht &ansicht_;
-    std::vector<Umgebung> personen_; ///< with room for their names
+    std::vector<Umgebung> personen_; ///< all, with room for their names; empty for who has no place
     std::vector<Umgebung> linien_;
 };
 
