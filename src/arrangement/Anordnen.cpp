@@ -3,6 +3,7 @@
 #include "arrangement/Ordner.h"
 #include "arrangement/Seitenplatz.h"
 #include "arrangement/Umzug.h"
+#include "document/Zahlen.h"
 #include "editing/Absagen.h"
 #include "editing/Abwahl.h"
 #include "editing/Werkbank.h"
@@ -31,13 +32,18 @@ void PlatzFehlt(Werkbank &w, const Ordner::Platzbedarf &bedarf) {
     static constexpr Zweisprachig Rat{
         ". Es hilft ein größeres Blatt, die andere Lage des Papiers, oder nur einen Teil auszuwählen.",
         " free. A larger sheet helps, the paper's other orientation, or to select only a part."};
+    static constexpr Zweisprachig Verstellt{"; so viel ist neben dem, was stehen bleibt, nirgends am Stück frei",
+                                            "; beside what stays no place of that size is"};
     const Sprache s = w.ansicht.Sprache;
     const Ordner::Platzbedarf frei{w.ansicht.SeitenBreite - 2 * Ordner::Seitenrand,
                                    w.ansicht.SeitenHöhe - 2 * Ordner::Seitenrand};
-    w.benutzer.Fragen({"Kinwright",
-                       std::string(Bedarf.In(s)) + Maßangabe(bedarf.Breite, bedarf.Höhe, s) +
-                           std::string(Vorrat.In(s)) + Maßangabe(frei.Breite, frei.Höhe, s) + std::string(Rat.In(s)),
-                       Knöpfe::Ok, Zeichen::Information});
+    const bool zuGroß = Kleiner(frei.Breite, bedarf.Breite) || Kleiner(frei.Höhe, bedarf.Höhe);
+    const std::string grund =
+        zuGroß ? std::string(Vorrat.In(s)) + Maßangabe(frei.Breite, frei.Höhe, s) : std::string(Verstellt.In(s));
+    w.benutzer.Fragen(
+        {"Kinwright",
+         std::string(Bedarf.In(s)) + Maßangabe(bedarf.Breite, bedarf.Höhe, s) + grund + std::string(Rat.In(s)),
+         Knöpfe::Ok, Zeichen::Information});
 }
 
 /// As it is drawn, but for what has to change; else anew with the symbols as they are, as drawn by hand or closer; else

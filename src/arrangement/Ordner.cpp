@@ -268,8 +268,11 @@ std::vector<Ordner::Hindernis> Ordner::Hindernisse() const {
         const auto person = zugehörigkeit.PersonZuText(u);
         if (!person || !gehen.contains(*person)) alle.push_back({u});
     }
-    for (const Seitenlinie &linie : LinienDerSeite(d, w_.ansicht))
-        if (linie.Bleibt(gehen)) alle.push_back(linie.Kästen);
+    for (Seitenlinie &linie : LinienDerSeite(d, w_.ansicht)) {
+        if (!linie.Bleibt(gehen)) continue;
+        linie.Kästen.insert(linie.Kästen.end(), linie.Inneres.begin(), linie.Inneres.end());
+        alle.push_back(std::move(linie.Kästen));
+    }
     return alle;
 }
 

@@ -95,6 +95,27 @@ class Sammler {
                 linie_.Personen.insert(i);
         }
         if (linie_.Personen.empty()) MitNächster({alle.MitteX(), alle.MitteY()});
+        Füllen(punkte, alle);
+    }
+
+    /// Row by row, between the places where the stroke goes through the row's middle.
+    void Füllen(const std::vector<Kreispunkt> &punkte, const Umgebung &alle) {
+        const double höhe = std::max(Stücklänge, (alle.Unten - alle.Oben) / MeisteStücke);
+        for (double oben = alle.Oben; oben < alle.Unten; oben += höhe) {
+            const double y = oben + höhe / 2;
+            std::vector<double> orte;
+            for (size_t i = 0; i < punkte.size(); ++i) {
+                const Kreispunkt &a = punkte[i];
+                const Kreispunkt &b = punkte[(i + 1) % punkte.size()];
+                if ((a.Y > y) != (b.Y > y)) orte.push_back(a.X + (y - a.Y) / (b.Y - a.Y) * (b.X - a.X));
+            }
+            std::sort(orte.begin(), orte.end());
+            for (size_t i = 0; i + 1 < orte.size(); i += 2) {
+                Umgebung u;
+                u.Aufnehmen(orte[i], oben, orte[i + 1] - orte[i], höhe);
+                linie_.Inneres.push_back(u);
+            }
+        }
     }
 
     void Strich(Ort a, Ort b, double luft = Linienluft) {
