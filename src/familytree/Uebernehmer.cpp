@@ -144,7 +144,8 @@ void Übernehmer::ElternMelden(const Stammperson &person, std::uint32_t gewählt
     for (const auto andere : alle)
         if (andere != gewählt) melden(Befundart::WeitereEltern, Paarname(andere));
     const auto gleichNah = [&](std::uint32_t andere) {
-        return andere != gewählt && IstBrauchbar(andere) && Elternvorrang(person, baum_.Familien[andere], regeln_.AdoptionVorGeburt) == vorrang;
+        return andere != gewählt && IstBrauchbar(andere) &&
+               Elternvorrang(person, baum_.Familien[andere], regeln_.AdoptionVorGeburt) == vorrang;
     };
     const auto vordere = Vordere(alle);
     if (std::any_of(vordere.begin(), vordere.end(), gleichNah)) melden(Befundart::ElternGewählt, Paarname(gewählt));
