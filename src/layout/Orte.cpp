@@ -62,6 +62,7 @@ int Nächster(double cm, std::int64_t schritt) {
 
 std::vector<std::int64_t> Zeilenhöhen(const Familiengraph &graph, const Gerüst &gerüst, const Abstände &abstände) {
     std::vector<std::int64_t> höhen;
+    höhen.reserve(Z(gerüst.Zeilen));
     for (int z = 0; z < gerüst.Zeilen; z++) höhen.push_back(z * Tausendstel(abstände.Generationen));
     if (!HabenPlatz(graph)) return höhen;
     const std::int64_t schritt =
