@@ -8,8 +8,6 @@
 #include "editing/Werkbank.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Uhr.h"
-#include "rendering/Legende.h"
-#include "rendering/Seite.h"
 
 #include <algorithm>
 #include <array>
@@ -166,17 +164,8 @@ double frmFassungen::BildMaßstab(std::string_view) const { return 0.3; }
 
 void frmFassungen::BildZeichnen(std::string_view, Zeichenfläche &f) {
     if (!seite_) return;
-    Werkbank &w = umgebung_.werkbank;
-    Ansicht ansicht = w.ansicht;
-    ansicht.bRasterAnzeigen = ansicht.bDruckrandAnzeigen = false;
-    ansicht.StrichFaktor = 1;
-    SeiteBestimmen(*seite_, ansicht);
-    Legendenblatt legende;
-    LegendeAufbauen(*seite_, legende);
     const auto [breite, höhe] = BildGröße("");
-    const Auswahl nichts;
-    const Gestenlage ruhe;
-    SeitenvorschauZeichnen(f, {*seite_, ansicht, nichts, ruhe, legende, umgebung_.uhr}, breite, höhe);
+    SeitenvorschauZeichnen(f, *seite_, umgebung_.werkbank.ansicht, umgebung_.uhr, breite, höhe);
     VersuchBeenden();
 }
 

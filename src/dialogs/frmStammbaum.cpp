@@ -2,13 +2,12 @@
 
 #include "arrangement/Stammbaumworte.h"
 #include "dialogs/Dialogumgebung.h"
+#include "dialogs/Seitenbild.h"
 #include "dialogs/Stammbaumvorlage.h"
 #include "document/Texte.h"
 #include "editing/Werkbank.h"
 #include "platform/Befehlsnamen.h"
 #include "platform/Uhr.h"
-#include "rendering/Seite.h"
-#include "rendering/Zeichnung.h"
 
 #include <algorithm>
 #include <array>
@@ -328,23 +327,8 @@ double frmStammbaum::BildMaßstab(std::string_view name) const {
 
 void frmStammbaum::BildZeichnen(std::string_view name, Zeichenfläche &f) {
     const auto [breite, höhe] = BildGröße(name);
-    f.DrawStyle = StilDurchgezogen;
-    f.FillStyle = Gefüllt;
-    f.DrawWidth = 1;
-    f.FillColor = Hellgrau;
-    f.Line(KastenFarbig, 0, 0, breite, höhe, Hellgrau);
-    if (!seite_.Blatt.Blatt) return;
-    const Werkbank &w = umgebung_.werkbank;
-    Ansicht ansicht = w.ansicht;
-    ansicht.bRasterAnzeigen = ansicht.bDruckrandAnzeigen = false;
-    ansicht.StrichFaktor = 1;
-    SeiteBestimmen(seite_.Seite, ansicht);
-    f.FillColor = Weiß;
-    f.Line(KastenFarbig, 0, 0, ansicht.SeitenBreite, ansicht.SeitenHöhe, Weiß);
-    const Auswahl nichts;
-    const Gestenlage ruhe;
-    const Legendenblatt ohne;
-    SeitenbildZeichnen(f, {seite_.Seite, ansicht, nichts, ruhe, ohne, umgebung_.uhr});
+    if (!seite_.Blatt.Blatt) return VorschaugrundZeichnen(f, breite, höhe);
+    SeitenvorschauZeichnen(f, seite_.Seite, umgebung_.werkbank.ansicht, umgebung_.uhr, breite, höhe);
 }
 
 } // namespace kw
