@@ -63,9 +63,8 @@ std::string EinfacheKlammeraffen(std::string_view text) {
 }
 
 std::string Geglättet(std::string_view text) {
-    const std::string einfach = EinfacheKlammeraffen(text);
     std::string glatt;
-    for (auto rest = Randlos(einfach); !rest.empty();) {
+    for (auto rest = Randlos(text); !rest.empty();) {
         const auto blank = LeerraumVorn(rest);
         if (blank == 0) glatt += rest[0];
         else if (!glatt.ends_with(' ')) glatt += ' ';
