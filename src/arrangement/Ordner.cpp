@@ -36,6 +36,21 @@ Umgebung MitLuft(const Umgebung &u, double luft) {
     return weiter;
 }
 
+void Anhängen(std::vector<Umgebung> &kästen, const std::vector<Umgebung> &weitere) {
+    kästen.insert(kästen.end(), weitere.begin(), weitere.end());
+}
+
+bool LiegtAuf(const std::vector<Umgebung> &kästen, const std::vector<Umgebung> &andere) {
+    return std::any_of(kästen.begin(), kästen.end(), [&](const Umgebung &a) {
+        return std::any_of(andere.begin(), andere.end(), [&](const Umgebung &b) { return LiegenAufeinander(a, b); });
+    });
+}
+
+bool LiegtIn(const Umgebung &u, const Umgebung &weite) {
+    return !Kleiner(u.Links, weite.Links) && !Kleiner(u.Oben, weite.Oben) && !Kleiner(weite.Rechts, u.Rechts) &&
+           !Kleiner(weite.Unten, u.Unten);
+}
+
 } // namespace
 
 Ordner::Ordner(Werkbank &w) : w_(w) {
@@ -69,19 +84,18 @@ std::optional<Umzug> Ordner::Versuchen(double größe, const Luft &luft) {
 std::optional<Umzug> Ordner::Behalten(double größe) {
     const double raster = GezeichnetesRaster();
     const Lagebefund neu = FamilieAnordnen(OhnePlätze(auszug_.Graph), MaßeFür(größe, raster, Lesbar)).Befund;
-    Umgebung seite = Seite(); // who was drawn beyond the margin may stay there
-    for (const int i : auszug_.Personen) {
-        const Umgebung u = Kasten(i, Stelle(i), größe);
-        seite.Aufnehmen(u.Links, u.Oben, u.Rechts - u.Links, u.Unten - u.Oben);
-    }
-    const Platzwunsch wunsch = WunschWieGezeichnet(seite);
+    const Familiengraph graph = AufDasBlattGeholt(größe, raster);
+    std::vector<Umgebung> gezeichnete{Seite()}; // who was drawn beyond the margin may stay there
+    for (const int i : auszug_.Personen)
+        if (StehtImBlatt(i, größe)) gezeichnete.push_back(Kasten(i, Stelle(i), größe));
+    const Platzwunsch wunsch = WunschWieGezeichnet(UmAlle(gezeichnete));
     for (const auto &[luft, treue] : {std::pair(Gezeichnet, Treu), std::pair(Lesbar, Treu), std::pair(Lesbar, Lose)}) {
         Abstände maße = MaßeFür(größe, raster, luft);
         maße.Treue = treue;
-        const Familienlage lage = FamilieAnordnen(auszug_.Graph, maße);
+        const Familienlage lage = FamilieAnordnen(graph, maße);
         if (Mangelhaft(lage, neu, größe)) continue;
         auto umzug = Unterbringen(lage, größe, wunsch, {});
-        if (!umzug) continue;
+        if (!umzug || !BleibtImRand(*umzug)) continue;
         if (Steht(*umzug, raster)) return Umzug{};     // who stands beside the raster isn't drawn to it either
         if (luft.Personen < Lesbar.Personen) continue; // who has to go doesn't go that near
         if (Gehende(*umzug).size() * 2 > auszug_.Personen.size()) continue; // no drawing that is worth keeping
@@ -91,21 +105,59 @@ std::optional<Umzug> Ordner::Behalten(double größe) {
     return std::nullopt;
 }
 
+/// With places inside the margin for those whom the sheet doesn't show, as near as can be to where they were drawn.
+Familiengraph Ordner::AufDasBlattGeholt(double größe, double raster) const {
+    Familiengraph graph = auszug_.Graph;
+    const Umgebung seite = Seite();
+    const auto hinein = [raster](double ort, double links, double rechts) { // inwards to the raster
+        const double kleinstes = std::ceil(OhneRauschen(links / raster)) * raster;
+        return std::max(kleinstes, std::min(ort, std::floor(OhneRauschen(rechts / raster)) * raster));
+    };
+    for (size_t i = 0; i < auszug_.Personen.size(); ++i) {
+        if (StehtImBlatt(auszug_.Personen[i], größe)) continue;
+        Ort &ort = *graph.Personen[i].Platz;
+        const Umgebung u = Kasten(auszug_.Personen[i], ort, größe);
+        ort = {hinein(ort.X, seite.Links + ort.X - u.Links, seite.Rechts - (u.Rechts - ort.X)),
+               hinein(ort.Y, seite.Oben + ort.Y - u.Oben, seite.Unten - (u.Unten - ort.Y))};
+    }
+    for (Familie &familie : graph.Familien)
+        if (familie.Balken && (*familie.Balken < 0 || *familie.Balken > w_.ansicht.SeitenHöhe)) familie.Balken.reset();
+    return graph;
+}
+
+bool Ordner::StehtImBlatt(int person, double größe) const {
+    const Umgebung kasten = Kasten(person, Stelle(person), größe);
+    return LiegtIn(kasten, Blatt());
+}
+
+/// Whether nobody goes beyond the margin, or farther beyond it.
+bool Ordner::BleibtImRand(const Umzug &umzug) const {
+    const std::set<int> gehen = Gehende(umzug);
+    return std::all_of(gehen.begin(), gehen.end(), [&](int i) {
+        std::vector<Umgebung> erlaubt{Seite()};
+        if (StehtImBlatt(i, umzug.Größe)) erlaubt.push_back(Kasten(i, Stelle(i), umzug.Größe));
+        return LiegtIn(Kasten(i, umzug.Personen.at(i), umzug.Größe), UmAlle(erlaubt));
+    });
+}
+
 /// Whether it is worse than one made anew, or anybody or a name lies on another.
 bool Ordner::Mangelhaft(const Familienlage &lage, const Lagebefund &neu, double größe) const {
     const Lagebefund &b = lage.Befund;
     if (b.Durchquert > neu.Durchquert || b.Störende > neu.Störende || b.Getrennt > neu.Getrennt) return true;
-    std::vector<Umgebung> kästen;
+    std::vector<std::vector<Umgebung>> kästen;
     for (size_t i = 0; i < lage.Personen.size(); ++i)
-        kästen.push_back(Kasten(auszug_.Personen[i], lage.Personen[i], größe));
+        kästen.push_back(Kästen(auszug_.Personen[i], lage.Personen[i], größe));
     for (size_t i = 0; i < kästen.size(); ++i)
         for (size_t k = 0; k < i; ++k)
-            if (LiegenAufeinander(kästen[i], kästen[k])) return true;
+            if (LiegtAuf(kästen[i], kästen[k])) return true;
     return false;
 }
 
-/// Whether everybody and every bar stays, but for less than a step of that raster.
+/// Whether everybody and every bar stays, but for less than a step of that raster, and the sheet shows them all.
 bool Ordner::Steht(const Umzug &umzug, double raster) const {
+    if (!std::all_of(umzug.Personen.begin(), umzug.Personen.end(),
+                     [&](const auto &p) { return StehtImBlatt(p.first, umzug.Größe); }))
+        return false;
     const auto nah = [&](double a, double b) { return Kleiner(std::abs(a - b), raster); };
     return std::all_of(umzug.Personen.begin(), umzug.Personen.end(),
                        [&](const auto &p) {
@@ -153,10 +205,11 @@ Umzug Ordner::NurWasSichÄndert(Umzug umzug) const {
     return umzug;
 }
 
-/// Free of all that stays.
+/// Free of all that stays, and not under the names of others.
 Platzwunsch Ordner::Wunsch(const Umgebung &seite) const {
     Platzwunsch wunsch{{}, {}, seite, {}, w_.ansicht.Rasterweite};
-    for (const Hindernis &h : Hindernisse()) wunsch.Hindernisse.insert(wunsch.Hindernisse.end(), h.begin(), h.end());
+    for (const Hindernis &person : Stehende()) wunsch.Hindernisse.push_back(UmAlle(person));
+    for (const Hindernis &h : Hindernisse()) Anhängen(wunsch.Hindernisse, h);
     return wunsch;
 }
 
@@ -171,10 +224,9 @@ Platzwunsch Ordner::WunschWieGezeichnet(const Umgebung &seite) const {
         return std::any_of(linien.begin(), linien.end(), [&](const Umgebung &l) { return LiegenAufeinander(l, u); });
     };
     Platzwunsch wunsch{{}, {}, seite, {}, w_.ansicht.Rasterweite};
-    for (const Hindernis &h : Hindernisse()) {
-        auto &ziel = std::any_of(h.begin(), h.end(), überlaufen) ? wunsch.Kreuzbare : wunsch.Hindernisse;
-        ziel.insert(ziel.end(), h.begin(), h.end());
-    }
+    for (const auto &alle : {Stehende(), Hindernisse()})
+        for (const Hindernis &h : alle)
+            Anhängen(std::any_of(h.begin(), h.end(), überlaufen) ? wunsch.Kreuzbare : wunsch.Hindernisse, h);
     return wunsch;
 }
 
@@ -184,7 +236,7 @@ std::optional<Umzug> Ordner::Unterbringen(const Familienlage &lage, double grö�
     wunsch.Kästen = Linienkästen(lage);
     const size_t linien = wunsch.Linien = wunsch.Kästen.size();
     for (size_t i = 0; i < lage.Personen.size(); ++i)
-        wunsch.Kästen.push_back(Kasten(auszug_.Personen[i], lage.Personen[i], größe));
+        Anhängen(wunsch.Kästen, Kästen(auszug_.Personen[i], lage.Personen[i], größe));
     const Umgebung ganz = UmAlle(wunsch.Kästen);
     bedarf_ = {ganz.Rechts - ganz.Links, ganz.Unten - ganz.Oben};
     wunsch.Ziel = {ganz.MitteX() + verschiebung.X, ganz.MitteY() + verschiebung.Y};
@@ -210,7 +262,7 @@ std::optional<Umzug> Ordner::Unterbringen(const Familienlage &lage, double grö�
 bool Ordner::EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const {
     Platzwunsch wunsch = Wunsch(Seite());
     wunsch.Hindernisse.insert(wunsch.Hindernisse.end(), belegt.begin(), belegt.end());
-    for (const auto &[i, ort] : umzug.Personen) wunsch.Hindernisse.push_back(Kasten(i, ort, umzug.Größe));
+    for (const auto &[i, ort] : umzug.Personen) Anhängen(wunsch.Hindernisse, Kästen(i, ort, umzug.Größe));
     const std::map<int, Ort> verbundene = umzug.Personen;
     for (const int i : gefragte_) {
         if (verbundene.contains(i)) continue;
@@ -223,12 +275,11 @@ bool Ordner::EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const
                                                [&](const auto &a, const auto &b) { return ferne(a) < ferne(b); });
         const Ort dort = Stelle(nächster->first);
         const Ort soll{alt.X + nächster->second.X - dort.X, alt.Y + nächster->second.Y - dort.Y};
-        const Umgebung hier = Kasten(i, alt, umzug.Größe);
-        const auto frei = [&](const Umgebung &u) { return !LiegenAufeinander(u, hier); };
-        if (Gerundet(soll.X - alt.X, 3) == 0 && Gerundet(soll.Y - alt.Y, 3) == 0 &&
-            std::all_of(wunsch.Hindernisse.begin(), wunsch.Hindernisse.end(), frei)) {
+        const std::vector<Umgebung> hier = Kästen(i, alt, umzug.Größe);
+        if (Gerundet(soll.X - alt.X, 3) == 0 && Gerundet(soll.Y - alt.Y, 3) == 0 && StehtImBlatt(i, umzug.Größe) &&
+            !LiegtAuf(hier, wunsch.Hindernisse)) {
             umzug.Personen[i] = alt; // however near it was drawn
-            wunsch.Hindernisse.push_back(hier);
+            Anhängen(wunsch.Hindernisse, hier);
             continue;
         }
         const Ort von{Gerastert(alt.X, wunsch.Raster), Gerastert(alt.Y, wunsch.Raster)};
@@ -238,7 +289,7 @@ bool Ordner::EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const
         const auto weg = PlatzFinden(wunsch);
         if (!weg) return false;
         umzug.Personen[i] = {von.X + weg->X, von.Y + weg->Y};
-        wunsch.Hindernisse.push_back(Kasten(i, umzug.Personen[i], umzug.Größe));
+        Anhängen(wunsch.Hindernisse, Kästen(i, umzug.Personen[i], umzug.Größe));
     }
     return true;
 }
@@ -248,18 +299,27 @@ Ort Ordner::Stelle(int person) const {
     return {satz.PosX(), satz.PosY()};
 }
 
-Umgebung Ordner::Kasten(int person, Ort ort, double größe) const {
+/// Of the symbol and of the names. A name may lie under a neighbour's symbol, as the layout has it.
+std::vector<Umgebung> Ordner::Kästen(int person, Ort ort, double größe) const {
     const PersonSatz satz(w_.dokument.cboPersonen.Satz(person), Lücken::Leer);
-    return Personenkasten(satz, ort, std::min(größe, satz.Groesse()), Namensbreite(w_.picVorschau, satz));
+    return Personenkästen(satz, ort, std::min(größe, satz.Groesse()), Namensbreite(w_.picVorschau, satz));
+}
+Umgebung Ordner::Kasten(int person, Ort ort, double größe) const { return UmAlle(Kästen(person, ort, größe)); }
+
+/// The persons that stay, with their names.
+std::vector<Ordner::Hindernis> Ordner::Stehende() const {
+    std::vector<Hindernis> alle;
+    for (int i = 0; i < w_.dokument.cboPersonen.Anzahl(); ++i)
+        if (std::find(gefragte_.begin(), gefragte_.end(), i) == gefragte_.end())
+            alle.push_back(Kästen(i, Stelle(i), JedeGröße));
+    return alle;
 }
 
-/// Where persons stay, with their names; the legend; texts of theirs or of the page; and their lines.
+/// The legend; texts of persons that stay or of the page; and their lines.
 std::vector<Ordner::Hindernis> Ordner::Hindernisse() const {
     const Dokument &d = w_.dokument;
     const std::set<int> gehen(gefragte_.begin(), gefragte_.end());
     std::vector<Hindernis> alle;
-    for (int i = 0; i < d.cboPersonen.Anzahl(); ++i)
-        if (!gehen.contains(i)) alle.push_back({Kasten(i, Stelle(i), JedeGröße)});
     if (d.LegendeSichtbar) alle.push_back({Elementrahmen(d, w_.legende, {Elementart::Legende, 0})});
     const Zugehörigkeit zugehörigkeit(d, w_.ansicht);
     for (int i = 0; i < d.cboTextboxen.Anzahl(); ++i) {
@@ -303,6 +363,12 @@ std::vector<Umgebung> Ordner::Linienkästen(const Familienlage &lage) const {
         }
     }
     return kästen;
+}
+
+Umgebung Ordner::Blatt() const {
+    Umgebung u;
+    u.Aufnehmen(0, 0, w_.ansicht.SeitenBreite, w_.ansicht.SeitenHöhe);
+    return u;
 }
 
 Umgebung Ordner::Seite() const {

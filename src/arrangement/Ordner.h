@@ -45,12 +45,18 @@ class Ordner {
     std::set<int> Gehende(const Umzug &umzug) const;
     Umzug NurWasSichÄndert(Umzug umzug) const;
     Ort Stelle(int person) const;
+    std::vector<Umgebung> Kästen(int person, Ort ort, double größe) const;
     Umgebung Kasten(int person, Ort ort, double größe) const;
+    Familiengraph AufDasBlattGeholt(double größe, double raster) const;
+    bool StehtImBlatt(int person, double größe) const;
+    bool BleibtImRand(const Umzug &umzug) const;
     /// Something that stays on the page, in boxes.
     using Hindernis = std::vector<Umgebung>;
     std::vector<Hindernis> Hindernisse() const;
+    std::vector<Hindernis> Stehende() const;
     std::vector<Umgebung> Linienkästen(const Familienlage &lage) const;
     bool EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const;
+    Umgebung Blatt() const;
     Umgebung Seite() const;
 
     Werkbank &w_;

@@ -140,12 +140,16 @@ void PersonenSetzen(Dokument &d, const Umzug &umzug) {
 
 } // namespace
 
+std::vector<Umgebung> Personenkästen(const PersonSatz &person, Ort ort, double größe, double namensbreite) {
+    std::vector<Umgebung> kästen(1);
+    kästen[0].Aufnehmen(ort.X - größe / 2, ort.Y - größe / 2, größe, größe);
+    if (ZeigtNamen(person) && (!person.Vorname().empty() || !person.Nachname().empty()))
+        kästen.emplace_back().Aufnehmen(ort.X - namensbreite / 2, ort.Y + größe / 2, namensbreite, Namenshöhe);
+    return kästen;
+}
+
 Umgebung Personenkasten(const PersonSatz &person, Ort ort, double größe, double namensbreite) {
-    const bool benannt = ZeigtNamen(person) && (!person.Vorname().empty() || !person.Nachname().empty());
-    const double breite = std::max(größe, namensbreite);
-    Umgebung u;
-    u.Aufnehmen(ort.X - breite / 2, ort.Y - größe / 2, breite, größe + (benannt ? Namenshöhe : 0));
-    return u;
+    return UmAlle(Personenkästen(person, ort, größe, namensbreite));
 }
 
 std::optional<int> NächstePerson(const Dokument &d, Ort ort) {

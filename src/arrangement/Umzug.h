@@ -5,6 +5,7 @@
 
 #include <map>
 #include <optional>
+#include <vector>
 
 // What follows when persons get other places.
 namespace kw {
@@ -26,6 +27,8 @@ struct Umzug {
 
 /// What a person takes of the page with its names, when its centre is at `ort`, cm.
 Umgebung Personenkasten(const PersonSatz &person, Ort ort, double größe, double namensbreite);
+/// The same in boxes, for what may stand under a neighbour's name: the symbol, and the names below it, if it shows any.
+std::vector<Umgebung> Personenkästen(const PersonSatz &person, Ort ort, double größe, double namensbreite);
 /// The person nearest to a place on the page, as a position in the store; of several the first.
 std::optional<int> NächstePerson(const Dokument &dokument, Ort ort);
 
