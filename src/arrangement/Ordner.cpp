@@ -1,12 +1,9 @@
 #include "arrangement/Ordner.h"
 
-#include "arrangement/Seitenlinien.h"
-#include "arrangement/Zugehoerigkeit.h"
 #include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
-#include "editing/Elemente.h"
 #include "rendering/Beschriftung.h"
 
 #include <algorithm>
@@ -18,7 +15,6 @@ namespace kw {
 
 namespace {
 
-constexpr double Linienluft = 0.1;      ///< on both sides of a line, cm
 constexpr double Einzelluft = 0.6;      ///< round whoever has no bond: a circle line goes between, cm
 constexpr double FeinstesRaster = 0.05; ///< cm
 constexpr double Treu = 20;             ///< places count more than all lines that can hang on a person
@@ -36,8 +32,16 @@ Umgebung MitLuft(const Umgebung &u, double luft) {
     return weiter;
 }
 
-void Anhängen(std::vector<Umgebung> &kästen, const std::vector<Umgebung> &weitere) {
-    kästen.insert(kästen.end(), weitere.begin(), weitere.end());
+/// Those of the selected group, or all.
+std::vector<int> Gewählte(const Werkbank &w) {
+    const bool alle = w.lage.Aktion != Aktion::GruppeGewählt || w.auswahl.lstMovedPers.Leer();
+    const auto gewählte = NummernIn(w.auswahl.lstMovedPers);
+    std::vector<int> personen;
+    for (int i = 0; i < w.dokument.cboPersonen.Anzahl(); ++i) {
+        const PersonSatz person(w.dokument.cboPersonen.Satz(i), Lücken::Leer);
+        if (person.Vollständig() && (alle || gewählte.contains(person.Nr()))) personen.push_back(i);
+    }
+    return personen;
 }
 
 bool LiegtAuf(const std::vector<Umgebung> &kästen, const std::vector<Umgebung> &andere) {
@@ -53,15 +57,9 @@ bool LiegtIn(const Umgebung &u, const Umgebung &weite) {
 
 } // namespace
 
-Ordner::Ordner(Werkbank &w) : w_(w) {
-    const bool alle = w.lage.Aktion != Aktion::GruppeGewählt || w.auswahl.lstMovedPers.Leer();
-    const auto gewählte = NummernIn(w.auswahl.lstMovedPers);
-    for (int i = 0; i < w.dokument.cboPersonen.Anzahl(); ++i) {
-        const PersonSatz person(w.dokument.cboPersonen.Satz(i), Lücken::Leer);
-        if (person.Vollständig() && (alle || gewählte.contains(person.Nr()))) gefragte_.push_back(i);
-    }
-    auszug_ = FamilienUnter(w.dokument, gefragte_, w.picVorschau);
-}
+Ordner::Ordner(Werkbank &w)
+    : w_(w), gefragte_(OhneGebundene(w.dokument, Gewählte(w))), hältWenFest_(gefragte_.size() < Gewählte(w).size()),
+      auszug_(FamilienUnter(w.dokument, gefragte_, w.picVorschau)), rand_(w.dokument, auszug_) {}
 
 double Ordner::GrößtesSymbol() const {
     double größe = 0;
@@ -78,7 +76,9 @@ std::optional<Umzug> Ordner::Versuchen(double größe, const Luft &luft) {
         alte.Aufnehmen(Stelle(auszug_.Personen[i]).X, Stelle(auszug_.Personen[i]).Y);
         neue.Aufnehmen(lage.Personen[i].X, lage.Personen[i].Y);
     }
-    return Unterbringen(lage, größe, Wunsch(Seite()), {alte.MitteX() - neue.MitteX(), alte.MitteY() - neue.MitteY()});
+    Platzwunsch wunsch = Wunsch(Seite());
+    if (!rand_.Leer()) wunsch.Mängel = [&](Ort weg) { return rand_.Mängel(lage, weg, größe); };
+    return Unterbringen(lage, größe, std::move(wunsch), {alte.MitteX() - neue.MitteX(), alte.MitteY() - neue.MitteY()});
 }
 
 std::optional<Umzug> Ordner::Behalten(double größe) {
@@ -89,13 +89,15 @@ std::optional<Umzug> Ordner::Behalten(double größe) {
     for (const int i : auszug_.Personen)
         if (StehtImBlatt(i, größe)) gezeichnete.push_back(Kasten(i, Stelle(i), größe));
     const Platzwunsch wunsch = WunschWieGezeichnet(UmAlle(gezeichnete));
+    const int erlaubte = std::min(rand_.Mängel(Gezeichnete(), {}, größe), Randlinien::Verkehrt - 1);
     for (const auto &[luft, treue] : {std::pair(Gezeichnet, Treu), std::pair(Lesbar, Treu), std::pair(Lesbar, Lose)}) {
         Abstände maße = MaßeFür(größe, raster, luft);
         maße.Treue = treue;
         const Familienlage lage = FamilieAnordnen(graph, maße);
         if (Mangelhaft(lage, neu, größe)) continue;
         auto umzug = Unterbringen(lage, größe, wunsch, {});
-        if (!umzug || !BleibtImRand(*umzug)) continue;
+        if (!umzug || !BleibtImRand(*umzug) || rand_.Mängel(lage, Verschiebung(lage, *umzug), größe) > erlaubte)
+            continue;
         if (Steht(*umzug, raster)) return Umzug{};     // who stands beside the raster isn't drawn to it either
         if (luft.Personen < Lesbar.Personen) continue; // who has to go doesn't go that near
         if (Gehende(*umzug).size() * 2 > auszug_.Personen.size()) continue; // no drawing that is worth keeping
@@ -181,6 +183,12 @@ double Ordner::GezeichnetesRaster() const {
     return FeinstesRaster;
 }
 
+/// From where they were laid out to the page.
+Ort Ordner::Verschiebung(const Familienlage &lage, const Umzug &umzug) const {
+    const Ort dort = umzug.Personen.at(auszug_.Personen.front());
+    return {dort.X - lage.Personen.front().X, dort.Y - lage.Personen.front().Y};
+}
+
 std::set<int> Ordner::Gehende(const Umzug &umzug) const {
     std::set<int> gehen;
     for (const auto &[i, ort] : umzug.Personen) {
@@ -203,31 +211,6 @@ Umzug Ordner::NurWasSichÄndert(Umzug umzug) const {
             umzug.Balken.erase(balken);
     }
     return umzug;
-}
-
-/// Free of all that stays, and not under the names of others.
-Platzwunsch Ordner::Wunsch(const Umgebung &seite) const {
-    Platzwunsch wunsch{{}, {}, seite, {}, w_.ansicht.Rasterweite};
-    for (const Hindernis &person : Stehende()) wunsch.Hindernisse.push_back(UmAlle(person));
-    for (const Hindernis &h : Hindernisse()) Anhängen(wunsch.Hindernisse, h);
-    return wunsch;
-}
-
-/// What lines run over as they are drawn they may run over again: else a page with one crossing couldn't be kept.
-Platzwunsch Ordner::WunschWieGezeichnet(const Umgebung &seite) const {
-    Familienlage lage;
-    for (const int i : auszug_.Personen) lage.Personen.push_back(Stelle(i));
-    for (const int i : auszug_.Linien)
-        lage.Balken.push_back(PartnerschaftSatz(w_.dokument.cboPartnerschaftsLinien.Satz(i), Lücken::Leer).BalkenY1());
-    const auto linien = Linienkästen(lage);
-    const auto überlaufen = [&](const Umgebung &u) {
-        return std::any_of(linien.begin(), linien.end(), [&](const Umgebung &l) { return LiegenAufeinander(l, u); });
-    };
-    Platzwunsch wunsch{{}, {}, seite, {}, w_.ansicht.Rasterweite};
-    for (const auto &alle : {Stehende(), Hindernisse()})
-        for (const Hindernis &h : alle)
-            Anhängen(std::any_of(h.begin(), h.end(), überlaufen) ? wunsch.Kreuzbare : wunsch.Hindernisse, h);
-    return wunsch;
 }
 
 /// A free place on the page for all of it, as near as can be to where `verschiebung` brings it.
@@ -305,65 +288,6 @@ std::vector<Umgebung> Ordner::Kästen(int person, Ort ort, double größe) const
     return Personenkästen(satz, ort, std::min(größe, satz.Groesse()), Namensbreite(w_.picVorschau, satz));
 }
 Umgebung Ordner::Kasten(int person, Ort ort, double größe) const { return UmAlle(Kästen(person, ort, größe)); }
-
-/// The persons that stay, with their names.
-std::vector<Ordner::Hindernis> Ordner::Stehende() const {
-    std::vector<Hindernis> alle;
-    for (int i = 0; i < w_.dokument.cboPersonen.Anzahl(); ++i)
-        if (std::find(gefragte_.begin(), gefragte_.end(), i) == gefragte_.end())
-            alle.push_back(Kästen(i, Stelle(i), JedeGröße));
-    return alle;
-}
-
-/// The legend; texts of persons that stay or of the page; and their lines.
-std::vector<Ordner::Hindernis> Ordner::Hindernisse() const {
-    const Dokument &d = w_.dokument;
-    const std::set<int> gehen(gefragte_.begin(), gefragte_.end());
-    std::vector<Hindernis> alle;
-    if (d.LegendeSichtbar) alle.push_back({Elementrahmen(d, w_.legende, {Elementart::Legende, 0})});
-    const Zugehörigkeit zugehörigkeit(d, w_.ansicht);
-    for (int i = 0; i < d.cboTextboxen.Anzahl(); ++i) {
-        const Umgebung u = Elementrahmen(d, w_.legende, {Elementart::Text, i});
-        if (u.Leer) continue;
-        const auto person = zugehörigkeit.PersonZuText(u);
-        if (!person || !gehen.contains(*person)) alle.push_back({u});
-    }
-    for (Seitenlinie &linie : LinienDerSeite(d, w_.ansicht)) {
-        if (!linie.Bleibt(gehen)) continue;
-        linie.Kästen.insert(linie.Kästen.end(), linie.Inneres.begin(), linie.Inneres.end());
-        alle.push_back(std::move(linie.Kästen));
-    }
-    return alle;
-}
-
-/// Bars, legs and children's lines, which must lie on nobody either.
-std::vector<Umgebung> Ordner::Linienkästen(const Familienlage &lage) const {
-    constexpr int Stücke = 8;
-    std::vector<Umgebung> kästen;
-    const auto kasten = [&](double x1, double y1, double x2, double y2) {
-        Umgebung u;
-        u.Aufnehmen(std::min(x1, x2) - Linienluft, std::min(y1, y2), std::abs(x2 - x1) + 2 * Linienluft,
-                    std::abs(y2 - y1));
-        kästen.push_back(u);
-    };
-    for (size_t i = 0; i < auszug_.Graph.Familien.size(); ++i) {
-        const Familie &f = auszug_.Graph.Familien[i];
-        Umgebung balken;
-        const auto ort = [&](int person) { return lage.Personen[static_cast<size_t>(person)]; };
-        for (const int p : f.Partner) balken.Aufnehmen(ort(p).X, lage.Balken[i]);
-        for (const int p : f.Partner) kasten(ort(p).X, ort(p).Y, ort(p).X, lage.Balken[i]);
-        kasten(balken.Links, lage.Balken[i], balken.Rechts, lage.Balken[i]);
-        for (const int kind : f.Kinder) { // in pieces: a box round a slanting line holds much beside it
-            const double vonX = std::clamp(ort(kind).X, balken.Links, balken.Rechts);
-            const double weiteX = (ort(kind).X - vonX) / Stücke;
-            const double weiteY = (ort(kind).Y - lage.Balken[i]) / Stücke;
-            for (int k = 0; k < (weiteX == 0 ? 1 : Stücke); ++k)
-                kasten(vonX + k * weiteX, lage.Balken[i] + k * weiteY, vonX + (k + 1) * weiteX,
-                       weiteX == 0 ? ort(kind).Y : lage.Balken[i] + (k + 1) * weiteY);
-        }
-    }
-    return kästen;
-}
 
 Umgebung Ordner::Blatt() const {
     Umgebung u;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "arrangement/Familienauszug.h"
+#include "arrangement/Randlinien.h"
 #include "arrangement/Seitenplatz.h"
 #include "arrangement/Umzug.h"
 #include "editing/Werkbank.h"
@@ -18,6 +19,8 @@ class Ordner {
 
     /// Whether anybody of them has a bond to another.
     bool HatFamilien() const { return !auszug_.Personen.empty(); }
+    /// Whether some of those selected stay since somebody who isn't selected does.
+    bool HältWenFest() const { return hältWenFest_; }
     /// cm, of those with a bond.
     double GrößtesSymbol() const;
 
@@ -49,6 +52,8 @@ class Ordner {
     Umgebung Kasten(int person, Ort ort, double größe) const;
     Familiengraph AufDasBlattGeholt(double größe, double raster) const;
     bool StehtImBlatt(int person, double größe) const;
+    Familienlage Gezeichnete() const;
+    Ort Verschiebung(const Familienlage &lage, const Umzug &umzug) const;
     bool BleibtImRand(const Umzug &umzug) const;
     /// Something that stays on the page, in boxes.
     using Hindernis = std::vector<Umgebung>;
@@ -61,7 +66,9 @@ class Ordner {
 
     Werkbank &w_;
     std::vector<int> gefragte_; ///< who may move, positions in the store
+    bool hältWenFest_;
     Familienauszug auszug_;
+    Randlinien rand_;
     Platzbedarf bedarf_{};
 };
 

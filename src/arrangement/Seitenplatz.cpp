@@ -4,12 +4,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
+#include <utility>
 
 namespace kw {
 
 namespace {
 
-constexpr double Nichts = 1e-6; ///< what touches doesn't overlap, cm
+constexpr double Nichts = 1e-6;   ///< what touches doesn't overlap, cm
+constexpr int MeisteFreie = 3000; ///< places that are looked at for one that has nothing wrong
 
 bool Versetzt(const Umgebung &a, const Umgebung &b, Ort weg) {
     return a.Links + weg.X < b.Rechts - Nichts && b.Links < a.Rechts + weg.X - Nichts &&
@@ -51,6 +54,10 @@ Abstände MaßeFür(double symbol, double raster, const Luft &luft) {
     return a;
 }
 
+void Anhängen(std::vector<Umgebung> &kästen, const std::vector<Umgebung> &weitere) {
+    kästen.insert(kästen.end(), weitere.begin(), weitere.end());
+}
+
 Umgebung UmAlle(const std::vector<Umgebung> &kästen) {
     Umgebung alle;
     for (const Umgebung &k : kästen) alle.Aufnehmen(k.Links, k.Oben, k.Rechts - k.Links, k.Unten - k.Oben);
@@ -76,9 +83,16 @@ std::optional<Ort> PlatzFinden(const Platzwunsch &w) {
         }
     std::stable_sort(versuche.begin(), versuche.end(),
                      [](const Versuch &a, const Versuch &b) { return a.Ferne < b.Ferne; });
-    const auto freier =
-        std::find_if(versuche.begin(), versuche.end(), [&](const Versuch &v) { return IstFrei(w, v.Weg); });
-    return freier == versuche.end() ? std::nullopt : std::optional(freier->Weg);
+    std::optional<Ort> bester;
+    int wenigste = 0;
+    int freie = 0;
+    for (const Versuch &v : versuche) {
+        if (!IstFrei(w, v.Weg)) continue;
+        const int mängel = w.Mängel ? w.Mängel(v.Weg) : 0;
+        if (!bester || mängel < wenigste) std::tie(bester, wenigste) = std::pair(v.Weg, mängel);
+        if (wenigste == 0 || ++freie == MeisteFreie) break;
+    }
+    return bester;
 }
 
 std::string Maßangabe(double breite, double höhe, Sprache sprache) {

@@ -5,6 +5,7 @@
 #include "platform/Sprache.h"
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -39,10 +40,15 @@ struct Platzwunsch {
     double Raster;                     ///< it is moved by whole steps of that
     size_t Linien = 0;                 ///< so many of the boxes, the first ones, are of lines ...
     std::vector<Umgebung> Kreuzbare{}; ///< ... which may lie on these; the others mustn't
+    /// What is wrong with a free place besides, from 0 on: of the nearer ones that with the least is taken. May be
+    /// empty.
+    std::function<int(Ort weg)> Mängel{};
 };
 
 /// Whether they lie on each other; touching is none of that.
 bool LiegenAufeinander(const Umgebung &a, const Umgebung &b);
+/// Puts boxes behind others.
+void Anhängen(std::vector<Umgebung> &kästen, const std::vector<Umgebung> &weitere);
 /// The box round all of them.
 Umgebung UmAlle(const std::vector<Umgebung> &kästen);
 

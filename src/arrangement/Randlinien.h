@@ -1,0 +1,42 @@
+#pragma once
+
+#include "arrangement/Familienauszug.h"
+#include "editing/Geometrie.h"
+#include "layout/Familienlage.h"
+
+#include <vector>
+
+// The child lines from those who are laid out to those who stay.
+namespace kw {
+
+struct Dokument;
+
+/// Those of `personen`, positions in the store, whose going tears nothing: nobody whose partner stays, since the bar
+/// stays then, and nobody who has a bond only to those who stay.
+std::vector<int> OhneGebundene(const Dokument &dokument, const std::vector<int> &personen);
+
+/// Tells of places for a part of a page how they suit the rest of its families. Keeps nothing of the document but a
+/// reference.
+class Randlinien {
+  public:
+    Randlinien(const Dokument &dokument, const Familienauszug &auszug);
+
+    bool Leer() const { return linien_.empty(); }
+    /// What is wrong with the lines when those stand there, moved by `weg`, with symbols of at most that size: the less
+    /// the better. A child above its parents' bar weighs more than any number of symbols that lines run through.
+    int Mängel(const Familienlage &lage, Ort weg, double größe) const;
+    static constexpr int Verkehrt = 10000; ///< one child above its parents' bar; there are less persons
+
+  private:
+    struct Linie {
+        int Kind;    ///< position in the store
+        int Familie; ///< in the graph, or none
+        Umgebung Balken;
+    };
+    const Dokument &d_;
+    const Familienauszug &auszug_;
+    std::vector<Linie> linien_;
+    std::vector<int> imGraph_; ///< of each person, or none
+};
+
+} // namespace kw
