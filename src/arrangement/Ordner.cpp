@@ -89,15 +89,14 @@ std::optional<Umzug> Ordner::Behalten(double größe) {
     for (const int i : auszug_.Personen)
         if (StehtImBlatt(i, größe)) gezeichnete.push_back(Kasten(i, Stelle(i), größe));
     const Platzwunsch wunsch = WunschWieGezeichnet(UmAlle(gezeichnete));
-    const int erlaubte = std::min(rand_.Mängel(Gezeichnete(), {}, größe), Randlinien::Verkehrt - 1);
+    const double erlaubte = ErlaubteMängel(größe);
     for (const auto &[luft, treue] : {std::pair(Gezeichnet, Treu), std::pair(Lesbar, Treu), std::pair(Lesbar, Lose)}) {
         Abstände maße = MaßeFür(größe, raster, luft);
         maße.Treue = treue;
         const Familienlage lage = FamilieAnordnen(graph, maße);
         if (Mangelhaft(lage, neu, größe)) continue;
         auto umzug = Unterbringen(lage, größe, wunsch, {});
-        if (!umzug || !BleibtImRand(*umzug) || rand_.Mängel(lage, Verschiebung(lage, *umzug), größe) > erlaubte)
-            continue;
+        if (!umzug || !BleibtImRand(*umzug) || Mängel(*umzug) > erlaubte) continue;
         if (Steht(*umzug, raster)) return Umzug{};     // who stands beside the raster isn't drawn to it either
         if (luft.Personen < Lesbar.Personen) continue; // who has to go doesn't go that near
         if (Gehende(*umzug).size() * 2 > auszug_.Personen.size()) continue; // no drawing that is worth keeping
@@ -183,10 +182,19 @@ double Ordner::GezeichnetesRaster() const {
     return FeinstesRaster;
 }
 
-/// From where they were laid out to the page.
-Ort Ordner::Verschiebung(const Familienlage &lage, const Umzug &umzug) const {
-    const Ort dort = umzug.Personen.at(auszug_.Personen.front());
-    return {dort.X - lage.Personen.front().X, dort.Y - lage.Personen.front().Y};
+/// What may be wrong with lines to those who stay: what is now, but no child above its parents that needn't be there.
+double Ordner::ErlaubteMängel(double größe) {
+    const double gezeichnete = rand_.Mängel(Gezeichnete(), {}, größe);
+    if (gezeichnete < Randlinien::Verkehrt) return gezeichnete;
+    const auto neu = Versuchen(größe, VonHand);
+    return neu ? std::min(gezeichnete, std::max(Mängel(*neu), Randlinien::Verkehrt / 2)) : gezeichnete;
+}
+
+double Ordner::Mängel(const Umzug &umzug) const {
+    Familienlage lage;
+    for (const int i : auszug_.Personen) lage.Personen.push_back(umzug.Personen.at(i));
+    for (const int i : auszug_.Linien) lage.Balken.push_back(umzug.Balken.at(i));
+    return rand_.Mängel(lage, {}, umzug.Größe);
 }
 
 std::set<int> Ordner::Gehende(const Umzug &umzug) const {

@@ -53,7 +53,8 @@ class Ordner {
     Familiengraph AufDasBlattGeholt(double größe, double raster) const;
     bool StehtImBlatt(int person, double größe) const;
     Familienlage Gezeichnete() const;
-    Ort Verschiebung(const Familienlage &lage, const Umzug &umzug) const;
+    double ErlaubteMängel(double größe);
+    double Mängel(const Umzug &umzug) const;
     bool BleibtImRand(const Umzug &umzug) const;
     /// Something that stays on the page, in boxes.
     using Hindernis = std::vector<Umgebung>;

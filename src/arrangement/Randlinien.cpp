@@ -16,6 +16,7 @@ namespace {
 
 constexpr int Keine = -1;
 constexpr double Strichluft = 0.08; ///< so far a line may run into a symbol's box, cm
+constexpr double Durchquert = 4;    ///< one symbol that a line runs through, cm
 
 PersonSatz Person(const Dokument &d, int position) { return PersonSatz(d.cboPersonen.Satz(position), Lücken::Leer); }
 
@@ -72,20 +73,23 @@ std::vector<int> OhneGebundene(const Dokument &dokument, const std::vector<int> 
     return {gehende.Alle().begin(), gehende.Alle().end()};
 }
 
-Randlinien::Randlinien(const Dokument &dokument, const Familienauszug &auszug)
-    : d_(dokument), auszug_(auszug), imGraph_(static_cast<size_t>(dokument.cboPersonen.Anzahl()), Keine) {
+Randlinien::Randlinien(const Dokument &dokument, const Familienauszug &auszug) : auszug_(auszug) {
+    for (const std::string &satz : dokument.cboPersonen) {
+        const PersonSatz person(satz, Lücken::Leer);
+        symbole_.push_back({{person.PosX(), person.PosY()}, person.Groesse() - 2 * Strichluft, Keine});
+    }
     for (size_t i = 0; i < auszug.Personen.size(); ++i)
-        imGraph_[static_cast<size_t>(auszug.Personen[i])] = static_cast<int>(i);
-    const Bezüge bezüge(d_);
-    for (const std::string &satz : d_.cboKindlinien) {
+        symbole_[static_cast<size_t>(auszug.Personen[i])].ImGraph = static_cast<int>(i);
+    const Bezüge bezüge(dokument);
+    for (const std::string &satz : dokument.cboKindlinien) {
         const KindSatz linie(satz, Lücken::Leer);
         const int kind = bezüge.Person(linie.KindNr());
         const int eltern = bezüge.PLinie(linie.PLinie());
-        if (kind < 0 || eltern < 0 || !linie.Vollständig() || !Person(d_, kind).HatOrt()) continue;
+        if (kind < 0 || eltern < 0 || !linie.Vollständig() || !Person(dokument, kind).HatOrt()) continue;
         const auto familie = std::find(auszug.Linien.begin(), auszug.Linien.end(), eltern);
         const bool elternGehen = familie != auszug.Linien.end();
-        if (elternGehen == (imGraph_[static_cast<size_t>(kind)] != Keine)) continue;
-        const PartnerschaftSatz b(d_.cboPartnerschaftsLinien.Satz(eltern), Lücken::Leer);
+        if (elternGehen == (symbole_[static_cast<size_t>(kind)].ImGraph != Keine)) continue;
+        const PartnerschaftSatz b(dokument.cboPartnerschaftsLinien.Satz(eltern), Lücken::Leer);
         Umgebung balken;
         balken.Aufnehmen(b.BalkenX1(), b.BalkenY1());
         balken.Aufnehmen(b.BalkenX2(), b.BalkenY1());
@@ -93,35 +97,34 @@ Randlinien::Randlinien(const Dokument &dokument, const Familienauszug &auszug)
     }
 }
 
-int Randlinien::Mängel(const Familienlage &lage, Ort weg, double größe) const {
-    const auto ort = [&](int person) {
-        const int platz = imGraph_[static_cast<size_t>(person)];
-        if (platz == Keine) return Ort{Person(d_, person).PosX(), Person(d_, person).PosY()};
-        const Ort &neu = lage.Personen[static_cast<size_t>(platz)];
+double Randlinien::Mängel(const Familienlage &lage, Ort weg, double größe) const {
+    if (linien_.empty()) return 0;
+    const auto ort = [&](int imGraph) {
+        const Ort &neu = lage.Personen[static_cast<size_t>(imGraph)];
         return Ort{neu.X + weg.X, neu.Y + weg.Y};
     };
     std::vector<Umgebung> symbole;
-    for (int i = 0; i < d_.cboPersonen.Anzahl(); ++i) {
-        const double ganz = Person(d_, i).Groesse();
-        const double breite =
-            (imGraph_[static_cast<size_t>(i)] == Keine ? ganz : std::min(größe, ganz)) - 2 * Strichluft;
-        symbole.emplace_back().Aufnehmen(ort(i).X - breite / 2, ort(i).Y - breite / 2, breite, breite);
+    symbole.reserve(symbole_.size());
+    for (const Symbol &s : symbole_) {
+        const Ort mitte = s.ImGraph == Keine ? s.Mitte : ort(s.ImGraph);
+        const double breite = s.ImGraph == Keine ? s.Breite : std::min(größe - 2 * Strichluft, s.Breite);
+        symbole.emplace_back().Aufnehmen(mitte.X - breite / 2, mitte.Y - breite / 2, breite, breite);
     }
-    int mängel = 0;
+    double mängel = 0;
     for (const Linie &linie : linien_) {
         Umgebung balken = linie.Balken;
         if (linie.Familie != Keine) {
             balken = {};
             const auto f = static_cast<size_t>(linie.Familie);
             for (const int partner : auszug_.Graph.Familien[f].Partner)
-                balken.Aufnehmen(lage.Personen[static_cast<size_t>(partner)].X + weg.X, lage.Balken[f] + weg.Y);
+                balken.Aufnehmen(ort(partner).X, lage.Balken[f] + weg.Y);
         }
-        const Ort kind = ort(linie.Kind);
-        const double fuß = std::clamp(kind.X, balken.Links, balken.Rechts);
-        if (symbole[static_cast<size_t>(linie.Kind)].Oben < balken.Oben) mängel += Verkehrt;
-        for (int i = 0; i < d_.cboPersonen.Anzahl(); ++i)
-            mängel +=
-                i != linie.Kind && StreckeTrifft(fuß, balken.Oben, kind.X, kind.Y, symbole[static_cast<size_t>(i)]);
+        const Umgebung &kind = symbole[static_cast<size_t>(linie.Kind)];
+        const double fuß = std::clamp(kind.MitteX(), balken.Links, balken.Rechts);
+        if (kind.Oben < balken.Oben) mängel += Verkehrt;
+        for (const Umgebung &symbol : symbole)
+            if (&symbol != &kind && StreckeTrifft(fuß, balken.Oben, kind.MitteX(), kind.MitteY(), symbol))
+                mängel += Durchquert;
     }
     return mängel;
 }

@@ -15,17 +15,17 @@ struct Dokument;
 /// stays then, and nobody who has a bond only to those who stay.
 std::vector<int> OhneGebundene(const Dokument &dokument, const std::vector<int> &personen);
 
-/// Tells of places for a part of a page how they suit the rest of its families. Keeps nothing of the document but a
-/// reference.
+/// Tells of places for a part of a page how they suit the rest of its families. Keeps a reference to `auszug`.
 class Randlinien {
   public:
     Randlinien(const Dokument &dokument, const Familienauszug &auszug);
 
     bool Leer() const { return linien_.empty(); }
-    /// What is wrong with the lines when those stand there, moved by `weg`, with symbols of at most that size: the less
-    /// the better. A child above its parents' bar weighs more than any number of symbols that lines run through.
-    int Mängel(const Familienlage &lage, Ort weg, double größe) const;
-    static constexpr int Verkehrt = 10000; ///< one child above its parents' bar; there are less persons
+    /// What is wrong with the lines when those stand there, moved by `weg`, with symbols of at most that size, in the
+    /// centimetres that a place without would be worth going farther for: symbols that they run through, and above all
+    /// children above their parents' bar.
+    double Mängel(const Familienlage &lage, Ort weg, double größe) const;
+    static constexpr double Verkehrt = 1000; ///< one such child
 
   private:
     struct Linie {
@@ -33,10 +33,14 @@ class Randlinien {
         int Familie; ///< in the graph, or none
         Umgebung Balken;
     };
-    const Dokument &d_;
+    struct Symbol {
+        Ort Mitte;
+        double Breite;
+        int ImGraph; ///< or none
+    };
     const Familienauszug &auszug_;
     std::vector<Linie> linien_;
-    std::vector<int> imGraph_; ///< of each person, or none
+    std::vector<Symbol> symbole_; ///< of all persons
 };
 
 } // namespace kw

@@ -4,15 +4,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
-#include <utility>
 
 namespace kw {
 
 namespace {
 
-constexpr double Nichts = 1e-6;   ///< what touches doesn't overlap, cm
-constexpr int MeisteFreie = 3000; ///< places that are looked at for one that has nothing wrong
+constexpr double Nichts = 1e-6; ///< what touches doesn't overlap, cm
+constexpr double Feinheit = 10000;
+constexpr int MeisteFreie = 3000; ///< places that are looked at for one without flaws
 
 bool Versetzt(const Umgebung &a, const Umgebung &b, Ort weg) {
     return a.Links + weg.X < b.Rechts - Nichts && b.Links < a.Rechts + weg.X - Nichts &&
@@ -79,18 +78,22 @@ std::optional<Ort> PlatzFinden(const Platzwunsch &w) {
         for (int k = y.Von; k <= y.Bis; ++k) {
             const Ort weg{i * w.Raster, k * w.Raster};
             const double ferne = std::hypot(alle.MitteX() + weg.X - w.Ziel.X, alle.MitteY() + weg.Y - w.Ziel.Y);
-            versuche.push_back({weg, std::llround(ferne * 10000)});
+            versuche.push_back({weg, std::llround(ferne * Feinheit)});
         }
     std::stable_sort(versuche.begin(), versuche.end(),
                      [](const Versuch &a, const Versuch &b) { return a.Ferne < b.Ferne; });
     std::optional<Ort> bester;
-    int wenigste = 0;
+    double kosten = HUGE_VAL;
     int freie = 0;
     for (const Versuch &v : versuche) {
+        const double ferne = static_cast<double>(v.Ferne) / Feinheit;
+        if (ferne >= kosten || freie == MeisteFreie) break;
         if (!IstFrei(w, v.Weg)) continue;
-        const int mängel = w.Mängel ? w.Mängel(v.Weg) : 0;
-        if (!bester || mängel < wenigste) std::tie(bester, wenigste) = std::pair(v.Weg, mängel);
-        if (wenigste == 0 || ++freie == MeisteFreie) break;
+        ++freie;
+        const double hier = ferne + (w.Mängel ? w.Mängel(v.Weg) : 0);
+        if (hier >= kosten) continue;
+        bester = v.Weg;
+        kosten = hier;
     }
     return bester;
 }
