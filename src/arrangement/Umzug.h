@@ -34,7 +34,8 @@ std::optional<int> NächstePerson(const Dokument &dokument, Ort ort);
 
 /// Writes the records: the persons with all their lines, bars at their heights. A text, an arrow, a circle line goes
 /// along with the person nearest to it, if that moves; a text lands on nobody, and one of the page stays. A circle line
-/// holds whom it held: where going along doesn't do, it is drawn anew. False, and nothing changed, when one can't.
+/// holds whom it held, and crosses no symbol anew if it can: where going along doesn't do, it is drawn anew. False, and
+/// nothing changed, when one can't.
 bool Umziehen(Werkbank &w, const Umzug &umzug);
 
 } // namespace kw
