@@ -18,6 +18,8 @@ namespace {
 constexpr double Einzelluft = 0.6;      ///< round whoever has no bond: a circle line goes between, cm
 constexpr double FeinstesRaster = 0.05; ///< cm
 constexpr double Treu = 20;             ///< places count more than all lines that can hang on a person
+constexpr double NochNah = 6;           ///< so far anybody may be drawn from partner or parents, cm ...
+constexpr double NochÄhnlich = 2.5;     ///< ... and so many times as far as would do, besides
 constexpr double Lose = 1;              ///< or as much as one of them
 
 Familiengraph OhnePlätze(Familiengraph graph) {
@@ -32,9 +34,31 @@ Umgebung MitLuft(const Umgebung &u, double luft) {
     return weiter;
 }
 
-/// Those of the selected group, or all.
+/// How far the bar of each family runs across, and the line of each child.
+std::vector<double> Weiten(const Familiengraph &graph, const Familienlage &lage) {
+    std::vector<double> weiten;
+    for (const Familie &familie : graph.Familien) {
+        Umgebung balken;
+        const auto x = [&](int person) { return lage.Personen[static_cast<size_t>(person)].X; };
+        for (const int p : familie.Partner) balken.Aufnehmen(x(p), 0);
+        weiten.push_back(balken.Rechts - balken.Links);
+        for (const int kind : familie.Kinder)
+            weiten.push_back(std::abs(x(kind) - std::clamp(x(kind), balken.Links, balken.Rechts)));
+    }
+    return weiten;
+}
+
+/// Whether a line runs so far that nobody would say that those belong together, though it needn't.
+bool Zerdehnt(const Familiengraph &graph, const Familienlage &lage, const Familienlage &neu) {
+    const auto weiten = Weiten(graph, lage);
+    const auto nötige = Weiten(graph, neu);
+    return !std::equal(weiten.begin(), weiten.end(), nötige.begin(),
+                       [](double weit, double nötig) { return weit <= NochNah + NochÄhnlich * nötig; });
+}
+
+/// Those of the selected group, if there is one, or all.
 std::vector<int> Gewählte(const Werkbank &w) {
-    const bool alle = w.lage.Aktion != Aktion::GruppeGewählt || w.auswahl.lstMovedPers.Leer();
+    const bool alle = w.lage.Aktion != Aktion::GruppeGewählt;
     const auto gewählte = NummernIn(w.auswahl.lstMovedPers);
     std::vector<int> personen;
     for (int i = 0; i < w.dokument.cboPersonen.Anzahl(); ++i) {
@@ -83,7 +107,7 @@ std::optional<Umzug> Ordner::Versuchen(double größe, const Luft &luft) {
 
 std::optional<Umzug> Ordner::Behalten(double größe) {
     const double raster = GezeichnetesRaster();
-    const Lagebefund neu = FamilieAnordnen(OhnePlätze(auszug_.Graph), MaßeFür(größe, raster, Lesbar)).Befund;
+    const Familienlage neu = FamilieAnordnen(OhnePlätze(auszug_.Graph), MaßeFür(größe, raster, Lesbar));
     const Familiengraph graph = AufDasBlattGeholt(größe, raster);
     std::vector<Umgebung> gezeichnete{Seite()}; // who was drawn beyond the margin may stay there
     for (const int i : auszug_.Personen)
@@ -142,9 +166,11 @@ bool Ordner::BleibtImRand(const Umzug &umzug) const {
 }
 
 /// Whether it is worse than one made anew, or anybody or a name lies on another.
-bool Ordner::Mangelhaft(const Familienlage &lage, const Lagebefund &neu, double größe) const {
+bool Ordner::Mangelhaft(const Familienlage &lage, const Familienlage &neu, double größe) const {
     const Lagebefund &b = lage.Befund;
-    if (b.Durchquert > neu.Durchquert || b.Störende > neu.Störende || b.Getrennt > neu.Getrennt) return true;
+    const Lagebefund &n = neu.Befund;
+    if (b.Durchquert > n.Durchquert || b.Störende > n.Störende || b.Getrennt > n.Getrennt) return true;
+    if (Zerdehnt(auszug_.Graph, lage, neu)) return true;
     std::vector<std::vector<Umgebung>> kästen;
     for (size_t i = 0; i < lage.Personen.size(); ++i)
         kästen.push_back(Kästen(auszug_.Personen[i], lage.Personen[i], größe));

@@ -42,7 +42,7 @@ class Ordner {
     std::optional<Umzug> Unterbringen(const Familienlage &lage, double größe, Platzwunsch wunsch, Ort verschiebung);
     Platzwunsch Wunsch(const Umgebung &seite) const;
     Platzwunsch WunschWieGezeichnet(const Umgebung &seite) const;
-    bool Mangelhaft(const Familienlage &lage, const Lagebefund &neu, double größe) const;
+    bool Mangelhaft(const Familienlage &lage, const Familienlage &neu, double größe) const;
     bool Steht(const Umzug &umzug, double raster) const;
     double GezeichnetesRaster() const;
     std::set<int> Gehende(const Umzug &umzug) const;
