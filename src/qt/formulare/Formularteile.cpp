@@ -231,6 +231,18 @@ QWidget *TeilBauen(Formular &form, const std::string &name, const Formularmelder
     return nullptr;
 }
 
+/// In lines: a button doesn't break its caption by itself: one of many words makes a form wider than the screen.
+QString Umbrochen(QString text) {
+    constexpr qsizetype Zeilenlänge = 60;
+    for (qsizetype anfang = 0; text.size() - anfang > Zeilenlänge; ++anfang) {
+        const auto blank = text.lastIndexOf(QLatin1Char(' '), anfang + Zeilenlänge);
+        if (blank <= anfang) break;
+        text[blank] = QLatin1Char('\n');
+        anfang = blank;
+    }
+    return text;
+}
+
 void TeilZeigen(QWidget &teil, const Steuerelement &element) {
     const QSignalBlocker still(teil);
     teil.setEnabled(element.Enabled);
@@ -240,7 +252,7 @@ void TeilZeigen(QWidget &teil, const Steuerelement &element) {
     if (schrift.resolveMask() != 0 && teil.font() != schrift) teil.setFont(schrift);
     if (IstEingabe(element.Kind)) teil.setPalette(FarbenVon(element));
     if (auto *knopf = dynamic_cast<QAbstractButton *>(&teil)) {
-        knopf->setText(Text(element.Caption));
+        knopf->setText(qobject_cast<QPushButton *>(knopf) ? Umbrochen(Text(element.Caption)) : Text(element.Caption));
         if (knopf->isCheckable()) knopf->setChecked(element.Value);
     }
     if (auto *knopf = dynamic_cast<Zeichenknopf *>(&teil)) knopf->AusrichtungZeigen(element.Alignment);
