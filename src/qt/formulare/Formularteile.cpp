@@ -20,11 +20,15 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QTextLayout>
 #include <QTextOption>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace kw {
@@ -80,9 +84,34 @@ class StillesListenfeld : public QListWidget {
     }
 };
 
+/// As high as its lines are: fonts of other scripts have taller ones than the list's own, and what has no room is cut.
+class Zeilenmaß : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &wie, const QModelIndex &stelle) const override {
+        const auto *liste = qobject_cast<const QListWidget *>(wie.widget);
+        QSize größe = QStyledItemDelegate::sizeHint(wie, stelle);
+        if (!liste) return größe;
+        const int rand = liste->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &wie, liste) + 1;
+        QTextLayout text(stelle.data().toString(), liste->font());
+        double höhe = 0;
+        text.beginLayout();
+        for (auto zeile = text.createLine(); zeile.isValid(); zeile = text.createLine()) {
+            zeile.setLineWidth(liste->viewport()->width() - 2 * rand);
+            höhe += std::ceil(zeile.height());
+        }
+        text.endLayout();
+        größe.setHeight(std::max(größe.height(), static_cast<int>(höhe)));
+        return größe;
+    }
+};
+
 QWidget *ListenfeldBauen(const std::string &name, const Formularmelder &melder, QWidget *eltern) {
     auto *liste = new StillesListenfeld(eltern);
     liste->setWordWrap(true); // what a line ends with counts as much as its beginning
+    liste->setTextElideMode(Qt::ElideNone);
+    liste->setItemDelegate(new Zeilenmaß(liste));
     liste->setResizeMode(QListView::Adjust);
     liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QObject::connect(liste, &QListWidget::currentRowChanged, liste, [=](int index) { melder.Gewählt(name, index); });
