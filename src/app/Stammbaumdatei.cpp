@@ -1,6 +1,7 @@
 #include "app/Stammbaumdatei.h"
 
 #include "document/Codepage.h"
+#include "output/Fehlertexte.h"
 
 #include <array>
 #include <memory>
@@ -124,13 +125,15 @@ Stammbaumfehler AusArchiv(const std::string &gepackt, std::size_t höchstens, st
 
 std::string Stammbaumbefund::Text(Sprache sprache) const {
     const std::string satz(Sätze[static_cast<std::size_t>(Fehler)].In(sprache));
-    return Meldung.empty() ? satz : satz + ": " + Meldung;
+    if (Fehler != Stammbaumfehler::NichtLesbar) return satz;
+    const std::string grund(Grundtext(Datei.Grund).In(sprache));
+    return satz + ": " + (grund.empty() ? Datei.Meldung : grund);
 }
 
 Stammbaumbefund StammbaumdateiLesen(const std::string &pfad, std::string &bytes, std::size_t höchstens) {
     std::string inhalt;
     const auto gelesen = DateiLesen(pfad, inhalt);
-    if (!gelesen.Gelungen()) return {Stammbaumfehler::NichtLesbar, gelesen.Meldung};
+    if (!gelesen.Gelungen()) return {Stammbaumfehler::NichtLesbar, gelesen};
     if (inhalt.starts_with("PK")) return {AusArchiv(inhalt, höchstens, bytes), {}};
     bytes = std::move(inhalt);
     return {};
