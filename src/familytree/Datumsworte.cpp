@@ -67,7 +67,7 @@ std::string Datumstext(std::string_view roh, Sprache sprache) {
         text =
             std::string(Vorworte[static_cast<std::size_t>(datum.Art)].In(sprache)) + Tagestext(datum.Erstes, sprache);
     }
-    return Ersetzt(Ersetzt(text, "#", " "), "_", " ");
+    return Geglättet(MitBlanksFür("#_", text)); // which part the record
 }
 
 } // namespace kw

@@ -62,6 +62,13 @@ std::string EinfacheKlammeraffen(std::string_view text) {
     return einfach;
 }
 
+std::string MitBlanksFür(std::string_view zeichen, std::string_view text) {
+    std::string mit(text);
+    for (char &c : mit)
+        if (static_cast<unsigned char>(c) < ' ' || c == '\x7F' || zeichen.find(c) != std::string_view::npos) c = ' ';
+    return mit;
+}
+
 std::string Geglättet(std::string_view text) {
     std::string glatt;
     for (auto rest = Randlos(text); !rest.empty();) {

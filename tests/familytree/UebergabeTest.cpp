@@ -210,6 +210,21 @@ TEST(Uebergabe, BeschädigteSätzeWerdenSoWeitGelesenWieSieGehen) {
     }
 }
 
+TEST(Uebergabe, WannJemandGestorbenIstIstAlterOderDatum) {
+    Dokument d;
+    for (const std::string gestorben : {"$82", "$7.5", "$15.08.1999", "$1999", "$bald"})
+        d.cboPersonen.Anhängen("00" + std::to_string(d.cboPersonen.Anzahl() + 1) + "_1_5_9_1.2_0_" + gestorben + "_0_0_A___");
+    const auto ü = Geschrieben(d, {});
+    const auto baum = StammbaumLesen(ü.Text);
+    const std::pair<std::string_view, std::string_view> erwartet[] = {
+        {"82y", "Y"}, {"7y 6m", "Y"}, {"", "15 AUG 1999"}, {"", "1999"}, {"", "Y"}};
+    for (std::size_t i = 0; i < std::size(erwartet); ++i) {
+        EXPECT_EQ(baum.Personen[i].Sterbealter, erwartet[i].first);
+        EXPECT_EQ(baum.Personen[i].Tod, erwartet[i].second);
+    }
+    EXPECT_EQ(ü.Bericht.Anzahl(Übergabeverlust::Sterbealter), 1U);
+}
+
 TEST(Uebergabe, DoppelteZeichenKommenDoppeltZurück) {
     Dokument d;
     d.cboPersonen.Anhängen("001_1_5_9_1.2_0__0_0_a@@b @c_@@@x@@__");
