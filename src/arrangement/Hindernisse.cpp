@@ -17,6 +17,23 @@ namespace {
 
 constexpr double Linienluft = 0.1; ///< on both sides of a line, cm
 
+Umgebung Strichkasten(Ort a, Ort b) {
+    Umgebung u;
+    u.Aufnehmen(std::min(a.X, b.X) - Linienluft, std::min(a.Y, b.Y), std::abs(b.X - a.X) + 2 * Linienluft,
+                std::abs(b.Y - a.Y));
+    return u;
+}
+
+/// In pieces: a box round a slanting line holds much beside it.
+void SchrägAnhängen(std::vector<Umgebung> &kästen, Ort von, Ort bis) {
+    constexpr int Stücke = 8;
+    const int stücke = von.X == bis.X ? 1 : Stücke;
+    const auto ort = [&](int k) {
+        return Ort{von.X + k * (bis.X - von.X) / stücke, von.Y + k * (bis.Y - von.Y) / stücke};
+    };
+    for (int k = 0; k < stücke; ++k) kästen.push_back(Strichkasten(ort(k), ort(k + 1)));
+}
+
 } // namespace
 
 /// Free of all that stays, and not under the names of others.
@@ -80,13 +97,9 @@ std::vector<Ordner::Hindernis> Ordner::Hindernisse() const {
 
 /// Bars, legs and children's lines, which must lie on nobody either.
 std::vector<Umgebung> Ordner::Linienkästen(const Familienlage &lage) const {
-    constexpr int Stücke = 8;
     std::vector<Umgebung> kästen;
     const auto kasten = [&](double x1, double y1, double x2, double y2) {
-        Umgebung u;
-        u.Aufnehmen(std::min(x1, x2) - Linienluft, std::min(y1, y2), std::abs(x2 - x1) + 2 * Linienluft,
-                    std::abs(y2 - y1));
-        kästen.push_back(u);
+        kästen.push_back(Strichkasten({x1, y1}, {x2, y2}));
     };
     for (size_t i = 0; i < auszug_.Graph.Familien.size(); ++i) {
         const Familie &f = auszug_.Graph.Familien[i];
@@ -95,15 +108,16 @@ std::vector<Umgebung> Ordner::Linienkästen(const Familienlage &lage) const {
         for (const int p : f.Partner) balken.Aufnehmen(ort(p).X, lage.Balken[i]);
         for (const int p : f.Partner) kasten(ort(p).X, ort(p).Y, ort(p).X, lage.Balken[i]);
         kasten(balken.Links, lage.Balken[i], balken.Rechts, lage.Balken[i]);
-        for (const int kind : f.Kinder) { // in pieces: a box round a slanting line holds much beside it
-            const double vonX = std::clamp(ort(kind).X, balken.Links, balken.Rechts);
-            const double weiteX = (ort(kind).X - vonX) / Stücke;
-            const double weiteY = (ort(kind).Y - lage.Balken[i]) / Stücke;
-            for (int k = 0; k < (weiteX == 0 ? 1 : Stücke); ++k)
-                kasten(vonX + k * weiteX, lage.Balken[i] + k * weiteY, vonX + (k + 1) * weiteX,
-                       weiteX == 0 ? ort(kind).Y : lage.Balken[i] + (k + 1) * weiteY);
-        }
+        for (const int kind : f.Kinder)
+            SchrägAnhängen(kästen, {std::clamp(ort(kind).X, balken.Links, balken.Rechts), lage.Balken[i]}, ort(kind));
     }
+    return kästen;
+}
+
+/// The lines between those who go and those who stay, as they will be.
+std::vector<Umgebung> Ordner::Randkästen(const Familienlage &lage, Ort weg) const {
+    std::vector<Umgebung> kästen;
+    for (const Randlinien::Strecke &s : rand_.Strecken(lage, weg)) SchrägAnhängen(kästen, s.Balken, s.Ende);
     return kästen;
 }
 

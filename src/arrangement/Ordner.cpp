@@ -271,6 +271,7 @@ std::optional<Umzug> Ordner::Unterbringen(const Familienlage &lage, double grö�
         dort.Aufnehmen(u.Links + weg->X, u.Oben + weg->Y, u.Rechts - u.Links, u.Unten - u.Oben);
         u = dort;
     }
+    Anhängen(belegt, Randkästen(lage, *weg));
     if (!EinzelneMitnehmen(umzug, std::move(belegt))) return std::nullopt;
     return umzug;
 }

@@ -61,6 +61,7 @@ class Ordner {
     std::vector<Hindernis> Hindernisse() const;
     std::vector<Hindernis> Stehende() const;
     std::vector<Umgebung> Linienkästen(const Familienlage &lage) const;
+    std::vector<Umgebung> Randkästen(const Familienlage &lage, Ort weg) const;
     bool EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const;
     Umgebung Blatt() const;
     Umgebung Seite() const;

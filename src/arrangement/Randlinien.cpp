@@ -97,33 +97,44 @@ Randlinien::Randlinien(const Dokument &dokument, const Familienauszug &auszug) :
     }
 }
 
-double Randlinien::Mängel(const Familienlage &lage, Ort weg, double größe) const {
-    if (linien_.empty()) return 0;
-    const auto ort = [&](int imGraph) {
-        const Ort &neu = lage.Personen[static_cast<size_t>(imGraph)];
-        return Ort{neu.X + weg.X, neu.Y + weg.Y};
-    };
-    std::vector<Umgebung> symbole;
-    symbole.reserve(symbole_.size());
-    for (const Symbol &s : symbole_) {
-        const Ort mitte = s.ImGraph == Keine ? s.Mitte : ort(s.ImGraph);
-        const double breite = s.ImGraph == Keine ? s.Breite : std::min(größe - 2 * Strichluft, s.Breite);
-        symbole.emplace_back().Aufnehmen(mitte.X - breite / 2, mitte.Y - breite / 2, breite, breite);
-    }
-    double mängel = 0;
+Ort Randlinien::Mitte(const Symbol &symbol, const Familienlage &lage, Ort weg) const {
+    if (symbol.ImGraph == Keine) return symbol.Mitte;
+    const Ort &neu = lage.Personen[static_cast<size_t>(symbol.ImGraph)];
+    return {neu.X + weg.X, neu.Y + weg.Y};
+}
+
+std::vector<Randlinien::Strecke> Randlinien::Strecken(const Familienlage &lage, Ort weg) const {
+    std::vector<Strecke> strecken;
     for (const Linie &linie : linien_) {
         Umgebung balken = linie.Balken;
         if (linie.Familie != Keine) {
             balken = {};
             const auto f = static_cast<size_t>(linie.Familie);
             for (const int partner : auszug_.Graph.Familien[f].Partner)
-                balken.Aufnehmen(ort(partner).X, lage.Balken[f] + weg.Y);
+                balken.Aufnehmen(lage.Personen[static_cast<size_t>(partner)].X + weg.X, lage.Balken[f] + weg.Y);
         }
-        const Umgebung &kind = symbole[static_cast<size_t>(linie.Kind)];
-        const double fuß = std::clamp(kind.MitteX(), balken.Links, balken.Rechts);
-        if (kind.Oben < balken.Oben) mängel += Verkehrt;
+        const Ort kind = Mitte(symbole_[static_cast<size_t>(linie.Kind)], lage, weg);
+        strecken.push_back({linie.Kind, {std::clamp(kind.X, balken.Links, balken.Rechts), balken.Oben}, kind});
+    }
+    return strecken;
+}
+
+double Randlinien::Mängel(const Familienlage &lage, Ort weg, double größe) const {
+    if (linien_.empty()) return 0;
+    std::vector<Umgebung> symbole;
+    symbole.reserve(symbole_.size());
+    for (const Symbol &s : symbole_) {
+        const Ort mitte = Mitte(s, lage, weg);
+        const double breite = s.ImGraph == Keine ? s.Breite : std::min(größe - 2 * Strichluft, s.Breite);
+        symbole.emplace_back().Aufnehmen(mitte.X - breite / 2, mitte.Y - breite / 2, breite, breite);
+    }
+    double mängel = 0;
+    for (const Strecke &strecke : Strecken(lage, weg)) {
+        const Umgebung &kind = symbole[static_cast<size_t>(strecke.Kind)];
+        if (kind.Oben < strecke.Balken.Y) mängel += Verkehrt;
         for (const Umgebung &symbol : symbole)
-            if (&symbol != &kind && StreckeTrifft(fuß, balken.Oben, kind.MitteX(), kind.MitteY(), symbol))
+            if (&symbol != &kind &&
+                StreckeTrifft(strecke.Balken.X, strecke.Balken.Y, strecke.Ende.X, strecke.Ende.Y, symbol))
                 mängel += Durchquert;
     }
     return mängel;

@@ -21,6 +21,12 @@ class Randlinien {
     Randlinien(const Dokument &dokument, const Familienauszug &auszug);
 
     bool Leer() const { return linien_.empty(); }
+    struct Strecke {
+        int Kind; ///< position in the store
+        Ort Balken, Ende;
+    };
+    /// The lines as they are drawn when those stand there, moved by `weg`.
+    std::vector<Strecke> Strecken(const Familienlage &lage, Ort weg) const;
     /// What is wrong with the lines when those stand there, moved by `weg`, with symbols of at most that size, in the
     /// centimetres that a place without would be worth going farther for: symbols that they run through, and above all
     /// children above their parents' bar.
@@ -38,6 +44,8 @@ class Randlinien {
         double Breite;
         int ImGraph; ///< or none
     };
+    Ort Mitte(const Symbol &symbol, const Familienlage &lage, Ort weg) const;
+
     const Familienauszug &auszug_;
     std::vector<Linie> linien_;
     std::vector<Symbol> symbole_; ///< of all persons
