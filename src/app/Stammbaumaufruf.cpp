@@ -8,6 +8,7 @@
 #include "familytree/Personensuche.h"
 
 #include <algorithm>
+#include <set>
 #include <vector>
 
 namespace kw {
@@ -33,20 +34,32 @@ std::string Optionen(const Seitenwunsch &wunsch) {
     return wunsch.Blatt.Kleiner ? text + " --small" : text;
 }
 
-/// Two that fit, of those that a command line can ask for.
+/// What a command line can ask for and takes fewer generations, the fewest less first.
+std::vector<Seitenwunsch> Kürzere(const Seitenwunsch &wunsch) {
+    constexpr int Genug = 9; // generations
+    const int hinauf = std::min(wunsch.Wahl.Hinauf, Genug);
+    const int hinunter = std::min(wunsch.Wahl.Hinunter, Genug);
+    std::vector<Seitenwunsch> kürzere;
+    for (int weniger = 0; weniger <= hinauf + hinunter; ++weniger)
+        for (int oben = std::max(0, weniger - hinunter); oben <= std::min(weniger, hinauf); ++oben)
+            for (const bool kleiner : {wunsch.Blatt.Kleiner, true}) {
+                auto &neu = kürzere.emplace_back(wunsch);
+                neu.Alle = neu.Blatt.AuchDarüber = false;
+                neu.Wahl.Hinauf = hinauf - oben;
+                neu.Wahl.Hinunter = hinunter - (weniger - oben);
+                neu.Blatt.Kleiner = kleiner;
+            }
+    return kürzere;
+}
+
+/// Two of them that fit, with different numbers of persons.
 std::string Ratschlag(Sippschaft alle, const Seitenwunsch &wunsch, Zeichenfläche &fläche) {
     std::string text;
-    std::vector<Sippenwahl> genannte;
-    for (const Seitenwunsch &ausweg : Auswege(wunsch)) {
-        if (std::find(genannte.begin(), genannte.end(), ausweg.Wahl) != genannte.end()) continue;
-        Sippenwahl gefragt = wunsch.Wahl;
-        gefragt.Hinauf = ausweg.Wahl.Hinauf;
-        gefragt.Hinunter = ausweg.Wahl.Hinunter;
-        if (!(gefragt == ausweg.Wahl)) continue;
+    std::set<std::size_t> genannte;
+    for (const Seitenwunsch &ausweg : Kürzere(wunsch)) {
         const Stammbaumseite seite = SeiteAus(alle, ausweg, fläche);
-        if (seite.Ausgang != Seitenausgang::Passt) continue;
+        if (seite.Ausgang != Seitenausgang::Passt || !genannte.insert(seite.Personen).second) continue;
         text += "\n  " + Optionen(ausweg) + ": " + Seitenbefund(seite, Sprache::Englisch);
-        genannte.push_back(ausweg.Wahl);
         if (genannte.size() == 2) break;
     }
     return text;
@@ -91,6 +104,7 @@ Stammbaumausgang StammbaumSchreiben(const Stammbaumaufruf &aufruf, Zeichenfläch
     wunsch.Wahl.Hinauf = aufruf.Hinauf;
     wunsch.Wahl.Hinunter = aufruf.Hinunter;
     wunsch.Regeln.Textsprache = aufruf.Sprache;
+    wunsch.Regeln.Jahr = aufruf.Jahr;
     wunsch.Blatt.Kleiner = aufruf.Kleiner;
     wunsch.Blatt.AuchDarüber = aufruf.Alle;
     const Stammbaumseite seite = SeiteAus({baum, verwandte}, wunsch, fläche);

@@ -17,6 +17,7 @@ struct Stammbaumaufruf {
     int Hinunter = 1;
     bool Alle = false;                           ///< everybody, also beyond the sheet
     bool Kleiner = false;                        ///< smaller symbols, where nothing else makes it fit
+    int Jahr = 0;                                ///< of today
     kw::Sprache Sprache = kw::Sprache::Englisch; ///< of dates on the page, and of the report
 };
 

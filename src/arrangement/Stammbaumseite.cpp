@@ -64,8 +64,12 @@ std::vector<Seitenwunsch> Auswege(const Seitenwunsch &wunsch) {
             if (Sippenwahl wahl = wunsch.Wahl; kürzen(wahl)) hinzu(wahl, kleiner);
     Sippenwahl wahl = wunsch.Wahl;
     for (const auto kürzen : Kürzungen)
-        while (kürzen(wahl))
-            for (const bool kleiner : {wunsch.Blatt.Kleiner, true}) hinzu(wahl, kleiner);
+        while (kürzen(wahl)) {
+            Sippenwahl ohnePartner = wahl; // the others' partners are a choice of their own, whatever the distance
+            ohnePartner.Partner = false;
+            for (const auto &jede : {wahl, ohnePartner})
+                for (const bool kleiner : {wunsch.Blatt.Kleiner, true}) hinzu(jede, kleiner);
+        }
     return auswege;
 }
 

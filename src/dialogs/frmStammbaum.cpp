@@ -49,6 +49,8 @@ constexpr Formularzeile Zeilen[] = {
     {"cboGeschlecht", Art::Liste},
     {"lblEltern", Art::Beschriftung},
     {"cboEltern", Art::Liste},
+    {"lblAlte", Art::Beschriftung},
+    {"cboAlte", Art::Liste},
     {"lblBericht", Art::Beschriftung},
     {"cmdBericht", Art::Knopf, {"&Bericht ...", "Rep&ort ..."}},
     {"cmdOK", Art::Knopf, {"OK", "OK"}},
@@ -99,6 +101,11 @@ constexpr Offenes Fragen[] = {
      {"Mehrere Eltern", "Several parents"},
      {Befundart::WeitereEltern, Befundart::WeitereEltern},
      {{{"leibliche Eltern", "natural parents"}, {"Adoptiveltern", "adoptive parents"}, Nichts}}},
+    {"lblAlte",
+     "cboAlte",
+     {"Über 110, kein Tod bekannt", "Over 110, no death told"},
+     {Befundart::AltOhneTod, Befundart::AltOhneTod},
+     {{{"lebt", "living"}, {"verstorben", "deceased"}, Nichts}}},
 };
 constexpr const char *Heiratsantworten[] = {"0", "2"}; // states of a couple
 constexpr int Geschlechtsantworten[] = {TypMännlich, TypWeiblich, TypDivers};
@@ -212,6 +219,8 @@ Seitenwunsch frmStammbaum::Wunsch() const {
     regeln.GleichaltrigeSindZwillinge = Gewählt("cboZwillinge") > 0;
     regeln.ZwillingeEineiig = Gewählt("cboZwillinge") > 1;
     regeln.AdoptionVorGeburt = Gewählt("cboEltern") > 0;
+    regeln.AlteSindVerstorben = Gewählt("cboAlte") > 0;
+    regeln.Jahr = umgebung_.uhr.Heute().Jahr;
     const Werkbank &w = umgebung_.werkbank;
     wunsch.Blatt.Raster = w.ansicht.Rasterweite;
     wunsch.Blatt.Papiercode = w.dokument.Papiercode;

@@ -58,6 +58,7 @@ class Übertragung {
         });
         return datierte ? datierte : erste;
     }
+    bool AltersVerstorben();
     std::string MitWorten(std::string_view marke, Ereignisangabe ereignis) const;
     int EigenesSymbol() const;
     int Geschlecht(const Familienrolle &rolle);
@@ -117,8 +118,10 @@ void Übertragung::Totgeburt(const Familienrolle &rolle) {
 
 std::string Übertragung::Name(std::string_view name) {
     // The record is parted by "_".
-    const auto neu = Geglättet(UnzerteilterAnfang(MitBlanksFür("_", name), HöchsteNamenslänge));
-    if (neu != name) Melden(Befundart::NameGeändert, Zeile("NAME"), name);
+    const auto ganz = Geglättet(MitBlanksFür("_", name));
+    if (ganz != name) Melden(Befundart::NameGeändert, Zeile("NAME"), name);
+    const auto neu = Geglättet(UnzerteilterAnfang(ganz, HöchsteNamenslänge));
+    if (neu != ganz) Melden(Befundart::NameGekürzt, Zeile("NAME"), name);
     return neu;
 }
 
@@ -163,8 +166,17 @@ int Übertragung::Alter() {
     return jahre;
 }
 
+/// Whether somebody of whose death nothing is said counts as dead, being older than anybody gets.
+bool Übertragung::AltersVerstorben() {
+    constexpr int Lebensspanne = 110;
+    const auto geburt = StammdatumLesen(person_.Geburt).Erstes;
+    if (geburt.Jahr <= 0 || regeln_.Jahr - geburt.Jahr <= Lebensspanne) return false;
+    Melden(Befundart::AltOhneTod, Zeile("BIRT"), person_.Geburt);
+    return regeln_.AlteSindVerstorben;
+}
+
 std::string Übertragung::Tod() {
-    if (!person_.Gestorben && person_.Tod.empty()) return {};
+    if (!person_.Gestorben && person_.Tod.empty()) return AltersVerstorben() ? "$" : "";
     const int alter = Alter();
     const std::string tod = MitWorten("DEAT", person_.Tod);
     if (!tod.empty() && tod != "Y") Melden(Befundart::SterbedatumWeggelassen, Zeile("DEAT"), tod);

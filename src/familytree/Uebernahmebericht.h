@@ -23,8 +23,10 @@ enum class Befundart {
     AlterAbweichend,
     SterbedatumWeggelassen,
     NameGeändert,
+    NameGekürzt,
     NameWeggelassen,
     KeineTotgeburt,
+    AltOhneTod,
     WeitereEltern,
     ElternGewählt,
     KindschaftGeändert,
@@ -50,7 +52,7 @@ enum class Befundart {
     EigenesWeggelassen,
     SonstigesWeggelassen,
 };
-constexpr std::size_t Befundarten = 36;
+constexpr std::size_t Befundarten = 38;
 
 /// What was done with it.
 enum class Befundklasse { Weggelassen, Angenommen, Geändert };

@@ -91,6 +91,7 @@ void Genogrammaufruf(Wiedergabe &lauf, const Wörter &w) {
         else if (w[i] == "down") aufruf.Hinunter = Zahl(Wort(w, ++i));
         else throw Skriptfehler("unknown word: " + w[i]);
     }
+    aufruf.Jahr = DrehbuchUhr().Heute().Jahr;
     Aufzeichnung maß;
     const Stammbaumausgang ausgang = StammbaumSchreiben(aufruf, maß);
     lauf.aus << "exit " << ausgang.Ergebnis << "\n";

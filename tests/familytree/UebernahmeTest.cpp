@@ -120,6 +120,16 @@ TEST(Uebernahme, GeschlechtNamenUndTotgeburt) {
     EXPECT_EQ(import.Gemeldet(Befundart::PaarWeggelassen), 1U);
 }
 
+TEST(Uebernahme, WerÄlterWäreAlsManWirdLebtOderIstVerstorben) {
+    for (const bool verstorben : {false, true}) {
+        const Import import("0 @I1@ INDI\n1 BIRT\n2 DATE 1895\n0 @I2@ INDI\n1 BIRT\n2 DATE 1925\n",
+                            {.AlteSindVerstorben = verstorben, .Jahr = 2026});
+        EXPECT_EQ(import.Person(0).Angaben.Sterbealter, verstorben ? "$" : "");
+        EXPECT_EQ(import.Person(1).Angaben.Sterbealter, "");
+        EXPECT_EQ(import.Gemeldet(Befundart::AltOhneTod), 1U);
+    }
+}
+
 TEST(Uebernahme, DerStandEinesPaaresUndSeineDaten) {
     struct Fall {
         std::string_view Zeilen, Status;

@@ -303,6 +303,8 @@ constexpr Baustein Stammbaum[] = {
     Feld("cboZwillinge").An(1, 1).Mindestens(22),
     Schild("lblEltern", "cboEltern").An(1, 2),
     Feld("cboEltern").An(1, 3).Mindestens(22),
+    Schild("lblAlte", "cboAlte").An(2, 0),
+    Feld("cboAlte").An(2, 1).Mindestens(22),
     Spaltendehnung(1, 1),
     Spaltendehnung(3, 1),
     Ende,

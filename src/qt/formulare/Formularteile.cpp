@@ -102,7 +102,8 @@ class Zeilenmaß : public QStyledItemDelegate {
             höhe += std::ceil(zeile.height());
         }
         text.endLayout();
-        größe.setHeight(std::max(größe.height(), static_cast<int>(höhe)));
+        constexpr int Spielraum = 4; // px; drawing counts a line's height otherwise, and leaves out the last one then
+        größe.setHeight(std::max(größe.height(), static_cast<int>(höhe) + (text.lineCount() > 1 ? Spielraum : 0)));
         return größe;
     }
 };

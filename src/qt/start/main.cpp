@@ -116,6 +116,7 @@ int StammbaumÜbernehmen(Aufruf aufruf, int &argc, char **argv) {
     const QtUhr uhr;
     aufruf.Stammbaum.Sprache =
         aufruf.InSprache.value_or(Einzelbild(uhr, EinstellungsDateiDesBenutzers()).ansicht.Sprache);
+    aufruf.Stammbaum.Jahr = uhr.Heute().Jahr;
     QtFläche maß;
     const Stammbaumausgang ausgang = StammbaumSchreiben(aufruf.Stammbaum, maß);
     if (!ausgang.Meldung.empty()) Berichten("kinwright: " + ausgang.Meldung);
