@@ -63,7 +63,7 @@ std::optional<Umzug> Suchen(Werkbank &w, Ordner &ordner) {
 void mnuAnordnen(Werkbank &w) {
     Ordner ordner(w);
     if (!ordner.HatFamilien()) {
-        w.lage.Hinweis = &Absage::NiemandVerbunden;
+        w.lage.Hinweis = ordner.HältWenFest() ? &Absage::PaarNurHalbGewählt : &Absage::NiemandVerbunden;
         return;
     }
     const auto umzug = Suchen(w, ordner);

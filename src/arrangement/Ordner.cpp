@@ -1,12 +1,9 @@
 #include "arrangement/Ordner.h"
 
-#include "arrangement/Seitenlinien.h"
-#include "arrangement/Zugehoerigkeit.h"
 #include "document/Nachschlagen.h"
 #include "document/Zahlen.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
-#include "editing/Elemente.h"
 #include "rendering/Beschriftung.h"
 
 #include <algorithm>
@@ -18,10 +15,11 @@ namespace kw {
 
 namespace {
 
-constexpr double Linienluft = 0.1;      ///< on both sides of a line, cm
 constexpr double Einzelluft = 0.6;      ///< round whoever has no bond: a circle line goes between, cm
 constexpr double FeinstesRaster = 0.05; ///< cm
 constexpr double Treu = 20;             ///< places count more than all lines that can hang on a person
+constexpr double NochNah = 6;           ///< so far anybody may be drawn from partner or parents, cm ...
+constexpr double NochÄhnlich = 2.5;     ///< ... and so many times as far as would do, besides
 constexpr double Lose = 1;              ///< or as much as one of them
 
 Familiengraph OhnePlätze(Familiengraph graph) {
@@ -36,17 +34,56 @@ Umgebung MitLuft(const Umgebung &u, double luft) {
     return weiter;
 }
 
-} // namespace
+/// How far the bar of each family runs across, and the line of each child.
+std::vector<double> Weiten(const Familiengraph &graph, const Familienlage &lage) {
+    std::vector<double> weiten;
+    for (const Familie &familie : graph.Familien) {
+        Umgebung balken;
+        const auto x = [&](int person) { return lage.Personen[static_cast<size_t>(person)].X; };
+        for (const int p : familie.Partner) balken.Aufnehmen(x(p), 0);
+        weiten.push_back(balken.Rechts - balken.Links);
+        for (const int kind : familie.Kinder)
+            weiten.push_back(std::abs(x(kind) - std::clamp(x(kind), balken.Links, balken.Rechts)));
+    }
+    return weiten;
+}
 
-Ordner::Ordner(Werkbank &w) : w_(w) {
-    const bool alle = w.lage.Aktion != Aktion::GruppeGewählt || w.auswahl.lstMovedPers.Leer();
+/// Whether a line runs so far that nobody would say that those belong together, though it needn't.
+bool Zerdehnt(const Familiengraph &graph, const Familienlage &lage, const Familienlage &neu) {
+    const auto weiten = Weiten(graph, lage);
+    const auto nötige = Weiten(graph, neu);
+    return !std::equal(weiten.begin(), weiten.end(), nötige.begin(),
+                       [](double weit, double nötig) { return weit <= NochNah + NochÄhnlich * nötig; });
+}
+
+/// Those of the selected group, if there is one, or all.
+std::vector<int> Gewählte(const Werkbank &w) {
+    const bool alle = w.lage.Aktion != Aktion::GruppeGewählt;
     const auto gewählte = NummernIn(w.auswahl.lstMovedPers);
+    std::vector<int> personen;
     for (int i = 0; i < w.dokument.cboPersonen.Anzahl(); ++i) {
         const PersonSatz person(w.dokument.cboPersonen.Satz(i), Lücken::Leer);
-        if (person.Vollständig() && (alle || gewählte.contains(person.Nr()))) gefragte_.push_back(i);
+        if (person.Vollständig() && (alle || gewählte.contains(person.Nr()))) personen.push_back(i);
     }
-    auszug_ = FamilienUnter(w.dokument, gefragte_, w.picVorschau);
+    return personen;
 }
+
+bool LiegtAuf(const std::vector<Umgebung> &kästen, const std::vector<Umgebung> &andere) {
+    return std::any_of(kästen.begin(), kästen.end(), [&](const Umgebung &a) {
+        return std::any_of(andere.begin(), andere.end(), [&](const Umgebung &b) { return LiegenAufeinander(a, b); });
+    });
+}
+
+bool LiegtIn(const Umgebung &u, const Umgebung &weite) {
+    return !Kleiner(u.Links, weite.Links) && !Kleiner(u.Oben, weite.Oben) && !Kleiner(weite.Rechts, u.Rechts) &&
+           !Kleiner(weite.Unten, u.Unten);
+}
+
+} // namespace
+
+Ordner::Ordner(Werkbank &w)
+    : w_(w), gefragte_(OhneGebundene(w.dokument, Gewählte(w))), hältWenFest_(gefragte_.size() < Gewählte(w).size()),
+      auszug_(FamilienUnter(w.dokument, gefragte_, w.picVorschau)), rand_(w.dokument, auszug_) {}
 
 double Ordner::GrößtesSymbol() const {
     double größe = 0;
@@ -63,25 +100,27 @@ std::optional<Umzug> Ordner::Versuchen(double größe, const Luft &luft) {
         alte.Aufnehmen(Stelle(auszug_.Personen[i]).X, Stelle(auszug_.Personen[i]).Y);
         neue.Aufnehmen(lage.Personen[i].X, lage.Personen[i].Y);
     }
-    return Unterbringen(lage, größe, Wunsch(Seite()), {alte.MitteX() - neue.MitteX(), alte.MitteY() - neue.MitteY()});
+    Platzwunsch wunsch = Wunsch(Seite());
+    if (!rand_.Leer()) wunsch.Mängel = [&](Ort weg) { return rand_.Mängel(lage, weg, größe); };
+    return Unterbringen(lage, größe, std::move(wunsch), {alte.MitteX() - neue.MitteX(), alte.MitteY() - neue.MitteY()});
 }
 
 std::optional<Umzug> Ordner::Behalten(double größe) {
     const double raster = GezeichnetesRaster();
-    const Lagebefund neu = FamilieAnordnen(OhnePlätze(auszug_.Graph), MaßeFür(größe, raster, Lesbar)).Befund;
-    Umgebung seite = Seite(); // who was drawn beyond the margin may stay there
-    for (const int i : auszug_.Personen) {
-        const Umgebung u = Kasten(i, Stelle(i), größe);
-        seite.Aufnehmen(u.Links, u.Oben, u.Rechts - u.Links, u.Unten - u.Oben);
-    }
-    const Platzwunsch wunsch = WunschWieGezeichnet(seite);
+    const Familienlage neu = FamilieAnordnen(OhnePlätze(auszug_.Graph), MaßeFür(größe, raster, Lesbar));
+    const Familiengraph graph = AufDasBlattGeholt(größe, raster);
+    std::vector<Umgebung> gezeichnete{Seite()}; // who was drawn beyond the margin may stay there
+    for (const int i : auszug_.Personen)
+        if (StehtImBlatt(i, größe)) gezeichnete.push_back(Kasten(i, Stelle(i), größe));
+    const Platzwunsch wunsch = WunschWieGezeichnet(UmAlle(gezeichnete));
+    const double erlaubte = ErlaubteMängel(größe);
     for (const auto &[luft, treue] : {std::pair(Gezeichnet, Treu), std::pair(Lesbar, Treu), std::pair(Lesbar, Lose)}) {
         Abstände maße = MaßeFür(größe, raster, luft);
         maße.Treue = treue;
-        const Familienlage lage = FamilieAnordnen(auszug_.Graph, maße);
+        const Familienlage lage = FamilieAnordnen(graph, maße);
         if (Mangelhaft(lage, neu, größe)) continue;
         auto umzug = Unterbringen(lage, größe, wunsch, {});
-        if (!umzug) continue;
+        if (!umzug || !BleibtImRand(*umzug) || Mängel(*umzug) > erlaubte) continue;
         if (Steht(*umzug, raster)) return Umzug{};     // who stands beside the raster isn't drawn to it either
         if (luft.Personen < Lesbar.Personen) continue; // who has to go doesn't go that near
         if (Gehende(*umzug).size() * 2 > auszug_.Personen.size()) continue; // no drawing that is worth keeping
@@ -91,21 +130,61 @@ std::optional<Umzug> Ordner::Behalten(double größe) {
     return std::nullopt;
 }
 
+/// With places inside the margin for those whom the sheet doesn't show, as near as can be to where they were drawn.
+Familiengraph Ordner::AufDasBlattGeholt(double größe, double raster) const {
+    Familiengraph graph = auszug_.Graph;
+    const Umgebung seite = Seite();
+    const auto hinein = [raster](double ort, double links, double rechts) { // inwards to the raster
+        const double kleinstes = std::ceil(OhneRauschen(links / raster)) * raster;
+        return std::max(kleinstes, std::min(ort, std::floor(OhneRauschen(rechts / raster)) * raster));
+    };
+    for (size_t i = 0; i < auszug_.Personen.size(); ++i) {
+        if (StehtImBlatt(auszug_.Personen[i], größe)) continue;
+        Ort &ort = *graph.Personen[i].Platz;
+        const Umgebung u = Kasten(auszug_.Personen[i], ort, größe);
+        ort = {hinein(ort.X, seite.Links + ort.X - u.Links, seite.Rechts - (u.Rechts - ort.X)),
+               hinein(ort.Y, seite.Oben + ort.Y - u.Oben, seite.Unten - (u.Unten - ort.Y))};
+    }
+    for (Familie &familie : graph.Familien)
+        if (familie.Balken && (*familie.Balken < 0 || *familie.Balken > w_.ansicht.SeitenHöhe)) familie.Balken.reset();
+    return graph;
+}
+
+bool Ordner::StehtImBlatt(int person, double größe) const {
+    const Umgebung kasten = Kasten(person, Stelle(person), größe);
+    return LiegtIn(kasten, Blatt());
+}
+
+/// Whether nobody goes beyond the margin, or farther beyond it.
+bool Ordner::BleibtImRand(const Umzug &umzug) const {
+    const std::set<int> gehen = Gehende(umzug);
+    return std::all_of(gehen.begin(), gehen.end(), [&](int i) {
+        std::vector<Umgebung> erlaubt{Seite()};
+        if (StehtImBlatt(i, umzug.Größe)) erlaubt.push_back(Kasten(i, Stelle(i), umzug.Größe));
+        return LiegtIn(Kasten(i, umzug.Personen.at(i), umzug.Größe), UmAlle(erlaubt));
+    });
+}
+
 /// Whether it is worse than one made anew, or anybody or a name lies on another.
-bool Ordner::Mangelhaft(const Familienlage &lage, const Lagebefund &neu, double größe) const {
+bool Ordner::Mangelhaft(const Familienlage &lage, const Familienlage &neu, double größe) const {
     const Lagebefund &b = lage.Befund;
-    if (b.Durchquert > neu.Durchquert || b.Störende > neu.Störende || b.Getrennt > neu.Getrennt) return true;
-    std::vector<Umgebung> kästen;
+    const Lagebefund &n = neu.Befund;
+    if (b.Durchquert > n.Durchquert || b.Störende > n.Störende || b.Getrennt > n.Getrennt) return true;
+    if (Zerdehnt(auszug_.Graph, lage, neu)) return true;
+    std::vector<std::vector<Umgebung>> kästen;
     for (size_t i = 0; i < lage.Personen.size(); ++i)
-        kästen.push_back(Kasten(auszug_.Personen[i], lage.Personen[i], größe));
+        kästen.push_back(Kästen(auszug_.Personen[i], lage.Personen[i], größe));
     for (size_t i = 0; i < kästen.size(); ++i)
         for (size_t k = 0; k < i; ++k)
-            if (LiegenAufeinander(kästen[i], kästen[k])) return true;
+            if (LiegtAuf(kästen[i], kästen[k])) return true;
     return false;
 }
 
-/// Whether everybody and every bar stays, but for less than a step of that raster.
+/// Whether everybody and every bar stays, but for less than a step of that raster, and the sheet shows them all.
 bool Ordner::Steht(const Umzug &umzug, double raster) const {
+    if (!std::all_of(umzug.Personen.begin(), umzug.Personen.end(),
+                     [&](const auto &p) { return StehtImBlatt(p.first, umzug.Größe); }))
+        return false;
     const auto nah = [&](double a, double b) { return Kleiner(std::abs(a - b), raster); };
     return std::all_of(umzug.Personen.begin(), umzug.Personen.end(),
                        [&](const auto &p) {
@@ -127,6 +206,21 @@ double Ordner::GezeichnetesRaster() const {
         if (static_cast<size_t>(darauf) * 4 >= auszug_.Personen.size() * 3) return raster;
     }
     return FeinstesRaster;
+}
+
+/// What may be wrong with lines to those who stay: what is now, but no child above its parents that needn't be there.
+double Ordner::ErlaubteMängel(double größe) {
+    const double gezeichnete = rand_.Mängel(Gezeichnete(), {}, größe);
+    if (gezeichnete < Randlinien::Verkehrt) return gezeichnete;
+    const auto neu = Versuchen(größe, VonHand);
+    return neu ? std::min(gezeichnete, std::max(Mängel(*neu), Randlinien::Verkehrt / 2)) : gezeichnete;
+}
+
+double Ordner::Mängel(const Umzug &umzug) const {
+    Familienlage lage;
+    for (const int i : auszug_.Personen) lage.Personen.push_back(umzug.Personen.at(i));
+    for (const int i : auszug_.Linien) lage.Balken.push_back(umzug.Balken.at(i));
+    return rand_.Mängel(lage, {}, umzug.Größe);
 }
 
 std::set<int> Ordner::Gehende(const Umzug &umzug) const {
@@ -153,38 +247,13 @@ Umzug Ordner::NurWasSichÄndert(Umzug umzug) const {
     return umzug;
 }
 
-/// Free of all that stays.
-Platzwunsch Ordner::Wunsch(const Umgebung &seite) const {
-    Platzwunsch wunsch{{}, {}, seite, {}, w_.ansicht.Rasterweite};
-    for (const Hindernis &h : Hindernisse()) wunsch.Hindernisse.insert(wunsch.Hindernisse.end(), h.begin(), h.end());
-    return wunsch;
-}
-
-/// What lines run over as they are drawn they may run over again: else a page with one crossing couldn't be kept.
-Platzwunsch Ordner::WunschWieGezeichnet(const Umgebung &seite) const {
-    Familienlage lage;
-    for (const int i : auszug_.Personen) lage.Personen.push_back(Stelle(i));
-    for (const int i : auszug_.Linien)
-        lage.Balken.push_back(PartnerschaftSatz(w_.dokument.cboPartnerschaftsLinien.Satz(i), Lücken::Leer).BalkenY1());
-    const auto linien = Linienkästen(lage);
-    const auto überlaufen = [&](const Umgebung &u) {
-        return std::any_of(linien.begin(), linien.end(), [&](const Umgebung &l) { return LiegenAufeinander(l, u); });
-    };
-    Platzwunsch wunsch{{}, {}, seite, {}, w_.ansicht.Rasterweite};
-    for (const Hindernis &h : Hindernisse()) {
-        auto &ziel = std::any_of(h.begin(), h.end(), überlaufen) ? wunsch.Kreuzbare : wunsch.Hindernisse;
-        ziel.insert(ziel.end(), h.begin(), h.end());
-    }
-    return wunsch;
-}
-
 /// A free place on the page for all of it, as near as can be to where `verschiebung` brings it.
 std::optional<Umzug> Ordner::Unterbringen(const Familienlage &lage, double größe, Platzwunsch wunsch,
                                           Ort verschiebung) {
     wunsch.Kästen = Linienkästen(lage);
     const size_t linien = wunsch.Linien = wunsch.Kästen.size();
     for (size_t i = 0; i < lage.Personen.size(); ++i)
-        wunsch.Kästen.push_back(Kasten(auszug_.Personen[i], lage.Personen[i], größe));
+        Anhängen(wunsch.Kästen, Kästen(auszug_.Personen[i], lage.Personen[i], größe));
     const Umgebung ganz = UmAlle(wunsch.Kästen);
     bedarf_ = {ganz.Rechts - ganz.Links, ganz.Unten - ganz.Oben};
     wunsch.Ziel = {ganz.MitteX() + verschiebung.X, ganz.MitteY() + verschiebung.Y};
@@ -202,6 +271,7 @@ std::optional<Umzug> Ordner::Unterbringen(const Familienlage &lage, double grö�
         dort.Aufnehmen(u.Links + weg->X, u.Oben + weg->Y, u.Rechts - u.Links, u.Unten - u.Oben);
         u = dort;
     }
+    Anhängen(belegt, Randkästen(lage, *weg));
     if (!EinzelneMitnehmen(umzug, std::move(belegt))) return std::nullopt;
     return umzug;
 }
@@ -210,7 +280,7 @@ std::optional<Umzug> Ordner::Unterbringen(const Familienlage &lage, double grö�
 bool Ordner::EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const {
     Platzwunsch wunsch = Wunsch(Seite());
     wunsch.Hindernisse.insert(wunsch.Hindernisse.end(), belegt.begin(), belegt.end());
-    for (const auto &[i, ort] : umzug.Personen) wunsch.Hindernisse.push_back(Kasten(i, ort, umzug.Größe));
+    for (const auto &[i, ort] : umzug.Personen) Anhängen(wunsch.Hindernisse, Kästen(i, ort, umzug.Größe));
     const std::map<int, Ort> verbundene = umzug.Personen;
     for (const int i : gefragte_) {
         if (verbundene.contains(i)) continue;
@@ -223,12 +293,11 @@ bool Ordner::EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const
                                                [&](const auto &a, const auto &b) { return ferne(a) < ferne(b); });
         const Ort dort = Stelle(nächster->first);
         const Ort soll{alt.X + nächster->second.X - dort.X, alt.Y + nächster->second.Y - dort.Y};
-        const Umgebung hier = Kasten(i, alt, umzug.Größe);
-        const auto frei = [&](const Umgebung &u) { return !LiegenAufeinander(u, hier); };
-        if (Gerundet(soll.X - alt.X, 3) == 0 && Gerundet(soll.Y - alt.Y, 3) == 0 &&
-            std::all_of(wunsch.Hindernisse.begin(), wunsch.Hindernisse.end(), frei)) {
+        const std::vector<Umgebung> hier = Kästen(i, alt, umzug.Größe);
+        if (Gerundet(soll.X - alt.X, 3) == 0 && Gerundet(soll.Y - alt.Y, 3) == 0 && StehtImBlatt(i, umzug.Größe) &&
+            !LiegtAuf(hier, wunsch.Hindernisse)) {
             umzug.Personen[i] = alt; // however near it was drawn
-            wunsch.Hindernisse.push_back(hier);
+            Anhängen(wunsch.Hindernisse, hier);
             continue;
         }
         const Ort von{Gerastert(alt.X, wunsch.Raster), Gerastert(alt.Y, wunsch.Raster)};
@@ -238,7 +307,7 @@ bool Ordner::EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const
         const auto weg = PlatzFinden(wunsch);
         if (!weg) return false;
         umzug.Personen[i] = {von.X + weg->X, von.Y + weg->Y};
-        wunsch.Hindernisse.push_back(Kasten(i, umzug.Personen[i], umzug.Größe));
+        Anhängen(wunsch.Hindernisse, Kästen(i, umzug.Personen[i], umzug.Größe));
     }
     return true;
 }
@@ -248,61 +317,17 @@ Ort Ordner::Stelle(int person) const {
     return {satz.PosX(), satz.PosY()};
 }
 
-Umgebung Ordner::Kasten(int person, Ort ort, double größe) const {
+/// Of the symbol and of the names. A name may lie under a neighbour's symbol, as the layout has it.
+std::vector<Umgebung> Ordner::Kästen(int person, Ort ort, double größe) const {
     const PersonSatz satz(w_.dokument.cboPersonen.Satz(person), Lücken::Leer);
-    return Personenkasten(satz, ort, std::min(größe, satz.Groesse()), Namensbreite(w_.picVorschau, satz));
+    return Personenkästen(satz, ort, std::min(größe, satz.Groesse()), Namensbreite(w_.picVorschau, satz));
 }
+Umgebung Ordner::Kasten(int person, Ort ort, double größe) const { return UmAlle(Kästen(person, ort, größe)); }
 
-/// Where persons stay, with their names; the legend; texts of theirs or of the page; and their lines.
-std::vector<Ordner::Hindernis> Ordner::Hindernisse() const {
-    const Dokument &d = w_.dokument;
-    const std::set<int> gehen(gefragte_.begin(), gefragte_.end());
-    std::vector<Hindernis> alle;
-    for (int i = 0; i < d.cboPersonen.Anzahl(); ++i)
-        if (!gehen.contains(i)) alle.push_back({Kasten(i, Stelle(i), JedeGröße)});
-    if (d.LegendeSichtbar) alle.push_back({Elementrahmen(d, w_.legende, {Elementart::Legende, 0})});
-    const Zugehörigkeit zugehörigkeit(d, w_.ansicht);
-    for (int i = 0; i < d.cboTextboxen.Anzahl(); ++i) {
-        const Umgebung u = Elementrahmen(d, w_.legende, {Elementart::Text, i});
-        if (u.Leer) continue;
-        const auto person = zugehörigkeit.PersonZuText(u);
-        if (!person || !gehen.contains(*person)) alle.push_back({u});
-    }
-    for (Seitenlinie &linie : LinienDerSeite(d, w_.ansicht)) {
-        if (!linie.Bleibt(gehen)) continue;
-        linie.Kästen.insert(linie.Kästen.end(), linie.Inneres.begin(), linie.Inneres.end());
-        alle.push_back(std::move(linie.Kästen));
-    }
-    return alle;
-}
-
-/// Bars, legs and children's lines, which must lie on nobody either.
-std::vector<Umgebung> Ordner::Linienkästen(const Familienlage &lage) const {
-    constexpr int Stücke = 8;
-    std::vector<Umgebung> kästen;
-    const auto kasten = [&](double x1, double y1, double x2, double y2) {
-        Umgebung u;
-        u.Aufnehmen(std::min(x1, x2) - Linienluft, std::min(y1, y2), std::abs(x2 - x1) + 2 * Linienluft,
-                    std::abs(y2 - y1));
-        kästen.push_back(u);
-    };
-    for (size_t i = 0; i < auszug_.Graph.Familien.size(); ++i) {
-        const Familie &f = auszug_.Graph.Familien[i];
-        Umgebung balken;
-        const auto ort = [&](int person) { return lage.Personen[static_cast<size_t>(person)]; };
-        for (const int p : f.Partner) balken.Aufnehmen(ort(p).X, lage.Balken[i]);
-        for (const int p : f.Partner) kasten(ort(p).X, ort(p).Y, ort(p).X, lage.Balken[i]);
-        kasten(balken.Links, lage.Balken[i], balken.Rechts, lage.Balken[i]);
-        for (const int kind : f.Kinder) { // in pieces: a box round a slanting line holds much beside it
-            const double vonX = std::clamp(ort(kind).X, balken.Links, balken.Rechts);
-            const double weiteX = (ort(kind).X - vonX) / Stücke;
-            const double weiteY = (ort(kind).Y - lage.Balken[i]) / Stücke;
-            for (int k = 0; k < (weiteX == 0 ? 1 : Stücke); ++k)
-                kasten(vonX + k * weiteX, lage.Balken[i] + k * weiteY, vonX + (k + 1) * weiteX,
-                       weiteX == 0 ? ort(kind).Y : lage.Balken[i] + (k + 1) * weiteY);
-        }
-    }
-    return kästen;
+Umgebung Ordner::Blatt() const {
+    Umgebung u;
+    u.Aufnehmen(0, 0, w_.ansicht.SeitenBreite, w_.ansicht.SeitenHöhe);
+    return u;
 }
 
 Umgebung Ordner::Seite() const {

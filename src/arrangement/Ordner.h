@@ -1,6 +1,7 @@
 #pragma once
 
 #include "arrangement/Familienauszug.h"
+#include "arrangement/Randlinien.h"
 #include "arrangement/Seitenplatz.h"
 #include "arrangement/Umzug.h"
 #include "editing/Werkbank.h"
@@ -18,6 +19,8 @@ class Ordner {
 
     /// Whether anybody of them has a bond to another.
     bool HatFamilien() const { return !auszug_.Personen.empty(); }
+    /// Whether some of those selected stay since somebody who isn't selected does.
+    bool HältWenFest() const { return hältWenFest_; }
     /// cm, of those with a bond.
     double GrößtesSymbol() const;
 
@@ -39,23 +42,35 @@ class Ordner {
     std::optional<Umzug> Unterbringen(const Familienlage &lage, double größe, Platzwunsch wunsch, Ort verschiebung);
     Platzwunsch Wunsch(const Umgebung &seite) const;
     Platzwunsch WunschWieGezeichnet(const Umgebung &seite) const;
-    bool Mangelhaft(const Familienlage &lage, const Lagebefund &neu, double größe) const;
+    bool Mangelhaft(const Familienlage &lage, const Familienlage &neu, double größe) const;
     bool Steht(const Umzug &umzug, double raster) const;
     double GezeichnetesRaster() const;
     std::set<int> Gehende(const Umzug &umzug) const;
     Umzug NurWasSichÄndert(Umzug umzug) const;
     Ort Stelle(int person) const;
+    std::vector<Umgebung> Kästen(int person, Ort ort, double größe) const;
     Umgebung Kasten(int person, Ort ort, double größe) const;
+    Familiengraph AufDasBlattGeholt(double größe, double raster) const;
+    bool StehtImBlatt(int person, double größe) const;
+    Familienlage Gezeichnete() const;
+    double ErlaubteMängel(double größe);
+    double Mängel(const Umzug &umzug) const;
+    bool BleibtImRand(const Umzug &umzug) const;
     /// Something that stays on the page, in boxes.
     using Hindernis = std::vector<Umgebung>;
     std::vector<Hindernis> Hindernisse() const;
+    std::vector<Hindernis> Stehende() const;
     std::vector<Umgebung> Linienkästen(const Familienlage &lage) const;
+    std::vector<Umgebung> Randkästen(const Familienlage &lage, Ort weg) const;
     bool EinzelneMitnehmen(Umzug &umzug, std::vector<Umgebung> belegt) const;
+    Umgebung Blatt() const;
     Umgebung Seite() const;
 
     Werkbank &w_;
     std::vector<int> gefragte_; ///< who may move, positions in the store
+    bool hältWenFest_;
     Familienauszug auszug_;
+    Randlinien rand_;
     Platzbedarf bedarf_{};
 };
 

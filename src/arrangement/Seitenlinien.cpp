@@ -12,6 +12,7 @@
 #include "editing/Elemente.h"
 #include "editing/Kreisumriss.h"
 #include "rendering/Ansicht.h"
+#include "rendering/Ebenen.h"
 
 #include <algorithm>
 #include <cmath>
@@ -82,10 +83,10 @@ class Sammler {
     }
 
     void Kreis(std::string_view satz) {
-        const auto punkte = KreisPunkte(satz);
+        const auto punkte = Kreiszug(satz, ansicht_.Glättungsgrad);
         Umgebung alle;
         for (size_t i = 0; i < punkte.size(); ++i) {
-            const Kreispunkt &bis = punkte[(i + 1) % punkte.size()];
+            const Kurvenort &bis = punkte[(i + 1) % punkte.size()];
             Strich({punkte[i].X, punkte[i].Y}, {bis.X, bis.Y});
             alle.Aufnehmen(punkte[i].X, punkte[i].Y);
         }
@@ -99,14 +100,14 @@ class Sammler {
     }
 
     /// Row by row, between the places where the stroke goes through the row's middle.
-    void Füllen(const std::vector<Kreispunkt> &punkte, const Umgebung &alle) {
+    void Füllen(const std::vector<Kurvenort> &punkte, const Umgebung &alle) {
         const double höhe = std::max(Stücklänge, (alle.Unten - alle.Oben) / MeisteStücke);
         for (double oben = alle.Oben; oben < alle.Unten; oben += höhe) {
             const double y = oben + höhe / 2;
             std::vector<double> orte;
             for (size_t i = 0; i < punkte.size(); ++i) {
-                const Kreispunkt &a = punkte[i];
-                const Kreispunkt &b = punkte[(i + 1) % punkte.size()];
+                const Kurvenort &a = punkte[i];
+                const Kurvenort &b = punkte[(i + 1) % punkte.size()];
                 if ((a.Y > y) != (b.Y > y)) orte.push_back(a.X + (y - a.Y) / (b.Y - a.Y) * (b.X - a.X));
             }
             std::sort(orte.begin(), orte.end());

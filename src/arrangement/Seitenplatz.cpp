@@ -10,6 +10,8 @@ namespace kw {
 namespace {
 
 constexpr double Nichts = 1e-6; ///< what touches doesn't overlap, cm
+constexpr double Feinheit = 10000;
+constexpr int MeisteFreie = 3000; ///< places that are looked at for one without flaws
 
 bool Versetzt(const Umgebung &a, const Umgebung &b, Ort weg) {
     return a.Links + weg.X < b.Rechts - Nichts && b.Links < a.Rechts + weg.X - Nichts &&
@@ -51,6 +53,10 @@ Abstände MaßeFür(double symbol, double raster, const Luft &luft) {
     return a;
 }
 
+void Anhängen(std::vector<Umgebung> &kästen, const std::vector<Umgebung> &weitere) {
+    kästen.insert(kästen.end(), weitere.begin(), weitere.end());
+}
+
 Umgebung UmAlle(const std::vector<Umgebung> &kästen) {
     Umgebung alle;
     for (const Umgebung &k : kästen) alle.Aufnehmen(k.Links, k.Oben, k.Rechts - k.Links, k.Unten - k.Oben);
@@ -72,13 +78,24 @@ std::optional<Ort> PlatzFinden(const Platzwunsch &w) {
         for (int k = y.Von; k <= y.Bis; ++k) {
             const Ort weg{i * w.Raster, k * w.Raster};
             const double ferne = std::hypot(alle.MitteX() + weg.X - w.Ziel.X, alle.MitteY() + weg.Y - w.Ziel.Y);
-            versuche.push_back({weg, std::llround(ferne * 10000)});
+            versuche.push_back({weg, std::llround(ferne * Feinheit)});
         }
     std::stable_sort(versuche.begin(), versuche.end(),
                      [](const Versuch &a, const Versuch &b) { return a.Ferne < b.Ferne; });
-    const auto freier =
-        std::find_if(versuche.begin(), versuche.end(), [&](const Versuch &v) { return IstFrei(w, v.Weg); });
-    return freier == versuche.end() ? std::nullopt : std::optional(freier->Weg);
+    std::optional<Ort> bester;
+    double kosten = HUGE_VAL;
+    int freie = 0;
+    for (const Versuch &v : versuche) {
+        const double ferne = static_cast<double>(v.Ferne) / Feinheit;
+        if (ferne >= kosten || freie == MeisteFreie) break;
+        if (!IstFrei(w, v.Weg)) continue;
+        ++freie;
+        const double hier = ferne + (w.Mängel ? w.Mängel(v.Weg) : 0);
+        if (hier >= kosten) continue;
+        bester = v.Weg;
+        kosten = hier;
+    }
+    return bester;
 }
 
 std::string Maßangabe(double breite, double höhe, Sprache sprache) {

@@ -5,6 +5,7 @@
 #include "platform/Sprache.h"
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -39,15 +40,19 @@ struct Platzwunsch {
     double Raster;                     ///< it is moved by whole steps of that
     size_t Linien = 0;                 ///< so many of the boxes, the first ones, are of lines ...
     std::vector<Umgebung> Kreuzbare{}; ///< ... which may lie on these; the others mustn't
+    /// By how much, cm, a place may be farther away that hasn't its flaws.
+    std::function<double(Ort weg)> Mängel{};
 };
 
 /// Whether they lie on each other; touching is none of that.
 bool LiegenAufeinander(const Umgebung &a, const Umgebung &b);
+/// Puts boxes behind others.
+void Anhängen(std::vector<Umgebung> &kästen, const std::vector<Umgebung> &weitere);
 /// The box round all of them.
 Umgebung UmAlle(const std::vector<Umgebung> &kästen);
 
-/// How far it is to be moved: free of all obstacles, on the page, and nearest to where it would best be. Nothing when
-/// there is no such place.
+/// How far it is to be moved: free of all obstacles, on the page, and nearest to where it would best be, its flaws
+/// added to the way. Nothing when there is no such place.
 std::optional<Ort> PlatzFinden(const Platzwunsch &wunsch);
 
 /// "41,5 × 15,2 cm".

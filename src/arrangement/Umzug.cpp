@@ -51,26 +51,30 @@ class Umzugswagen {
         return weg.X == 0 && weg.Y == 0 ? std::string(satz) : art.Verschoben(satz, weg.X, weg.Y);
     }
 
-    /// The circle line that holds whom `satz` held; nothing where there is none.
+    /// The circle line that holds whom `satz` held, whose stroke lies on no symbol that it didn't lie on; nothing
+    /// where there is none that holds them.
     std::optional<std::string> Kreis(std::string_view satz) const {
-        const std::vector<bool> sollen = Gehaltene(satz, alte_);
-        const std::string mitgenommen = MitDenSeinen(satz, sollen);
-        if (Gehaltene(mitgenommen, neue_) == sollen) return mitgenommen;
+        const Kreisbefund sollen = Befund(satz, alte_, JedeGröße);
+        std::vector<std::string> versuche{MitDenSeinen(satz, sollen.Gehalten), std::string(satz)};
         std::vector<Umgebung> drinnen;
         std::vector<Umgebung> draußen;
-        Umgebung alle;
-        for (size_t i = 0; i < sollen.size(); ++i) {
+        for (size_t i = 0; i < alte_.size(); ++i) {
             const PersonSatz person(d_.cboPersonen.Satz(static_cast<int>(i)), Lücken::Leer);
-            const Umgebung k = Personenkasten(person, neue_[i], std::min(person.Groesse(), umzug_.Größe), 0);
-            (sollen[i] ? drinnen : draußen).push_back(k);
-            if (sollen[i]) alle.Aufnehmen(k.Links, k.Oben, k.Rechts - k.Links, k.Unten - k.Oben);
+            (sollen.Gehalten[i] ? drinnen : draußen)
+                .push_back(Personenkasten(person, neue_[i], std::min(person.Groesse(), umzug_.Größe), 0));
         }
-        if (drinnen.empty()) return Gehaltene(satz, neue_) == sollen ? std::optional(std::string(satz)) : std::nullopt;
-        for (const auto &punkte :
-             {KreisUm(alle), KreisUmAlle(drinnen, draußen, ansicht_.SeitenBreite, ansicht_.SeitenHöhe)})
-            if (const std::string neu = AufSeite(punkte); !punkte.empty() && Gehaltene(neu, neue_) == sollen)
-                return neu;
-        return std::nullopt;
+        if (!drinnen.empty())
+            for (const auto &punkte :
+                 {KreisUm(UmAlle(drinnen)), KreisUmAlle(drinnen, draußen, ansicht_.SeitenBreite, ansicht_.SeitenHöhe)})
+                if (!punkte.empty()) versuche.push_back(AufSeite(punkte));
+        std::optional<std::string> bester;
+        for (std::string &kreis : versuche) {
+            const Kreisbefund ist = Befund(kreis, neue_, umzug_.Größe);
+            if (ist.Gehalten != sollen.Gehalten) continue;
+            if (BerührtNiemandNeues(sollen.Lagen, ist.Lagen)) return std::move(kreis);
+            if (!bester) bester = std::move(kreis);
+        }
+        return bester;
     }
 
   private:
@@ -93,11 +97,26 @@ class Umzugswagen {
         return weg.X == 0 && weg.Y == 0 ? std::string(satz) : KreisVerschoben(satz, weg.X, weg.Y);
     }
 
-    std::vector<bool> Gehaltene(std::string_view kreis, const std::vector<Ort> &orte) const {
-        std::vector<bool> drin;
-        drin.reserve(orte.size());
-        for (const Ort &ort : orte) drin.push_back(Umschließt(kreis, ansicht_.Glättungsgrad, ort.X, ort.Y));
-        return drin;
+    struct Kreisbefund {
+        std::vector<bool> Gehalten;   ///< by their centres
+        std::vector<Kreislage> Lagen; ///< of their symbols
+    };
+    Kreisbefund Befund(std::string_view kreis, const std::vector<Ort> &orte, double größe) const {
+        const Kreisinneres inneres(kreis, ansicht_.Glättungsgrad);
+        Kreisbefund befund;
+        for (size_t i = 0; i < orte.size(); ++i) {
+            const double breite =
+                std::min(größe, PersonSatz(d_.cboPersonen.Satz(static_cast<int>(i)), Lücken::Leer).Groesse());
+            Umgebung symbol;
+            symbol.Aufnehmen(orte[i].X - breite / 2, orte[i].Y - breite / 2, breite, breite);
+            befund.Gehalten.push_back(inneres.Hält(orte[i].X, orte[i].Y));
+            befund.Lagen.push_back(inneres.Lage(symbol));
+        }
+        return befund;
+    }
+    static bool BerührtNiemandNeues(const std::vector<Kreislage> &vorher, const std::vector<Kreislage> &nachher) {
+        return std::equal(vorher.begin(), vorher.end(), nachher.begin(),
+                          [](Kreislage a, Kreislage b) { return a == b || a == Kreislage::AufDemStrich; });
     }
 
     std::string AufSeite(std::vector<Kreispunkt> punkte) const {
@@ -140,12 +159,16 @@ void PersonenSetzen(Dokument &d, const Umzug &umzug) {
 
 } // namespace
 
+std::vector<Umgebung> Personenkästen(const PersonSatz &person, Ort ort, double größe, double namensbreite) {
+    std::vector<Umgebung> kästen(1);
+    kästen[0].Aufnehmen(ort.X - größe / 2, ort.Y - größe / 2, größe, größe);
+    if (ZeigtNamen(person) && (!person.Vorname().empty() || !person.Nachname().empty()))
+        kästen.emplace_back().Aufnehmen(ort.X - namensbreite / 2, ort.Y + größe / 2, namensbreite, Namenshöhe);
+    return kästen;
+}
+
 Umgebung Personenkasten(const PersonSatz &person, Ort ort, double größe, double namensbreite) {
-    const bool benannt = ZeigtNamen(person) && (!person.Vorname().empty() || !person.Nachname().empty());
-    const double breite = std::max(größe, namensbreite);
-    Umgebung u;
-    u.Aufnehmen(ort.X - breite / 2, ort.Y - größe / 2, breite, größe + (benannt ? Namenshöhe : 0));
-    return u;
+    return UmAlle(Personenkästen(person, ort, größe, namensbreite));
 }
 
 std::optional<int> NächstePerson(const Dokument &d, Ort ort) {

@@ -4,11 +4,11 @@
 #include "document/Dokument.h"
 #include "document/saetze/Beziehung.h"
 #include "document/saetze/Kind.h"
-#include "document/saetze/Kreislinie.h"
 #include "document/saetze/Partnerschaft.h"
 #include "document/saetze/Person.h"
 #include "document/saetze/Pfeil.h"
 #include "document/saetze/Textbox.h"
+#include "editing/Kreisumriss.h"
 #include "rendering/Legende.h"
 
 #include <algorithm>
@@ -18,17 +18,6 @@
 namespace kw {
 
 namespace {
-
-/// Whether a closed line goes round the place: a ray from there crosses it an odd number of times.
-bool Umschließt(const std::vector<Kreispunkt> &punkte, double x, double y) {
-    bool innen = false;
-    for (size_t i = 0, j = punkte.size() - 1; i < punkte.size(); j = i++) {
-        const Kreispunkt &a = punkte[i];
-        const Kreispunkt &b = punkte[j];
-        if ((a.Y > y) != (b.Y > y) && x < a.X + (b.X - a.X) * (y - a.Y) / (b.Y - a.Y)) innen = !innen;
-    }
-    return innen;
-}
 
 /// A box's text as one line.
 std::string Einzeiler(std::string_view inhalt) {
@@ -40,15 +29,16 @@ std::string Einzeiler(std::string_view inhalt) {
 constexpr Zweisprachig Partnerschaftswort{"Partnerschaft", "partnership"};
 constexpr Zweisprachig Kindlinienwort{"Kindlinie", "child line"};
 constexpr Zweisprachig Textfeld{"Text: %", "text: %"};
-constexpr Zweisprachig KreisUm{"Kreislinie um %", "circle line round %"};
+constexpr Zweisprachig KreislinieUm{"Kreislinie um %", "circle line round %"};
 constexpr Zweisprachig KreisAllein{"Kreislinie", "circle line"};
 constexpr size_t Genannte = 3; ///< of more persons within a circle line the description tells
 constexpr Zweisprachig Legendenwort{"Legende", "legend"};
 
 } // namespace
 
-Elementworte::Elementworte(const Dokument &dokument, const Legendenblatt &legende, Sprache sprache, const Uhr &uhr)
-    : personen(dokument, sprache, uhr), dokument_(dokument), legende_(legende) {}
+Elementworte::Elementworte(const Dokument &dokument, const Legendenblatt &legende, int glättungsgrad, Sprache sprache,
+                           const Uhr &uhr)
+    : personen(dokument, sprache, uhr), dokument_(dokument), legende_(legende), glättungsgrad_(glättungsgrad) {}
 
 const Elementworte::Art &Elementworte::ArtVon(Element element) {
     using W = Elementworte;
@@ -166,11 +156,11 @@ std::string Elementworte::Pfeil(int position) const {
 
 /// Persons whose centre lies within the line.
 std::vector<std::string> Elementworte::Umkreiste(int position) const {
-    const auto punkte = KreisPunkte(dokument_.cboFreehandlines.Satz(position));
+    const Kreisinneres kreis(dokument_.cboFreehandlines.Satz(position), glättungsgrad_);
     std::vector<std::string> namen;
     for (int i = 0; i < dokument_.cboPersonen.Anzahl(); ++i) {
         const PersonSatz person(dokument_.cboPersonen.Satz(i), Lücken::Leer);
-        if (person.HatOrt() && Umschließt(punkte, person.PosX(), person.PosY())) namen.push_back(personen.Ruf(i));
+        if (person.HatOrt() && kreis.Hält(person.PosX(), person.PosY())) namen.push_back(personen.Ruf(i));
     }
     return namen;
 }
@@ -182,7 +172,7 @@ std::string Elementworte::Kreis(int position) const {
     const std::string wen = namen.size() <= Genannte
                                 ? Aufgezählt(namen, personen.sprache)
                                 : Gezählt(static_cast<int>(namen.size()), Personen, personen.sprache);
-    return Eingesetzt(KreisUm, personen.sprache, {wen});
+    return Eingesetzt(KreislinieUm, personen.sprache, {wen});
 }
 
 std::vector<std::string> Elementworte::ZumKreis(int position) const {

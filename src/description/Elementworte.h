@@ -13,7 +13,9 @@ struct Legendenblatt;
 /// What stands on the page in words, of every kind. As for persons, the document must not change meanwhile.
 class Elementworte {
   public:
-    Elementworte(const Dokument &dokument, const Legendenblatt &legende, Sprache sprache, const Uhr &uhr);
+    /// Circle lines are as smooth as `glättungsgrad` says.
+    Elementworte(const Dokument &dokument, const Legendenblatt &legende, int glättungsgrad, Sprache sprache,
+                 const Uhr &uhr);
 
     /// What it is, and whom it joins: "Partnerschaft: Anna Müller und Jörg Müller, verheiratet".
     std::string Name(Element element) const;
@@ -51,6 +53,7 @@ class Elementworte {
 
     const Dokument &dokument_;
     const Legendenblatt &legende_;
+    int glättungsgrad_;
 };
 
 } // namespace kw

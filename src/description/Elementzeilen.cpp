@@ -13,7 +13,7 @@ std::string Elementzeile::Zusatz(Sprache sprache) const {
 }
 
 std::vector<Elementzeile> Elementzeilen(const Seiteninhalt &s) {
-    const Elementworte worte(s.dokument, s.legende, s.ansicht.Sprache, s.uhr);
+    const Elementworte worte(s.dokument, s.legende, s.ansicht.Glättungsgrad, s.ansicht.Sprache, s.uhr);
     std::vector<Elementzeile> zeilen;
     for (const Element element : AlleElemente(s.dokument))
         zeilen.push_back({element, Elementschlüssel(s.dokument, element), worte.Name(element), worte.Ruf(element),

@@ -56,7 +56,7 @@ bool StehtAllein(Elementart art) {
 
 std::string Seitentext(const Seiteninhalt &s) {
     const Sprache sprache = s.ansicht.Sprache;
-    const Elementworte worte(s.dokument, s.legende, sprache, s.uhr);
+    const Elementworte worte(s.dokument, s.legende, s.ansicht.Glättungsgrad, sprache, s.uhr);
     const auto zeilen = Lesefolge(Elementzeilen(s));
     if (zeilen.empty()) return std::string(OhneInhalt.In(sprache)) + '\n';
     std::string text = Verbunden({Eingesetzt(Inhalt, sprache, {Überblick(zeilen, sprache)}),

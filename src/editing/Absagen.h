@@ -55,6 +55,9 @@ inline constexpr Zweisprachig OhneFormular{"Pfeile und Kreislinien haben kein Fo
 // Commands.
 inline constexpr Zweisprachig NiemandVerbunden{"Nichts angeordnet: Niemand ist durch Linien verbunden.",
                                                "Nothing arranged: nobody is joined by lines."};
+inline constexpr Zweisprachig PaarNurHalbGewählt{
+    "Nichts angeordnet: Von den Paaren und den Eltern müssen immer beide ausgewählt sein.",
+    "Nothing arranged: of couples and of parents, both have to be selected."};
 inline constexpr Zweisprachig SchonGeordnet{"Es steht schon alles so.", "Everything stands like that already."};
 inline constexpr Zweisprachig KreisImWegDerOrdnung{
     "Nichts angeordnet: Eine Kreislinie könnte dann nicht mehr dieselben Personen umschließen.",

@@ -53,4 +53,17 @@ void Umgebung::Aufnehmen(double x, double y, double breite, double höhe) {
     Leer = false;
 }
 
+bool StreckeTrifft(double x1, double y1, double x2, double y2, const Umgebung &u) {
+    double von = 0;
+    double bis = 1;
+    const auto zwischen = [&](double ort, double weite, double anfang, double ende) {
+        if (weite == 0) return ort > anfang && ort < ende;
+        const auto [a, b] = std::minmax({(anfang - ort) / weite, (ende - ort) / weite});
+        von = std::max(von, a);
+        bis = std::min(bis, b);
+        return von < bis;
+    };
+    return zwischen(x1, x2 - x1, u.Links, u.Rechts) && zwischen(y1, y2 - y1, u.Oben, u.Unten);
+}
+
 } // namespace kw

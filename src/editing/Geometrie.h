@@ -36,4 +36,7 @@ struct Umgebung {
     void Aufnehmen(double x, double y, double breite = 0, double höhe = 0);
 };
 
+/// Whether the straight stretch from (x1, y1) to (x2, y2) has a part within the box.
+bool StreckeTrifft(double x1, double y1, double x2, double y2, const Umgebung &u);
+
 } // namespace kw

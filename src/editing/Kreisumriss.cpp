@@ -200,15 +200,28 @@ std::vector<Kreispunkt> KreisUmAlle(const std::vector<Umgebung> &drinnen, const 
     return punkte;
 }
 
-bool Umschließt(std::string_view kreis, int glättungsgrad, double x, double y) {
-    const auto zug = Kreiszug(kreis, glättungsgrad);
+Kreisinneres::Kreisinneres(std::string_view kreis, int glättungsgrad) : zug_(Kreiszug(kreis, glättungsgrad)) {}
+
+bool Kreisinneres::Hält(double x, double y) const {
     bool drin = false;
-    for (size_t i = 0; i < zug.size(); ++i) {
-        const auto &a = zug[i];
-        const auto &b = zug[(i + 1) % zug.size()];
+    for (size_t i = 0; i < zug_.size(); ++i) {
+        const auto &a = zug_[i];
+        const auto &b = zug_[(i + 1) % zug_.size()];
         if ((a.Y > y) != (b.Y > y) && x < a.X + (y - a.Y) / (b.Y - a.Y) * (b.X - a.X)) drin = !drin;
     }
     return drin;
+}
+
+Kreislage Kreisinneres::Lage(const Umgebung &kasten) const {
+    for (size_t i = 0; i < zug_.size(); ++i) {
+        const auto &b = zug_[(i + 1) % zug_.size()];
+        if (StreckeTrifft(zug_[i].X, zug_[i].Y, b.X, b.Y, kasten)) return Kreislage::AufDemStrich;
+    }
+    return Hält(kasten.MitteX(), kasten.MitteY()) ? Kreislage::Drinnen : Kreislage::Draußen;
+}
+
+bool Umschließt(std::string_view kreis, int glättungsgrad, double x, double y) {
+    return Kreisinneres(kreis, glättungsgrad).Hält(x, y);
 }
 
 } // namespace kw

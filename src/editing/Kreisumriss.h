@@ -2,6 +2,7 @@
 
 #include "document/saetze/Kreislinie.h"
 #include "editing/Geometrie.h"
+#include "rendering/basKurvenGlaettung.h"
 
 #include <string_view>
 #include <vector>
@@ -17,7 +18,22 @@ std::vector<Kreispunkt> KreisUm(const Umgebung &u);
 std::vector<Kreispunkt> KreisUmAlle(const std::vector<Umgebung> &drinnen, const std::vector<Umgebung> &draußen,
                                     double seitenBreite, double seitenHöhe);
 
-/// Whether the closed stroke of that record, as it is drawn, goes round the place.
+/// How something lies to a closed stroke.
+enum class Kreislage { Drinnen, Draußen, AufDemStrich };
+
+/// What the closed stroke of a record goes round, as it is drawn. A damaged one goes round nothing.
+class Kreisinneres {
+  public:
+    Kreisinneres(std::string_view kreis, int glättungsgrad);
+
+    bool Hält(double x, double y) const;
+    Kreislage Lage(const Umgebung &kasten) const;
+
+  private:
+    std::vector<Kurvenort> zug_;
+};
+
+/// The same of one place.
 bool Umschließt(std::string_view kreis, int glättungsgrad, double x, double y);
 
 } // namespace kw
