@@ -86,11 +86,11 @@ bool Differenzen::Schritt(std::vector<int> &x, int weite) const {
     return !menge.empty();
 }
 
-void Differenzen::Lösen(std::vector<int> &x, int schritt) const {
+void Differenzen::Lösen(std::vector<int> &x, int schritt, int letzter) const {
     const auto [kleinste, größte] = std::minmax_element(x.begin(), x.end());
     const int breite = x.empty() ? 0 : *größte - *kleinste;
     while (schritt < breite / 8) schritt *= 2; // a broad one would take many steps
-    for (int weite = schritt; weite > 0; weite /= 2) {
+    for (int weite = schritt; weite >= std::max(letzter, 1); weite /= 2) {
         int vergeblich = 0;
         for (int richtung = weite; vergeblich < 2; richtung = -richtung) {
             if (Schritt(x, richtung)) {

@@ -27,8 +27,9 @@ class Differenzen {
 
     /// The least values that keep the bounds, all >= 0; false when no values do.
     bool Kleinste(std::vector<int> &x) const;
-    /// Betters `x`, which keeps the bounds, as far as it goes; the first steps are at most `schritt`.
-    void Lösen(std::vector<int> &x, int schritt) const;
+    /// Betters `x`, which keeps the bounds, as far as it goes; the first steps are at most `schritt`, the last ones
+    /// at least `letzter`: 1 finds the least sum.
+    void Lösen(std::vector<int> &x, int schritt, int letzter = 1) const;
     std::int64_t Summe(const std::vector<int> &x) const;
 
   private:

@@ -13,6 +13,7 @@ constexpr std::int64_t Länge = 1000;  // a step of a line
 constexpr std::int64_t Schiefe = 150; // a step that a child line leans, besides what it gets longer
 constexpr std::int64_t Mitte = 1;     // a step of a child from each of its parents, squared: only what settles ties
 constexpr int WeitesterSchritt = 128;
+constexpr std::int64_t Ungefähr = 800; // thousandths; the last step of what needn't be exact
 
 /// Rows in which columns of several rows keep one order in all of them: by where they stand on average.
 Reihen::Folgen Widerspruchsfrei(const Gerüst &gerüst, Reihen::Folgen zeilen) {
@@ -140,7 +141,7 @@ void Orte::Gewichten(const Reihen::Folgen &zeilen, Differenzen &orte, Paare &inn
             orte.Kosten(Kostenart::Betrag, familie.Kinder[i - 1], familie.Kinder[i], 0, Länge);
 }
 
-std::vector<int> Orte::Finden(const Reihen::Folgen &zeilen) const {
+std::vector<int> Orte::Finden(const Reihen::Folgen &zeilen, Güte güte) const {
     Reihen::Folgen folgen = zeilen;
     Differenzen orte(static_cast<int>(gerüst_.Spalten.size()) + 1);
     if (!ReihenHalten(folgen, orte)) {
@@ -162,7 +163,7 @@ std::vector<int> Orte::Finden(const Reihen::Folgen &zeilen) const {
             if (mit.Kleinste(x)) orte = std::move(mit);
         }
     orte.Kleinste(x);
-    orte.Lösen(x, WeitesterSchritt);
+    orte.Lösen(x, WeitesterSchritt, güte == Güte::Genau ? 1 : static_cast<int>(Ungefähr / schritt_));
     const int rand = x.back();
     x.pop_back();
     const int links = gezeichnet_ ? rand : *std::min_element(x.begin(), x.end());

@@ -12,8 +12,9 @@ namespace kw {
 class Orte {
   public:
     Orte(const Familiengraph &graph, const Gerüst &gerüst, const Abstände &abstände);
+    enum class Güte { Genau, Ungefähr }; ///< all but exact: within about a centimetre, in much less time
     /// From the page's edge where all have a place, else from the leftmost on.
-    std::vector<int> Finden(const Reihen::Folgen &zeilen) const;
+    std::vector<int> Finden(const Reihen::Folgen &zeilen, Güte güte) const;
     /// Thousandths of a centimetre in a step.
     std::int64_t Schritt() const { return schritt_; }
 

@@ -168,6 +168,27 @@ int Reihen::Verkehrtkosten(int verkehrt) const {
     return (verkehrt - zuViele) * gewichte_.Verkehrt + zuViele * gewichte_.ZuVerkehrt;
 }
 
+std::vector<Reihen::Paar> Reihen::Getrennte() const {
+    std::vector<Paar> paare;
+    for (std::size_t i = 0; i < dazwischen_.size(); i++)
+        if (const Ding &d = wissen_->Dinge[i]; dazwischen_[i] > 0 && d.Was == Art::Familie)
+            paare.push_back({d.Zeile, d.A, d.B});
+    return paare;
+}
+
+void Reihen::StrengerTrennen(int nochEinGetrennt) {
+    kosten_ -= Getrenntkosten(getrennt_);
+    gewichte_.NochEinGetrennt = nochEinGetrennt;
+    kosten_ += Getrenntkosten(getrennt_);
+    Behalten();
+}
+
+std::int64_t Reihen::Wert(const Lagebefund &befund) const {
+    return std::int64_t{befund.Kreuzungen} * gewichte_.Kreuzung + Getrenntkosten(befund.Getrennt) +
+           Verkehrtkosten(befund.Verkehrt) + static_cast<std::int64_t>(befund.Länge * gewichte_.Weite) +
+           std::int64_t{befund.Durchquert} * gewichte_.Verschränkt;
+}
+
 int Reihen::Dazwischen(int ding) const {
     const Ding &d = Das(ding);
     const Spanne spanne = SpanneVon(d);
