@@ -20,6 +20,7 @@ class Orte {
 
   private:
     using Paare = std::vector<std::pair<int, int>>;
+    std::vector<int> Anfang(const Reihen::Folgen &zeilen) const;
     int Abstand(int zeile, int links, int rechts) const;
     int Schritte(double cm) const;
     bool ReihenHalten(const Reihen::Folgen &zeilen, Differenzen &orte) const;
