@@ -176,10 +176,11 @@ std::vector<Reihen::Paar> Reihen::Getrennte() const {
     return paare;
 }
 
-void Reihen::StrengerTrennen(int nochEinGetrennt) {
-    kosten_ -= Getrenntkosten(getrennt_);
+void Reihen::StrengerSein(int nochEinGetrennt, int zuVerkehrt) {
+    kosten_ -= Getrenntkosten(getrennt_) + Verkehrtkosten(verkehrt_);
     gewichte_.NochEinGetrennt = nochEinGetrennt;
-    kosten_ += Getrenntkosten(getrennt_);
+    gewichte_.ZuVerkehrt = zuVerkehrt;
+    kosten_ += Getrenntkosten(getrennt_) + Verkehrtkosten(verkehrt_);
     Behalten();
 }
 

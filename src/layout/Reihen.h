@@ -22,7 +22,7 @@ struct Gewichte {
     int FrauLinks = 3;         ///< a man on the right of a woman
     int Umgestellt = 2;        ///< a pair that the user drew the other way round
     int Weite = 2;             ///< half a place that a child stands beside the middle of its parents
-    int Verschränkt = 2000;    ///< two lines that have to be upright, and change sides
+    int Verschränkt = 9000;    ///< two lines that have to be upright, and change sides
 };
 
 /// The order of everybody in each row, and what it costs. Everything is built of one change: two neighbours change
@@ -58,8 +58,10 @@ class Reihen {
         int Zeile, A, B;
     };
     std::vector<Paar> Getrennte() const;
-    /// From now on each couple apart but one costs that much.
-    void StrengerTrennen(int nochEinGetrennt);
+    /// From now on each couple apart but one costs that much, and each pair of siblings in the wrong order that is too
+    /// many.
+    void StrengerSein(int nochEinGetrennt, int zuVerkehrt);
+    bool ZuVielesFalsch() const { return getrennt_ > 1 || verkehrt_ > wissen_->Wenige; }
     const Gewichte &Wiegt() const { return gewichte_; }
     bool SindPartner(int a, int b) const { return wissen_->Partner[Ort(a, b)] != 0; }
     /// How often has been exchanged: what work is measured by, since clocks differ.

@@ -11,7 +11,9 @@ constexpr int Weitester = 8;   // places that a run is carried in one go
 constexpr int Längster = 4;    // and how many partners it holds
 constexpr int Teuerstes = 350; // what lies between may cost, besides that it parts a couple
 constexpr int Duldsam = 60;    // how much dearer rows may get on the way to cheaper ones
-constexpr int Streng = 2000;   // what each couple apart but one costs at last
+constexpr int TeuersteTrennung = 1150;
+constexpr int Strenge = 3500; // what each couple apart but one costs at last
+constexpr int Ordnung = 300;  // and each pair of siblings in the wrong order that is too many
 
 /// A run of neighbours in hand. It can be carried along its row, and back to where that cost least.
 class Lauf {
@@ -23,7 +25,10 @@ class Lauf {
     }
 
     int Platz() const { return platz_; }
-    bool ZuTeuer() const { return reihen_.Kosten() >= beste_.Kosten + Teuerstes + reihen_.Wiegt().NochEinGetrennt; }
+    bool ZuTeuer() const {
+        const int getrennt = std::min(reihen_.Wiegt().NochEinGetrennt, TeuersteTrennung);
+        return reihen_.Kosten() >= beste_.Kosten + Teuerstes + getrennt;
+    }
 
     void Rücken(bool rechts) {
         Schritt(rechts);
@@ -184,7 +189,8 @@ class Auslese {
         if (beste_.size() == wieviele_ && kosten >= beste_.back().Kosten) return;
         for (const Eine &eine : beste_)
             if (eine.Kosten == kosten && eine.Zeilen == reihen.Zeilen()) return;
-        const auto dahinter = std::find_if(beste_.begin(), beste_.end(), [&](const Eine &e) { return e.Kosten > kosten; });
+        const auto dahinter =
+            std::find_if(beste_.begin(), beste_.end(), [&](const Eine &e) { return e.Kosten > kosten; });
         beste_.insert(dahinter, {kosten, reihen.Zeilen()});
         if (beste_.size() > wieviele_) beste_.pop_back();
     }
@@ -222,9 +228,8 @@ class Rüttler {
         Reihen hier = reihen; // where each try begins; `reihen` holds the best
         for (int i = 0; i < mal; i++) {
             Reihen versuch = hier;
-            for (int stücke = Zusammengebracht(versuch, zusammen) ? zufall_.Unter(3) : 1 + zufall_.Wenig(2); stücke > 0;
-                 stücke--)
-                Stören(versuch);
+            const bool zusammengebracht = Zusammengebracht(versuch, zusammen);
+            for (int k = zusammengebracht ? zufall_.Unter(2) : 1 + zufall_.Wenig(2); k > 0; k--) Stören(versuch);
             unruhe_.Stiften(hier, versuch);
             ReihenSetzenlassen(versuch, unruhe_);
             auslese.Sehen(versuch);
@@ -310,11 +315,11 @@ Reihen::Folgen BesteReihen(const Familiengraph &graph, const Gerüst &gerüst, c
     Rüttler rüttler(gerüst, unruhe, zufall);
     const int mal = std::clamp(11000 / anzahl, 10, 90);
     rüttler.Rütteln(beste, mal, 10, auslese);
-    if (beste.Getrennte().size() > 1) {
-        // A weight that forbids couples apart would have held everybody where they were told, so it comes last.
-        beste.StrengerTrennen(Streng);
+    if (beste.ZuVielesFalsch()) {
+        // Weights that forbid this would have held everybody where they were told, so they come last.
+        beste.StrengerSein(Strenge, Ordnung);
         auslese = leer;
-        rüttler.Rütteln(beste, mal / 2, 80, auslese);
+        rüttler.Rütteln(beste, mal, 90, auslese);
     }
     return auslese.Beste(beste, probe);
 }

@@ -162,8 +162,7 @@ Stückwahl::Stückwahl(const Gerüst &gerüst)
     : gerüst_(gerüst), stücke_(StückeFinden(gerüst)), nächste_(Verwandte(gerüst)) {}
 
 Stück Stückwahl::Irgendeines(Zufall &zufall) const {
-    if (!stücke_.empty() && zufall.Unter(10) < 3)
-        return stücke_[Z(zufall.Unter(static_cast<int>(stücke_.size())))];
+    if (!stücke_.empty() && zufall.Unter(10) < 3) return stücke_[Z(zufall.Unter(static_cast<int>(stücke_.size())))];
     return Klumpen(zufall);
 }
 
