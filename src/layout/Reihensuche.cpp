@@ -13,7 +13,7 @@ constexpr int Teuerstes = 350; // what lies between may cost, besides that it pa
 constexpr int Duldsam = 60;    // how much dearer rows may get on the way to cheaper ones
 constexpr int TeuersteTrennung = 1150;
 constexpr int Strenge = 3500; // what each couple apart but one costs at last
-constexpr int Ordnung = 300;  // and each pair of siblings in the wrong order that is too many
+constexpr int Ordnung = 700;  // and each pair of siblings in the wrong order that is too many
 
 /// A run of neighbours in hand. It can be carried along its row, and back to where that cost least.
 class Lauf {
