@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <initializer_list>
 #include <map>
 #include <tuple>
@@ -40,6 +41,13 @@ std::string Nummernziffern(std::string_view nr) {
 std::string_view Code(std::string_view text, std::initializer_list<std::string_view> mögliche) {
     const auto *const code = std::find(mögliche.begin(), mögliche.end(), text);
     return code == mögliche.end() ? std::string_view() : *code;
+}
+
+/// The symbol's type, a whole number. A file has other codes for some, so the rest of a damaged one must not look like
+/// these.
+std::string Symboltyp(const PersonSatz &person) {
+    const double typ = ZahlLesen(person.Symboltyp());
+    return ZahlSchreiben(typ == std::trunc(typ) ? typ : 0);
 }
 
 /// A, B, ..., Z, AA, AB and so on.
@@ -112,7 +120,7 @@ class Zeitangaben {
 std::string Person(const PersonSatz &person, Zeitangaben &daten) {
     PersonBau neu;
     neu.Nr(Nummernziffern(person.Nr()))
-        .Symboltyp(ZahlSchreiben(ZahlLesen(person.Symboltyp())))
+        .Symboltyp(Symboltyp(person))
         .Ort(person.PosX(), person.PosY())
         .Groesse(person.Groesse())
         .IndexPerson(Code(person.IndexPerson(), {"0", "1", "21"}))

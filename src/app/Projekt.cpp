@@ -92,6 +92,7 @@ void Projekt::Anwenden(Dokument &&neu, bool ganz) {
 /// Before another project comes.
 void Projekt::RingUndAuswahlLeeren() {
     inhalt_.ring.Leeren();
+    stammbaum_.clear();
     umfeld_.anzeige.UndoKnöpfeZeigen();
     umfeld_.abwählen();
     umfeld_.anzeige.MöglichesZeigen();
@@ -196,8 +197,11 @@ bool Projekt::Speichern() {
 }
 
 bool Projekt::SpeichernUnter() {
-    const Dateiwahl wahl{Text(SpeichernTitel), Text(SpeichernName), Text(SpeichernFilter),
-                         umfeld_.benutzer.Desktopordner()};
+    Dateiwahl wahl{Text(SpeichernTitel), Text(SpeichernName), Text(SpeichernFilter), umfeld_.benutzer.Desktopordner()};
+    if (Projektdatei.empty() && !stammbaum_.empty()) {
+        wahl.Vorschlag = NameOhneKennung(DateiName(stammbaum_));
+        wahl.Ordner = Ordner(stammbaum_);
+    }
     const auto datei = ZieldateiWählen(umfeld_.benutzer, wahl, umfeld_.ansicht.Sprache,
                                        {Ersetzungsfrage.Deutsch, "Do you want to replace?"});
     SpeichernAbgebrochen = SpeichernAbgebrochen || !datei;
@@ -267,8 +271,9 @@ bool Projekt::LeereSeite() {
 
 void Projekt::mnuNeu() { LeereSeite(); }
 
-bool Projekt::NeuMit(const Dokument &seite) {
+bool Projekt::NeuMit(const Dokument &seite, const std::string &stammbaum) {
     if (!LeereSeite()) return false;
+    stammbaum_ = stammbaum;
     Dokument &dokument = inhalt_.dokument;
     dokument.Papiercode = seite.Papiercode;
     dokument.Seitenlage = seite.Seitenlage;

@@ -82,8 +82,9 @@ class Projekt {
     /// is sure that the file is there.
     void mnuRecent(int platz);
     /// A new project with the records and the sheet of that page, not saved yet; one step back leads to an empty page.
-    /// False, and nothing changed, when the question about changes is cancelled.
-    bool NeuMit(const Dokument &seite);
+    /// `stammbaum` is the file that it came from: a save proposes its name and folder. False, and nothing changed, when
+    /// the question about changes is cancelled.
+    bool NeuMit(const Dokument &seite, const std::string &stammbaum);
     /// Empties stores and free numbers.
     void DokumentLeeren();
 
@@ -117,6 +118,7 @@ class Projekt {
     Umfeld umfeld_;
     std::string einstellungsDatei_;
     std::optional<Fingerabdruck> herkunft_; ///< of `Projektdatei`, as it was loaded or last saved
+    std::string stammbaum_;                 ///< that a page never saved was made of; else empty
     bool unganz_ = false;                   ///< the file holds more than was read of it
 };
 

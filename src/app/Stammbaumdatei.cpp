@@ -1,6 +1,7 @@
 #include "app/Stammbaumdatei.h"
 
 #include "document/Codepage.h"
+#include "output/Fehlertexte.h"
 
 #include <array>
 #include <memory>
@@ -62,16 +63,36 @@ Archiv Geöffnet(Speicherdatei &datei) {
     return {unzOpen2_64("", &zugriff), &unzClose};
 }
 
-/// Makes it the archive's current file and answers its flags; nothing where there is none.
-std::optional<uLong> ErsterStammbaum(unzFile archiv) {
-    for (int da = unzGoToFirstFile(archiv); da == UNZ_OK; da = unzGoToNextFile(archiv)) {
-        unz_file_info64 auskunft{};
+/// Makes it the archive's current file: that with the name which the format gives it, else the first one.
+Stammbaumfehler StammbaumSuchen(unzFile archiv) {
+    constexpr std::string_view Vorgesehen = "gedcom.ged";
+    std::optional<unz64_file_pos> gefunden;
+    bool vorgesehen = false;
+    int da = unzGoToFirstFile(archiv);
+    for (; da == UNZ_OK && !vorgesehen; da = unzGoToNextFile(archiv)) {
         std::array<char, 4096> name{}; // a longer one is cut
-        if (unzGetCurrentFileInfo64(archiv, &auskunft, name.data(), name.size() - 1, nullptr, 0, nullptr, 0) != UNZ_OK)
-            return {};
-        if (Kleingeschrieben(name.data()).ends_with(".ged")) return auskunft.flag;
+        unz64_file_pos stelle{};
+        if (unzGetCurrentFileInfo64(archiv, nullptr, name.data(), name.size() - 1, nullptr, 0, nullptr, 0) != UNZ_OK ||
+            unzGetFilePos64(archiv, &stelle) != UNZ_OK)
+            return Stammbaumfehler::KeinArchiv;
+        const auto klein = Kleingeschrieben(name.data());
+        vorgesehen = klein == Vorgesehen;
+        if (vorgesehen || (!gefunden && klein.ends_with(".ged"))) gefunden = stelle;
     }
-    return {};
+    if (da != UNZ_OK && da != UNZ_END_OF_LIST_OF_FILE) return Stammbaumfehler::KeinArchiv;
+    if (!gefunden) return Stammbaumfehler::OhneStammbaum;
+    return unzGoToFilePos64(archiv, &*gefunden) == UNZ_OK ? Stammbaumfehler::Keiner : Stammbaumfehler::KeinArchiv;
+}
+
+/// Whether the current file can be unpacked: stored or deflated, and without a password.
+Stammbaumfehler AuspackbarkeitPrüfen(unzFile archiv) {
+    constexpr uLong Verschlüsselt = 1; // the format's general purpose bit 0
+    unz_file_info64 auskunft{};
+    if (unzGetCurrentFileInfo64(archiv, &auskunft, nullptr, 0, nullptr, 0, nullptr, 0) != UNZ_OK)
+        return Stammbaumfehler::KeinArchiv;
+    if (auskunft.flag & Verschlüsselt) return Stammbaumfehler::Verschlüsselt;
+    const bool bekannt = auskunft.compression_method == 0 || auskunft.compression_method == Z_DEFLATED;
+    return bekannt ? Stammbaumfehler::Keiner : Stammbaumfehler::KeinArchiv;
 }
 
 /// Reads the current file until the end: sizes that an archive tells can be lies.
@@ -92,27 +113,27 @@ Stammbaumfehler Auspacken(unzFile archiv, std::size_t höchstens, std::string &b
 }
 
 Stammbaumfehler AusArchiv(const std::string &gepackt, std::size_t höchstens, std::string &bytes) {
-    constexpr uLong verschlüsselt = 1; // the format's general purpose bit 0
     Speicherdatei datei{gepackt};
     const auto archiv = Geöffnet(datei);
     if (!archiv) return Stammbaumfehler::KeinArchiv;
-    const auto merkmale = ErsterStammbaum(archiv.get());
-    if (!merkmale) return Stammbaumfehler::OhneStammbaum;
-    if (*merkmale & verschlüsselt) return Stammbaumfehler::Verschlüsselt;
-    return Auspacken(archiv.get(), höchstens, bytes);
+    auto fehler = StammbaumSuchen(archiv.get());
+    if (fehler == Stammbaumfehler::Keiner) fehler = AuspackbarkeitPrüfen(archiv.get());
+    return fehler == Stammbaumfehler::Keiner ? Auspacken(archiv.get(), höchstens, bytes) : fehler;
 }
 
 } // namespace
 
 std::string Stammbaumbefund::Text(Sprache sprache) const {
     const std::string satz(Sätze[static_cast<std::size_t>(Fehler)].In(sprache));
-    return Meldung.empty() ? satz : satz + ": " + Meldung;
+    if (Fehler != Stammbaumfehler::NichtLesbar) return satz;
+    const std::string grund(Grundtext(Datei.Grund).In(sprache));
+    return satz + ": " + (grund.empty() ? Datei.Meldung : grund);
 }
 
 Stammbaumbefund StammbaumdateiLesen(const std::string &pfad, std::string &bytes, std::size_t höchstens) {
     std::string inhalt;
     const auto gelesen = DateiLesen(pfad, inhalt);
-    if (!gelesen.Gelungen()) return {Stammbaumfehler::NichtLesbar, gelesen.Meldung};
+    if (!gelesen.Gelungen()) return {Stammbaumfehler::NichtLesbar, gelesen};
     if (inhalt.starts_with("PK")) return {AusArchiv(inhalt, höchstens, bytes), {}};
     bytes = std::move(inhalt);
     return {};

@@ -21,7 +21,7 @@ enum class Stammbaumfehler {
 
 struct Stammbaumbefund {
     Stammbaumfehler Fehler = Stammbaumfehler::Keiner;
-    std::string Meldung; ///< of the system, for a file that can't be read
+    Dateibefund Datei; ///< why the file can't be read
     bool Gelungen() const { return Fehler == Stammbaumfehler::Keiner; }
     /// A sentence for the user; empty when nothing failed.
     std::string Text(Sprache sprache) const;

@@ -298,8 +298,8 @@ bool frmMain::OhneNamenExportieren(Lebenszeit zeit) {
     return OhneNamenAusgeben(wege, dokument, ansicht, zeit, projekt.Projektdatei);
 }
 
-bool frmMain::NeuesProjekt(const Dokument &seite) {
-    if (!projekt.NeuMit(seite)) return false;
+bool frmMain::NeuesProjekt(const Dokument &seite, const std::string &quelle) {
+    if (!projekt.NeuMit(seite, quelle)) return false;
     Festhalten();
     return true;
 }

@@ -64,8 +64,8 @@ std::vector<Seitenwunsch> Auswege(const Seitenwunsch &wunsch) {
             if (Sippenwahl wahl = wunsch.Wahl; kürzen(wahl)) hinzu(wahl, kleiner);
     Sippenwahl wahl = wunsch.Wahl;
     for (const auto kürzen : Kürzungen)
-        while (kürzen(wahl)) hinzu(wahl, wunsch.Blatt.Kleiner);
-    hinzu(wahl, true);
+        while (kürzen(wahl))
+            for (const bool kleiner : {wunsch.Blatt.Kleiner, true}) hinzu(wahl, kleiner);
     return auswege;
 }
 

@@ -19,11 +19,11 @@ constexpr Formularzeile Zeilen[] = {
       "Names become letters for the generations, from the top, and numbers, from the left. The project itself stays as "
       "it is."}},
     {"lblGeburt", Art::Beschriftung, {"Statt des Geburtsdatums", "Instead of the date of birth"}},
-    {"optAlter", Art::Option, {"Alter am heutigen Tag", "Age of today"}},
-    {"optJahr", Art::Option, {"Geburtsjahr", "Year of birth"}},
+    {"optAlter", Art::Option, {"&Alter am heutigen Tag", "&Age as of today"}},
+    {"optJahr", Art::Option, {"Geburts&jahr", "&Year of birth"}},
     {"lblFehlt", Art::Beschriftung},
     {"picSeite", Art::Bild},
-    {"cmdOK", Art::Knopf, {"Exportieren ...", "Export ..."}},
+    {"cmdOK", Art::Knopf, {"&Exportieren ...", "&Export ..."}},
     {"cmdAbbrechen", Art::Knopf, {"Abbrechen", "Cancel"}},
 };
 constexpr Formulartafel Tafel{

@@ -267,12 +267,19 @@ void frmStammbaum::MöglichesZeigen() {
     for (std::size_t i = 0; i < std::size(Wegknöpfe); ++i) (*this)[Wegknöpfe[i]].Visible = i < auswege_.size();
 }
 
-/// Tries one that nobody has tried; what takes somebody else away than one that fits is told beside that.
+/// Whether one way out is another one over again, or that with fewer persons and no larger symbols.
+bool frmStammbaum::IstKeinAnderer(const Seitenwunsch &weg, const Seitenwunsch &anderer) const {
+    if (weg.Wahl == anderer.Wahl) return true;
+    return !Angekreuzt("chkKleiner") && weg.Blatt.Kleiner == anderer.Blatt.Kleiner &&
+           weg.Wahl.IstTeilVon(anderer.Wahl);
+}
+
+/// Tries one that nobody has tried.
 void frmStammbaum::AuswegSuchen() {
     while (!offene_.empty() && auswege_.size() < SoVieleAuswege) {
         const Seitenwunsch ausweg = offene_.back();
         offene_.pop_back();
-        if (!auswege_.empty() && auswege_.front().Wahl == ausweg.Wahl) continue;
+        if (!auswege_.empty() && IstKeinAnderer(ausweg, auswege_.front())) continue;
         const Stammbaumseite seite = SeiteAus(vorlage_.Alle(), ausweg, umgebung_.werkbank.picVorschau);
         if (seite.Ausgang == Seitenausgang::Passt) {
             const Sprache sprache = umgebung_.Sprache();
@@ -306,7 +313,7 @@ void frmStammbaum::BerichtZeigen() {
 
 void frmStammbaum::Bestätigen() {
     if (veraltet_) SeiteErmitteln();
-    if (!Passt() || !umgebung_.dienste.NeuesProjekt(seite_.Seite)) return;
+    if (!Passt() || !umgebung_.dienste.NeuesProjekt(seite_.Seite, vorlage_.Datei)) return;
     vorlage_.Bericht = Berichtstext(seite_.Übernommen.Bericht, vorlage_.Baum.Warnliste, umgebung_.Sprache());
     vorlage_.Übernommen = true;
     Schließen();

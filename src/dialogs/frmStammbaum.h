@@ -34,6 +34,7 @@ class frmStammbaum : public Formular {
     void Verzögern();
     void SeiteErmitteln();
     void FragenZeigen();
+    bool IstKeinAnderer(const Seitenwunsch &weg, const Seitenwunsch &anderer) const;
     void AuswegSuchen();
     void AuswegGehen(std::size_t nummer);
     void BerichtZeigen();

@@ -325,7 +325,10 @@ int frmSymbol::Symbolkennzahl() {
 // The ends.
 
 void frmSymbol::Übernehmen() {
-    if (Text("txtAlter").empty()) TextSetzen("txtGeburtsdatum", ""); // an age removed by hand removes the date
+    if (Text("txtAlter").empty()) { // an age removed by hand removes the date, and what was wrong with it
+        TextSetzen("txtGeburtsdatum", "");
+        Das("shpFalsch").Visible = false;
+    }
     if (DatumAblehnen()) return;
     Werkbank &w = umgebung_.werkbank;
     Satzliste &personen = w.dokument.cboPersonen;

@@ -44,7 +44,7 @@ std::string Datumszeile(const Satz &satz, const Knoten &ereignis) {
     const auto *const datum = satz.Erstes(ereignis, "DATE");
     if (!datum) return {};
     const auto worte = Geglättet(satz.Text(*datum, "PHRASE"));
-    return Randlos(datum->Wert).empty() && !worte.empty() ? "(" + worte + ")" : Geglättet(datum->Wert);
+    return Randlos(datum->Wert).empty() && !worte.empty() ? "(" + worte + ")" : Geglättet(EinfacheKlammeraffen(datum->Wert));
 }
 
 std::string Satzdatum(const Stammdatum &datum) {
@@ -67,7 +67,7 @@ std::string Datumstext(std::string_view roh, Sprache sprache) {
         text =
             std::string(Vorworte[static_cast<std::size_t>(datum.Art)].In(sprache)) + Tagestext(datum.Erstes, sprache);
     }
-    return Ersetzt(Ersetzt(text, "#", " "), "_", " ");
+    return Geglättet(MitBlanksFür("#_", text)); // which part the record
 }
 
 } // namespace kw

@@ -62,10 +62,16 @@ std::string EinfacheKlammeraffen(std::string_view text) {
     return einfach;
 }
 
+std::string MitBlanksFür(std::string_view zeichen, std::string_view text) {
+    std::string mit(text);
+    for (char &c : mit)
+        if (static_cast<unsigned char>(c) < ' ' || c == '\x7F' || zeichen.find(c) != std::string_view::npos) c = ' ';
+    return mit;
+}
+
 std::string Geglättet(std::string_view text) {
-    const std::string einfach = EinfacheKlammeraffen(text);
     std::string glatt;
-    for (auto rest = Randlos(einfach); !rest.empty();) {
+    for (auto rest = Randlos(text); !rest.empty();) {
         const auto blank = LeerraumVorn(rest);
         if (blank == 0) glatt += rest[0];
         else if (!glatt.ends_with(' ')) glatt += ' ';

@@ -19,7 +19,10 @@ bool IstGeglättet(std::string_view text);
 /// `text` with one "@" for two, as the format doubles them.
 std::string EinfacheKlammeraffen(std::string_view text);
 
-/// One line of it: single spaces, none around it, and one "@" for two.
+/// `text` with a blank for each of `zeichen` and for what steers a terminal or a printer.
+std::string MitBlanksFür(std::string_view zeichen, std::string_view text);
+
+/// One line of it: single spaces, none around it.
 std::string Geglättet(std::string_view text);
 
 } // namespace kw

@@ -116,13 +116,8 @@ void Übertragung::Totgeburt(const Familienrolle &rolle) {
 }
 
 std::string Übertragung::Name(std::string_view name) {
-    std::string neu;
-    for (const char c : name) {
-        // The record is parted by "_"; what steers a terminal or a printer is no letter.
-        const bool steuert = static_cast<unsigned char>(c) < ' ' || c == '\x7F';
-        neu += c == '_' || steuert ? ' ' : c;
-    }
-    neu = Geglättet(UnzerteilterAnfang(neu, HöchsteNamenslänge));
+    // The record is parted by "_".
+    const auto neu = Geglättet(UnzerteilterAnfang(MitBlanksFür("_", name), HöchsteNamenslänge));
     if (neu != name) Melden(Befundart::NameGeändert, Zeile("NAME"), name);
     return neu;
 }

@@ -65,12 +65,21 @@ std::string Lebensjahre(const Stammperson &person) {
     return tod > 0 ? ", † " + std::to_string(tod) : "";
 }
 
-/// Names without the file's own name for the person.
+/// Whether a name has letters that run to the left: of Hebrew, Arabic and their neighbours, U+0590 to U+08FF.
+bool LäuftNachLinks(std::string_view name) {
+    return std::any_of(name.begin(), name.end(), [](char c) {
+        const auto byte = static_cast<unsigned char>(c); // the first of a character says its range
+        return byte >= 0xD6 && byte <= 0xE0;
+    });
+}
+
+/// Names without the file's own name for the person; set apart where years behind it would go before it.
 std::string Rufname(const Stammperson &person) {
     Stammperson ohneKennung;
     ohneKennung.Vorname = person.Vorname;
     ohneKennung.Nachname = person.Nachname;
-    return Anzeigename(ohneKennung);
+    const auto name = Anzeigename(ohneKennung);
+    return LäuftNachLinks(name) ? "\u2068" + name + "\u2069" : name;
 }
 
 /// What somebody of that sex is to others; the last one for those of whom the file says nothing.

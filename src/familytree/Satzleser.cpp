@@ -95,6 +95,7 @@ bool Satzleser::Gelesen(std::string_view roh, Zeile &zeile) const {
     zeile.Marke = Vorderes(roh, IstMarkenzeichen);
     if (zeile.Marke.empty() || (!roh.empty() && !IstBlank(roh[0]))) return false;
     zeile.Wert = roh.empty() ? roh : roh.substr(1);
+    if (nurErstesVerdoppelt_ && zeile.Wert.starts_with("@@")) zeile.Wert.remove_prefix(1);
     for (char *c = text_ + (zeile.Marke.data() - text_), *ende = c + zeile.Marke.size(); c != ende; ++c)
         if (*c >= 'a' && *c <= 'z') *c = static_cast<char>(*c - 'a' + 'A');
     return true;

@@ -68,6 +68,9 @@ class Satzleser {
     Satzleser(std::string &text, const Satzort &ort)
         : text_(text.data()), stelle_(ort.Anfang), ende_(ort.Ende), zeile_(ort.Zeile - 1) {}
 
+    /// From here on only an "@" that begins a value is doubled, and comes as one. Without it values come as they stand.
+    void NurErstesVerdoppelt(bool so) { nurErstesVerdoppelt_ = so; }
+
     /// The next record; false when there is none. What it finds wrong goes to `warnungen`.
     bool Nächster(Satz &satz, Warnungen &warnungen);
 
@@ -87,6 +90,7 @@ class Satzleser {
     std::size_t ende_;
     std::size_t zeilenanfang_ = 0;
     std::uint32_t zeile_ = 0;
+    bool nurErstesVerdoppelt_ = false;
     std::vector<std::uint32_t> stapel_; ///< the lines that what comes may lie in, their levels rising
 };
 

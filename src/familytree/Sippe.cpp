@@ -70,6 +70,13 @@ class Sammler {
 
 } // namespace
 
+bool Sippenwahl::IstTeilVon(const Sippenwahl &andere) const {
+    constexpr bool Sippenwahl::*Alle[] = {&Sippenwahl::Geschwister, &Sippenwahl::TantenOnkel, &Sippenwahl::Cousins,
+                                          &Sippenwahl::NichtenNeffen, &Sippenwahl::Partner};
+    return Hinauf <= andere.Hinauf && Hinunter <= andere.Hinunter &&
+           std::all_of(std::begin(Alle), std::end(Alle), [&](auto wer) { return this->*wer <= andere.*wer; });
+}
+
 std::vector<std::uint32_t> Sippe(Sippschaft alle, std::uint32_t proband, const Sippenwahl &wahl,
                                  bool adoptionVorGeburt) {
     Sammler sammler(alle, adoptionVorGeburt);

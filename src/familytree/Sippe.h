@@ -18,6 +18,8 @@ struct Sippenwahl {
     bool NichtenNeffen = false; ///< descendants of brothers and sisters, as far down as the proband's own
     bool Partner = true;        ///< of all these
     bool operator==(const Sippenwahl &) const = default;
+    /// Whether it takes nobody that `andere` doesn't take.
+    bool IstTeilVon(const Sippenwahl &andere) const;
 };
 
 /// A family tree, and who belongs to whom in it.

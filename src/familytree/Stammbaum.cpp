@@ -30,7 +30,9 @@ const Stammfamilie *Stammbaum::Familie(std::string_view kennung) const {
 Satz Stammbaum::Zeilen(const Satzort &ort) const {
     Satz satz;
     Warnungen schonGemeldet;
-    Satzleser(*text_, ort).Nächster(satz, schonGemeldet);
+    Satzleser leser(*text_, ort);
+    leser.NurErstesVerdoppelt(Kopf.IstNeu());
+    leser.Nächster(satz, schonGemeldet);
     return satz;
 }
 

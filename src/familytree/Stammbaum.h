@@ -94,6 +94,9 @@ struct Dateikopf {
     std::string_view Zeilenenden;
     std::string Quelle;      ///< the program that wrote it
     std::string Hauptperson; ///< the person whose tree it is, if the file tells
+
+    /// Whether the format is the one that doubles only an "@" that begins a value; the older ones double each.
+    bool IstNeu() const { return Fassung.starts_with('7'); }
 };
 
 /// A file, whole. The texts of the facts point into it, so it is moved and not copied.

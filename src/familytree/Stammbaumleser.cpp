@@ -85,7 +85,10 @@ Stammbaum Stammbaumleser::Lesen(std::string bytes) {
     baum_.text_ = std::make_unique<std::string>(std::move(datei.Text));
     baum_.personen_.reserve(baum_.text_->size() / SatzlängeMindestens);
     Satzleser leser(*baum_.text_);
-    for (Satz satz; leser.Nächster(satz, baum_.Warnliste);) Aufnehmen(satz);
+    for (Satz satz; leser.Nächster(satz, baum_.Warnliste);) {
+        Aufnehmen(satz);
+        leser.NurErstesVerdoppelt(baum_.Kopf.IstNeu());
+    }
     for (const auto &befund : befunde_.Liste()) baum_.Warnliste.Hinzu(befund);
     Verknüpfen();
     return std::move(baum_);
@@ -118,8 +121,9 @@ std::string_view Stammbaumleser::Behalten(std::string_view text) {
 
 std::string_view Stammbaumleser::Glatt(std::string_view text) {
     text = Randlos(text);
-    if (text.find("@@") == std::string_view::npos && IstGeglättet(text)) return Behalten(text);
-    return baum_.lager_.Aufnehmen(Geglättet(text));
+    const bool doppelt = !baum_.Kopf.IstNeu() && text.find("@@") != std::string_view::npos;
+    if (!doppelt && IstGeglättet(text)) return Behalten(text);
+    return baum_.lager_.Aufnehmen(Geglättet(doppelt ? EinfacheKlammeraffen(text) : std::string(text)));
 }
 
 std::string_view Stammbaumleser::Klein(std::string_view text) {

@@ -142,6 +142,13 @@ void Übergeber::GeburtSchreiben(const PersonSatz &satz, bool totgeboren) {
     DatumSchreiben(2, datum);
 }
 
+/// Whether a text is a number of years, of up to three digits, and no date.
+bool IstAlter(std::string_view text) {
+    constexpr double Höchstes = 999;
+    return text.find_first_not_of("0123456789.") == std::string_view::npos && text[0] != '.' &&
+           std::count(text.begin(), text.end(), '.') <= 1 && ZahlLesen(text) <= Höchstes;
+}
+
 void Übergeber::TodSchreiben(const PersonSatz &satz, bool totgeboren) {
     if (!satz.Verstorben() && !totgeboren) return;
     datei_.Zeile(1, "DEAT", "Y");
@@ -152,9 +159,12 @@ void Übergeber::TodSchreiben(const PersonSatz &satz, bool totgeboren) {
     }
     const auto alter = Getrimmt(satz.Sterbealter().substr(1));
     if (alter.empty()) return;
-    constexpr double Höchstes = 999; // years have three digits
+    if (!IstAlter(alter)) {
+        const auto datum = GeburtAlsAngabe(alter, uhr_); // the field takes dates too
+        if (datum.Datum.empty()) return Zählen(Übergabeverlust::Sterbealter);
+        return DatumSchreiben(2, datum);
+    }
     const double jahre = ZahlLesen(alter);
-    if (alter[0] < '0' || alter[0] > '9' || jahre > Höchstes) return Zählen(Übergabeverlust::Sterbealter);
     const double ganze = std::floor(jahre);
     const int monate = static_cast<int>(OhneRauschen((jahre - ganze) * 12));
     datei_.Zeile(2, "AGE",

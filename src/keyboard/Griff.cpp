@@ -189,6 +189,9 @@ void Öffnen(Werkbank &w, Element element) {
 
 void KontextmenüÖffnen(Werkbank &w, std::optional<Element> element) {
     if (!element) {
+        const auto &rahmen = w.auflagen.shpBox;
+        if (w.lage.Aktion == Aktion::GruppeGewählt)
+            return RahmenFassen(w, {TasteRechts, rahmen.Left + rahmen.Width / 2, rahmen.Top + rahmen.Height / 2});
         const Ereignis rechts{TasteRechts, w.ansicht.SeitenBreite / 2, w.ansicht.SeitenHöhe / 2};
         w.lage.MausX = rechts.X;
         w.lage.MausY = rechts.Y;

@@ -111,12 +111,15 @@ void Druckwerk::TextDrucken(const std::string &titel, const std::string &text) {
     const Papier &papier = PapierMit(DinA4);
     const int lage = drucker_.Orientation(); // the page's, which forms show
     const auto blätter = Textblätter(text);
-    for (size_t i = 0; i < blätter.size(); ++i) {
-        const std::string kopf =
-            blätter.size() == 1 ? titel : titel + ", " + std::to_string(i + 1) + "/" + std::to_string(blätter.size());
-        const auto zeichnen = [&](Zeichenfläche &f) { TextblattZeichnen(f, kopf, blätter[i]); };
-        if (!Drucken({kopf, false, papier.Breite, papier.Höhe, zeichnen, {}}, 1, {})) break;
-    }
+    std::vector<std::function<void(Zeichenfläche &)>> zeichnen;
+    for (std::size_t i = 0; i < blätter.size(); ++i)
+        zeichnen.emplace_back([&, i](Zeichenfläche &f) {
+            const std::string nummer = std::to_string(i + 1) + "/" + std::to_string(blätter.size());
+            TextblattZeichnen(f, blätter.size() == 1 ? titel : titel + ", " + nummer, blätter[i]);
+        });
+    Druckauftrag auftrag{titel, false, papier.Breite, papier.Höhe, zeichnen.front(), {}};
+    auftrag.WeitereBlätter.assign(zeichnen.begin() + 1, zeichnen.end());
+    Drucken(auftrag, 1, {});
     drucker_.OrientationSetzen(lage);
 }
 

@@ -14,17 +14,26 @@ namespace kw {
 namespace {
 
 constexpr Zweisprachig Zieltitel{"Bericht speichern unter", "Save Report As"};
-constexpr std::size_t Zeilenlänge = 100; ///< characters: 9 points of it stay on the narrowest sheet's 19 cm
+constexpr double Zeilenlänge = 59; ///< font sizes: 9 points of it stay on the narrowest sheet's 19 cm
 constexpr std::size_t Blattlänge = 56;   ///< lines
 constexpr double Schriftgrad = 9;
 constexpr double Zeilenhöhe = 0.44; ///< cm
 constexpr double Rand = 1;
 
-/// Bytes of the first `zeichen` characters, less those behind the last blank of a longer text.
-std::size_t Umbruchstelle(std::string_view text, std::size_t zeichen) {
+/// Of a character by its first byte, in font sizes; none of the usual fonts' is wider.
+double Zeichenbreite(char erstes) {
+    if (IstFortsetzung(erstes)) return 0;
+    const auto byte = static_cast<unsigned char>(erstes);
+    if (byte >= 0xE1) return 1; // scripts of whole squares
+    if (byte >= 0x80 || (byte >= 'A' && byte <= 'Z')) return std::string_view("MW").find(erstes) < 2 ? 0.95 : 0.75;
+    return std::string_view("mw@%").find(erstes) == std::string_view::npos ? 0.56 : 1;
+}
+
+/// Bytes of what stays on a line, less those behind the last blank of a longer text.
+std::size_t Umbruchstelle(std::string_view text) {
     std::size_t i = 0;
-    for (; i < text.size(); ++i)
-        if (!IstFortsetzung(text[i]) && zeichen-- == 0) break;
+    for (double platz = Zeilenlänge; i < text.size(); ++i)
+        if ((platz -= Zeichenbreite(text[i])) < 0 && !IstFortsetzung(text[i])) break;
     if (i == text.size()) return i;
     const std::size_t lücke = text.substr(0, i).rfind(' ');
     return lücke == std::string_view::npos || lücke < i / 2 ? i : lücke + 1;
@@ -50,7 +59,7 @@ std::vector<std::vector<std::string>> Textblätter(const std::string &text) {
         const std::size_t ende = std::min(text.find('\n', i), text.size());
         std::string_view rest = std::string_view(text).substr(i, ende - i);
         do {
-            const std::size_t stück = Umbruchstelle(rest, Zeilenlänge);
+            const std::size_t stück = Umbruchstelle(rest);
             zeile(rest.substr(0, stück));
             rest.remove_prefix(stück);
         } while (!rest.empty());

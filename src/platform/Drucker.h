@@ -30,7 +30,7 @@ struct Druckervorgabe {
 
 class Zeichenfläche;
 
-/// One job: one sheet.
+/// One job.
 struct Druckauftrag {
     std::string Titel;
     bool Farbig = true;
@@ -41,6 +41,8 @@ struct Druckauftrag {
     /// Asks for the file, where the printer writes one; nothing when the user gives up.
     std::function<std::optional<std::string>()> Zieldatei;
     bool OhneZeit = false; ///< a file doesn't say when it was made
+    /// Further sheets of the same size, each drawn like the first; a picture has none.
+    std::vector<std::function<void(Zeichenfläche &)>> WeitereBlätter = {};
 };
 
 /// How a job ended, as far as it is told: a printer that fails later, on its paper, says nothing.

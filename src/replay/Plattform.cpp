@@ -130,6 +130,7 @@ Druckbefund DrehbuchDrucker::Drucken(const Druckauftrag &auftrag) {
     if (störung == "job") return {NichtAngenommen, {}, *name};
     Aufzeichnung papier;
     auftrag.Zeichnen(papier);
+    for (const auto &zeichnen : auftrag.WeitereBlätter) zeichnen(papier);
     if (störung == "pdf") {
         const auto ziel = auftrag.Zieldatei();
         if (!ziel) return {Aufgegeben};

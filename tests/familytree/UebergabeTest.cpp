@@ -2,6 +2,8 @@
 
 #include "Umschrift.h"
 #include "familytree/Datumsschrift.h"
+#include "familytree/Uebernahme.h"
+#include "familytree/Verwandtschaft.h"
 
 #include <gtest/gtest.h>
 
@@ -205,6 +207,34 @@ TEST(Uebergabe, BeschädigteSätzeWerdenSoWeitGelesenWieSieGehen) {
         EXPECT_EQ(baum.Familien[0].Partner.size(), 1U);
         EXPECT_EQ(baum.Familien[0].Kinder.size(), 1U);
         EXPECT_EQ(ü.Bericht.Anzahl(Übergabeverlust::Sterbealter), 1U);
+    }
+}
+
+TEST(Uebergabe, WannJemandGestorbenIstIstAlterOderDatum) {
+    Dokument d;
+    for (const std::string gestorben : {"$82", "$7.5", "$15.08.1999", "$1999", "$bald"})
+        d.cboPersonen.Anhängen("00" + std::to_string(d.cboPersonen.Anzahl() + 1) + "_1_5_9_1.2_0_" + gestorben + "_0_0_A___");
+    const auto ü = Geschrieben(d, {});
+    const auto baum = StammbaumLesen(ü.Text);
+    const std::pair<std::string_view, std::string_view> erwartet[] = {
+        {"82y", "Y"}, {"7y 6m", "Y"}, {"", "15 AUG 1999"}, {"", "1999"}, {"", "Y"}};
+    for (std::size_t i = 0; i < std::size(erwartet); ++i) {
+        EXPECT_EQ(baum.Personen[i].Sterbealter, erwartet[i].first);
+        EXPECT_EQ(baum.Personen[i].Tod, erwartet[i].second);
+    }
+    EXPECT_EQ(ü.Bericht.Anzahl(Übergabeverlust::Sterbealter), 1U);
+}
+
+TEST(Uebergabe, DoppelteZeichenKommenDoppeltZurück) {
+    Dokument d;
+    d.cboPersonen.Anhängen("001_1_5_9_1.2_0__0_0_a@@b @c_@@@x@@__");
+    for (const auto fassung : BeideFassungen) {
+        const auto baum = StammbaumLesen(Geschrieben(d, {fassung, false, false}).Text);
+        ASSERT_EQ(baum.Personen.size(), 1U);
+        EXPECT_EQ(baum.Personen[0].Vorname, "a@@b @c");
+        EXPECT_EQ(baum.Personen[0].Nachname, "@@@x@@");
+        std::vector<std::uint32_t> alle{0};
+        EXPECT_EQ(Übertragen(baum, Verwandtschaft(baum), alle, {}).Personen[0].Angaben.Nachname, "@@@x@@");
     }
 }
 

@@ -132,7 +132,7 @@ TEST(Uebernahme, DerStandEinesPaaresUndSeineDaten) {
         {"1 MARR N\n", "0", 2, ""},
         {"1 MARR\n2 DATE 12 JUN 1984\n1 DIV N\n", "2", 2, "12.06.1984"},
         {"1 MARR\n2 DATE ABT 1890\n1 DIV\n2 DATE JUN 1899\n", "3", 2, "um 1890"},
-        {"1 MARR\n1 ANUL\n2 DATE (vor_Ort #3)\n", "3", 3, "vor Ort  3"},
+        {"1 MARR\n1 ANUL\n2 DATE (vor_Ort #3)\n", "3", 3, "vor Ort 3"},
         {"1 MARR\n1 EVEN\n2 TYPE Separated\n2 DATE BET 1890 AND 1895\n", "1", 1, "1890-1895"},
         {"1 MARR\n1 DIVF\n", "1", 1, ""},
         {"1 MARR\n2 TYPE Civil\n", "2", 2, ""},

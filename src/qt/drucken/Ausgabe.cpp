@@ -192,6 +192,10 @@ bool SeiteDrucken(const Druckauftrag &seite, QPaintDevice &gerät, double gerät
     // Viewers show an SVG on whatever ground they have themselves, dark ones too.
     if (gerät.paintEngine()->type() == QPaintEngine::SVG) papier.Cls();
     seite.Zeichnen(papier);
+    for (const auto &zeichnen : seite.WeitereBlätter) {
+        if (!papier.NeuesBlatt()) return false;
+        zeichnen(papier);
+    }
     return papier.Beenden();
 }
 

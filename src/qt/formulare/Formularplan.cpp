@@ -250,12 +250,9 @@ constexpr Baustein Stammbaumexport[] = {
 
 constexpr Baustein OhneNamen[] = {
     Feld("lblErklärung").AlsAbsatz(60),
-    Reihe(Abstand),
     Feld("lblGeburt"),
     Feld("optAlter"),
     Feld("optJahr"),
-    Rest,
-    Ende,
     Feld("lblFehlt").AlsAbsatz(60),
     Feld("picSeite").InDerMitte(),
 };

@@ -20,11 +20,15 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QStyledItemDelegate>
 #include <QTextDocument>
 #include <QTextEdit>
+#include <QTextLayout>
 #include <QTextOption>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace kw {
@@ -80,9 +84,34 @@ class StillesListenfeld : public QListWidget {
     }
 };
 
+/// As high as its lines are: fonts of other scripts have taller ones than the list's own, and what has no room is cut.
+class Zeilenmaß : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &wie, const QModelIndex &stelle) const override {
+        const auto *liste = qobject_cast<const QListWidget *>(wie.widget);
+        QSize größe = QStyledItemDelegate::sizeHint(wie, stelle);
+        if (!liste) return größe;
+        const int rand = liste->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, &wie, liste) + 1;
+        QTextLayout text(stelle.data().toString(), liste->font());
+        double höhe = 0;
+        text.beginLayout();
+        for (auto zeile = text.createLine(); zeile.isValid(); zeile = text.createLine()) {
+            zeile.setLineWidth(liste->viewport()->width() - 2 * rand);
+            höhe += std::ceil(zeile.height());
+        }
+        text.endLayout();
+        größe.setHeight(std::max(größe.height(), static_cast<int>(höhe)));
+        return größe;
+    }
+};
+
 QWidget *ListenfeldBauen(const std::string &name, const Formularmelder &melder, QWidget *eltern) {
     auto *liste = new StillesListenfeld(eltern);
     liste->setWordWrap(true); // what a line ends with counts as much as its beginning
+    liste->setTextElideMode(Qt::ElideNone);
+    liste->setItemDelegate(new Zeilenmaß(liste));
     liste->setResizeMode(QListView::Adjust);
     liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     QObject::connect(liste, &QListWidget::currentRowChanged, liste, [=](int index) { melder.Gewählt(name, index); });
@@ -231,6 +260,18 @@ QWidget *TeilBauen(Formular &form, const std::string &name, const Formularmelder
     return nullptr;
 }
 
+/// In lines: a button doesn't break its caption by itself: one of many words makes a form wider than the screen.
+QString Umbrochen(QString text) {
+    constexpr qsizetype Zeilenlänge = 60;
+    for (qsizetype anfang = 0; text.size() - anfang > Zeilenlänge; ++anfang) {
+        const auto blank = text.lastIndexOf(QLatin1Char(' '), anfang + Zeilenlänge);
+        if (blank <= anfang) break;
+        text[blank] = QLatin1Char('\n');
+        anfang = blank;
+    }
+    return text;
+}
+
 void TeilZeigen(QWidget &teil, const Steuerelement &element) {
     const QSignalBlocker still(teil);
     teil.setEnabled(element.Enabled);
@@ -240,7 +281,7 @@ void TeilZeigen(QWidget &teil, const Steuerelement &element) {
     if (schrift.resolveMask() != 0 && teil.font() != schrift) teil.setFont(schrift);
     if (IstEingabe(element.Kind)) teil.setPalette(FarbenVon(element));
     if (auto *knopf = dynamic_cast<QAbstractButton *>(&teil)) {
-        knopf->setText(Text(element.Caption));
+        knopf->setText(qobject_cast<QPushButton *>(knopf) ? Umbrochen(Text(element.Caption)) : Text(element.Caption));
         if (knopf->isCheckable()) knopf->setChecked(element.Value);
     }
     if (auto *knopf = dynamic_cast<Zeichenknopf *>(&teil)) knopf->AusrichtungZeigen(element.Alignment);

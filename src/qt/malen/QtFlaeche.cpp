@@ -2,6 +2,7 @@
 
 #include "qt/grund/Text.h"
 
+#include <QPagedPaintDevice>
 #include <QPaintEngine>
 #include <QPainterPath>
 #include <QPolygonF>
@@ -78,6 +79,11 @@ bool QtFläche::Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJ
     schrift_ = 0;
     stifte_.clear();
     return true;
+}
+
+bool QtFläche::NeuesBlatt() {
+    auto *blätter = dynamic_cast<QPagedPaintDevice *>(maler_.device());
+    return blätter && blätter->newPage();
 }
 
 bool QtFläche::Beenden() { return !maler_.isActive() || maler_.end(); }

@@ -27,6 +27,8 @@ class QtFläche : public Zeichenfläche {
     /// On a picture lines of the axes keep to the grid of its pixels, so that they are sharp, and no line is
     /// thinner than a pixel. `aufGerät` puts the page elsewhere than into the device's corner.
     bool Beginnen(QPaintDevice &gerät, double geräteJeCm, double pixelJeCm, const QTransform &aufGerät = {});
+    /// Goes on on the next sheet. False where the device has none, or reports a failure.
+    bool NeuesBlatt();
     /// Ends painting; false when the device reports a failure.
     bool Beenden();
     /// For a screen, before `Beginnen`: lines are also a whole number of device pixels wide.
