@@ -184,9 +184,18 @@ void Reihen::StrengerSein(int nochEinGetrennt, int zuVerkehrt) {
     Behalten();
 }
 
+/// What it costs who stands left of whom, but for siblings.
+std::int64_t Reihen::Vorlieben() const {
+    std::int64_t summe = 0;
+    for (const std::vector<int> &zeile : zeilen_)
+        for (std::size_t i = 0; i < zeile.size(); i++)
+            for (std::size_t j = 0; j < i; j++) summe += std::max(wissen_->Vorzüge[Ort(zeile[j], zeile[i])].Kosten, 0);
+    return summe;
+}
+
 std::int64_t Reihen::Wert(const Lagebefund &befund) const {
     return std::int64_t{befund.Kreuzungen} * gewichte_.Kreuzung + Getrenntkosten(befund.Getrennt) +
-           Verkehrtkosten(befund.Verkehrt) + static_cast<std::int64_t>(befund.Länge * gewichte_.Weite) +
+           Verkehrtkosten(befund.Verkehrt) + Vorlieben() + static_cast<std::int64_t>(befund.Länge * gewichte_.Weite) +
            std::int64_t{befund.Durchquert} * gewichte_.Verschränkt;
 }
 

@@ -153,6 +153,7 @@ class Reihen {
     int DazwischenGelten(int ding, int anzahl);
     int Trennung(int zeile, int ende, int anderer, bool andererRechts);
     int Dazwischen(int ding) const;
+    std::int64_t Vorlieben() const;
     std::int64_t Neuberechnet();
     int Einzelkosten(int ding);
 

@@ -195,11 +195,12 @@ class Auslese {
         if (beste_.size() > wieviele_) beste_.pop_back();
     }
     /// Of these the one that is best when it is drawn.
-    Reihen::Folgen Beste(const Reihen &maß, const Probe &probe) const {
+    Reihen::Folgen Beste(Reihen maß, const Probe &probe) const {
         if (beste_.size() == 1) return beste_.front().Zeilen;
         std::size_t beste = 0;
         std::int64_t wenigstes = std::numeric_limits<std::int64_t>::max();
         for (std::size_t i = 0; i < beste_.size(); i++) {
+            maß.Setzen(beste_[i].Zeilen);
             const std::int64_t wert = maß.Wert(probe(beste_[i].Zeilen));
             if (wert >= wenigstes) continue;
             wenigstes = wert;
