@@ -87,12 +87,16 @@ Lagebefund Befinden(const Gerüst &gerüst, const Zeichnung &zeichnung, const Ab
                                          std::abs(personen[i].X - personen[j].X) < Tausendstel(abstände.Personen)
                                      ? 1
                                      : 0;
+    std::int64_t länge = 0;
     for (const Strecke &s : linien) {
-        befund.Länge += std::hypot(static_cast<double>(s.A.X - s.B.X), static_cast<double>(s.A.Y - s.B.Y)) / 1000;
+        const std::int64_t x = s.A.X - s.B.X;
+        const std::int64_t y = s.A.Y - s.B.Y;
+        länge += std::llround(std::sqrt(static_cast<double>(x * x + y * y))); // exact, unlike std::hypot
         for (std::size_t i = 0; i < personen.size(); i++)
             if (Durchquert(s, personen[i], halb) && !Gehört(gerüst.Familien[Z(s.Familie)], static_cast<int>(i)))
                 befund.Durchquert++;
     }
+    befund.Länge = static_cast<double>(länge) / 1000;
     const Kreuzungszahl kreuzungen = KreuzungenZählen(linien);
     befund.Kreuzungen = kreuzungen.Alle;
     befund.Störende = kreuzungen.Störende();

@@ -45,7 +45,7 @@ std::int64_t Differenzen::Wert(const Kostenglied &glied, std::int64_t differenz)
 }
 
 bool Differenzen::Kleinste(std::vector<int> &x) const {
-    x.assign(Z(anzahl_), 0);
+    x.resize(Z(anzahl_), 0);
     for (int runde = 0; runde <= anzahl_; runde++) {
         bool ruhig = true;
         for (const Schranke &s : schranken_)
@@ -64,21 +64,33 @@ std::int64_t Differenzen::Summe(const std::vector<int> &x) const {
     return summe;
 }
 
-/// One step by `weite`, upwards or, below 0, downwards; whether it paid.
-bool Differenzen::Schritt(std::vector<int> &x, int weite) const {
+bool Differenzen::Zusammen(const Kostenglied &a, const Kostenglied &b) {
+    return std::minmax(a.A, a.B) == std::minmax(b.A, b.B);
+}
+
+/// One step by `weite`, upwards or, below 0, downwards; whether it paid. What two cost each other stands together in
+/// `glieder`.
+bool Differenzen::Schritt(std::vector<int> &x, int weite, const std::vector<Kostenglied> &glieder) const {
     Schnitt schnitt(anzahl_);
     for (const Schranke &s : schranken_) {
         const bool drückt = x[Z(s.B)] - x[Z(s.A)] - std::abs(weite) < s.Abstand;
         if (drückt) schnitt.Paar(weite > 0 ? s.A : s.B, weite > 0 ? s.B : s.A, Schnitt::Verboten);
     }
-    for (const Kostenglied &glied : kosten_) {
-        const std::int64_t d = x[Z(glied.B)] - x[Z(glied.A)];
-        const std::int64_t jetzt = Wert(glied, d);
-        const std::int64_t nurB = Wert(glied, d + weite) - jetzt;
-        const std::int64_t nurA = Wert(glied, d - weite) - jetzt;
-        schnitt.Knoten(glied.B, nurB);
-        schnitt.Knoten(glied.A, -nurB);
-        schnitt.Paar(glied.A, glied.B, nurA + nurB);
+    for (std::size_t i = 0; i < glieder.size();) {
+        const Kostenglied &erstes = glieder[i];
+        std::int64_t hin = 0;
+        std::int64_t zurück = 0;
+        for (; i < glieder.size() && Zusammen(erstes, glieder[i]); i++) {
+            const Kostenglied &glied = glieder[i];
+            const std::int64_t d = x[Z(glied.B)] - x[Z(glied.A)];
+            const std::int64_t jetzt = Wert(glied, d);
+            const std::int64_t nurB = Wert(glied, d + weite) - jetzt;
+            const std::int64_t nurA = Wert(glied, d - weite) - jetzt;
+            schnitt.Knoten(glied.B, nurB);
+            schnitt.Knoten(glied.A, -nurB);
+            (glied.A == erstes.A ? hin : zurück) += nurA + nurB;
+        }
+        schnitt.Paar(erstes.A, erstes.B, hin, zurück);
     }
     const std::vector<char> menge = schnitt.Menge();
     for (std::size_t i = 0; i < menge.size(); i++)
@@ -86,16 +98,20 @@ bool Differenzen::Schritt(std::vector<int> &x, int weite) const {
     return !menge.empty();
 }
 
-void Differenzen::Lösen(std::vector<int> &x, int schritt) const {
+void Differenzen::Lösen(std::vector<int> &x, int schritt, int letzter) const {
+    std::vector<Kostenglied> glieder = kosten_;
+    std::stable_sort(glieder.begin(), glieder.end(), [](const Kostenglied &a, const Kostenglied &b) {
+        return std::minmax(a.A, a.B) < std::minmax(b.A, b.B);
+    });
     const auto [kleinste, größte] = std::minmax_element(x.begin(), x.end());
     const int breite = x.empty() ? 0 : *größte - *kleinste;
-    while (schritt < breite / 8) schritt *= 2; // a broad one would take many steps
-    for (int weite = schritt; weite > 0; weite /= 2) {
+    while (schritt < breite / 64) schritt *= 2; // a broad one would take many steps
+    for (int weite = schritt; weite >= std::max(letzter, 1); weite /= 2) {
         int vergeblich = 0;
         for (int richtung = weite; vergeblich < 2; richtung = -richtung) {
-            if (Schritt(x, richtung)) {
+            if (Schritt(x, richtung, glieder)) {
                 vergeblich = 0;
-                while (Schritt(x, richtung)) {
+                while (Schritt(x, richtung, glieder)) {
                 }
             }
             vergeblich++;

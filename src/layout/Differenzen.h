@@ -25,10 +25,12 @@ class Differenzen {
     /// `gewicht` times what x[b] - x[a] - ruhe costs.
     void Kosten(Kostenart art, int a, int b, int ruhe, std::int64_t gewicht, int höhe = 0);
 
-    /// The least values that keep the bounds, all >= 0; false when no values do.
+    /// The least values that keep the bounds, all >= 0 and none below where it is in `x` already; false when no values
+    /// do.
     bool Kleinste(std::vector<int> &x) const;
-    /// Betters `x`, which keeps the bounds, as far as it goes; the first steps are at most `schritt`.
-    void Lösen(std::vector<int> &x, int schritt) const;
+    /// Betters `x`, which keeps the bounds, as far as it goes; the first steps are at most `schritt`, the last ones
+    /// at least `letzter`: 1 finds the least sum.
+    void Lösen(std::vector<int> &x, int schritt, int letzter = 1) const;
     std::int64_t Summe(const std::vector<int> &x) const;
 
   private:
@@ -41,7 +43,8 @@ class Differenzen {
         std::int64_t Gewicht;
     };
     static std::int64_t Wert(const Kostenglied &glied, std::int64_t differenz);
-    bool Schritt(std::vector<int> &x, int weite) const;
+    static bool Zusammen(const Kostenglied &a, const Kostenglied &b);
+    bool Schritt(std::vector<int> &x, int weite, const std::vector<Kostenglied> &glieder) const;
 
     int anzahl_;
     std::vector<Schranke> schranken_;

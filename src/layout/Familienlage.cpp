@@ -13,13 +13,19 @@ namespace {
 /// One part of a family, everybody of which belongs to everybody else by some bond: places from x = 0, or the page's.
 Zeichnung TeilZeichnen(const Familiengraph &graph, const Gerüst &gerüst, const Abstände &abstände) {
     const Orte orte(graph, gerüst, abstände);
-    const std::vector<int> x = orte.Finden(BesteReihen(graph, gerüst));
     const std::vector<std::int64_t> höhen = Zeilenhöhen(graph, gerüst, abstände);
-    Zeichnung zeichnung;
-    for (std::size_t i = 0; i < x.size(); i++)
-        zeichnung.Personen.push_back({x[i] * orte.Schritt(), höhen[Z(gerüst.Spalten[i].Ebene)]});
-    zeichnung.Balken = BalkenHängen(gerüst, zeichnung.Personen, höhen, abstände);
-    return zeichnung;
+    const auto zeichnen = [&](const Reihen::Folgen &zeilen, Orte::Güte güte) {
+        const std::vector<int> x = orte.Finden(zeilen, güte);
+        Zeichnung zeichnung;
+        for (std::size_t i = 0; i < x.size(); i++)
+            zeichnung.Personen.push_back({x[i] * orte.Schritt(), höhen[Z(gerüst.Spalten[i].Ebene)]});
+        zeichnung.Balken = BalkenHängen(gerüst, zeichnung.Personen, höhen, abstände);
+        return zeichnung;
+    };
+    const auto probe = [&](const Reihen::Folgen &zeilen) {
+        return Befinden(gerüst, zeichnen(zeilen, Orte::Güte::Ungefähr), abstände);
+    };
+    return zeichnen(BesteReihen(graph, gerüst, probe), Orte::Güte::Genau);
 }
 
 double Zentimeter(std::int64_t tausendstel) { return static_cast<double>(tausendstel) / 1000; }

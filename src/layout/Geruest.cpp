@@ -85,4 +85,21 @@ Gerüst GerüstBauen(const Familiengraph &graph, std::vector<Familie> familien, 
     return g;
 }
 
+std::vector<std::vector<int>> Verwandte(const Gerüst &gerüst) {
+    std::vector<std::vector<int>> verwandte(gerüst.Spalten.size());
+    const auto verbinden = [&](int a, int b) {
+        if (a == b) return;
+        verwandte[Z(a)].push_back(b);
+        verwandte[Z(b)].push_back(a);
+    };
+    for (const Gehänge &g : gerüst.Gehängte) {
+        verbinden(g.A, g.B);
+        for (const int kind : g.Kinder) {
+            verbinden(g.A, kind);
+            if (g.B != g.A) verbinden(g.B, kind);
+        }
+    }
+    return verwandte;
+}
+
 } // namespace kw

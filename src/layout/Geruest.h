@@ -42,6 +42,8 @@ std::vector<Familie> GeprüfteFamilien(const Familiengraph &graph);
 /// one level, siblings too where that lengthens no line. Where the data go round in a circle, one of its bonds is let
 /// go.
 std::vector<int> Ebenen(const Familiengraph &graph, const std::vector<Familie> &familien);
+/// Partners, parents and children of each, as their lines join them.
+std::vector<std::vector<int>> Verwandte(const Gerüst &gerüst);
 Gerüst GerüstBauen(const Familiengraph &graph, std::vector<Familie> familien, const std::vector<int> &ebenen);
 
 } // namespace kw

@@ -13,6 +13,7 @@ constexpr std::int64_t Länge = 1000;  // a step of a line
 constexpr std::int64_t Schiefe = 150; // a step that a child line leans, besides what it gets longer
 constexpr std::int64_t Mitte = 1;     // a step of a child from each of its parents, squared: only what settles ties
 constexpr int WeitesterSchritt = 128;
+constexpr std::int64_t Ungefähr = 800; // thousandths; the last step of what needn't be exact
 
 /// Rows in which columns of several rows keep one order in all of them: by where they stand on average.
 Reihen::Folgen Widerspruchsfrei(const Gerüst &gerüst, Reihen::Folgen zeilen) {
@@ -140,7 +141,20 @@ void Orte::Gewichten(const Reihen::Folgen &zeilen, Differenzen &orte, Paare &inn
             orte.Kosten(Kostenart::Betrag, familie.Kinder[i - 1], familie.Kinder[i], 0, Länge);
 }
 
-std::vector<int> Orte::Finden(const Reihen::Folgen &zeilen) const {
+/// All rows centred, which isn't far from the shortest lines. Nobody has a place there yet that keeps the bounds.
+std::vector<int> Orte::Anfang(const Reihen::Folgen &zeilen) const {
+    std::vector<int> x(gerüst_.Spalten.size() + 1, 0);
+    if (gezeichnet_) return x;
+    std::size_t breiteste = 0;
+    for (const std::vector<int> &zeile : zeilen) breiteste = std::max(breiteste, zeile.size());
+    const int abstand = Schritte(abstände_.Personen);
+    for (const std::vector<int> &zeile : zeilen)
+        for (std::size_t i = 0; i < zeile.size(); i++)
+            x[Z(zeile[i])] = static_cast<int>(breiteste - zeile.size() + 2 * i) * abstand / 2;
+    return x;
+}
+
+std::vector<int> Orte::Finden(const Reihen::Folgen &zeilen, Güte güte) const {
     Reihen::Folgen folgen = zeilen;
     Differenzen orte(static_cast<int>(gerüst_.Spalten.size()) + 1);
     if (!ReihenHalten(folgen, orte)) {
@@ -151,7 +165,7 @@ std::vector<int> Orte::Finden(const Reihen::Folgen &zeilen) const {
     Paare innen;
     Gewichten(folgen, orte, innen);
     if (gezeichnet_) Halten(folgen, orte);
-    std::vector<int> x;
+    std::vector<int> x = Anfang(folgen);
     Differenzen alle = orte;
     for (const auto &[a, b] : innen) alle.Mindestens(a, b, 0);
     if (alle.Kleinste(x)) orte = std::move(alle);
@@ -159,10 +173,12 @@ std::vector<int> Orte::Finden(const Reihen::Folgen &zeilen) const {
         for (const auto &[a, b] : innen) { // then as many as can be
             Differenzen mit = orte;
             mit.Mindestens(a, b, 0);
+            x = Anfang(folgen);
             if (mit.Kleinste(x)) orte = std::move(mit);
         }
+    x = Anfang(folgen);
     orte.Kleinste(x);
-    orte.Lösen(x, WeitesterSchritt);
+    orte.Lösen(x, WeitesterSchritt, güte == Güte::Genau ? 1 : static_cast<int>(Ungefähr / schritt_));
     const int rand = x.back();
     x.pop_back();
     const int links = gezeichnet_ ? rand : *std::min_element(x.begin(), x.end());

@@ -12,13 +12,15 @@ namespace kw {
 class Orte {
   public:
     Orte(const Familiengraph &graph, const Gerüst &gerüst, const Abstände &abstände);
+    enum class Güte { Genau, Ungefähr }; ///< all but exact: within about a centimetre, in much less time
     /// From the page's edge where all have a place, else from the leftmost on.
-    std::vector<int> Finden(const Reihen::Folgen &zeilen) const;
+    std::vector<int> Finden(const Reihen::Folgen &zeilen, Güte güte) const;
     /// Thousandths of a centimetre in a step.
     std::int64_t Schritt() const { return schritt_; }
 
   private:
     using Paare = std::vector<std::pair<int, int>>;
+    std::vector<int> Anfang(const Reihen::Folgen &zeilen) const;
     int Abstand(int zeile, int links, int rechts) const;
     int Schritte(double cm) const;
     bool ReihenHalten(const Reihen::Folgen &zeilen, Differenzen &orte) const;

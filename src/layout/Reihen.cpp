@@ -168,6 +168,37 @@ int Reihen::Verkehrtkosten(int verkehrt) const {
     return (verkehrt - zuViele) * gewichte_.Verkehrt + zuViele * gewichte_.ZuVerkehrt;
 }
 
+std::vector<Reihen::Paar> Reihen::Getrennte() const {
+    std::vector<Paar> paare;
+    for (std::size_t i = 0; i < dazwischen_.size(); i++)
+        if (const Ding &d = wissen_->Dinge[i]; dazwischen_[i] > 0 && d.Was == Art::Familie)
+            paare.push_back({d.Zeile, d.A, d.B});
+    return paare;
+}
+
+void Reihen::StrengerSein(int nochEinGetrennt, int zuVerkehrt) {
+    kosten_ -= Getrenntkosten(getrennt_) + Verkehrtkosten(verkehrt_);
+    gewichte_.NochEinGetrennt = nochEinGetrennt;
+    gewichte_.ZuVerkehrt = zuVerkehrt;
+    kosten_ += Getrenntkosten(getrennt_) + Verkehrtkosten(verkehrt_);
+    Behalten();
+}
+
+/// What it costs who stands left of whom, but for siblings.
+std::int64_t Reihen::Vorlieben() const {
+    std::int64_t summe = 0;
+    for (const std::vector<int> &zeile : zeilen_)
+        for (std::size_t i = 0; i < zeile.size(); i++)
+            for (std::size_t j = 0; j < i; j++) summe += std::max(wissen_->Vorzüge[Ort(zeile[j], zeile[i])].Kosten, 0);
+    return summe;
+}
+
+std::int64_t Reihen::Wert(const Lagebefund &befund) const {
+    return std::int64_t{befund.Kreuzungen} * gewichte_.Kreuzung + Getrenntkosten(befund.Getrennt) +
+           Verkehrtkosten(befund.Verkehrt) + Vorlieben() + static_cast<std::int64_t>(befund.Länge * gewichte_.Weite) +
+           std::int64_t{befund.Durchquert} * gewichte_.Verschränkt;
+}
+
 int Reihen::Dazwischen(int ding) const {
     const Ding &d = Das(ding);
     const Spanne spanne = SpanneVon(d);

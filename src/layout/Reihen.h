@@ -1,5 +1,6 @@
 #pragma once
 
+#include "layout/Familienlage.h"
 #include "layout/Geruest.h"
 
 #include <cstdint>
@@ -16,12 +17,12 @@ struct Gewichte {
     int NochEinGetrennt = 250; ///< each one more
     int Dazwischen = 30;       ///< and each of these
     int Verkehrt = 40;         ///< a pair of siblings in the wrong order, as long as they are few
-    int ZuVerkehrt = 120;      ///< each one more
+    int ZuVerkehrt = 200;      ///< each one more
     int Wenige = 50;           ///< how many pairs are few: thousandths of all
     int FrauLinks = 3;         ///< a man on the right of a woman
     int Umgestellt = 2;        ///< a pair that the user drew the other way round
-    int Weite = 1;             ///< half a place that a child stands beside the middle of its parents
-    int Verschränkt = 2000;    ///< two lines that have to be upright, and change sides
+    int Weite = 2;             ///< half a place that a child stands beside the middle of its parents
+    int Verschränkt = 9000;    ///< two lines that have to be upright, and change sides
 };
 
 /// The order of everybody in each row, and what it costs. Everything is built of one change: two neighbours change
@@ -49,6 +50,20 @@ class Reihen {
     void Zurück(const Marke &marke);
     void Behalten() { geändert_.Liste.clear(); }
     std::int64_t Kosten() const { return kosten_; }
+    /// What a finished drawing of these rows costs, by the same weights: its lines cross where they are drawn.
+    std::int64_t Wert(const Lagebefund &befund) const;
+
+    /// A couple with strangers between them, in that row.
+    struct Paar {
+        int Zeile, A, B;
+    };
+    std::vector<Paar> Getrennte() const;
+    /// From now on each couple apart but one costs that much, and each pair of siblings in the wrong order that is too
+    /// many.
+    void StrengerSein(int nochEinGetrennt, int zuVerkehrt);
+    bool ZuVielesFalsch() const { return getrennt_ > 1 || verkehrt_ > wissen_->Wenige; }
+    const Gewichte &Wiegt() const { return gewichte_; }
+    bool SindPartner(int a, int b) const { return wissen_->Partner[Ort(a, b)] != 0; }
     /// How often has been exchanged: what work is measured by, since clocks differ.
     std::int64_t Arbeit() const { return arbeit_; }
 
@@ -138,6 +153,7 @@ class Reihen {
     int DazwischenGelten(int ding, int anzahl);
     int Trennung(int zeile, int ende, int anderer, bool andererRechts);
     int Dazwischen(int ding) const;
+    std::int64_t Vorlieben() const;
     std::int64_t Neuberechnet();
     int Einzelkosten(int ding);
 

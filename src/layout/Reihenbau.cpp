@@ -95,7 +95,7 @@ void Reihen::VorliebenSammeln(const Familiengraph &graph, const Gerüst &gerüst
                     kostet(a, b, g.FrauLinks);
             }
     }
-    w.Wenige = (paare * g.Wenige + 500) / 1000;
+    w.Wenige = (paare * g.Wenige + 999) / 1000;
     for (int a = 0; a < w.Anzahl; a++)
         for (int b = 0; b < w.Anzahl; b++)
             if (gezeichnet(a, b) && *person(a).Gezeichnet > *person(b).Gezeichnet) kostet(a, b, g.Umgestellt);

@@ -8,9 +8,12 @@ namespace kw {
 namespace {
 
 constexpr int Weitester = 8;   // places that a run is carried in one go
-constexpr int Längster = 2;    // and how many it holds; longer ones are carried as pieces
-constexpr int Teuerstes = 600; // what lies between may cost
-constexpr int Duldsam = 30;    // how much dearer rows may get on the way to cheaper ones
+constexpr int Längster = 4;    // and how many partners it holds
+constexpr int Teuerstes = 350; // what lies between may cost, besides that it parts a couple
+constexpr int Duldsam = 60;    // how much dearer rows may get on the way to cheaper ones
+constexpr int TeuersteTrennung = 1150;
+constexpr int Strenge = 3500; // what each couple apart but one costs at last
+constexpr int Ordnung = 700;  // and each pair of siblings in the wrong order that is too many
 
 /// A run of neighbours in hand. It can be carried along its row, and back to where that cost least.
 class Lauf {
@@ -22,7 +25,10 @@ class Lauf {
     }
 
     int Platz() const { return platz_; }
-    bool ZuTeuer() const { return reihen_.Kosten() >= beste_.Kosten + Teuerstes; }
+    bool ZuTeuer() const {
+        const int getrennt = std::min(reihen_.Wiegt().NochEinGetrennt, TeuersteTrennung);
+        return reihen_.Kosten() >= beste_.Kosten + Teuerstes + getrennt;
+    }
 
     void Rücken(bool rechts) {
         Schritt(rechts);
@@ -93,11 +99,17 @@ void ZeileSetzenlassen(Reihen &reihen, int zeile, Unruhe &unruhe) {
         for (int i = std::max(von - 1, 0); i <= std::min(bis + 1, breite - 1); i++)
             unruhe.Stiften(zeile, reihen.Zeile(zeile)[Z(i)]);
     };
+    const auto lohnt = [&](int platz, int länge) {
+        bool einer = unruhig(platz);
+        for (int i = platz + 1; i < platz + länge; i++) {
+            if (!reihen.SindPartner(reihen.Zeile(zeile)[Z(i - 1)], reihen.Zeile(zeile)[Z(i)])) return false;
+            einer = einer || unruhig(i);
+        }
+        return einer;
+    };
     for (int länge = 1; länge <= std::min(Längster, breite - 1); länge++)
         for (int platz = 0; platz + länge <= breite; platz++) {
-            bool lohnt = false;
-            for (int i = platz; i < platz + länge; i++) lohnt |= unruhig(i);
-            if (!lohnt) continue;
+            if (!lohnt(platz, länge)) continue;
             const int weite = Bestplatz(reihen, zeile, platz, länge);
             if (weite != 0) gerückt(platz + std::min(weite, 0), platz + länge - 1 + std::max(weite, 0));
             if (länge > 1 && Umgedreht(reihen, zeile, platz, länge)) gerückt(platz, platz + länge - 1);
@@ -165,23 +177,95 @@ void ReihenSetzenlassen(Reihen &reihen, Unruhe &unruhe) {
     }
 }
 
-void ReihenRütteln(Reihen &reihen, const std::vector<Stück> &stücke, Unruhe &unruhe, Zufall &zufall, int mal) {
-    if (stücke.empty()) return;
-    Reihen hier = reihen; // where each try begins; `reihen` holds the best
-    for (int i = 0; i < mal; i++) {
-        Reihen versuch = hier;
-        for (int k = zufall.Wenig(2); k >= 0; k--) {
-            const Stück &stück = stücke[Z(zufall.Unter(static_cast<int>(stücke.size())))];
-            const bool umgedreht = zufall.Unter(3) == 0;
-            Stückzug(versuch, stück, umgedreht).Tun(zufall.Unter(4) > 0 ? &zufall : nullptr);
-        }
-        unruhe.Stiften(hier, versuch);
-        ReihenSetzenlassen(versuch, unruhe);
-        const std::int64_t schwelle = std::int64_t{Duldsam} * zufall.Ausdauer() * (mal - i) / mal / 256;
-        if (versuch.Kosten() < reihen.Kosten()) reihen = versuch;
-        if (versuch.Kosten() <= hier.Kosten() + schwelle) hier = std::move(versuch);
+namespace {
+
+/// The cheapest few rows that were seen.
+class Auslese {
+  public:
+    explicit Auslese(int wieviele) : wieviele_(Z(wieviele)) {}
+
+    void Sehen(const Reihen &reihen) {
+        const std::int64_t kosten = reihen.Kosten();
+        if (beste_.size() == wieviele_ && kosten >= beste_.back().Kosten) return;
+        for (const Eine &eine : beste_)
+            if (eine.Kosten == kosten && eine.Zeilen == reihen.Zeilen()) return;
+        const auto dahinter =
+            std::find_if(beste_.begin(), beste_.end(), [&](const Eine &e) { return e.Kosten > kosten; });
+        beste_.insert(dahinter, {kosten, reihen.Zeilen()});
+        if (beste_.size() > wieviele_) beste_.pop_back();
     }
-}
+    /// Of these the one that is best when it is drawn.
+    Reihen::Folgen Beste(Reihen maß, const Probe &probe) const {
+        if (beste_.size() == 1) return beste_.front().Zeilen;
+        std::size_t beste = 0;
+        std::int64_t wenigstes = std::numeric_limits<std::int64_t>::max();
+        for (std::size_t i = 0; i < beste_.size(); i++) {
+            maß.Setzen(beste_[i].Zeilen);
+            const std::int64_t wert = maß.Wert(probe(beste_[i].Zeilen));
+            if (wert >= wenigstes) continue;
+            wenigstes = wert;
+            beste = i;
+        }
+        return beste_[beste].Zeilen;
+    }
+
+  private:
+    struct Eine {
+        std::int64_t Kosten;
+        Reihen::Folgen Zeilen;
+    };
+    std::size_t wieviele_;
+    std::vector<Eine> beste_;
+};
+
+/// Shakes rows: carries pieces elsewhere and lets the rows settle, again and again.
+class Rüttler {
+  public:
+    Rüttler(const Gerüst &gerüst, Unruhe &unruhe, Zufall &zufall) : wahl_(gerüst), unruhe_(unruhe), zufall_(zufall) {}
+
+    /// So many times, of a hundred tries `zusammen` by bringing a couple together; ends with the cheapest rows seen.
+    void Rütteln(Reihen &reihen, int mal, int zusammen, Auslese &auslese) {
+        auslese.Sehen(reihen);
+        Reihen hier = reihen; // where each try begins; `reihen` holds the best
+        for (int i = 0; i < mal; i++) {
+            Reihen versuch = hier;
+            const bool zusammengebracht = Zusammengebracht(versuch, zusammen);
+            for (int k = zusammengebracht ? zufall_.Unter(2) : 1 + zufall_.Wenig(2); k > 0; k--) Stören(versuch);
+            unruhe_.Stiften(hier, versuch);
+            ReihenSetzenlassen(versuch, unruhe_);
+            auslese.Sehen(versuch);
+            const std::int64_t schwelle = std::int64_t{Duldsam} * zufall_.Ausdauer() * (mal - i) / mal / 256;
+            if (versuch.Kosten() < reihen.Kosten()) reihen = versuch;
+            if (versuch.Kosten() <= hier.Kosten() + schwelle) hier = std::move(versuch);
+        }
+    }
+
+  private:
+    void Stören(Reihen &reihen) {
+        const Stück stück = wahl_.Irgendeines(zufall_);
+        if (stück.Zeilen.empty()) return;
+        const bool umgedreht = zufall_.Unter(3) == 0;
+        Stückzug(reihen, stück, umgedreht).Tun(zufall_.Unter(4) > 0 ? &zufall_ : nullptr);
+    }
+
+    bool Zusammengebracht(Reihen &reihen, int zusammen) {
+        const std::vector<Reihen::Paar> paare = reihen.Getrennte();
+        if (paare.empty() || zufall_.Unter(100) >= zusammen) return false;
+        Reihen::Paar paar = paare[Z(zufall_.Unter(static_cast<int>(paare.size())))];
+        if (zufall_.Unter(2) == 0) std::swap(paar.A, paar.B);
+        const bool allein = zufall_.Unter(4) == 0;
+        const Stück stück =
+            allein ? Stück{{{paar.A}}, paar.Zeile, paar.Zeile} : wahl_.Partner(paar.Zeile, paar.A, paar.B);
+        Stückzug(reihen, stück, zufall_.Unter(2) == 0).Tun(nullptr);
+        return true;
+    }
+
+    Stückwahl wahl_;
+    Unruhe &unruhe_;
+    Zufall &zufall_;
+};
+
+} // namespace
 
 namespace {
 
@@ -211,24 +295,34 @@ Reihen::Folgen GezeichneteReihen(const Familiengraph &graph, Reihen::Folgen zeil
 
 } // namespace
 
-Reihen::Folgen BesteReihen(const Familiengraph &graph, const Gerüst &gerüst) {
+Reihen::Folgen BesteReihen(const Familiengraph &graph, const Gerüst &gerüst, const Probe &probe) {
     Zufall zufall(1);
-    const std::vector<Stück> stücke = StückeFinden(gerüst);
     Unruhe unruhe(gerüst);
     Reihen reihen(graph, gerüst, GewichteFür(graph));
     Reihen beste = reihen;
     // Small families are told and shaken often enough to find the best there is; the work of large ones grows with
     // their size.
-    const auto anzahl = static_cast<std::int64_t>(graph.Personen.size());
-    for (int i = 0; i < 40 && (i < 3 || reihen.Arbeit() < 600 * anzahl); i++) {
+    const auto anzahl = static_cast<int>(graph.Personen.size());
+    for (int i = 0; i < 40 && (i < 3 || reihen.Arbeit() < std::int64_t{200} * anzahl); i++) {
         const Reihen::Folgen erzählt = ErzählteReihen(gerüst, zufall);
         reihen.Setzen(i == 0 ? GezeichneteReihen(graph, erzählt) : erzählt);
         unruhe.Überall();
         ReihenSetzenlassen(reihen, unruhe);
         if (i == 0 || reihen.Kosten() < beste.Kosten()) beste = reihen;
     }
-    ReihenRütteln(beste, stücke, unruhe, zufall, static_cast<int>(std::clamp<std::int64_t>(11000 / anzahl, 10, 90)));
-    return beste.Zeilen();
+    const bool gezeichnet = beste.Wiegt().Weite == 0; // then the order is what counts, not how it is drawn
+    const Auslese leer(gezeichnet ? 1 : std::clamp(400 / anzahl, 1, 8));
+    Auslese auslese = leer;
+    Rüttler rüttler(gerüst, unruhe, zufall);
+    const int mal = std::clamp(11000 / anzahl, 10, 90);
+    rüttler.Rütteln(beste, mal, 10, auslese);
+    if (beste.ZuVielesFalsch()) {
+        // Weights that forbid this would have held everybody where they were told, so they come last.
+        beste.StrengerSein(Strenge, Ordnung);
+        auslese = leer;
+        rüttler.Rütteln(beste, mal, 90, auslese);
+    }
+    return auslese.Beste(beste, probe);
 }
 
 } // namespace kw

@@ -15,15 +15,15 @@ Schnitt::Schnitt(int knoten)
     : quelle_(knoten), senke_(knoten + 1), erste_(Z(knoten + 2), -1), schicht_(Z(knoten + 2)), eigen_(Z(knoten), 0),
       eigenkante_(Z(knoten), -1) {}
 
-void Schnitt::Anhängen(int a, int b, std::int64_t hin) {
+void Schnitt::Anhängen(int a, int b, std::int64_t hin, std::int64_t zurück) {
     kanten_.push_back({b, erste_[Z(a)], hin});
     erste_[Z(a)] = static_cast<int>(kanten_.size()) - 1;
-    kanten_.push_back({a, erste_[Z(b)], 0});
+    kanten_.push_back({a, erste_[Z(b)], zurück});
     erste_[Z(b)] = static_cast<int>(kanten_.size()) - 1;
 }
 
-void Schnitt::Paar(int a, int b, std::int64_t kosten) {
-    if (kosten > 0) Anhängen(a, b, kosten);
+void Schnitt::Paar(int a, int b, std::int64_t nurA, std::int64_t nurB) {
+    if (nurA > 0 || nurB > 0) Anhängen(a, b, nurA, nurB);
 }
 
 /// Distances from the source along what still has room; whether the sink can be reached.
@@ -41,11 +41,16 @@ bool Schnitt::Schichten() {
     return schicht_[Z(senke_)] >= 0;
 }
 
-/// Sends what one shortest path can carry; 0 when there is none left of this length.
-std::int64_t Schnitt::Weg() {
+/// Sends what all shortest paths can carry.
+void Schnitt::Füllen() {
+    aktuell_ = erste_;
     weg_.clear();
     int knoten = quelle_;
-    while (knoten != senke_) {
+    while (gewinn_ > 0) {
+        if (knoten == senke_) {
+            knoten = Senden();
+            continue;
+        }
         int &k = aktuell_[Z(knoten)];
         while (k >= 0 && (kanten_[Z(k)].Rest <= 0 || schicht_[Z(kanten_[Z(k)].Nach)] != schicht_[Z(knoten)] + 1))
             k = kanten_[Z(k)].Nächste;
@@ -54,15 +59,24 @@ std::int64_t Schnitt::Weg() {
             knoten = kanten_[Z(k)].Nach;
             continue;
         }
-        if (weg_.empty()) return 0;
+        if (weg_.empty()) return;
         schicht_[Z(knoten)] = -1; // a dead end
         knoten = kanten_[Z(weg_.back() ^ 1)].Nach;
         weg_.pop_back();
     }
-    std::int64_t fluss = Verboten;
-    for (const int k : weg_) fluss = std::min(fluss, kanten_[Z(k)].Rest);
+}
+
+/// Sends what the path can carry; it then ends where it has no room left, at that node.
+int Schnitt::Senden() {
+    std::size_t engste = 0;
+    for (std::size_t i = 1; i < weg_.size(); i++)
+        if (kanten_[Z(weg_[i])].Rest < kanten_[Z(weg_[engste])].Rest) engste = i;
+    const std::int64_t fluss = kanten_[Z(weg_[engste])].Rest;
     for (const int k : weg_) Fließen(k, fluss);
-    return fluss;
+    gewinn_ -= fluss;
+    const int knoten = kanten_[Z(weg_[engste] ^ 1)].Nach;
+    weg_.resize(engste);
+    return knoten;
 }
 
 void Schnitt::Fließen(int kante, std::int64_t fluss) {
@@ -125,10 +139,7 @@ std::vector<char> Schnitt::Menge() {
         if (kosten < 0) gewinn_ -= kosten;
     }
     Vorweg();
-    while (gewinn_ > 0 && Schichten()) {
-        aktuell_ = erste_;
-        while (const std::int64_t fluss = Weg()) gewinn_ -= fluss;
-    }
+    while (gewinn_ > 0 && Schichten()) Füllen();
     if (gewinn_ <= 0) return {};
     std::vector<char> menge(eigen_.size());
     for (std::size_t i = 0; i < menge.size(); i++) menge[i] = schicht_[i] >= 0 ? 1 : 0;

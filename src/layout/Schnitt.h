@@ -14,8 +14,8 @@ class Schnitt {
     explicit Schnitt(int knoten);
     /// Knoten in the set costs `kosten` more; less than 0 is a gain.
     void Knoten(int knoten, std::int64_t kosten) { eigen_[static_cast<std::size_t>(knoten)] += kosten; }
-    /// `a` in the set without `b` costs `kosten`.
-    void Paar(int a, int b, std::int64_t kosten);
+    /// `a` in the set without `b` costs `nurA`, and the other way round.
+    void Paar(int a, int b, std::int64_t nurA, std::int64_t nurB = 0);
     /// Which nodes are in the cheapest set, of several the smallest; empty when nothing costs less than no set at all.
     std::vector<char> Menge();
 
@@ -24,12 +24,12 @@ class Schnitt {
         int Nach, Nächste;
         std::int64_t Rest;
     };
-    void Anhängen(int a, int b, std::int64_t hin);
+    void Anhängen(int a, int b, std::int64_t hin, std::int64_t zurück = 0);
     void Vorweg();
     void Entlang(int anfang, const std::vector<int> &zwang, std::vector<char> &gesehen);
     bool Schichten();
-    std::int64_t Weg();
-
+    void Füllen();
+    int Senden();
     void Fließen(int kante, std::int64_t fluss);
 
     int quelle_, senke_;

@@ -8,6 +8,26 @@ namespace {
 
 constexpr std::size_t Breitestes = 100; // of a piece in a row; carrying wider ones costs more than they are worth
 
+Stück StückVon(const Gerüst &gerüst, const std::vector<int> &personen, int anker) {
+    Stück stück;
+    stück.Erste = gerüst.Zeilen;
+    int letzte = 0;
+    for (const int person : personen) {
+        stück.Erste = std::min(stück.Erste, gerüst.Spalten[Z(person)].Oben);
+        letzte = std::max(letzte, gerüst.Spalten[Z(person)].Unten);
+    }
+    stück.Zeilen.resize(Z(letzte - stück.Erste + 1));
+    for (const int person : personen)
+        for (int z = gerüst.Spalten[Z(person)].Oben; z <= gerüst.Spalten[Z(person)].Unten; z++)
+            stück.Zeilen[Z(z - stück.Erste)].push_back(person);
+    stück.Anker = std::clamp(anker, stück.Erste, letzte);
+    return stück;
+}
+
+bool Enthält(const std::vector<int> &liste, int zahl) {
+    return std::find(liste.begin(), liste.end(), zahl) != liste.end();
+}
+
 /// Persons and families as the nodes of one graph, a bond from each family to each of its members. A bond without which
 /// the graph would fall apart is found by a walk that notes how early a node each one can get back to past its own
 /// bond.
@@ -121,21 +141,9 @@ class Stückesucher {
 
     void Aufnehmen(const std::vector<int> &liste, int anker) {
         if (liste.size() < 2) return;
-        Stück stück;
-        stück.Erste = gerüst_.Zeilen;
-        int letzte = 0;
-        for (const int person : liste) {
-            stück.Erste = std::min(stück.Erste, gerüst_.Spalten[Z(person)].Oben);
-            letzte = std::max(letzte, gerüst_.Spalten[Z(person)].Unten);
-        }
-        stück.Zeilen.resize(Z(letzte - stück.Erste + 1));
-        for (const int person : liste)
-            for (int z = gerüst_.Spalten[Z(person)].Oben; z <= gerüst_.Spalten[Z(person)].Unten; z++)
-                stück.Zeilen[Z(z - stück.Erste)].push_back(person);
+        Stück stück = StückVon(gerüst_, liste, anker);
         const auto breit = [](const std::vector<int> &zeile) { return zeile.size() > Breitestes; };
-        if (std::any_of(stück.Zeilen.begin(), stück.Zeilen.end(), breit)) return;
-        stück.Anker = std::clamp(anker, stück.Erste, letzte);
-        stücke_.push_back(std::move(stück));
+        if (std::none_of(stück.Zeilen.begin(), stück.Zeilen.end(), breit)) stücke_.push_back(std::move(stück));
     }
 
     const Gerüst &gerüst_;
@@ -149,5 +157,40 @@ class Stückesucher {
 } // namespace
 
 std::vector<Stück> StückeFinden(const Gerüst &gerüst) { return Stückesucher(gerüst).Finden(); }
+
+Stückwahl::Stückwahl(const Gerüst &gerüst)
+    : gerüst_(gerüst), stücke_(StückeFinden(gerüst)), nächste_(Verwandte(gerüst)) {}
+
+Stück Stückwahl::Irgendeines(Zufall &zufall) const {
+    if (!stücke_.empty() && zufall.Unter(10) < 3) return stücke_[Z(zufall.Unter(static_cast<int>(stücke_.size())))];
+    return Klumpen(zufall);
+}
+
+Stück Stückwahl::Klumpen(Zufall &zufall) const {
+    constexpr int Größter = 17;
+    const auto eins = [&](const std::vector<int> &liste) {
+        return liste[Z(zufall.Unter(static_cast<int>(liste.size())))];
+    };
+    const int größe = 2 + zufall.Unter(Größter - 1);
+    std::vector<int> liste{zufall.Unter(static_cast<int>(nächste_.size()))};
+    for (int versuch = 0; versuch < 4 * größe && static_cast<int>(liste.size()) < größe; versuch++) {
+        const std::vector<int> &nächste = nächste_[Z(eins(liste))];
+        if (nächste.empty()) return {};
+        const int person = eins(nächste);
+        if (!Enthält(liste, person)) liste.push_back(person);
+    }
+    return StückVon(gerüst_, liste, gerüst_.Spalten[Z(liste.front())].Ebene);
+}
+
+Stück Stückwahl::Partner(int zeile, int person, int ohne) const {
+    std::vector<int> kette{person};
+    for (std::size_t i = 0; i < kette.size(); i++)
+        for (const int partner : gerüst_.Partner[Z(kette[i])]) {
+            if (kette[i] == person && partner == ohne) continue;
+            if (partner == ohne) return {{{person}}, zeile, zeile};
+            if (gerüst_.Spalten[Z(partner)].Ebene == zeile && !Enthält(kette, partner)) kette.push_back(partner);
+        }
+    return {{kette}, zeile, zeile};
+}
 
 } // namespace kw

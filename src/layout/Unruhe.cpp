@@ -5,21 +5,8 @@
 namespace kw {
 
 Unruhe::Unruhe(const Gerüst &gerüst)
-    : gerüst_(gerüst), verwandte_(gerüst.Spalten.size()), unruhig_(Z(gerüst.Zeilen) * gerüst.Spalten.size(), 0),
-      anzahl_(Z(gerüst.Zeilen), 0) {
-    const auto verbinden = [&](int a, int b) {
-        if (a == b) return;
-        verwandte_[Z(a)].push_back(b);
-        verwandte_[Z(b)].push_back(a);
-    };
-    for (const Gehänge &g : gerüst.Gehängte) {
-        verbinden(g.A, g.B);
-        for (const int kind : g.Kinder) {
-            verbinden(g.A, kind);
-            if (g.B != g.A) verbinden(g.B, kind);
-        }
-    }
-}
+    : gerüst_(gerüst), verwandte_(Verwandte(gerüst)), unruhig_(Z(gerüst.Zeilen) * gerüst.Spalten.size(), 0),
+      anzahl_(Z(gerüst.Zeilen), 0) {}
 
 void Unruhe::Wecken(int zeile, int person) {
     const Spalte &spalte = gerüst_.Spalten[Z(person)];
