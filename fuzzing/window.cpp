@@ -131,7 +131,8 @@ bool IstGeschlossen(Programm &p) { return std::exchange(p.benutzer.SchließenVer
 
 /// A gesture in progress may be ahead of the net.
 bool IstGehalten(const Einblick &innen) {
-    return !innen.projekt.Geändert || innen.lage.Gedrückt || innen.netz.Hält(innen.dokument);
+    return !innen.projekt.Geändert || innen.lage.Gedrückt || innen.netz.Hält(innen.dokument) ||
+           innen.netz.WieLosgelassen(innen.dokument); // a form that was confirmed as it stood
 }
 
 void Gehen(Wiedergabe &lauf, Formularspieler &spieler, const Schritt &s) {

@@ -172,7 +172,7 @@ bool Projekt::ProjektSchreiben(const std::string &datei) {
 }
 
 Verbleib Projekt::WasSicherIst() const {
-    if (!Geändert) return Verbleib::Unverändert;
+    if (!Geändert || inhalt_.netz.WieLosgelassen(inhalt_.dokument)) return Verbleib::Unverändert;
     return inhalt_.netz.Hält(inhalt_.dokument) ? Verbleib::ImNetz : Verbleib::NurAufDerSeite;
 }
 

@@ -34,6 +34,8 @@ class Sicherheitsnetz : public Versionswahrer {
     void Loslassen(const Dokument &dokument);
     /// Whether the document as it stands is in the net.
     bool Hält(const Dokument &dokument) const { return hält_ && stand_.GleicherStand(dokument); }
+    /// Whether it is as it was let go, so that its file has it.
+    bool WieLosgelassen(const Dokument &dokument) const { return !hält_ && stand_.GleicherStand(dokument); }
 
     /// Every version but a living program's document, the newest first.
     std::vector<Netzkopf> Einträge() const;
