@@ -203,7 +203,7 @@ std::int64_t Reihen::Wert(const Lagebefund &befund) const {
     return std::int64_t{befund.Kreuzungen} * gewichte_.Kreuzung + Getrenntkosten(befund.Getrennt) +
            Verkehrtkosten(befund.Verkehrt) + Vorlieben() + static_cast<std::int64_t>(befund.Länge * gewichte_.Weite) +
            std::int64_t{befund.Durchquert} * gewichte_.Verschränkt +
-           befund.AnFremdem * (getenv("WE") ? atoi(getenv("WE")) : 120);
+           std::int64_t{befund.AnFremdem} * gewichte_.AnFremdem;
 }
 
 int Reihen::Dazwischen(int ding) const {
