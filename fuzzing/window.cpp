@@ -72,8 +72,9 @@ class Formularspieler : public Formularwirt {
         zeitgeber_.clear();
         form.Laden();
         for (int i = 0; i < 3 && form.Offen() && !Vorgemerkt.empty(); ++i) {
-            Tun(form, Vorgemerkt.front());
-            Vorgemerkt.pop_front();
+            const Schritt schritt = Vorgemerkt.front();
+            Vorgemerkt.pop_front(); // before: a form that this one opens goes on with the next
+            Tun(form, schritt);
         }
         if (form.Offen()) form.Schließkreuz();
         form.Entladen();

@@ -55,7 +55,7 @@ void frmMain::GrößeÄndern(int breite, int höhe) {
 }
 
 void frmMain::SeiteFassen(Rahmenort hand) {
-    tastatur.LaufBeenden(); // what keys are drawing goes on: only the page moves
+    TastenlaufBeenden(); // what keys are drawing goes on: only the page moves
     bereich.SeiteFassen(hand);
     NachEreignis();
 }
@@ -87,7 +87,7 @@ void frmMain::ImportzeileAblegen(int zeile, double x, double y) {
 
 void frmMain::DateiÜbernehmen(const std::string &pfad) {
     if (pfad.empty()) return;
-    tastatur.LaufBeenden();
+    TastenlaufBeenden();
     leinwand.GesteAbbrechen();
     if (Stammbaumimport::IstStammbaum(pfad)) stammbaum.Öffnen(pfad);
     else projekt.ÖffnenMitFrage(pfad);

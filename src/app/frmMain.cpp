@@ -139,8 +139,15 @@ bool frmMain::Schließen() {
     return true;
 }
 
-bool frmMain::SitzungBeenden() {
+/// What was offered to be taken back while it went on is no step when nothing was to be kept.
+void frmMain::TastenlaufBeenden() {
+    const bool unterwegs = tastatur.IstUnterwegs();
     tastatur.LaufBeenden();
+    if (unterwegs) anzeige.UndoKnöpfeZeigen();
+}
+
+bool frmMain::SitzungBeenden() {
+    TastenlaufBeenden();
     leinwand.GesteAbbrechen(); // what stands on the page already counts as a change
     projekt.SpeichernAbgebrochen = false;
     aufgegeben_ = false;
@@ -187,7 +194,7 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "tmrDrucker") DruckerErmitteln();
     if (name == "tmrLanguage" && !spracheErfragt_) SpracheErfragen();
     if (name == "tmrToolTipp") hinweis.Zeigen();
-    if (name == "tmrLauf") tastatur.LaufBeenden();
+    if (name == "tmrLauf") TastenlaufBeenden();
     NachEreignis();
 }
 

@@ -153,6 +153,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     bool IstFrei(std::string_view name) const;
     void Absagen(std::string_view name);
     void NachEreignis();
+    void TastenlaufBeenden();
     void Festhalten();
     void CursorInsBild();
     void KommandozeileÖffnen();
