@@ -70,6 +70,19 @@ void Paare(const Gerüst &gerüst, const std::vector<Punkt> &personen, Lagebefun
     }
 }
 
+/// Child lines that begin on another bar than their own: where two bars of a partner of both meet, or beyond.
+int AnFremdemBalken(const Gerüst &gerüst, const std::vector<Strecke> &linien) {
+    int anzahl = 0;
+    for (const Strecke &kind : linien) {
+        if (kind.Was != Strecke::Art::Kindlinie) continue;
+        anzahl += std::any_of(linien.begin(), linien.end(), [&](const Strecke &s) {
+            return s.Was == Strecke::Art::Balken && s.Familie != kind.Familie && s.A.Y == kind.A.Y &&
+                   s.A.X <= kind.A.X && kind.A.X <= s.B.X && !Gehört(gerüst.Familien[Z(s.Familie)], kind.Person);
+        });
+    }
+    return anzahl;
+}
+
 } // namespace
 
 Lagebefund Befinden(const Gerüst &gerüst, const Zeichnung &zeichnung, const Abstände &abstände) {
@@ -97,6 +110,7 @@ Lagebefund Befinden(const Gerüst &gerüst, const Zeichnung &zeichnung, const Ab
                 befund.Durchquert++;
     }
     befund.Länge = static_cast<double>(länge) / 1000;
+    befund.AnFremdem = AnFremdemBalken(gerüst, linien);
     const Kreuzungszahl kreuzungen = KreuzungenZählen(linien);
     befund.Kreuzungen = kreuzungen.Alle;
     befund.Störende = kreuzungen.Störende();

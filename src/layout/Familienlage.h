@@ -13,6 +13,7 @@ struct Lagebefund {
     int Durchquert = 0; ///< lines through a stranger's symbol
     int Kreuzungen = 0; ///< pairs of lines of different families that cross or lie on each other
     int Störende = 0;   ///< of these all but those of a leg with the end of another bar of the same person
+    int AnFremdem = 0;  ///< children whose line begins on the bar of another couple
     int Getrennt = 0;   ///< couples with a stranger between them
     int Verkehrt = 0;   ///< pairs of siblings in the wrong order
     int Ungleich = 0;   ///< couples on different heights

@@ -11,7 +11,9 @@ constexpr int Feinstes = 50;          // thousandths; where the page has no rast
 constexpr double Liniennähe = 0.3;    // between lines that pass a row side by side, cm
 constexpr std::int64_t Länge = 1000;  // a step of a line
 constexpr std::int64_t Schiefe = 150; // a step that a child line leans, besides what it gets longer
-constexpr std::int64_t Mitte = 1;     // a step of a child from each of its parents, squared: only what settles ties
+constexpr double Eckenluft = 0.3;     // of a child from where its bar touches another one of the same partner, cm
+constexpr std::int64_t Verwechselbar = 10'000; // a step that it lacks: beyond it is read as the other couple's child
+constexpr std::int64_t Mitte = 1; // a step of a child from each of its parents, squared: only what settles ties
 constexpr int WeitesterSchritt = 128;
 constexpr std::int64_t Ungefähr = 800; // thousandths; the last step of what needn't be exact
 
@@ -36,6 +38,32 @@ Reihen::Folgen Widerspruchsfrei(const Gerüst &gerüst, Reihen::Folgen zeilen) {
     }
     return zeilen;
 }
+
+/// On which sides of their partners bars hang in the rows.
+class Balkenseiten {
+  public:
+    Balkenseiten(const Gerüst &gerüst, const Reihen::Folgen &zeilen)
+        : seiten_(zeilen.size(), std::vector<Seiten>(gerüst.Spalten.size())) {
+        for (std::size_t z = 0; z < zeilen.size(); z++) {
+            std::vector<std::size_t> platz(gerüst.Spalten.size(), 0);
+            for (std::size_t i = 0; i < zeilen[z].size(); i++) platz[Z(zeilen[z][i])] = i;
+            for (const Gehänge &g : gerüst.Gehängte) {
+                if (Z(gerüst.Balkenzeile[Z(g.Familie)]) != z || g.A == g.B) continue;
+                const bool gedreht = platz[Z(g.A)] > platz[Z(g.B)];
+                seiten_[z][Z(gedreht ? g.B : g.A)].Rechts = true;
+                seiten_[z][Z(gedreht ? g.A : g.B)].Links = true;
+            }
+        }
+    }
+    bool Links(int person, int zeile) const { return seiten_[Z(zeile)][Z(person)].Links; }
+    bool Rechts(int person, int zeile) const { return seiten_[Z(zeile)][Z(person)].Rechts; }
+
+  private:
+    struct Seiten {
+        bool Links = false, Rechts = false;
+    };
+    std::vector<std::vector<Seiten>> seiten_;
+};
 
 } // namespace
 
@@ -108,11 +136,10 @@ bool Orte::ReihenHalten(const Reihen::Folgen &zeilen, Differenzen &orte) const {
 
 /// What lines cost. `innen` gets the bounds by which lines that pass a row become upright.
 void Orte::Gewichten(const Reihen::Folgen &zeilen, Differenzen &orte, Paare &innen) const {
-    std::vector<int> familien(gerüst_.Spalten.size(), 0);
-    for (const Gehänge &g : gerüst_.Gehängte) {
-        familien[Z(g.A)]++;
-        familien[Z(g.B)]++;
-    }
+    const Balkenseiten berührt(gerüst_, zeilen);
+    const int ecke = Schritte(Eckenluft);
+    // Where all have a place, nobody loses it to this.
+    const std::int64_t verwechselt = gezeichnet_ ? Länge / 2 : Verwechselbar;
     const int höhe = Schritte(abstände_.Generationen - abstände_.Balken - abstände_.Symbol / 2);
     for (const Gehänge &g : gerüst_.Gehängte) {
         const int balken = gerüst_.Balkenzeile[Z(g.Familie)];
@@ -128,10 +155,10 @@ void Orte::Gewichten(const Reihen::Folgen &zeilen, Differenzen &orte, Paare &inn
             }
             orte.Kosten(Kostenart::Schräg, kind, l, 0, Länge, höhe);
             orte.Kosten(Kostenart::Schräg, r, kind, 0, Länge, höhe);
-            // Upright rather than nearly so; and beyond a partner of several its line would run into those of the
-            // other families.
-            orte.Kosten(Kostenart::Über, kind, l, 0, familien[Z(l)] > 1 ? Länge / 2 : Schiefe);
-            orte.Kosten(Kostenart::Über, r, kind, 0, familien[Z(r)] > 1 ? Länge / 2 : Schiefe);
+            orte.Kosten(Kostenart::Über, kind, l, 0, Schiefe); // upright rather than nearly so
+            orte.Kosten(Kostenart::Über, r, kind, 0, Schiefe);
+            if (berührt.Links(l, balken)) orte.Kosten(Kostenart::Über, kind, l, -ecke, verwechselt);
+            if (berührt.Rechts(r, balken)) orte.Kosten(Kostenart::Über, r, kind, -ecke, verwechselt);
             orte.Kosten(Kostenart::Quadrat, l, kind, 0, Mitte);
             orte.Kosten(Kostenart::Quadrat, kind, r, 0, Mitte);
         }

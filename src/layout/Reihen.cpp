@@ -76,6 +76,12 @@ int Reihen::Linienkosten(const Ding &f, int kindF, const Ding &g, int kindG) con
     return aufrechtF && aufrechtG ? gewichte_.Verschränkt : gewichte_.Kreuzung;
 }
 
+/// How many times dearer child lines cross where two bars touch at a partner of both couples: who stands on the other
+/// couple's side there is read as their child.
+int Reihen::Verwechselbar(const Ding &links, const Spanne &a, const Ding &rechts, const Spanne &b) const {
+    return a.R == b.L && links.A != links.B && rechts.A != rechts.B ? gewichte_.Verwechselt : 1;
+}
+
 /// One hangs within the other's span: either the outer bar lies higher, then it crosses the inner one's legs, and its
 /// children get round the inner ones or through their bar; or lower, then the inner one's children cross it.
 int Reihen::Ineinander(const Ding &außen, const Ding &innen) const {
@@ -94,9 +100,9 @@ int Reihen::Ineinander(const Ding &außen, const Ding &innen) const {
 int Reihen::Paarkosten(int i, int j, const Spanne &a, const Spanne &b) const {
     if (a.L > b.L || (a.L == b.L && (a.R > b.R || (a.R == b.R && i > j)))) return Paarkosten(j, i, b, a);
     if (a.L == b.R) return 0; // both hang on one point
-    if (a.R <= b.L) return Verdreht(i, j);
     const Ding &f = Das(i);
     const Ding &g = Das(j);
+    if (a.R <= b.L) return Verdreht(i, j) * Verwechselbar(f, a, g, b);
     const int kreuzung = gewichte_.Kreuzung;
     if (f.Was == Art::Zwillinge || g.Was == Art::Zwillinge) return 0;
     if (g.Was == Art::Linie) return kreuzung; // through the bar
@@ -196,7 +202,8 @@ std::int64_t Reihen::Vorlieben() const {
 std::int64_t Reihen::Wert(const Lagebefund &befund) const {
     return std::int64_t{befund.Kreuzungen} * gewichte_.Kreuzung + Getrenntkosten(befund.Getrennt) +
            Verkehrtkosten(befund.Verkehrt) + Vorlieben() + static_cast<std::int64_t>(befund.Länge * gewichte_.Weite) +
-           std::int64_t{befund.Durchquert} * gewichte_.Verschränkt;
+           std::int64_t{befund.Durchquert} * gewichte_.Verschränkt +
+           std::int64_t{befund.AnFremdem} * gewichte_.AnFremdem;
 }
 
 int Reihen::Dazwischen(int ding) const {
@@ -276,8 +283,9 @@ int Reihen::Nebeneinander(int zeile, int links, int rechts, bool &ineinander) co
             const Spanne a = SpanneVon(Das(i));
             const Spanne b = SpanneVon(Das(j));
             if (a.L == b.R && a.R == b.L) continue; // both hang on one point
-            if (a.R <= b.L) summe += Linienkosten(Das(i), links, Das(j), rechts);
-            else if (b.R <= a.L) summe -= Linienkosten(Das(i), links, Das(j), rechts);
+            const int kosten = Linienkosten(Das(i), links, Das(j), rechts);
+            if (a.R <= b.L) summe += kosten * Verwechselbar(Das(i), a, Das(j), b);
+            else if (b.R <= a.L) summe -= kosten * Verwechselbar(Das(j), b, Das(i), a);
             else ineinander = true;
         }
     return summe;

@@ -13,6 +13,8 @@ namespace kw {
 /// What counts how much while the order of the rows is sought.
 struct Gewichte {
     int Kreuzung = 60;
+    int Verwechselt = 2;       ///< how many times that of child lines where two bars touch at a common partner
+    int AnFremdem = 120;       ///< a child that is drawn as if it hung on another couple's bar
     int Getrennt = 200;        ///< a couple with strangers between them
     int NochEinGetrennt = 250; ///< each one more
     int Dazwischen = 30;       ///< and each of these
@@ -139,6 +141,7 @@ class Reihen {
     int Linienkosten(const Ding &f, int kindF, const Ding &g, int kindG) const;
     int Paarkosten(int i, int j) const { return Paarkosten(i, j, SpanneVon(Das(i)), SpanneVon(Das(j))); }
     int Paarkosten(int i, int j, const Spanne &a, const Spanne &b) const;
+    int Verwechselbar(const Ding &links, const Spanne &a, const Ding &rechts, const Spanne &b) const;
     int Ineinander(const Ding &außen, const Ding &innen) const;
     int Unten(int zeile, int links, int rechts) const;
     int Obenkosten(int zeile, int links, int rechts) const;

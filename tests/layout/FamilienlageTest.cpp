@@ -79,13 +79,16 @@ void Geordnet(const Familiengraph &g, const Familienlage &lage, const Abstände 
 TEST(Familienlage, NiemandStehtAufJemandemUndKeineLinieLäuftDurchFremde) {
     int paare = 0;
     int verkehrt = 0;
+    int anFremdem = 0;
+    int kinder = 0;
     for (int saat = 1; saat <= 100; saat++) {
         SCOPED_TRACE(saat);
         Familiengraph g = Probefamilie(saat).Bauen(12 + saat % 41, 3 + saat % 5, saat % 4);
         for (Familie &familie : g.Familien) {
-            const auto kinder = static_cast<int>(familie.Kinder.size());
-            paare += kinder * (kinder - 1) / 2;
-            if (kinder > 1 && saat % 3 == 0) familie.Zwillinge = {{familie.Kinder[0], familie.Kinder[1]}};
+            const auto anzahl = static_cast<int>(familie.Kinder.size());
+            kinder += anzahl;
+            paare += anzahl * (anzahl - 1) / 2;
+            if (anzahl > 1 && saat % 3 == 0) familie.Zwillinge = {{familie.Kinder[0], familie.Kinder[1]}};
         }
         const Familienlage lage = FamilieAnordnen(g);
         Geordnet(g, lage, {});
@@ -95,10 +98,12 @@ TEST(Familienlage, NiemandStehtAufJemandemUndKeineLinieLäuftDurchFremde) {
             EXPECT_EQ(lage.Befund.Ungleich, 0) << "nobody married within the family";
         }
         verkehrt += lage.Befund.Verkehrt;
+        anFremdem += lage.Befund.AnFremdem;
         const Familienlage nochmal = FamilieAnordnen(g);
         for (std::size_t i = 0; i < g.Personen.size(); i++) EXPECT_EQ(lage.Personen[i].X, nochmal.Personen[i].X);
     }
     EXPECT_LE(verkehrt * 100, paare * 5) << "siblings in the wrong order, of " << paare;
+    EXPECT_LE(anFremdem * 100, kinder) << "children on another couple's bar, of " << kinder;
 }
 
 TEST(Familienlage, HältNamenAuseinanderUndDasRasterEin) {
