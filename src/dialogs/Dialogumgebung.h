@@ -32,8 +32,9 @@ class Dialogdienste {
     virtual bool StammbaumSpeichern(const std::string &inhalt) = 0;
     /// Asks for a file and exports page or project without names. False when nothing was written, which was told.
     virtual bool OhneNamenExportieren(Lebenszeit zeit) = 0;
-    /// Makes that page, of the file `stammbaum`, a new project, which isn't saved yet, behind the question about unsaved
-    /// changes; one step back leads to an empty page. False, and nothing changed, when the question is cancelled.
+    /// Makes that page, of the file `stammbaum`, a new project, which isn't saved yet, behind the question about
+    /// unsaved changes; one step back leads to an empty page. False, and nothing changed, when the question is
+    /// cancelled.
     virtual bool NeuesProjekt(const Dokument &seite, const std::string &stammbaum) = 0;
     /// Writes a text of lines to a file that the user names, `titel` if he says nothing else; prints it. Failures are
     /// told.

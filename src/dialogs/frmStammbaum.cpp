@@ -279,8 +279,7 @@ void frmStammbaum::MöglichesZeigen() {
 /// Whether one way out is another one over again, or that with fewer persons and no larger symbols.
 bool frmStammbaum::IstKeinAnderer(const Seitenwunsch &weg, const Seitenwunsch &anderer) const {
     if (weg.Wahl == anderer.Wahl) return true;
-    return !Angekreuzt("chkKleiner") && weg.Blatt.Kleiner == anderer.Blatt.Kleiner &&
-           weg.Wahl.IstTeilVon(anderer.Wahl);
+    return !Angekreuzt("chkKleiner") && weg.Blatt.Kleiner == anderer.Blatt.Kleiner && weg.Wahl.IstTeilVon(anderer.Wahl);
 }
 
 /// Tries one that nobody has tried.

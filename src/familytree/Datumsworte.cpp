@@ -44,7 +44,8 @@ std::string Datumszeile(const Satz &satz, const Knoten &ereignis) {
     const auto *const datum = satz.Erstes(ereignis, "DATE");
     if (!datum) return {};
     const auto worte = Geglättet(satz.Text(*datum, "PHRASE"));
-    return Randlos(datum->Wert).empty() && !worte.empty() ? "(" + worte + ")" : Geglättet(EinfacheKlammeraffen(datum->Wert));
+    return Randlos(datum->Wert).empty() && !worte.empty() ? "(" + worte + ")"
+                                                          : Geglättet(EinfacheKlammeraffen(datum->Wert));
 }
 
 std::string Satzdatum(const Stammdatum &datum) {

@@ -15,8 +15,8 @@ struct Übernahmeregeln {
     bool GleichaltrigeSindZwillinge = false; ///< two children of a family with the same date of birth
     bool ZwillingeEineiig = false;           ///< twins of one sex of whom nothing else is said
     bool AdoptionVorGeburt = false;          ///< whose child a person is who was adopted
-    bool AlteSindVerstorben = false;         ///< who would be older than anybody gets, and of whose death nothing is said
-    int Jahr = 0;                            ///< of today, for these; 0: nobody is that old
+    bool AlteSindVerstorben = false; ///< who would be older than anybody gets, and of whose death nothing is said
+    int Jahr = 0;                    ///< of today, for these; 0: nobody is that old
 };
 
 } // namespace kw

@@ -14,8 +14,8 @@ namespace kw {
 namespace {
 
 constexpr Zweisprachig Zieltitel{"Bericht speichern unter", "Save Report As"};
-constexpr double Zeilenlänge = 59; ///< font sizes: 9 points of it stay on the narrowest sheet's 19 cm
-constexpr std::size_t Blattlänge = 56;   ///< lines
+constexpr double Zeilenlänge = 59;     ///< font sizes: 9 points of it stay on the narrowest sheet's 19 cm
+constexpr std::size_t Blattlänge = 56; ///< lines
 constexpr double Schriftgrad = 9;
 constexpr double Zeilenhöhe = 0.44; ///< cm
 constexpr double Rand = 1;

@@ -213,7 +213,8 @@ TEST(Uebergabe, BeschädigteSätzeWerdenSoWeitGelesenWieSieGehen) {
 TEST(Uebergabe, WannJemandGestorbenIstIstAlterOderDatum) {
     Dokument d;
     for (const std::string gestorben : {"$82", "$7.5", "$15.08.1999", "$1999", "$bald"})
-        d.cboPersonen.Anhängen("00" + std::to_string(d.cboPersonen.Anzahl() + 1) + "_1_5_9_1.2_0_" + gestorben + "_0_0_A___");
+        d.cboPersonen.Anhängen("00" + std::to_string(d.cboPersonen.Anzahl() + 1) + "_1_5_9_1.2_0_" + gestorben +
+                               "_0_0_A___");
     const auto ü = Geschrieben(d, {});
     const auto baum = StammbaumLesen(ü.Text);
     const std::pair<std::string_view, std::string_view> erwartet[] = {
