@@ -145,7 +145,7 @@ class frmMain : private Fensterdienste, private Dialogdienste {
     bool FassungÖffnen(const std::string &name) override;
     bool StammbaumSpeichern(const std::string &inhalt) override;
     bool OhneNamenExportieren(Lebenszeit zeit) override;
-    bool NeuesProjekt(const Dokument &seite, const std::string &stammbaum) override;
+    bool NeuesProjekt(const Dokument &seite, const std::string &quelle) override;
     void TextSpeichern(const std::string &titel, const std::string &text) override;
     void TextDrucken(const std::string &titel, const std::string &text) override;
     void AusschnittAusgeben(const Bildausschnitt &cm, bool inDatei) override;
