@@ -69,9 +69,9 @@ bool IstNetz(const fs::directory_entry &eintrag) {
     return eintrag.is_directory(fehler) && (eintrag.status(fehler).permissions() & Andere) == fs::perms::none;
 }
 
-/// What reaches into the program past its events: the next event takes it along.
+/// What reaches into the program past its events, and a zoom that draws what came so: the next event takes it along.
 bool IstEreignis(const std::string &zeile) {
-    constexpr std::string_view Keine[] = {"store", "pick", "disk", "profil", "#"};
+    constexpr std::string_view Keine[] = {"store", "pick", "wheel", "disk", "profil", "#"};
     return std::none_of(std::begin(Keine), std::end(Keine), [&](auto wort) { return zeile.starts_with(wort); });
 }
 
