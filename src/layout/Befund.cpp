@@ -85,13 +85,13 @@ int AnFremdemBalken(const Gerüst &gerüst, const std::vector<Strecke> &linien) 
 
 } // namespace
 
-Lagebefund Befinden(const Gerüst &gerüst, const Zeichnung &zeichnung, const Abstände &abstände) {
+Lagebefund Befinden(const Gerüst &gerüst, const Lageplan &plan, const Abstände &abstände) {
     const std::int64_t halb = Tausendstel(abstände.Symbol / 2);
-    const std::vector<Punkt> &personen = zeichnung.Personen;
+    const std::vector<Punkt> &personen = plan.Personen;
     std::vector<Strecke> linien;
     for (std::size_t f = 0; f < gerüst.Familien.size(); f++)
         if (gerüst.Balkenzeile[f] >= 0)
-            Linien(gerüst, personen, static_cast<int>(f), zeichnung.Balken[f], halb, linien);
+            Linien(gerüst, personen, static_cast<int>(f), plan.Balken[f], halb, linien);
     Lagebefund befund;
     Paare(gerüst, personen, befund);
     for (std::size_t j = 0; j < personen.size(); j++)

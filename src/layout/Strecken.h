@@ -29,7 +29,7 @@ bool Kreuzen(const Strecke &a, const Strecke &b);
 bool Durchquert(const Strecke &s, const Punkt &mitte, std::int64_t halb);
 
 /// Everybody's place and every bar's height, in thousandths.
-struct Zeichnung {
+struct Lageplan {
     std::vector<Punkt> Personen;
     std::vector<std::int64_t> Balken;
 };
@@ -48,7 +48,7 @@ struct Kreuzungszahl {
 Kreuzungszahl KreuzungenZählen(std::vector<Strecke> &linien);
 
 /// How good a drawing is, counted on its lines.
-Lagebefund Befinden(const Gerüst &gerüst, const Zeichnung &zeichnung, const Abstände &abstände);
+Lagebefund Befinden(const Gerüst &gerüst, const Lageplan &plan, const Abstände &abstände);
 
 constexpr std::int64_t Tausendstel(double cm) { return static_cast<std::int64_t>(cm * 1000 + (cm < 0 ? -0.5 : 0.5)); }
 

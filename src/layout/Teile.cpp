@@ -101,7 +101,7 @@ std::int64_t Nebeneinander::Abstand(double links) const {
     return (weite + schritt - 1) / schritt * schritt;
 }
 
-Punkt Nebeneinander::Platz(const Teil &teil, const Zeichnung &zeichnung) {
+Punkt Nebeneinander::Platz(const Teil &teil, const Lageplan &plan) {
     double links = 0;
     double rechts = 0;
     std::int64_t breite = 0;
@@ -109,7 +109,7 @@ Punkt Nebeneinander::Platz(const Teil &teil, const Zeichnung &zeichnung) {
         const Familienperson &person = teil.Graph.Personen[i];
         links = std::max(links, person.BreiteLinks);
         rechts = std::max(rechts, person.BreiteRechts);
-        breite = std::max(breite, zeichnung.Personen[i].X);
+        breite = std::max(breite, plan.Personen[i].X);
         vergeben_[Z(teil.Personen[i])] = 1;
     }
     const bool behält = HabenPlatz(teil.Graph);

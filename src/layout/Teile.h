@@ -27,7 +27,7 @@ class Nebeneinander {
   public:
     Nebeneinander(const Familiengraph &graph, const Abstände &abstände, const std::vector<Teil> &teile);
     /// Where the part's 0, 0 comes to stand: behind the others, or, where all of it have a place, where they have it.
-    Punkt Platz(const Teil &teil, const Zeichnung &zeichnung);
+    Punkt Platz(const Teil &teil, const Lageplan &plan);
     void EinzelneSetzen(std::vector<Punkt> &personen);
 
   private:
