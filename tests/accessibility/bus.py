@@ -49,9 +49,10 @@ def key(*keys, pause=0.15):
         time.sleep(pause)
 
 
-def key_often(k, times):
-    """As fast as a held key: nothing that a pause would end ends between them."""
-    subprocess.run(["xdotool", "key", "--delay", "40"] + [k] * times, check=True)
+def key_often(held, k, times):
+    """As fast as a held key: nothing that a pause would end ends between them. With a reader on the bus the toolkit
+    delivers keys late, and takes the release of one Alt for that of the next: it is pressed once, as hands do."""
+    subprocess.run(["xdotool", "keydown", held, "key", "--delay", "40"] + [k] * times + ["keyup", held], check=True)
 
 
 class Ears:
@@ -70,12 +71,21 @@ class Ears:
         except GLib.Error:  # whoever told it is gone
             self.heard.append((event.type, None, event.detail1, None))
 
-    def drain(self, seconds=0.4):
+    def drain(self, seconds=0.4, rest=0.2):
+        """What is heard for so long, and on until the program rests: on a busy machine it may be far behind."""
+        self.listen(max(seconds - rest, 0))
+        end = time.time() + 10
+        spent = None
+        while spent != (spent := Program.running.seconds()) and time.time() < end:
+            self.listen(rest)
+        heard, self.heard = self.heard, []
+        return heard
+
+    @staticmethod
+    def listen(seconds):
         loop = GLib.MainLoop()
         GLib.timeout_add(int(seconds * 1000), loop.quit)
         loop.run()
-        heard, self.heard = self.heard, []
-        return heard
 
     def after(self, *keys, seconds=0.5):
         self.drain(0.1)
@@ -86,6 +96,8 @@ class Ears:
 class Program:
     """One run of the window, with settings of its own."""
 
+    running = None  # the last one
+
     def __init__(self, language, project, page=True):
         folder = os.path.join(os.environ["HOME"], "program")  # the settings stand beside the program
         os.makedirs(folder, exist_ok=True)
@@ -95,6 +107,7 @@ class Program:
         # What the last run left unsaved would be offered first.
         shutil.rmtree(os.path.join(os.environ["HOME"], ".local"), ignore_errors=True)
         self.process = subprocess.Popen([program, project])
+        Program.running = self
         self.root = within(20, self.find)
         if not self.root:
             sys.exit("the program isn't on the bus")
