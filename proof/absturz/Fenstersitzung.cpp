@@ -20,6 +20,7 @@
 #include <QTimer>
 
 #include <array>
+#include <iterator>
 #include <optional>
 #include <random>
 
@@ -53,6 +54,7 @@ class Fensternutzer {
 
   private:
     int Würfel(qsizetype seiten) { return static_cast<int>(zufall_() % static_cast<size_t>(seiten)); }
+    auto &Eines(auto &&viele) { return *std::next(viele.begin(), Würfel(static_cast<qsizetype>(viele.size()))); }
 
     void ImMenü(QWidget &menü) {
         for (int i = Würfel(8); i > 0; --i) QTest::keyClick(&menü, Qt::Key_Down);
@@ -60,7 +62,7 @@ class Fensternutzer {
     }
     void ImKasten(QMessageBox &kasten) {
         const auto knöpfe = kasten.buttons();
-        QAbstractButton *knopf = knöpfe[Würfel(knöpfe.size())];
+        QAbstractButton *knopf = Eines(knöpfe);
         if (kasten.standardButton(knopf) == QMessageBox::No) Festhalten("answer no");
         knopf->click();
     }
@@ -68,7 +70,7 @@ class Fensternutzer {
         constexpr std::array Namen{"eins.kwp", "zwei.kwp", "drei.kwp", "bild.bmp"};
         auto *zeile = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
         if (!zeile || Würfel(6) == 0) return dialog.reject();
-        zeile->setText(QStringLiteral("%1/%2").arg(QDir::currentPath(), QLatin1String(Namen[Würfel(Namen.size())])));
+        zeile->setText(QStringLiteral("%1/%2").arg(QDir::currentPath(), QLatin1String(Eines(Namen))));
         QTest::keyClick(zeile, Qt::Key_Return);
         if (QApplication::activeModalWidget() == &dialog) dialog.reject(); // a file that isn't there
     }
@@ -79,14 +81,14 @@ class Fensternutzer {
         QList<QAbstractButton *> knöpfe = form.findChildren<QAbstractButton *>();
         knöpfe.removeIf([](QAbstractButton *knopf) { return !knopf->isEnabled() || !knopf->isVisible(); });
         if (Würfel(4) == 0 || knöpfe.isEmpty()) QTest::keyClick(&form, Qt::Key_Escape);
-        else knöpfe[Würfel(knöpfe.size())]->click();
+        else Eines(knöpfe)->click();
     }
     QPoint Ort() { return {80 + Würfel(fläche_.width() - 120), 20 + Würfel(fläche_.height() - 60)}; }
     /// Mostly where something stands by now.
-    QPoint Wieder() { return Würfel(4) ? orte_[Würfel(orte_.size())] : Ort(); }
+    QPoint Wieder() { return Würfel(4) ? Eines(orte_) : Ort(); }
 
     void AufDerSeite() {
-        if (Würfel(3) == 0) orte_[Würfel(orte_.size())] = Ort();
+        if (Würfel(3) == 0) Eines(orte_) = Ort();
         switch (Würfel(8)) {
         case 0:
         case 1: Werkzeug(); [[fallthrough]];
@@ -113,7 +115,7 @@ class Fensternutzer {
     void Taste() {
         constexpr std::array Tasten{Qt::Key_S, Qt::Key_S, Qt::Key_Z, Qt::Key_Y, Qt::Key_C, Qt::Key_V, Qt::Key_X};
         if (Würfel(4) == 0) QTest::keyClick(&fläche_, Qt::Key_Delete);
-        else QTest::keyClick(&fläche_, Tasten[Würfel(Tasten.size())], Qt::ControlModifier);
+        else QTest::keyClick(&fläche_, Eines(Tasten), Qt::ControlModifier);
     }
     /// Anything but what starts other programs, or prints.
     void Menübefehl() {
@@ -123,7 +125,7 @@ class Fensternutzer {
             return b->menu() || !b->isEnabled() || text.contains(QLatin1String("Help")) ||
                    text.contains(QLatin1String("Update")) || text.contains(QLatin1String("Print"));
         });
-        if (!befehle.isEmpty()) befehle[Würfel(befehle.size())]->trigger();
+        if (!befehle.isEmpty()) Eines(befehle)->trigger();
     }
 
     int schritte_; ///< still to do

@@ -90,8 +90,7 @@ Lagebefund Befinden(const Gerüst &gerüst, const Lageplan &plan, const Abständ
     const std::vector<Punkt> &personen = plan.Personen;
     std::vector<Strecke> linien;
     for (std::size_t f = 0; f < gerüst.Familien.size(); f++)
-        if (gerüst.Balkenzeile[f] >= 0)
-            Linien(gerüst, personen, static_cast<int>(f), plan.Balken[f], halb, linien);
+        if (gerüst.Balkenzeile[f] >= 0) Linien(gerüst, personen, static_cast<int>(f), plan.Balken[f], halb, linien);
     Lagebefund befund;
     Paare(gerüst, personen, befund);
     for (std::size_t j = 0; j < personen.size(); j++)

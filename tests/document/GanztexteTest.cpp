@@ -189,7 +189,7 @@ TEST(Ganztexte, JedesDokumentKommtWieder) {
         for (auto i = wahl(4); i > 0; --i) t += stücke[wahl(stücke.size())];
         return t;
     };
-    for (int lauf = 0; lauf < 300; ++lauf) {
+    for (int lauf = 0; lauf < 300; lauf += KW_STICHPROBE) {
         Dokument d;
         const bool viele = lauf % 50 == 0;
         for (size_t i = wahl(viele ? 1200 : 8); i > 0; --i) d.cboPfeile.Anhängen("1_1_1_2_" + std::to_string(wahl(3)));
@@ -214,7 +214,7 @@ TEST(Ganztexte, EineVerdorbeneDateiLädtUndWasKamBleibt) {
     for (int i = 0; i < 1045; ++i) d.cboPfeile.Anhängen("1_1_1_2_" + std::to_string(i % 1043));
     const auto datei = Gespeichert(d);
     std::mt19937 zufall(7);
-    for (int lauf = 0; lauf < 400; ++lauf) {
+    for (int lauf = 0; lauf < 400; lauf += KW_STICHPROBE) {
         auto verdorben = datei;
         for (auto i = 1 + zufall() % 4; i > 0; --i) {
             const auto stelle = zufall() % verdorben.size();

@@ -66,7 +66,7 @@ TEST_F(Bedienung, PngUndSvgGleichenDenenDerBefehlszeile) {
     }
 }
 
-#ifndef __SANITIZE_ADDRESS__ // it would end the program itself
+#ifndef KW_SANITIZER // it would end the program itself
 /// The page that is too large isn't drawn, and nothing is written; with the next one all is as before.
 TEST_F(Bedienung, OhneSpeicherGehtNurDasGroßeBildNicht) {
     const QTemporaryDir ordner;

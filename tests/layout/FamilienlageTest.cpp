@@ -81,7 +81,7 @@ TEST(Familienlage, NiemandStehtAufJemandemUndKeineLinieLäuftDurchFremde) {
     int verkehrt = 0;
     int anFremdem = 0;
     int kinder = 0;
-    for (int saat = 1; saat <= 100; saat++) {
+    for (int saat = 1; saat <= 100; saat += KW_STICHPROBE) {
         SCOPED_TRACE(saat);
         Familiengraph g = Probefamilie(saat).Bauen(12 + saat % 41, 3 + saat % 5, saat % 4);
         for (Familie &familie : g.Familien) {

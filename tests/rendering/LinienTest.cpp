@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <sstream>
 
 namespace kw {
@@ -133,7 +134,7 @@ TEST(Formen, HängenNurVonLängeUndRichtungAb) {
     for (const auto &[dx, dy, je] : Richtungen)
         for (int n = 1; n * je <= Längste; ++n) {
             const auto erste = Gezeichnet(bild, Längste, Längste, n * dx, n * dy);
-            EXPECT_EQ(erste[Zickzack].size(), 2U * (3 * n * je / 4)) << "a period each 0.4 cm";
+            EXPECT_EQ(std::ssize(erste[Zickzack]), 2 * (3 * n * je / 4)) << "a period each 0.4 cm";
             for (int ort = 0; ort < Orte; ++ort) {
                 const auto formen = Gezeichnet(bild, ort, Orte - ort, n * dx, n * dy);
                 for (size_t art = 0; art < Arten; ++art)
