@@ -60,7 +60,7 @@ void Datenimport::Startaufruf() {
     const std::string fall = Fallname(zeile);
     const std::string projekt = Projektordner() + "/" + AlsDateiname(fall) + ".kwp";
     if (DateiVorhanden(projekt)) {
-        if (projekt_.NachÄnderungenFragen()) projekt_.ImportModus = projekt_.Öffnen(projekt);
+        if (projekt_.NachÄnderungenFragen() && projekt_.Öffnen(projekt)) projekt_.ImportModus = true;
     } else if (IstSchalter(zeile.substr(0, Schalterlänge))) {
         // Another client's project isn't mixed with the case: a version from the safety net, saved or not.
         if (projekt_.Geändert || !projekt_.Projektdatei.empty()) projekt_.mnuNeu();

@@ -51,7 +51,7 @@ bool Projekt::Laden(Quelle quelle) {
     const Ladebefund befund = ProjektLesen(profil, neu);
     if (quelle.AusDemNetz) neu.OhneStandardsymbole = OhneStandardsymboleLesen(profil);
     if (!befund.IstProjekt) {
-        umfeld_.benutzer.Fragen(KeinProjektGefunden(quelle.Projektdatei, sprache));
+        umfeld_.benutzer.Fragen(KeinProjektGefunden(quelle.Projektdatei, quelle.AusDemNetz, sprache));
         return false;
     }
     RingUndAuswahlLeeren();
@@ -62,7 +62,7 @@ bool Projekt::Laden(Quelle quelle) {
     Anwenden(std::move(neu), befund.BisZumEnde);
     Loslassen();
     if (!befund.Unversehrt())
-        umfeld_.benutzer.Fragen(NurZumTeilGeladen(Projektdatei, Ladetext(befund, sprache), sprache));
+        umfeld_.benutzer.Fragen(NurZumTeilGeladen(Projektdatei, Ladetext(befund, sprache), quelle.AusDemNetz, sprache));
     return true;
 }
 
@@ -121,11 +121,11 @@ bool Projekt::ÖffnenMitFrage(const std::string &datei) {
 bool Projekt::FassungÖffnen(const Netzeintrag &fassung) {
     SpeichernAbgebrochen = false;
     if (!NachÄnderungenFragen() || !Laden({fassung.Kopf.Projektdatei, fassung.Inhalt, true})) return false;
+    if (!unganz_) inhalt_.netz.Ablösen(fassung.Kopf.Name); // of what is damaged the page isn't all
     herkunft_ = fassung.Kopf.Herkunft;
     unganz_ = unganz_ || fassung.Kopf.Unganz;
     ImportModus = fassung.Kopf.Import;
     Geändert = true;
-    inhalt_.netz.Ablösen(fassung.Kopf.Name);
     return true;
 }
 

@@ -19,15 +19,19 @@ constexpr Zweisprachig Verbleibtexte[] = {
      "Nothing is lost: your changes are still on the page. Should the program end, the next start offers them."},
     {"Ihre Änderungen stehen weiter auf der Seite, aber in keiner Datei.",
      "Your changes are still on the page, but in no file."}};
-constexpr Zweisprachig LadeText{"Die Datei konnte nicht geöffnet werden:\n%1\n\nGrund: %2.\n\nAn der Seite hat sich "
-                                "nichts geändert.",
-                                "The file could not be opened:\n%1\n\nReason: %2.\n\nThe page has not changed."};
+constexpr Zweisprachig LadeText{"%1 konnte nicht geöffnet werden:\n%2\n\nGrund: %3.\n\nAn der Seite hat sich nichts "
+                                "geändert.",
+                                "%1 could not be opened:\n%2\n\nReason: %3.\n\nThe page has not changed."};
+/// What is loaded: a file, or a version from the safety net.
+constexpr Zweisprachig Geladene[] = {{"Die Datei", "The file"}, {"Die gesicherte Fassung", "The kept version"}};
 constexpr Zweisprachig Fremd{"Sie enthält kein Kinwright-Projekt", "it does not hold a Kinwright project"};
-constexpr Zweisprachig TeilText{
-    "Die Datei ist beschädigt und konnte nur zum Teil gelesen werden:\n%1\n\n%2\n\n"
-    "Sie bleibt unverändert, bis Sie speichern. Dann wird sie, wie sie ist, unter \"Gesicherte Fassungen\" aufgehoben.",
-    "The file is damaged, and only a part of it could be read:\n%1\n\n%2\n\n"
-    "It stays as it is until you save. Then it is kept, as it is, among the \"Kept Versions\"."};
+constexpr Zweisprachig TeilText{"%1 ist beschädigt und konnte nur zum Teil gelesen werden:\n%2\n\n%3\n\n",
+                                "%1 is damaged, and only a part of it could be read:\n%2\n\n%3\n\n"};
+constexpr Zweisprachig Teilverbleib[] = {
+    {"Sie bleibt unverändert, bis Sie speichern. Dann wird sie, wie sie ist, unter \"Gesicherte Fassungen\" "
+     "aufgehoben.",
+     "It stays as it is until you save. Then it is kept, as it is, among the \"Kept Versions\"."},
+    {"Sie bleibt, wie sie ist, unter \"Gesicherte Fassungen\".", "It stays as it is among the \"Kept Versions\"."}};
 constexpr Zweisprachig FremdText{
     "Die Datei enthält inzwischen eine andere Fassung:\n%1\n\nMöchten Sie sie ersetzen?\n\n"
     "Ja: Ihr Genogramm ersetzt sie; die andere Fassung wird unter \"Gesicherte Fassungen\" aufgehoben.\n"
@@ -64,15 +68,18 @@ Nachfrage SpeichernGescheitert(const std::string &datei, const Dateibefund &befu
 }
 
 Nachfrage LadenGescheitert(const std::string &datei, const Dateibefund &befund, Sprache sprache) {
-    return Warnung(Eingesetzt(LadeText.In(sprache), datei, Grund(befund, sprache)));
+    return Warnung(
+        Eingesetzt(LadeText.In(sprache), std::string(Geladene[0].In(sprache)), datei, Grund(befund, sprache)));
 }
 
-Nachfrage KeinProjektGefunden(const std::string &datei, Sprache sprache) {
-    return Warnung(Eingesetzt(LadeText.In(sprache), datei, std::string(Fremd.In(sprache))));
+Nachfrage KeinProjektGefunden(const std::string &datei, bool fassung, Sprache sprache) {
+    const std::string was(Geladene[fassung].In(sprache));
+    return Warnung(Eingesetzt(LadeText.In(sprache), was, datei, std::string(Fremd.In(sprache))));
 }
 
-Nachfrage NurZumTeilGeladen(const std::string &datei, const std::string &schaden, Sprache sprache) {
-    return Warnung(Eingesetzt(TeilText.In(sprache), datei, schaden));
+Nachfrage NurZumTeilGeladen(const std::string &datei, const std::string &schaden, bool fassung, Sprache sprache) {
+    const std::string was(Geladene[fassung].In(sprache));
+    return Warnung(Eingesetzt(TeilText.In(sprache), was, datei, schaden).append(Teilverbleib[fassung].In(sprache)));
 }
 
 Nachfrage FremdeÄnderungsfrage(const std::string &datei, Sprache sprache) {

@@ -18,11 +18,11 @@ Nachfrage SpeichernGescheitert(const std::string &datei, const Dateibefund &befu
 /// The file couldn't be read, and nothing has changed.
 Nachfrage LadenGescheitert(const std::string &datei, const Dateibefund &befund, Sprache sprache);
 
-/// The same for a file that is none of ours.
-Nachfrage KeinProjektGefunden(const std::string &datei, Sprache sprache);
+/// The same for a file that is none of ours; `fassung`: a version of that file from the safety net.
+Nachfrage KeinProjektGefunden(const std::string &datei, bool fassung, Sprache sprache);
 
 /// `schaden`: the first place that couldn't be read, and how much came, in that language.
-Nachfrage NurZumTeilGeladen(const std::string &datei, const std::string &schaden, Sprache sprache);
+Nachfrage NurZumTeilGeladen(const std::string &datei, const std::string &schaden, bool fassung, Sprache sprache);
 
 /// Somebody else has written the file: Yes replaces that, No saves under another name.
 Nachfrage FremdeÄnderungsfrage(const std::string &datei, Sprache sprache);

@@ -17,6 +17,7 @@
 #include "rendering/Seite.h"
 #include "rendering/Zeichnung.h"
 
+#include <optional>
 #include <utility>
 
 namespace kw {
@@ -185,7 +186,9 @@ void frmMain::EinstellungenSichern() {
     einstellungsablage.Abschließen(einstellungen);
 }
 
+/// What the user has given up stays so: the clock is no sign that the session goes on, unless it brings something new.
 void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
+    const auto aufgegeben = aufgegeben_ ? std::optional(dokument) : std::nullopt;
     if (name == "tmrFassungen" && netz.HatUnbeantwortete()) FormÖffnen(Name::frmFassungen);
     if (name == "Timer2" && !Getrimmt(Kommandozeile).empty()) KommandozeileÖffnen();
     if (name == "Timer3" && !Getrimmt(lage.PersRecord).empty()) FormÖffnen(Name::frmSymbol);
@@ -196,6 +199,7 @@ void frmMain::ZeitgeberAbgelaufen(std::string_view name) {
     if (name == "tmrToolTipp") hinweis.Zeigen();
     if (name == "tmrLauf") TastenlaufBeenden();
     NachEreignis();
+    aufgegeben_ = aufgegeben && projekt.Geändert && aufgegeben->GleicherStand(dokument);
 }
 
 /// The command line's project. One that came from the safety net before it is asked about. A family tree opens a form,

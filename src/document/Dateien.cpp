@@ -23,6 +23,11 @@ Ursache UrsacheVon(int fehler, bool lesend) {
     case ENOENT: return lesend ? Ursache::FehltDatei : Ursache::OrdnerFehlt;
     case ENOTDIR: return Ursache::OrdnerFehlt;
     case EFBIG: return Ursache::ZuGroß;
+    case EISDIR:
+    case ELOOP:
+    case ENODEV:
+    case ENXIO:
+    case EOPNOTSUPP: return Ursache::KeineDatei;
     default: return Ursache::Sonstiges;
     }
 }
@@ -49,7 +54,9 @@ template <typename Ruf> Dateibefund Befund(bool lesend, Ruf ruf) {
 }
 
 void DirektSchreiben(const std::string &pfad, std::string_view inhalt) {
-    Deskriptor datei(Öffnen(pfad, O_WRONLY | O_NOCTTY));
+    // A pipe without a reader must not hang; one that has a reader takes its time.
+    Deskriptor datei(Öffnen(pfad, O_WRONLY | O_NOCTTY | O_NONBLOCK));
+    Geprüft([&] { return ::fcntl(datei.Nummer(), F_SETFL, 0); });
     AllesSchreiben(datei.Nummer(), inhalt);
     datei.Schließen();
 }

@@ -21,6 +21,7 @@ enum class Ursache {
     ZuGroß,           ///< for the disk, a limit of the user's, or this program
     NichtGesichert,   ///< what would have been lost couldn't be kept: the file wasn't touched
     Lesegeschützt,    ///< the user may not read it (reading)
+    KeineDatei,       ///< a folder, a device, a pipe, or links that lead nowhere
     Sonstiges,
 };
 

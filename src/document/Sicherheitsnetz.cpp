@@ -41,6 +41,13 @@ std::optional<Art> ArtVon(std::string_view name) {
     return {};
 }
 
+/// Whether it is a file's version that was replaced, for its time or, by the user's word, for good: what a program left
+/// of its document has no number behind the program's name.
+bool IstErsetzte(std::string_view name) {
+    const auto art = ArtVon(name);
+    return art == Art::Verdrängt || (art == Art::Behalten && name.substr(Kennungslänge).starts_with('-'));
+}
+
 std::int64_t Jetzt() {
     return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::system_clock::now().time_since_epoch())
         .count();
@@ -144,8 +151,12 @@ bool Sicherheitsnetz::Bereit() {
     return sperre_ >= 0;
 }
 
+/// Somebody may clear the folder away while the program lives.
+bool Sicherheitsnetz::Liegt() const { return DateiVorhanden(Ort(kennung_ + ".stand")); }
+
 Dateibefund Sicherheitsnetz::Festhalten(const Dokument &dokument, Netzkopf kopf) {
-    if (ordner_.empty() || (abgelöst_.empty() && stand_.GleicherStand(dokument))) return {};
+    const bool gleich = abgelöst_.empty() && stand_.GleicherStand(dokument) && (!hält_ || Liegt());
+    if (ordner_.empty() || gleich) return {};
     if (!Bereit()) return {"the safety net's folder can't be used", Ursache::Sonstiges};
     kopf.Zeit = Jetzt();
     kopf.Personen = dokument.cboPersonen.Anzahl();
@@ -163,7 +174,7 @@ Dateibefund Sicherheitsnetz::Festhalten(const Dokument &dokument, Netzkopf kopf)
 }
 
 void Sicherheitsnetz::VorgängerLöschen() {
-    if (ArtVon(abgelöst_) != Art::Verdrängt) Löschen(abgelöst_);
+    if (!IstErsetzte(abgelöst_)) Löschen(abgelöst_);
     abgelöst_.clear();
 }
 

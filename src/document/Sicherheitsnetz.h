@@ -28,12 +28,13 @@ class Sicherheitsnetz : public Versionswahrer {
     Sicherheitsnetz &operator=(const Sicherheitsnetz &) = delete;
 
     /// The document holds something that no file does. Written in the place of what was kept before, unless that is the
-    /// same; the disk has it a moment later. `kopf` tells of the project's file, the rest of it is filled in.
+    /// same and still there; the disk has it a moment later. `kopf` tells of the project's file, the rest of it is
+    /// filled in.
     Dateibefund Festhalten(const Dokument &dokument, Netzkopf kopf);
     /// The document is in its project file, or the user gave it up: what was kept of it goes.
     void Loslassen(const Dokument &dokument);
     /// Whether the document as it stands is in the net.
-    bool Hält(const Dokument &dokument) const { return hält_ && stand_.GleicherStand(dokument); }
+    bool Hält(const Dokument &dokument) const { return hält_ && stand_.GleicherStand(dokument) && Liegt(); }
     /// Whether it is as it was let go, so that its file has it.
     bool WieLosgelassen(const Dokument &dokument) const { return !hält_ && stand_.GleicherStand(dokument); }
 
@@ -54,7 +55,7 @@ class Sicherheitsnetz : public Versionswahrer {
     void VersuchBeginnen(const std::string &name) const;
     void VersuchEnden(const std::string &name) const;
     /// The document has been opened from that version, which goes as soon as `Festhalten` has written its successor.
-    /// One that was replaced stays for its time.
+    /// One that was replaced stays for its time, or for good when the user has said so.
     void Ablösen(const std::string &name) { abgelöst_ = name; }
 
     bool Beiseitelegen(const std::string &pfad, std::string_view inhalt) override;
@@ -63,6 +64,7 @@ class Sicherheitsnetz : public Versionswahrer {
 
   private:
     bool Bereit();
+    bool Liegt() const;
     void VorgängerLöschen();
     std::string Ort(const std::string &name) const { return ordner_ + "/" + name; }
     bool Lebt(const std::string &name) const;

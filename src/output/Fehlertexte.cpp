@@ -24,6 +24,8 @@ constexpr std::pair<Ursache, Zweisprachig> Gründe[] = {
     {Ursache::OrdnerFehlt, {"Den Ordner gibt es nicht", "the folder does not exist"}},
     {Ursache::ZuGroß, {"Sie ist größer, als es hier erlaubt ist", "it is larger than is allowed here"}},
     {Ursache::Lesegeschützt, {"Sie dürfen die Datei nicht lesen", "you may not read the file"}},
+    {Ursache::KeineDatei,
+     {"Unter diesem Namen steht keine gewöhnliche Datei", "what has that name is no ordinary file"}},
     {Ursache::NichtGesichert,
      {"Die bisherige Fassung ließ sich nicht sichern", "the version that was there could not be kept"}},
 };

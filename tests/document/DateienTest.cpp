@@ -346,8 +346,13 @@ TEST_F(GeschriebeneDateien, SagenWarumEsNichtGing) {
     Legen("alt", 0444);
     EXPECT_EQ(Schreiben("neu").Grund, Ursache::Schreibgeschützt);
     EXPECT_EQ(DateiSchreiben(Ort("datei/x"), "").Grund, Ursache::OrdnerFehlt);
-    EXPECT_EQ(DateiSchreiben(Ort(""), "").Grund, Ursache::Sonstiges);
+    EXPECT_EQ(DateiSchreiben(Ort(""), "").Grund, Ursache::KeineDatei);
     EXPECT_EQ(Schreiben("neu").Grund, Ursache::Schreibgeschützt);
+    ASSERT_EQ(::mkfifo(Ort("rohr").c_str(), 0600), 0);
+    EXPECT_EQ(DateiSchreiben(Ort("rohr"), "x").Grund, Ursache::KeineDatei) << "nobody reads it";
+    const int leser = ::open(Ort("rohr").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    EXPECT_EQ(DateiSchreiben(Ort("rohr"), "x").Grund, Ursache::Keine);
+    ::close(leser);
     fs::remove(Ort());
     EXPECT_EQ(Schreiben("neu").Grund, Ursache::Keine);
 }
