@@ -90,6 +90,13 @@ void SperreEntfernen(const std::string &pfad) {
     ::close(fd);
 }
 
+/// Where the folder can't be written any more the file stays, without what nobody is to be offered again.
+void Entfernen(const std::string &pfad) {
+    const bool bleibt = ::unlink(pfad.c_str()) != 0 && errno != ENOENT;
+    const int fd = bleibt ? ::open(pfad.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW) : -1;
+    if (fd >= 0) ::close(fd);
+}
+
 bool IstAbgelaufen(const Netzkopf &kopf) {
     constexpr std::int64_t Frist = std::chrono::nanoseconds(std::chrono::days(30)).count();
     return kopf.Was == Art::Verdrängt && kopf.Zeit > 0 && Jetzt() - kopf.Zeit > Frist;
@@ -151,8 +158,11 @@ bool Sicherheitsnetz::Bereit() {
     return sperre_ >= 0;
 }
 
-/// Somebody may clear the folder away while the program lives.
-bool Sicherheitsnetz::Liegt() const { return DateiVorhanden(Ort(kennung_ + ".stand")); }
+/// Somebody may clear the folder away while the program lives. Where that can't be told, what was written is there.
+bool Sicherheitsnetz::Liegt() const {
+    struct stat angaben {};
+    return ::stat(Ort(kennung_ + ".stand").c_str(), &angaben) == 0 || (errno != ENOENT && errno != ENOTDIR);
+}
 
 Dateibefund Sicherheitsnetz::Festhalten(const Dokument &dokument, Netzkopf kopf) {
     const bool gleich = abgelöst_.empty() && stand_.GleicherStand(dokument) && (!hält_ || Liegt());
@@ -182,7 +192,7 @@ void Sicherheitsnetz::Loslassen(const Dokument &dokument) {
     stand_ = dokument;
     hält_ = false;
     VorgängerLöschen();
-    if (sperre_ >= 0) ::unlink(Ort(kennung_ + ".stand").c_str());
+    if (sperre_ >= 0) Entfernen(Ort(kennung_ + ".stand"));
 }
 
 std::vector<std::string> Sicherheitsnetz::Namen() const {
@@ -250,7 +260,7 @@ void Sicherheitsnetz::Behalten(const std::string &name) const {
 
 void Sicherheitsnetz::Löschen(const std::string &name) const {
     if (!ArtVon(name)) return;
-    ::unlink(Ort(name).c_str());
+    Entfernen(Ort(name));
     VersuchEnden(name);
 }
 
