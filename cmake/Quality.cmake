@@ -9,7 +9,7 @@ endif()
 
 # Headers that most files of a target read, parsed once a target. No file may lean on them: clang-tidy goes without, so
 # that a missing include is found there. (GCC 12 takes more of the library's code for ours when it comes precompiled, and
-# warns of it at -O3, which gains nothing that can be measured over -O2.)
+# warns of it at -O3. Over -O2 that gains half a millisecond of loading 900 persons, and nothing of drawing them.)
 set(KW_STANDARD_HEADERS <algorithm> <array> <cmath> <functional> <map> <optional> <string> <string_view> <utility> <vector>)
 set(KW_QT_HEADERS <QApplication> <QKeyEvent> <QLabel> <QPainter> <QStyle> <QTimer> <QToolButton>)
 
