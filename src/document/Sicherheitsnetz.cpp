@@ -45,7 +45,8 @@ std::optional<Art> ArtVon(std::string_view name) {
 /// of its document has no number behind the program's name.
 bool IstErsetzte(std::string_view name) {
     const auto art = ArtVon(name);
-    return art == Art::Verdrängt || (art == Art::Behalten && name.substr(Kennungslänge).starts_with('-'));
+    const bool gezählt = name.size() > Kennungslänge && name[Kennungslänge] == '-';
+    return art == Art::Verdrängt || (art == Art::Behalten && gezählt);
 }
 
 std::int64_t Jetzt() {
